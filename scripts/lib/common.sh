@@ -1,0 +1,56 @@
+# Shared by scripts/run and scripts/test: install what is missing, then configure and build.
+# Sourced, not executed.
+
+MORVANE_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+MORVANE_BUILD="${MORVANE_BUILD:-$MORVANE_ROOT/build}"
+
+# Debian packages the build, the tests and the application need. One name per line so that a
+# later change shows up as one line in a diff.
+MORVANE_PACKAGES=(
+    build-essential
+    cmake
+    ninja-build
+    ccache
+    pkg-config
+    qt6-base-dev
+    qt6-tools-dev
+    qt6-l10n-tools
+    qt6-tools-dev-tools
+    qcoro-qt6-dev
+    qt6-translations-l10n
+)
+
+morvane_missing_packages() {
+    local pkg status
+    for pkg in "${MORVANE_PACKAGES[@]}"; do
+        status=$(dpkg-query -W -f='${db:Status-Status}' "$pkg" 2>/dev/null || true)
+        [ "$status" = "installed" ] || echo "$pkg"
+    done
+}
+
+morvane_install_packages() {
+    local missing
+    mapfile -t missing < <(morvane_missing_packages)
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    local sudo=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null 2>&1; then
+            echo "morvane: missing packages (${missing[*]}) and no sudo to install them as root" >&2
+            return 1
+        fi
+        sudo=(sudo)
+    fi
+    echo "morvane: installing ${missing[*]}"
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -q || return 1
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -q --no-install-recommends "${missing[@]}" || return 1
+}
+
+morvane_build() {
+    local type="${MORVANE_BUILD_TYPE:-RelWithDebInfo}"
+    if [ ! -f "$MORVANE_BUILD/build.ninja" ]; then
+        cmake -S "$MORVANE_ROOT" -B "$MORVANE_BUILD" -G Ninja -DCMAKE_BUILD_TYPE="$type" || return 1
+    fi
+    cmake --build "$MORVANE_BUILD" --parallel "$(nproc)" || return 1
+}

@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+  <context>
+    <name>Morvane</name>
+    <message id="cli.argument.command">
+      <source>The command to run; without one, the command list is shown.</source>
+      <translation>La commande à exécuter ; sans commande, la liste des commandes s’affiche.</translation>
+    </message>
+    <message id="cli.command.config">
+      <source>Show which backend Morvane uses and where each setting comes from</source>
+      <translation>Afficher le serveur utilisé par Morvane et l’origine de chaque réglage</translation>
+    </message>
+    <message id="cli.commands">
+      <source>Commands:</source>
+      <translation>Commandes :</translation>
+    </message>
+    <message id="cli.config.json">
+      <source>Print the setting as JSON.</source>
+      <translation>Afficher le réglage au format JSON.</translation>
+    </message>
+    <message id="cli.config.key">
+      <source>Anonymous key</source>
+      <translation>Clé anonyme</translation>
+    </message>
+    <message id="cli.config.keyMissing">
+      <source>not set</source>
+      <translation>non défini</translation>
+    </message>
+    <message id="cli.config.url">
+      <source>Backend address</source>
+      <translation>Adresse du serveur</translation>
+    </message>
+    <message id="cli.description">
+      <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
+      <translation>Morvane suit le temps de travail sur les projets et les tâches et le transforme en factures.</translation>
+    </message>
+    <message id="cli.err.unknownCommand">
+      <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
+      <translation>Commande inconnue : %1. Lancez morvane --help pour la liste des commandes.</translation>
+    </message>
+    <message id="cli.option.help">
+      <source>Show this help.</source>
+      <translation>Afficher cette aide.</translation>
+    </message>
+    <message id="cli.option.version">
+      <source>Show the version.</source>
+      <translation>Afficher la version.</translation>
+    </message>
+    <message id="config.source.environment">
+      <source>environment</source>
+      <translation>environnement</translation>
+    </message>
+    <message id="config.source.local">
+      <source>local backend</source>
+      <translation>serveur local</translation>
+    </message>
+    <message id="config.source.settings">
+      <source>application settings</source>
+      <translation>réglages de l’application</translation>
+    </message>
+    <message id="net.err.connection">
+      <source>Could not reach the server: %1</source>
+      <translation>Impossible de joindre le serveur : %1</translation>
+    </message>
+    <message id="net.err.offline">
+      <source>The Internet connection appears to be offline.</source>
+      <translation>La connexion Internet semble interrompue.</translation>
+    </message>
+    <message id="net.err.timeout">
+      <source>The request timed out.</source>
+      <translation>Le délai de la requête a expiré.</translation>
+    </message>
+    <message id="supabase.err.decoding">
+      <source>Decode: %1</source>
+      <translation>Décodage : %1</translation>
+    </message>
+    <message id="supabase.err.http">
+      <source>HTTP %1: %2</source>
+      <translation>HTTP %1 : %2</translation>
+    </message>
+    <message id="supabase.err.invalidURL">
+      <source>Invalid URL</source>
+      <translation>URL non valide</translation>
+    </message>
+    <message id="supabase.err.noAuth">
+      <source>Not signed in.</source>
+      <translation>Non connecté.</translation>
+    </message>
+  </context>
+</TS>

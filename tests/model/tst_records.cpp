@@ -1,0 +1,292 @@
+#include "model/client.h"
+#include "model/profile.h"
+#include "model/project.h"
+#include "model/taskitem.h"
+#include "model/team.h"
+#include "model/timeentry.h"
+#include "support/testdata.h"
+
+#include <QJsonArray>
+#include <QSet>
+#include <QTest>
+
+#include <functional>
+
+namespace {
+
+template<class T>
+QList<T> decodeRows(const QByteArray &json)
+{
+    return Wire::decodeJson<QList<T>>(json);
+}
+
+// Decodes the rows, encodes them back and decodes that again: the JSON must come back key for
+// key and the records must compare equal, with equal hashes.
+template<class T>
+void checkRoundTrip(const QByteArray &json)
+{
+    const QJsonValue original = Wire::parseJson(json);
+    const QList<T> rows = decodeRows<T>(json);
+    QCOMPARE(rows.size(), original.toArray().size());
+    const QJsonValue encoded = Wire::encode(rows);
+    QCOMPARE(encoded, original);
+    const auto again = Wire::decode<QList<T>>(encoded);
+    QCOMPARE(again.size(), rows.size());
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        QVERIFY(again[i] == rows[i]);
+        QCOMPARE(qHash(again[i], 0), qHash(rows[i], 0));
+    }
+}
+
+QString decodeFailure(const std::function<void()> &decode)
+{
+    try {
+        decode();
+    } catch (const DecodeError &error) {
+        return error.message();
+    }
+    return {};
+}
+
+} // namespace
+
+using namespace Qt::StringLiterals;
+
+class TestRecords : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void fixturesRoundTrip_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<std::function<void(const QByteArray &)>>("check");
+        QTest::newRow("profiles") << QStringLiteral("records/profiles.json")
+                                  << std::function<void(const QByteArray &)>(checkRoundTrip<Profile>);
+        QTest::newRow("projects with every billing model")
+            << QStringLiteral("records/projects.json") << std::function<void(const QByteArray &)>(checkRoundTrip<Project>);
+        QTest::newRow("tasks with side data") << QStringLiteral("records/tasks.json")
+                                              << std::function<void(const QByteArray &)>(checkRoundTrip<TaskItem>);
+        QTest::newRow("time entries") << QStringLiteral("records/time_entries.json")
+                                      << std::function<void(const QByteArray &)>(checkRoundTrip<TimeEntry>);
+        QTest::newRow("clients") << QStringLiteral("records/clients.json")
+                                 << std::function<void(const QByteArray &)>(checkRoundTrip<Client>);
+        QTest::newRow("teams") << QStringLiteral("records/teams.json") << std::function<void(const QByteArray &)>(checkRoundTrip<Team>);
+        QTest::newRow("team members") << QStringLiteral("records/team_members.json")
+                                      << std::function<void(const QByteArray &)>(checkRoundTrip<TeamMember>);
+    }
+
+    void fixturesRoundTrip()
+    {
+        QFETCH(QString, file);
+        QFETCH(std::function<void(const QByteArray &)>, check);
+        check(readTestData(file));
+    }
+
+    void fixtureValuesLandInTheRightFields()
+    {
+        const QList<TaskItem> tasks = decodeRows<TaskItem>(readTestData(u"records/tasks.json"_s));
+        const TaskItem &photo = tasks[0];
+        QCOMPARE(photo.status, TaskStatus::InProgress);
+        QCOMPARE(photo.priority, TaskPriority::High);
+        QCOMPARE(photo.timeSpentSeconds, Q_INT64_C(27450));
+        QCOMPARE(photo.startedAt, u"2025-03-01T09:30:00Z"_s);
+        QCOMPARE(photo.attachments->notes->at(1).authorEmail, std::nullopt);
+        QCOMPARE(photo.attachments->subtasks->at(0).done, true);
+        QCOMPARE(photo.attachments->assignees->at(0).email, u"joris@example.nl"_s);
+        QCOMPARE(photo.attachments->position, 2);
+        QCOMPARE(photo.billing->unitPrice, 75.0);
+        QCOMPARE(tasks[1].attachments->category, TaskCategory::InternalWork);
+        // Totals beyond 32 bits stay exact.
+        QCOMPARE(tasks[2].timeSpentSeconds, Q_INT64_C(9000000000));
+
+        const QList<Project> projects = decodeRows<Project>(readTestData(u"records/projects.json"_s));
+        QCOMPARE(projects[0].billing->discountIsPct, true);
+        QCOMPARE(projects[0].billing->travel->value(u"mode"_s).toString(), u"per_km"_s);
+        QCOMPARE(projects[1].teamId, u"7e7e7e7e-1111-4222-8333-444455556666"_s);
+        QCOMPARE(projects[2].billing->model, BillingModel::Daily);
+        QCOMPARE(projects[3].billing->model, BillingModel::PerUnit);
+        QCOMPARE(projects[3].billing->unitLabel, u"poster"_s);
+
+        const QList<Client> clients = decodeRows<Client>(readTestData(u"records/clients.json"_s));
+        QVERIFY(!clients[0].isArchived());
+        QVERIFY(clients[1].isArchived());
+        QCOMPARE(clients[0].lat, 52.0907374);
+    }
+
+    void nullsAndUnknownKeysAreDropped()
+    {
+        const QByteArray row = R"({"id":"p1","user_id":"u1","name":"Site","status":"active",
+            "description":null,"team_id":null,"billing":null,"fts":"'site':1","owner_name":"Anna"})";
+        const auto project = Wire::decodeJson<Project>(row);
+        QCOMPARE(project.description, std::nullopt);
+        QCOMPARE(project.billing, std::nullopt);
+        const QJsonObject encoded = Wire::encode(project).toObject();
+        QCOMPARE(encoded.keys(), (QStringList{u"id"_s, u"name"_s, u"status"_s, u"user_id"_s}));
+    }
+
+    void decodingFailures_data()
+    {
+        QTest::addColumn<std::function<void()>>("decode");
+        QTest::addColumn<QByteArray>("message");
+
+        auto task = [](const char *json) { return std::function<void()>([json] { Wire::decodeJson<TaskItem>(json); }); };
+        const char *base = R"("id":"t1","user_id":"u1","project_id":"p1","priority":"low","time_spent_seconds":0)";
+        auto taskWith = [&](const QByteArray &extra) {
+            const QByteArray json = "{" + QByteArray(base) + "," + extra + "}";
+            return std::function<void()>([json] { Wire::decodeJson<TaskItem>(json); });
+        };
+
+        QTest::newRow("missing required key")
+            << taskWith(R"("status":"not_started")") << QByteArray("TaskItem.title: required key is missing");
+        QTest::newRow("status outside its list")
+            << taskWith(R"("title":"x","status":"paused")")
+            << QByteArray("TaskItem.status: \"paused\" is not one of not_started, in_progress, completed");
+        QTest::newRow("required key holding null")
+            << taskWith(R"("title":null,"status":"completed")") << QByteArray("TaskItem.title: expected a string, found null");
+        QTest::newRow("number where text belongs")
+            << taskWith(R"("title":42,"status":"completed")") << QByteArray("TaskItem.title: expected a string, found a number");
+        QTest::newRow("fractional seconds")
+            << std::function<void()>([] {
+                   Wire::decodeJson<TimeEntry>(R"({"id":"e","user_id":"u","task_id":"t","project_id":"p",
+                       "started_at":"a","ended_at":"b","duration_seconds":12.5})");
+               })
+            << QByteArray("TimeEntry.duration_seconds: expected an integer, found 12.5");
+        QTest::newRow("seconds as text")
+            << std::function<void()>([] {
+                   Wire::decodeJson<TimeEntry>(R"({"id":"e","user_id":"u","task_id":"t","project_id":"p",
+                       "started_at":"a","ended_at":"b","duration_seconds":"60"})");
+               })
+            << QByteArray("TimeEntry.duration_seconds: expected an integer, found a string");
+        QTest::newRow("nested note without text")
+            << taskWith(R"("title":"x","status":"completed","attachments":{"_notes":[{"id":"n","created_at":"c"}]})")
+            << QByteArray("TaskItem.attachments._notes[0].text: required key is missing");
+        QTest::newRow("category outside its list")
+            << taskWith(R"("title":"x","status":"completed","attachments":{"_category":"personal"})")
+            << QByteArray("TaskItem.attachments._category: \"personal\" is not one of billable, internal, admin");
+        QTest::newRow("fractional position")
+            << taskWith(R"("title":"x","status":"completed","attachments":{"_position":2.5})")
+            << QByteArray("TaskItem.attachments._position: expected an integer, found 2.5");
+        QTest::newRow("billing model outside its list")
+            << std::function<void()>([] {
+                   Wire::decodeJson<Project>(
+                       R"({"id":"p","user_id":"u","name":"n","status":"active","billing":{"model":"monthly"}})");
+               })
+            << QByteArray("Project.billing.model: \"monthly\" is not one of hourly, fixed, per_unit, daily");
+        QTest::newRow("member role outside its list")
+            << std::function<void()>([] {
+                   Wire::decodeJson<TeamMember>(R"({"team_id":"t","user_id":"u","email":"e","role":"admin"})");
+               })
+            << QByteArray("TeamMember.role: \"admin\" is not one of owner, editor, viewer");
+        QTest::newRow("archived as text")
+            << std::function<void()>([] {
+                   Wire::decodeJson<Client>(R"({"id":"c","user_id":"u","name":"n","archived":"yes"})");
+               })
+            << QByteArray("Client.archived: expected a boolean, found a string");
+        QTest::newRow("row that is not an object") << task("[1,2]") << QByteArray("TaskItem: expected an object, found an array");
+        QTest::newRow("third row of a list is broken")
+            << std::function<void()>([] {
+                   Wire::decodeJson<QList<Team>>(
+                       R"([{"id":"a","owner_id":"o","name":"A"},{"id":"b","owner_id":"o","name":"B"},{"id":"c","owner_id":"o"}])");
+               })
+            << QByteArray("Team[2].name: required key is missing");
+        QTest::newRow("text that is not JSON") << task("{\"id\":") << QByteArray("invalid JSON at offset 6: unterminated object");
+    }
+
+    void decodingFailures()
+    {
+        QFETCH(std::function<void()>, decode);
+        QFETCH(QByteArray, message);
+        QCOMPARE(decodeFailure(decode).toUtf8(), message);
+    }
+
+    void attachmentForms_data()
+    {
+        QTest::addColumn<QByteArray>("column");
+        QTest::addColumn<TaskAttachments>("expected");
+
+        TaskAttachments positioned;
+        positioned.position = 3;
+        TaskAttachments categorised;
+        categorised.category = TaskCategory::Admin;
+        categorised.subtasks = QList<Subtask>{{u"s1"_s, u"Call"_s, false}};
+
+        QTest::newRow("older empty array") << QByteArray("[]") << TaskAttachments{};
+        QTest::newRow("older array of anything") << QByteArray(R"([1,"two",{"_position":9},null])") << TaskAttachments{};
+        QTest::newRow("empty object") << QByteArray("{}") << TaskAttachments{};
+        QTest::newRow("only a position") << QByteArray(R"({"_position":3})") << positioned;
+        QTest::newRow("nulls count as absent") << QByteArray(R"({"_position":3,"_notes":null})") << positioned;
+        QTest::newRow("category and checklist")
+            << QByteArray(R"({"_category":"admin","_subtasks":[{"id":"s1","title":"Call","done":false}]})")
+            << categorised;
+    }
+
+    void attachmentForms()
+    {
+        QFETCH(QByteArray, column);
+        QFETCH(TaskAttachments, expected);
+        const QByteArray row = R"({"id":"t","user_id":"u","project_id":"p","title":"x","status":"completed",
+            "priority":"low","time_spent_seconds":0,"attachments":)" + column + "}";
+        const auto task = Wire::decodeJson<TaskItem>(row);
+        QVERIFY(task.attachments.has_value());
+        QVERIFY(*task.attachments == expected);
+    }
+
+    void attachmentsAreWrittenAsAnObject()
+    {
+        TaskAttachments attachments;
+        attachments.position = 0;
+        attachments.notes = QList<TaskNote>{};
+        QCOMPARE(Wire::encode(attachments), QJsonValue(QJsonObject{{u"_position"_s, 0}, {u"_notes"_s, QJsonArray()}}));
+    }
+
+    void enumerationsKeepTheirOrder()
+    {
+        constexpr auto categories = Wire::allCases<TaskCategory>();
+        QCOMPARE(categories.size(), std::size_t(3));
+        QCOMPARE(Wire::enumName(categories[1]), u"internal"_s);
+        QCOMPARE(Wire::allCases<ProjectStatus>()[2], ProjectStatus::Completed);
+        QCOMPARE(Wire::enumName(BillingModel::PerUnit), u"per_unit"_s);
+    }
+
+    void memberIdentityIsTeamAndUser()
+    {
+        const QList<TeamMember> members = decodeRows<TeamMember>(readTestData(u"records/team_members.json"_s));
+        // Joris is a member of two teams: two identities.
+        QCOMPARE(members[1].userId, members[2].userId);
+        QVERIFY(members[1].id() != members[2].id());
+        QCOMPARE(members[1].id(), u"7e7e7e7e-1111-4222-8333-444455556666:9b0e7a51-1c2d-4f3e-8a9b-7c6d5e4f3a21"_s);
+        QVERIFY(members[3].isPending());
+        QVERIFY(!members[0].isPending());
+
+        QSet<TeamMember> set(members.cbegin(), members.cend());
+        set.insert(members[0]);
+        QCOMPARE(set.size(), members.size());
+    }
+
+    void equalityCoversEveryField()
+    {
+        const QList<TaskItem> tasks = decodeRows<TaskItem>(readTestData(u"records/tasks.json"_s));
+        TaskItem changed = tasks[0];
+        QVERIFY(changed == tasks[0]);
+        (*changed.attachments->subtasks)[1].done = true;
+        QVERIFY(!(changed == tasks[0]));
+        changed = tasks[0];
+        changed.billing->vatRate = 0.09;
+        QVERIFY(!(changed == tasks[0]));
+        QVERIFY(qHash(changed, 0) != qHash(tasks[0], 0));
+    }
+
+    void clientInsertLeavesBackendColumnsOut()
+    {
+        ClientInsert insert;
+        insert.userId = u"u1"_s;
+        insert.name = u"Gemeente Houten"_s;
+        insert.lat = 52.03;
+        const QJsonObject encoded = Wire::encode(insert).toObject();
+        QCOMPARE(encoded.keys(), (QStringList{u"lat"_s, u"name"_s, u"user_id"_s}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRecords)
+#include "tst_records.moc"
