@@ -45,8 +45,8 @@ private:
     {
         // Local and site reachability still reach a backend on the same network.
         m_state.store(reachability == QNetworkInformation::Reachability::Unknown        ? State::Unknown
-                          : reachability == QNetworkInformation::Reachability::Disconnected ? State::Offline
-                                                                                            : State::Online);
+                      : reachability == QNetworkInformation::Reachability::Disconnected ? State::Offline
+                                                                                        : State::Online);
     }
 
     std::atomic<State> m_state{State::Unknown};

@@ -23,7 +23,9 @@ public:
 class ManualConnectivity : public Connectivity
 {
 public:
-    explicit ManualConnectivity(State state = State::Online) : m_state(state) {}
+    explicit ManualConnectivity(State state = State::Online)
+        : m_state(state)
+    {}
 
     [[nodiscard]] State state() const override { return m_state.load(); }
     void setState(State state) { m_state.store(state); }

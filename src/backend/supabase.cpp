@@ -149,8 +149,7 @@ QCoro::Task<> waitForNetwork(const Connectivity *connectivity, Supabase::Channel
 
 Supabase::Supabase(QUrl baseUrl, QString anonKey, Options options)
     : m_d(std::make_shared<Private>(Private{std::move(baseUrl), anonKey.toUtf8(), std::move(options)}))
-{
-}
+{}
 
 Supabase Supabase::shared()
 {
@@ -313,8 +312,8 @@ QCoro::Task<QUrl> Supabase::signedURL(QString bucket, QString path, int expiresI
     }
     // Older storage services answer a full address, newer ones a path below "storage/v1".
     QUrl url = QUrl::fromEncoded(signedPath.startsWith(u"http") ? signedPath.toUtf8()
-                                                                : m_d->baseUrl.toEncoded(QUrl::StripTrailingSlash)
-                                                                      + "/storage/v1" + signedPath.toUtf8());
+                                                                : m_d->baseUrl.toEncoded(QUrl::StripTrailingSlash) +
+                                                                      "/storage/v1" + signedPath.toUtf8());
     if (!url.isValid()) {
         throw SupabaseError::invalidURL();
     }
@@ -371,9 +370,9 @@ QCoro::Task<SignUpOutcome> Supabase::signUp(QString email, QString password, QSt
         co_return signUpOutcome(co_await send(std::move(request), Channel::Interactive));
     } catch (const SupabaseError &error) {
         const QString text = error.body();
-        if (error.kind() == SupabaseError::Kind::HttpStatus
-            && (text.contains(u"already registered") || text.contains(u"already been registered")
-                || error.errorCode() == u"user_already_exists")) {
+        if (error.kind() == SupabaseError::Kind::HttpStatus &&
+            (text.contains(u"already registered") || text.contains(u"already been registered") ||
+             error.errorCode() == u"user_already_exists")) {
             co_return SignUpOutcome{SignUpOutcome::Kind::EmailExists, std::nullopt};
         }
         throw;

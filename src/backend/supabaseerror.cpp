@@ -7,8 +7,7 @@ SupabaseError::SupabaseError(Kind kind, int status, QString text)
     : m_kind(kind)
     , m_status(status)
     , m_text(std::move(text))
-{
-}
+{}
 
 SupabaseError SupabaseError::httpStatus(int status, QString body)
 {
@@ -74,8 +73,7 @@ TransportError::TransportError(Kind kind, QNetworkReply::NetworkError code, QStr
     : m_kind(kind)
     , m_code(code)
     , m_detail(std::move(detail))
-{
-}
+{}
 
 QString TransportError::message() const
 {

@@ -2,8 +2,7 @@
 
 DayKey::DayKey(QTimeZone zone)
     : m_zone(std::move(zone))
-{
-}
+{}
 
 QString DayKey::key(const QDateTime &instant) const
 {

@@ -38,7 +38,9 @@ constexpr std::array<DateForm, 6> forms{{
 class Cursor
 {
 public:
-    explicit Cursor(QStringView text) : m_text(text) {}
+    explicit Cursor(QStringView text)
+        : m_text(text)
+    {}
 
     bool digits(int count, int &value)
     {
@@ -132,9 +134,9 @@ std::optional<QDateTime> parseWith(QStringView text, const DateForm &form)
 {
     Cursor in(text);
     int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
-    const bool stamp = in.digits(4, year) && in.literal(u'-') && in.digits(2, month) && in.literal(u'-')
-        && in.digits(2, day) && in.literal(form.separator) && in.digits(2, hour) && in.literal(u':')
-        && in.digits(2, minute) && in.literal(u':') && in.digits(2, second);
+    const bool stamp = in.digits(4, year) && in.literal(u'-') && in.digits(2, month) && in.literal(u'-') &&
+                       in.digits(2, day) && in.literal(form.separator) && in.digits(2, hour) && in.literal(u':') &&
+                       in.digits(2, minute) && in.literal(u':') && in.digits(2, second);
     if (!stamp) {
         return std::nullopt;
     }

@@ -18,12 +18,24 @@ public:
 
     JSONValue() = default;
     JSONValue(std::nullptr_t) {}
-    JSONValue(bool value) : m_value(value) {}
-    JSONValue(double value) : m_value(value) {}
-    JSONValue(int value) : m_value(double(value)) {}
-    JSONValue(QString value) : m_value(std::move(value)) {}
-    JSONValue(Array value) : m_value(std::move(value)) {}
-    JSONValue(Object value) : m_value(std::move(value)) {}
+    JSONValue(bool value)
+        : m_value(value)
+    {}
+    JSONValue(double value)
+        : m_value(value)
+    {}
+    JSONValue(int value)
+        : m_value(double(value))
+    {}
+    JSONValue(QString value)
+        : m_value(std::move(value))
+    {}
+    JSONValue(Array value)
+        : m_value(std::move(value))
+    {}
+    JSONValue(Object value)
+        : m_value(std::move(value))
+    {}
     // A string literal would otherwise silently become a bool.
     JSONValue(const char *) = delete;
 

@@ -86,10 +86,8 @@ struct TaskAttachments
     {
         using Wire::field;
         return std::tuple{
-            field("_assignees", &TaskAttachments::assignees),
-            field("_notes", &TaskAttachments::notes),
-            field("_position", &TaskAttachments::position),
-            field("_subtasks", &TaskAttachments::subtasks),
+            field("_assignees", &TaskAttachments::assignees), field("_notes", &TaskAttachments::notes),
+            field("_position", &TaskAttachments::position),   field("_subtasks", &TaskAttachments::subtasks),
             field("_category", &TaskAttachments::category),
         };
     }

@@ -50,12 +50,9 @@ struct TeamMember
     {
         using Wire::field;
         return std::tuple{
-            field("team_id", &TeamMember::teamId),
-            field("user_id", &TeamMember::userId),
-            field("email", &TeamMember::email),
-            field("role", &TeamMember::role),
-            field("invited_at", &TeamMember::invitedAt),
-            field("accepted_at", &TeamMember::acceptedAt),
+            field("team_id", &TeamMember::teamId),       field("user_id", &TeamMember::userId),
+            field("email", &TeamMember::email),          field("role", &TeamMember::role),
+            field("invited_at", &TeamMember::invitedAt), field("accepted_at", &TeamMember::acceptedAt),
         };
     }
     friend bool operator==(const TeamMember &, const TeamMember &) = default;

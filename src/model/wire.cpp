@@ -4,8 +4,7 @@
 
 DecodeError::DecodeError(QString problem)
     : m_problem(std::move(problem))
-{
-}
+{}
 
 void DecodeError::enterField(std::string_view key)
 {
@@ -63,8 +62,8 @@ QString describeJsonType(const QJsonValue &value)
 
 void throwTypeMismatch(const char *expected, const QJsonValue &found)
 {
-    throw DecodeError(QStringLiteral("expected %1, found %2")
-                          .arg(QString::fromLatin1(expected), describeJsonType(found)));
+    throw DecodeError(
+        QStringLiteral("expected %1, found %2").arg(QString::fromLatin1(expected), describeJsonType(found)));
 }
 
 QString Coder<QString>::decode(const QJsonValue &json)
@@ -129,8 +128,7 @@ QJsonValue parseJson(const QByteArray &bytes)
     const QByteArray trimmed = bytes.trimmed();
     const bool container = trimmed.startsWith('{') || trimmed.startsWith('[');
     QJsonParseError error{};
-    const QJsonDocument document =
-        QJsonDocument::fromJson(container ? bytes : QByteArray('[' + trimmed + ']'), &error);
+    const QJsonDocument document = QJsonDocument::fromJson(container ? bytes : QByteArray('[' + trimmed + ']'), &error);
     if (error.error != QJsonParseError::NoError) {
         const int offset = container ? error.offset : qMax(0, error.offset - 1);
         throw DecodeError(QStringLiteral("invalid JSON at offset %1: %2").arg(offset).arg(error.errorString()));

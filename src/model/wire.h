@@ -64,6 +64,7 @@ constexpr Field<Record, T> field(std::string_view key, T Record::*member, FieldF
     return {key, member, flag};
 }
 
+// clang-format off
 template<class T>
 concept WireRecord = requires {
     { T::wireName } -> std::convertible_to<std::string_view>;
@@ -74,6 +75,7 @@ concept WireRecord = requires {
 // returns the JSON strings in declaration order.
 template<class E>
 concept WireEnum = std::is_enum_v<E> && requires(E e) { wireNames(e); };
+// clang-format on
 
 template<class T>
 struct IsOptional : std::false_type
@@ -380,8 +382,7 @@ public:
     template<class T>
     AnyEncodable(const T &value) // NOLINT(google-explicit-constructor): a body converts implicitly
         : m_json(Wire::encode(value))
-    {
-    }
+    {}
 
     [[nodiscard]] const QJsonValue &json() const { return m_json; }
     [[nodiscard]] QByteArray toJson() const;

@@ -73,8 +73,7 @@ private slots:
         const Run result = run({u"invoice-everything"_s});
         QCOMPARE(result.code, 2);
         QVERIFY(result.out.isEmpty());
-        QCOMPARE(result.err,
-                 u"Unknown command: invoice-everything. Run morvane --help for the list of commands.\n"_s);
+        QCOMPARE(result.err, u"Unknown command: invoice-everything. Run morvane --help for the list of commands.\n"_s);
     }
 
     void configShowsWhereTheBackendComesFrom()

@@ -38,11 +38,10 @@ private slots:
             << u"   "_s << u"https://env.example.org"_s << QString() << u"key-e"_s << false
             << u"https://env.example.org"_s << u"key-e"_s << environment << environment;
         QTest::newRow("local backend that has started")
-            << QString() << QString() << QString() << QString() << true
-            << u"http://127.0.0.1:55000"_s << u"local-anon-key"_s << local << local;
-        QTest::newRow("local backend not started yet")
-            << QString() << QString() << QString() << QString() << false
-            << u"http://127.0.0.1:54321"_s << QString() << local << local;
+            << QString() << QString() << QString() << QString() << true << u"http://127.0.0.1:55000"_s
+            << u"local-anon-key"_s << local << local;
+        QTest::newRow("local backend not started yet") << QString() << QString() << QString() << QString() << false
+                                                       << u"http://127.0.0.1:54321"_s << QString() << local << local;
         QTest::newRow("each setting on its own")
             << QString() << u"https://env.example.org"_s << u"key-s"_s << QString() << true
             << u"https://env.example.org"_s << u"key-s"_s << environment << settings;

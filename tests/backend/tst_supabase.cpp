@@ -10,10 +10,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTest>
 #include <QThread>
 #include <QTimeZone>
 #include <QTimer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -81,7 +81,8 @@ private slots:
         });
         const Supabase client(server.url(), anonKey);
         const QList<TaskItem> tasks = runBlocking(client.select<TaskItem>(
-            u"tasks"_s, token, {{u"select"_s, u"*"_s}, {u"project_id"_s, u"eq.1a2b"_s}, {u"order"_s, u"created_at.desc"_s}}));
+            u"tasks"_s, token,
+            {{u"select"_s, u"*"_s}, {u"project_id"_s, u"eq.1a2b"_s}, {u"order"_s, u"created_at.desc"_s}}));
         QCOMPARE(tasks.size(), 3);
         QCOMPARE(tasks[0].title, u"Product photo retouching"_s);
 
@@ -138,7 +139,8 @@ private slots:
                 return ScriptedHttpServer::json(200, "[]");
             }
             return ScriptedHttpServer::json(
-                201, R"([{"id":"p9","user_id":"u1","name":"New","status":"active","created_at":"2025-03-01T09:30:00Z"}])");
+                201,
+                R"([{"id":"p9","user_id":"u1","name":"New","status":"active","created_at":"2025-03-01T09:30:00Z"}])");
         });
         const Supabase client(server.url(), anonKey);
 
@@ -150,9 +152,9 @@ private slots:
         QCOMPARE(inserted.first().id, u"p9"_s);
 
         // A filter that matches nothing answers an empty list, not an error.
-        const QList<Project> updated = runBlocking(client.update<Project>(
-            u"projects"_s, token, {{u"id"_s, u"eq.p9"_s}, {u"user_id"_s, u"eq.someone-else"_s}},
-            QJsonObject{{u"name"_s, u"Renamed"_s}, {u"description"_s, QJsonValue::Null}}));
+        const QList<Project> updated = runBlocking(
+            client.update<Project>(u"projects"_s, token, {{u"id"_s, u"eq.p9"_s}, {u"user_id"_s, u"eq.someone-else"_s}},
+                                   QJsonObject{{u"name"_s, u"Renamed"_s}, {u"description"_s, QJsonValue::Null}}));
         QVERIFY(updated.isEmpty());
 
         QCOMPARE(server.requests().size(), 2);
@@ -162,8 +164,10 @@ private slots:
         QCOMPARE(post.header("Prefer"), "return=representation");
         QCOMPARE(post.headerNames().indexOf("prefer"), post.headerNames().indexOf("authorization") + 1);
         // Absent optionals stay out of the body.
-        QCOMPARE(bodyOf(post),
-                 (QJsonObject{{u"id"_s, QString()}, {u"user_id"_s, u"u1"_s}, {u"name"_s, u"New"_s}, {u"status"_s, u"active"_s}}));
+        QCOMPARE(
+            bodyOf(post),
+            (QJsonObject{
+                {u"id"_s, QString()}, {u"user_id"_s, u"u1"_s}, {u"name"_s, u"New"_s}, {u"status"_s, u"active"_s}}));
 
         const RecordedRequest &patch = server.requests()[1];
         QCOMPARE(patch.method, "PATCH");
@@ -174,7 +178,8 @@ private slots:
 
     void insertTakesSeveralRowsAtOnce()
     {
-        ScriptedHttpServer server([](const RecordedRequest &request) { return ScriptedHttpServer::json(201, request.body); });
+        ScriptedHttpServer server(
+            [](const RecordedRequest &request) { return ScriptedHttpServer::json(201, request.body); });
         const Supabase client(server.url(), anonKey);
         Team first{u"a"_s, u"o"_s, u"First"_s, std::nullopt};
         Team second{u"b"_s, u"o"_s, u"Second"_s, u"2025-01-01T00:00:00Z"_s};
@@ -237,14 +242,17 @@ private slots:
         const Supabase client(server.url(), anonKey);
         // The caller's own limit and offset give way to the pages.
         const QList<Team> teams = runBlocking(client.selectAll<Team>(
-            u"teams"_s, token, {{u"select"_s, u"*"_s}, {u"limit"_s, u"5"_s}, {u"order"_s, u"id"_s}, {u"offset"_s, u"7"_s}}));
+            u"teams"_s, token,
+            {{u"select"_s, u"*"_s}, {u"limit"_s, u"5"_s}, {u"order"_s, u"id"_s}, {u"offset"_s, u"7"_s}}));
         QCOMPARE(teams.size(), rows);
         for (int i = 0; i < rows; ++i) {
             QCOMPARE(teams[i].id, QString::number(i));
         }
         QCOMPARE(server.requests().size(), requests);
         for (int page = 0; page < requests; ++page) {
-            const QueryItems expected{{u"select"_s, u"*"_s}, {u"order"_s, u"id"_s}, {u"limit"_s, u"1000"_s},
+            const QueryItems expected{{u"select"_s, u"*"_s},
+                                      {u"order"_s, u"id"_s},
+                                      {u"limit"_s, u"1000"_s},
                                       {u"offset"_s, QString::number(page * 1000)}};
             QCOMPARE(server.requests()[page].queryItems(), expected);
         }
@@ -276,22 +284,25 @@ private slots:
         QTest::addColumn<QString>("message");
 
         const QByteArray expired = R"({"code":"PGRST303","details":null,"hint":null,"message":"JWT expired"})";
-        QTest::newRow("401 is handed back") << 401 << expired << SupabaseError::Kind::HttpStatus << 401
-                                            << QString::fromUtf8(expired) << u"PGRST303"_s
-                                            << u"HTTP 401: "_s + QString::fromUtf8(expired);
-        const QByteArray duplicate = R"({"code":"23505","details":"Key (entry_id)=(e1) already exists.","hint":null,"message":"duplicate key value"})";
-        QTest::newRow("unique violation") << 409 << duplicate << SupabaseError::Kind::HttpStatus << 409
-                                          << QString::fromUtf8(duplicate) << u"23505"_s
-                                          << u"HTTP 409: "_s + QString::fromUtf8(duplicate);
+        QTest::newRow("401 is handed back")
+            << 401 << expired << SupabaseError::Kind::HttpStatus << 401 << QString::fromUtf8(expired) << u"PGRST303"_s
+            << u"HTTP 401: "_s + QString::fromUtf8(expired);
+        const QByteArray duplicate =
+            R"({"code":"23505","details":"Key (entry_id)=(e1) already exists.","hint":null,"message":"duplicate key value"})";
+        QTest::newRow("unique violation")
+            << 409 << duplicate << SupabaseError::Kind::HttpStatus << 409 << QString::fromUtf8(duplicate) << u"23505"_s
+            << u"HTTP 409: "_s + QString::fromUtf8(duplicate);
         QTest::newRow("authentication error, older form")
             << 422 << QByteArray(R"({"code":422,"error_code":"weak_password","msg":"Password is too short"})")
             << SupabaseError::Kind::HttpStatus << 422
             << uR"({"code":422,"error_code":"weak_password","msg":"Password is too short"})"_s << u"weak_password"_s
             << uR"(HTTP 422: {"code":422,"error_code":"weak_password","msg":"Password is too short"})"_s;
-        QTest::newRow("body that is not UTF-8") << 502 << QByteArray("\xff\xfe\xfd bad gateway") << SupabaseError::Kind::HttpStatus
-                                                << 502 << QString() << QString() << u"HTTP 502: "_s;
-        QTest::newRow("HTML error page") << 503 << QByteArray("<html>down</html>") << SupabaseError::Kind::HttpStatus << 503
-                                         << u"<html>down</html>"_s << QString() << u"HTTP 503: <html>down</html>"_s;
+        QTest::newRow("body that is not UTF-8")
+            << 502 << QByteArray("\xff\xfe\xfd bad gateway") << SupabaseError::Kind::HttpStatus << 502 << QString()
+            << QString() << u"HTTP 502: "_s;
+        QTest::newRow("HTML error page") << 503 << QByteArray("<html>down</html>") << SupabaseError::Kind::HttpStatus
+                                         << 503 << u"<html>down</html>"_s << QString()
+                                         << u"HTTP 503: <html>down</html>"_s;
         QTest::newRow("row that does not decode")
             << 200 << QByteArray(R"([{"id":"a","owner_id":"o","name":"A"},{"id":"b","owner_id":"o"}])")
             << SupabaseError::Kind::Decoding << 0 << u"Team[1].name: required key is missing"_s << QString()
@@ -432,7 +443,8 @@ private slots:
 
     void authenticationCalls()
     {
-        const QByteArray tokens = R"({"access_token":"at","token_type":"bearer","expires_in":3600,"expires_at":1740000000,
+        const QByteArray tokens =
+            R"({"access_token":"at","token_type":"bearer","expires_in":3600,"expires_at":1740000000,
             "refresh_token":"rt","user":{"id":"u1","aud":"authenticated","email":"a@b.nl","user_metadata":{"display_name":"Anna"},"identities":[]}})";
         ScriptedHttpServer server([&](const RecordedRequest &request) {
             if (request.path() == "/auth/v1/token") {
@@ -468,7 +480,8 @@ private slots:
             {"/auth/v1/token?grant_type=refresh_token", {{u"refresh_token"_s, u"old-rt"_s}}},
             {"/auth/v1/token?grant_type=pkce", {{u"auth_code"_s, u"code-1"_s}, {u"code_verifier"_s, u"verifier-1"_s}}},
             {"/auth/v1/recover?redirect_to=morvane:%2F%2Fauth%2Freset-password", {{u"email"_s, u"a@b.nl"_s}}},
-            {"/auth/v1/resend?redirect_to=morvane:%2F%2Fauth%2Fconfirm", {{u"type"_s, u"signup"_s}, {u"email"_s, u"a@b.nl"_s}}},
+            {"/auth/v1/resend?redirect_to=morvane:%2F%2Fauth%2Fconfirm",
+             {{u"type"_s, u"signup"_s}, {u"email"_s, u"a@b.nl"_s}}},
             {"/auth/v1/logout?scope=local", {}},
         };
         for (qsizetype i = 0; i < expected.size(); ++i) {
@@ -492,10 +505,13 @@ private slots:
 
         QTest::newRow("auto-confirmed: a session")
             << 200
-            << QByteArray(R"({"access_token":"at","refresh_token":"rt","expires_in":3600,"user":{"id":"u1","identities":[{"id":"i"}]}})")
+            << QByteArray(
+                   R"({"access_token":"at","refresh_token":"rt","expires_in":3600,"user":{"id":"u1","identities":[{"id":"i"}]}})")
             << SignUpOutcome::Kind::Session;
         QTest::newRow("confirmation needed: the bare user")
-            << 200 << QByteArray(R"({"id":"u1","email":"a@b.nl","identities":[{"id":"i","provider":"email"}],"confirmation_sent_at":"2025-03-01T09:30:00Z"})")
+            << 200
+            << QByteArray(
+                   R"({"id":"u1","email":"a@b.nl","identities":[{"id":"i","provider":"email"}],"confirmation_sent_at":"2025-03-01T09:30:00Z"})")
             << SignUpOutcome::Kind::NeedsConfirmation;
         QTest::newRow("look-alike user without identities")
             << 200 << QByteArray(R"({"id":"u2","email":"a@b.nl","identities":[]})") << SignUpOutcome::Kind::EmailExists;
@@ -533,7 +549,8 @@ private slots:
     void signUpFailuresStillThrow()
     {
         ScriptedHttpServer server([](const RecordedRequest &) {
-            return ScriptedHttpServer::json(422, R"({"code":"weak_password","message":"Password should be at least 6 characters."})");
+            return ScriptedHttpServer::json(
+                422, R"({"code":"weak_password","message":"Password should be at least 6 characters."})");
         });
         const Supabase client(server.url(), anonKey);
         const std::optional<SupabaseError> error = supabaseErrorOf(client.signUp(u"a@b.nl"_s, u"123"_s, u"Anna"_s));
@@ -552,9 +569,11 @@ private slots:
         });
         const Supabase client(server.url(), anonKey);
 
-        const QUrl signedUrl = runBlocking(client.signedURL(u"invoice-templates"_s, u"u1/invoices/INV-7.pdf"_s, 600, token));
+        const QUrl signedUrl =
+            runBlocking(client.signedURL(u"invoice-templates"_s, u"u1/invoices/INV-7.pdf"_s, 600, token));
         QCOMPARE(signedUrl.toString(),
-                 server.url().toString() + u"/storage/v1/object/sign/invoice-templates/u1/invoices/INV-7.pdf?token=eyJ.abc.def"_s);
+                 server.url().toString() +
+                     u"/storage/v1/object/sign/invoice-templates/u1/invoices/INV-7.pdf?token=eyJ.abc.def"_s);
         const RecordedRequest &sign = server.requests()[0];
         QCOMPARE(sign.target, "/storage/v1/object/sign/invoice-templates/u1/invoices/INV-7.pdf");
         QCOMPARE(bodyOf(sign), (QJsonObject{{u"expiresIn"_s, 600}}));
@@ -575,7 +594,8 @@ private slots:
 
     void serverFunctions()
     {
-        ScriptedHttpServer server([](const RecordedRequest &) { return ScriptedHttpServer::json(200, R"({"deleted":true})"); });
+        ScriptedHttpServer server(
+            [](const RecordedRequest &) { return ScriptedHttpServer::json(200, R"({"deleted":true})"); });
         const Supabase client(server.url(), anonKey);
         const QJsonValue answer =
             runBlocking(client.invokeFunction(u"delete-account"_s, token, QJsonObject{{u"confirm"_s, u"DELETE"_s}}));
@@ -602,7 +622,8 @@ private slots:
         });
         const Supabase client(server.url(), anonKey);
         std::atomic<int> rows{-1};
-        QThread *worker = QThread::create([&] { rows = int(runBlocking(client.select<Team>(u"teams"_s, token)).size()); });
+        QThread *worker =
+            QThread::create([&] { rows = int(runBlocking(client.select<Team>(u"teams"_s, token)).size()); });
         worker->start();
         // The server answers from this thread's event loop while the worker waits in its own.
         QTRY_VERIFY_WITH_TIMEOUT(worker->isFinished(), 10000);
@@ -619,9 +640,8 @@ private slots:
         QTest::newRow("malformed dropped") << QStringList{u"a"_s, valid} << QStringList{valid};
         QTest::newRow("filter syntax cannot sneak in")
             << QStringList{valid + u",x)"_s, u"0,1"_s, valid.toUpper()} << QStringList{valid.toUpper()};
-        QTest::newRow("order kept")
-            << QStringList{u"ffffffff-ffff-4fff-8fff-ffffffffffff"_s, valid}
-            << QStringList{u"ffffffff-ffff-4fff-8fff-ffffffffffff"_s, valid};
+        QTest::newRow("order kept") << QStringList{u"ffffffff-ffff-4fff-8fff-ffffffffffff"_s, valid}
+                                    << QStringList{u"ffffffff-ffff-4fff-8fff-ffffffffffff"_s, valid};
     }
 
     void uuidList()

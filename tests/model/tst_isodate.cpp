@@ -102,9 +102,11 @@ private slots:
         QTest::addColumn<QString>("key");
         const QDateTime lateEvening = utc(2025, 3, 1, 23, 30, 0);
         QTest::newRow("UTC") << QByteArray("UTC") << lateEvening << u"2025-03-01"_s;
-        QTest::newRow("Amsterdam is already tomorrow") << QByteArray("Europe/Amsterdam") << lateEvening << u"2025-03-02"_s;
+        QTest::newRow("Amsterdam is already tomorrow")
+            << QByteArray("Europe/Amsterdam") << lateEvening << u"2025-03-02"_s;
         QTest::newRow("New York is still today") << QByteArray("America/New_York") << lateEvening << u"2025-03-01"_s;
-        QTest::newRow("Bangkok, new year") << QByteArray("Asia/Bangkok") << utc(2024, 12, 31, 17, 0, 0) << u"2025-01-01"_s;
+        QTest::newRow("Bangkok, new year")
+            << QByteArray("Asia/Bangkok") << utc(2024, 12, 31, 17, 0, 0) << u"2025-01-01"_s;
         QTest::newRow("Amsterdam, last second before midnight in summer time")
             << QByteArray("Europe/Amsterdam") << utc(2025, 7, 1, 21, 59, 59) << u"2025-07-01"_s;
     }

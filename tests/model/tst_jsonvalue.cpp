@@ -18,21 +18,21 @@ private slots:
         QTest::addColumn<JSONValue>("expected");
         QTest::addColumn<int>("kind");
 
-        QTest::newRow("true is a boolean, not 1") << QByteArray("true") << JSONValue(true) << int(JSONValue::Kind::Bool);
+        QTest::newRow("true is a boolean, not 1")
+            << QByteArray("true") << JSONValue(true) << int(JSONValue::Kind::Bool);
         QTest::newRow("integer becomes a double") << QByteArray("1") << JSONValue(1.0) << int(JSONValue::Kind::Number);
         QTest::newRow("fraction") << QByteArray("0.21") << JSONValue(0.21) << int(JSONValue::Kind::Number);
         QTest::newRow("digits in quotes stay text")
             << QByteArray("\"1\"") << JSONValue(u"1"_s) << int(JSONValue::Kind::String);
         QTest::newRow("null") << QByteArray("null") << JSONValue() << int(JSONValue::Kind::Null);
         QTest::newRow("array of mixed values")
-            << QByteArray(R"([1,"a",false,null])")
-            << JSONValue(JSONValue::Array{1.0, u"a"_s, false, nullptr}) << int(JSONValue::Kind::Array);
-        QTest::newRow("nested object")
-            << QByteArray(R"({"mode":"per_km","rate":0.23,"home":{"lat":52.1}})")
-            << JSONValue(JSONValue::Object{{u"mode"_s, u"per_km"_s},
-                                           {u"rate"_s, 0.23},
-                                           {u"home"_s, JSONValue::Object{{u"lat"_s, 52.1}}}})
-            << int(JSONValue::Kind::Object);
+            << QByteArray(R"([1,"a",false,null])") << JSONValue(JSONValue::Array{1.0, u"a"_s, false, nullptr})
+            << int(JSONValue::Kind::Array);
+        QTest::newRow("nested object") << QByteArray(R"({"mode":"per_km","rate":0.23,"home":{"lat":52.1}})")
+                                       << JSONValue(JSONValue::Object{{u"mode"_s, u"per_km"_s},
+                                                                      {u"rate"_s, 0.23},
+                                                                      {u"home"_s, JSONValue::Object{{u"lat"_s, 52.1}}}})
+                                       << int(JSONValue::Kind::Object);
     }
 
     void decodesInOrder()

@@ -64,14 +64,16 @@ private slots:
         QTest::newRow("profiles") << QStringLiteral("records/profiles.json")
                                   << std::function<void(const QByteArray &)>(checkRoundTrip<Profile>);
         QTest::newRow("projects with every billing model")
-            << QStringLiteral("records/projects.json") << std::function<void(const QByteArray &)>(checkRoundTrip<Project>);
+            << QStringLiteral("records/projects.json")
+            << std::function<void(const QByteArray &)>(checkRoundTrip<Project>);
         QTest::newRow("tasks with side data") << QStringLiteral("records/tasks.json")
                                               << std::function<void(const QByteArray &)>(checkRoundTrip<TaskItem>);
         QTest::newRow("time entries") << QStringLiteral("records/time_entries.json")
                                       << std::function<void(const QByteArray &)>(checkRoundTrip<TimeEntry>);
         QTest::newRow("clients") << QStringLiteral("records/clients.json")
                                  << std::function<void(const QByteArray &)>(checkRoundTrip<Client>);
-        QTest::newRow("teams") << QStringLiteral("records/teams.json") << std::function<void(const QByteArray &)>(checkRoundTrip<Team>);
+        QTest::newRow("teams") << QStringLiteral("records/teams.json")
+                               << std::function<void(const QByteArray &)>(checkRoundTrip<Team>);
         QTest::newRow("team members") << QStringLiteral("records/team_members.json")
                                       << std::function<void(const QByteArray &)>(checkRoundTrip<TeamMember>);
     }
@@ -130,7 +132,9 @@ private slots:
         QTest::addColumn<std::function<void()>>("decode");
         QTest::addColumn<QByteArray>("message");
 
-        auto task = [](const char *json) { return std::function<void()>([json] { Wire::decodeJson<TaskItem>(json); }); };
+        auto task = [](const char *json) {
+            return std::function<void()>([json] { Wire::decodeJson<TaskItem>(json); });
+        };
         const char *base = R"("id":"t1","user_id":"u1","project_id":"p1","priority":"low","time_spent_seconds":0)";
         auto taskWith = [&](const QByteArray &extra) {
             const QByteArray json = "{" + QByteArray(base) + "," + extra + "}";
@@ -142,22 +146,18 @@ private slots:
         QTest::newRow("status outside its list")
             << taskWith(R"("title":"x","status":"paused")")
             << QByteArray("TaskItem.status: \"paused\" is not one of not_started, in_progress, completed");
-        QTest::newRow("required key holding null")
-            << taskWith(R"("title":null,"status":"completed")") << QByteArray("TaskItem.title: expected a string, found null");
-        QTest::newRow("number where text belongs")
-            << taskWith(R"("title":42,"status":"completed")") << QByteArray("TaskItem.title: expected a string, found a number");
-        QTest::newRow("fractional seconds")
-            << std::function<void()>([] {
-                   Wire::decodeJson<TimeEntry>(R"({"id":"e","user_id":"u","task_id":"t","project_id":"p",
+        QTest::newRow("required key holding null") << taskWith(R"("title":null,"status":"completed")")
+                                                   << QByteArray("TaskItem.title: expected a string, found null");
+        QTest::newRow("number where text belongs") << taskWith(R"("title":42,"status":"completed")")
+                                                   << QByteArray("TaskItem.title: expected a string, found a number");
+        QTest::newRow("fractional seconds") << std::function<void()>([] {
+            Wire::decodeJson<TimeEntry>(R"({"id":"e","user_id":"u","task_id":"t","project_id":"p",
                        "started_at":"a","ended_at":"b","duration_seconds":12.5})");
-               })
-            << QByteArray("TimeEntry.duration_seconds: expected an integer, found 12.5");
-        QTest::newRow("seconds as text")
-            << std::function<void()>([] {
-                   Wire::decodeJson<TimeEntry>(R"({"id":"e","user_id":"u","task_id":"t","project_id":"p",
+        }) << QByteArray("TimeEntry.duration_seconds: expected an integer, found 12.5");
+        QTest::newRow("seconds as text") << std::function<void()>([] {
+            Wire::decodeJson<TimeEntry>(R"({"id":"e","user_id":"u","task_id":"t","project_id":"p",
                        "started_at":"a","ended_at":"b","duration_seconds":"60"})");
-               })
-            << QByteArray("TimeEntry.duration_seconds: expected an integer, found a string");
+        }) << QByteArray("TimeEntry.duration_seconds: expected an integer, found a string");
         QTest::newRow("nested note without text")
             << taskWith(R"("title":"x","status":"completed","attachments":{"_notes":[{"id":"n","created_at":"c"}]})")
             << QByteArray("TaskItem.attachments._notes[0].text: required key is missing");
@@ -167,30 +167,24 @@ private slots:
         QTest::newRow("fractional position")
             << taskWith(R"("title":"x","status":"completed","attachments":{"_position":2.5})")
             << QByteArray("TaskItem.attachments._position: expected an integer, found 2.5");
-        QTest::newRow("billing model outside its list")
-            << std::function<void()>([] {
-                   Wire::decodeJson<Project>(
-                       R"({"id":"p","user_id":"u","name":"n","status":"active","billing":{"model":"monthly"}})");
-               })
-            << QByteArray("Project.billing.model: \"monthly\" is not one of hourly, fixed, per_unit, daily");
-        QTest::newRow("member role outside its list")
-            << std::function<void()>([] {
-                   Wire::decodeJson<TeamMember>(R"({"team_id":"t","user_id":"u","email":"e","role":"admin"})");
-               })
-            << QByteArray("TeamMember.role: \"admin\" is not one of owner, editor, viewer");
-        QTest::newRow("archived as text")
-            << std::function<void()>([] {
-                   Wire::decodeJson<Client>(R"({"id":"c","user_id":"u","name":"n","archived":"yes"})");
-               })
-            << QByteArray("Client.archived: expected a boolean, found a string");
-        QTest::newRow("row that is not an object") << task("[1,2]") << QByteArray("TaskItem: expected an object, found an array");
-        QTest::newRow("third row of a list is broken")
-            << std::function<void()>([] {
-                   Wire::decodeJson<QList<Team>>(
-                       R"([{"id":"a","owner_id":"o","name":"A"},{"id":"b","owner_id":"o","name":"B"},{"id":"c","owner_id":"o"}])");
-               })
-            << QByteArray("Team[2].name: required key is missing");
-        QTest::newRow("text that is not JSON") << task("{\"id\":") << QByteArray("invalid JSON at offset 6: unterminated object");
+        QTest::newRow("billing model outside its list") << std::function<void()>([] {
+            Wire::decodeJson<Project>(
+                R"({"id":"p","user_id":"u","name":"n","status":"active","billing":{"model":"monthly"}})");
+        }) << QByteArray("Project.billing.model: \"monthly\" is not one of hourly, fixed, per_unit, daily");
+        QTest::newRow("member role outside its list") << std::function<void()>([] {
+            Wire::decodeJson<TeamMember>(R"({"team_id":"t","user_id":"u","email":"e","role":"admin"})");
+        }) << QByteArray("TeamMember.role: \"admin\" is not one of owner, editor, viewer");
+        QTest::newRow("archived as text") << std::function<void()>([] {
+            Wire::decodeJson<Client>(R"({"id":"c","user_id":"u","name":"n","archived":"yes"})");
+        }) << QByteArray("Client.archived: expected a boolean, found a string");
+        QTest::newRow("row that is not an object")
+            << task("[1,2]") << QByteArray("TaskItem: expected an object, found an array");
+        QTest::newRow("third row of a list is broken") << std::function<void()>([] {
+            Wire::decodeJson<QList<Team>>(
+                R"([{"id":"a","owner_id":"o","name":"A"},{"id":"b","owner_id":"o","name":"B"},{"id":"c","owner_id":"o"}])");
+        }) << QByteArray("Team[2].name: required key is missing");
+        QTest::newRow("text that is not JSON")
+            << task("{\"id\":") << QByteArray("invalid JSON at offset 6: unterminated object");
     }
 
     void decodingFailures()
@@ -212,7 +206,8 @@ private slots:
         categorised.subtasks = QList<Subtask>{{u"s1"_s, u"Call"_s, false}};
 
         QTest::newRow("older empty array") << QByteArray("[]") << TaskAttachments{};
-        QTest::newRow("older array of anything") << QByteArray(R"([1,"two",{"_position":9},null])") << TaskAttachments{};
+        QTest::newRow("older array of anything")
+            << QByteArray(R"([1,"two",{"_position":9},null])") << TaskAttachments{};
         QTest::newRow("empty object") << QByteArray("{}") << TaskAttachments{};
         QTest::newRow("only a position") << QByteArray(R"({"_position":3})") << positioned;
         QTest::newRow("nulls count as absent") << QByteArray(R"({"_position":3,"_notes":null})") << positioned;
@@ -226,7 +221,8 @@ private slots:
         QFETCH(QByteArray, column);
         QFETCH(TaskAttachments, expected);
         const QByteArray row = R"({"id":"t","user_id":"u","project_id":"p","title":"x","status":"completed",
-            "priority":"low","time_spent_seconds":0,"attachments":)" + column + "}";
+            "priority":"low","time_spent_seconds":0,"attachments":)" +
+                               column + "}";
         const auto task = Wire::decodeJson<TaskItem>(row);
         QVERIFY(task.attachments.has_value());
         QVERIFY(*task.attachments == expected);

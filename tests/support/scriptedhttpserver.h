@@ -15,7 +15,7 @@ class QTcpSocket;
 struct RecordedRequest
 {
     QByteArray method;
-    QByteArray target; // path and query, exactly as sent
+    QByteArray target;                                // path and query, exactly as sent
     QList<std::pair<QByteArray, QByteArray>> headers; // in the order sent
     QByteArray body;
 
