@@ -18,6 +18,11 @@ MORVANE_PACKAGES=(
     qt6-tools-dev-tools
     qcoro-qt6-dev
     qt6-translations-l10n
+    qt6-httpserver-dev
+    qt6-websockets-dev
+    libpq-dev
+    postgresql
+    postgresql-contrib
 )
 
 morvane_missing_packages() {

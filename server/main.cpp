@@ -1,0 +1,80 @@
+#include "serverapp.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QSocketNotifier>
+
+#include <csignal>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int signalPipe[2];
+
+void onSignal(int)
+{
+    const char byte = 1;
+    [[maybe_unused]] const auto written = ::write(signalPipe[1], &byte, 1);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(u"morvane-server"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"The Morvane backend: a PostgreSQL database behind the REST, authentication, "
+                                     u"storage and realtime interfaces the application speaks."_s);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption dataDir(u"data-dir"_s, u"Folder for the database, secrets and files."_s, u"dir"_s,
+                                     ServerApp::defaultDataDir());
+    const QCommandLineOption port(u"port"_s, u"Port to listen on (0 picks a free one)."_s, u"port"_s, u"54321"_s);
+    const QCommandLineOption listen(u"listen"_s, u"Address to listen on."_s, u"address"_s, u"127.0.0.1"_s);
+    const QCommandLineOption databaseUrl(
+        u"database-url"_s, u"Use this PostgreSQL database instead of a private one (libpq form)."_s, u"url"_s);
+    parser.addOptions({dataDir, port, listen, databaseUrl});
+    parser.process(app);
+
+    bool portOk = false;
+    const uint portNumber = parser.value(port).toUInt(&portOk);
+    if (!portOk || portNumber > 65535) {
+        std::fprintf(stderr, "morvane-server: --port needs a number from 0 to 65535\n");
+        return 2;
+    }
+
+    ServerApp server({parser.value(dataDir), quint16(portNumber), parser.value(listen), parser.value(databaseUrl)});
+
+    // Signals arrive on any thread; a pipe turns them into an event of the main loop, where the
+    // database can be stopped cleanly.
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) != 0) {
+        return 1;
+    }
+    QSocketNotifier notifier(signalPipe[0], QSocketNotifier::Read);
+    QObject::connect(&notifier, &QSocketNotifier::activated, &app, [&] {
+        char byte = 0;
+        [[maybe_unused]] const auto read = ::read(signalPipe[0], &byte, 1);
+        QCoreApplication::quit();
+    });
+    struct sigaction action
+    {};
+    action.sa_handler = onSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGHUP, &action, nullptr);
+
+    if (!server.start()) {
+        return 1;
+    }
+    const int code = QCoreApplication::exec();
+    server.stop();
+    return code;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class HttpServer;
+class PgCluster;
+class PgPool;
+
+// morvane-server: owns the data folder, the database (a private cluster or a given one), the
+// migrations and the HTTP services.
+class ServerApp : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Options
+    {
+        QString dataDir;
+        quint16 port = 54321;
+        QString listenAddress = QStringLiteral("127.0.0.1");
+        QString databaseUrl;
+    };
+
+    explicit ServerApp(Options options, QObject *parent = nullptr);
+    ~ServerApp() override;
+
+    // Brings everything up; on failure prints why and answers false.
+    bool start();
+    void stop();
+
+    static QString defaultDataDir();
+
+private:
+    QByteArray loadOrCreateSecret();
+    bool writeServerInfo(const QString &url, const QByteArray &anonKey);
+
+    Options m_options;
+    std::unique_ptr<class QLockFile> m_lock;
+    std::unique_ptr<PgCluster> m_cluster;
+    std::unique_ptr<PgPool> m_pool;
+    std::unique_ptr<HttpServer> m_http;
+};
