@@ -4,6 +4,7 @@
 #include "http/httpserver.h"
 #include "pg/migrator.h"
 #include "pg/pgcluster.h"
+#include "pg/pglistener.h"
 #include "pg/pgpool.h"
 #include "rest/catalog.h"
 #include "rest/restservice.h"
@@ -136,7 +137,21 @@ bool ServerApp::start()
 
     m_pool = std::make_unique<PgPool>(conninfo, 12);
     m_http = std::make_unique<HttpServer>(HttpServer::Limits{});
-    m_http->addService(std::make_shared<RestService>(*m_pool, secret, catalog));
+    auto rest = std::make_shared<RestService>(*m_pool, secret, catalog);
+    m_http->addService(rest);
+    // As PostgREST does: `NOTIFY pgrst, 'reload schema'` after a change of tables or functions.
+    m_schemaListener = std::make_unique<PgListener>(conninfo, "pgrst", [conninfo, rest](const QByteArray &payload) {
+        if (!payload.isEmpty() && payload != "reload schema") {
+            return;
+        }
+        try {
+            auto connection = PgConnection::open(conninfo);
+            rest->setCatalog(std::make_shared<const Catalog>(Catalog::load(*connection)));
+            say(u"schema reloaded"_s);
+        } catch (const PgException &error) {
+            say(u"schema reload failed: "_s + QString::fromUtf8(error.what()));
+        }
+    });
 
     const QHostAddress address(m_options.listenAddress);
     const quint16 port = m_http->listen(address, m_options.port);
@@ -164,6 +179,7 @@ bool ServerApp::start()
 
 void ServerApp::stop()
 {
+    m_schemaListener.reset();
     m_http.reset();
     m_pool.reset();
     if (m_cluster) {

@@ -7,6 +7,7 @@
 
 class HttpServer;
 class PgCluster;
+class PgListener;
 class PgPool;
 
 // morvane-server: owns the data folder, the database (a private cluster or a given one), the
@@ -42,4 +43,5 @@ private:
     std::unique_ptr<PgCluster> m_cluster;
     std::unique_ptr<PgPool> m_pool;
     std::unique_ptr<HttpServer> m_http;
+    std::unique_ptr<PgListener> m_schemaListener;
 };

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QByteArray>
+#include <QJsonDocument>
+#include <QList>
+#include <QProcess>
+#include <QString>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <memory>
+
+class PgConnection;
+
+// One answer, as the client saw it.
+struct HttpResult
+{
+    int status = 0;
+    QList<std::pair<QByteArray, QByteArray>> headers;
+    QByteArray body;
+
+    [[nodiscard]] QByteArray header(const QByteArray &name) const;
+    [[nodiscard]] QJsonDocument json() const { return QJsonDocument::fromJson(body); }
+    // The "code" of an error body.
+    [[nodiscard]] QString code() const;
+};
+
+// A real morvane-server on a throw-away PostgreSQL cluster, started for one test executable and
+// stopped with it. Users are made directly in the database; tokens are signed with the server's
+// own secret.
+class TestBackend
+{
+public:
+    TestBackend();
+    ~TestBackend();
+
+    [[nodiscard]] bool isReady() const { return m_url.isValid(); }
+    [[nodiscard]] QString startupLog() const { return m_log; }
+    [[nodiscard]] QUrl url() const { return m_url; }
+    [[nodiscard]] QByteArray anonKey() const { return m_anonKey; }
+    [[nodiscard]] QString dataDir() const { return m_dir.path() + QStringLiteral("/data"); }
+
+    // A user in auth.users (and so a profile); answers the id.
+    QString createUser(const QString &email, const QString &displayName = {});
+    QByteArray tokenFor(const QString &userId, const QString &role = QStringLiteral("authenticated"),
+                        qint64 validSeconds = 3600) const;
+    QByteArray serviceToken() const;
+
+    // The database as its owner, for setting up rows and checking what a request changed.
+    PgConnection &database();
+
+    // One HTTP request: `target` is the path with its query, already encoded.
+    HttpResult request(const QByteArray &method, const QByteArray &target, const QByteArray &token = {},
+                       const QByteArray &body = {}, const QList<std::pair<QByteArray, QByteArray>> &headers = {}) const;
+
+    static QString serverProgram();
+
+private:
+    QTemporaryDir m_dir;
+    QProcess m_process;
+    QUrl m_url;
+    QByteArray m_anonKey;
+    QByteArray m_secret;
+    QString m_log;
+    std::unique_ptr<PgConnection> m_database;
+};
+
+// Percent-encodes query values the way a client library does.
+QByteArray queryString(const QList<std::pair<QString, QString>> &items);
