@@ -50,8 +50,8 @@ QString TestBackend::serverProgram()
 TestBackend::TestBackend()
 {
     // The cluster runs as 'postgres' when the tests run as root; it must reach the folder.
-    QFile::setPermissions(m_dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup
-                                            | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+    QFile::setPermissions(m_dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                            QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
     m_process.setProcessChannelMode(QProcess::SeparateChannels);
     m_process.start(serverProgram(), {u"--data-dir"_s, dataDir(), u"--port"_s, u"0"_s});
     QByteArray out;
@@ -104,9 +104,10 @@ PgConnection &TestBackend::database()
 QString TestBackend::createUser(const QString &email, const QString &displayName)
 {
     const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    database().exec("INSERT INTO auth.users (id, aud, role, email, email_confirmed_at, raw_user_meta_data)"
-                    " VALUES ($1, 'authenticated', 'authenticated', $2, now(), jsonb_build_object('display_name', $3::text))",
-                    {id.toUtf8(), email.toUtf8(), displayName.toUtf8()});
+    database().exec(
+        "INSERT INTO auth.users (id, aud, role, email, email_confirmed_at, raw_user_meta_data)"
+        " VALUES ($1, 'authenticated', 'authenticated', $2, now(), jsonb_build_object('display_name', $3::text))",
+        {id.toUtf8(), email.toUtf8(), displayName.toUtf8()});
     return id;
 }
 

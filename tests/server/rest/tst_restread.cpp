@@ -48,19 +48,20 @@ private:
                 " ('00000000-0000-4000-8000-0000000000a2', $1, 'Beta', 'archived', NULL, NULL),"
                 " ('00000000-0000-4000-8000-0000000000a3', $1, 'Gamma', 'completed', 120, NULL)",
                 {a});
-        db.exec("INSERT INTO tasks (id, user_id, project_id, title, status, priority, time_spent_seconds, due_date)"
-                " VALUES"
-                " ('00000000-0000-4000-8000-0000000000b1', $1, '00000000-0000-4000-8000-0000000000a1', 'Photo retouch',"
-                "  'in_progress', 'high', 27450, '2025-03-14'),"
-                " ('00000000-0000-4000-8000-0000000000b2', $1, '00000000-0000-4000-8000-0000000000a1', 'Weekly sync',"
-                "  'not_started', 'low', 0, NULL),"
-                " ('00000000-0000-4000-8000-0000000000b3', $1, '00000000-0000-4000-8000-0000000000a1', 'Invoice, admin',"
-                "  'completed', 'medium', 9000, '2025-02-01'),"
-                " ('00000000-0000-4000-8000-0000000000b4', $1, '00000000-0000-4000-8000-0000000000a3', 'Logo (final)',"
-                "  'completed', 'high', 3600, NULL),"
-                " ('00000000-0000-4000-8000-0000000000b5', $1, '00000000-0000-4000-8000-0000000000a3', 'photo shoot',"
-                "  'not_started', 'medium', 100, '2025-04-01')",
-                {a});
+        db.exec(
+            "INSERT INTO tasks (id, user_id, project_id, title, status, priority, time_spent_seconds, due_date)"
+            " VALUES"
+            " ('00000000-0000-4000-8000-0000000000b1', $1, '00000000-0000-4000-8000-0000000000a1', 'Photo retouch',"
+            "  'in_progress', 'high', 27450, '2025-03-14'),"
+            " ('00000000-0000-4000-8000-0000000000b2', $1, '00000000-0000-4000-8000-0000000000a1', 'Weekly sync',"
+            "  'not_started', 'low', 0, NULL),"
+            " ('00000000-0000-4000-8000-0000000000b3', $1, '00000000-0000-4000-8000-0000000000a1', 'Invoice, admin',"
+            "  'completed', 'medium', 9000, '2025-02-01'),"
+            " ('00000000-0000-4000-8000-0000000000b4', $1, '00000000-0000-4000-8000-0000000000a3', 'Logo (final)',"
+            "  'completed', 'high', 3600, NULL),"
+            " ('00000000-0000-4000-8000-0000000000b5', $1, '00000000-0000-4000-8000-0000000000a3', 'photo shoot',"
+            "  'not_started', 'medium', 100, '2025-04-01')",
+            {a});
         db.exec("INSERT INTO time_entries (id, user_id, task_id, project_id, started_at, ended_at, duration_seconds)"
                 " VALUES"
                 " ('00000000-0000-4000-8000-0000000000c1', $1, '00000000-0000-4000-8000-0000000000b1',"
@@ -70,8 +71,9 @@ private:
                 " ('00000000-0000-4000-8000-0000000000c3', $1, '00000000-0000-4000-8000-0000000000b4',"
                 "  '00000000-0000-4000-8000-0000000000a3', '2025-03-02T10:00:00Z', '2025-03-02T11:00:00Z', 3600)",
                 {a});
-        db.exec("INSERT INTO clients (user_id, name, archived) VALUES ($1, 'Open client', false), ($1, 'Old client', true)",
-                {a});
+        db.exec(
+            "INSERT INTO clients (user_id, name, archived) VALUES ($1, 'Open client', false), ($1, 'Old client', true)",
+            {a});
         // Two keys between the same pair of tables, to prove that embedding asks which one.
         db.execScript("CREATE TABLE public.people (id int PRIMARY KEY, name text);"
                       "CREATE TABLE public.messages (id int PRIMARY KEY, body text,"
@@ -87,8 +89,8 @@ private slots:
     {
         QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
         seed();
-        QTRY_COMPARE_WITH_TIMEOUT(m_backend.request("GET", "/rest/v1/messages?select=id", m_backend.serviceToken()).status,
-                                  200, 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(
+            m_backend.request("GET", "/rest/v1/messages?select=id", m_backend.serviceToken()).status, 200, 10000);
     }
 
     void filters_data()
@@ -113,8 +115,8 @@ private slots:
                             << QStringList{u"Weekly sync"_s};
         QTest::newRow("like with star") << u"tasks"_s << tasks({{u"title"_s, u"like.*oto*"_s}}) << u"title"_s
                                         << QStringList{u"Photo retouch"_s, u"photo shoot"_s};
-        QTest::newRow("like is case-sensitive") << u"tasks"_s << tasks({{u"title"_s, u"like.Photo*"_s}}) << u"title"_s
-                                                << QStringList{u"Photo retouch"_s};
+        QTest::newRow("like is case-sensitive")
+            << u"tasks"_s << tasks({{u"title"_s, u"like.Photo*"_s}}) << u"title"_s << QStringList{u"Photo retouch"_s};
         QTest::newRow("ilike") << u"tasks"_s << tasks({{u"title"_s, u"ilike.PHOTO*"_s}}) << u"title"_s
                                << QStringList{u"Photo retouch"_s, u"photo shoot"_s};
         QTest::newRow("match") << u"tasks"_s << tasks({{u"title"_s, u"match.^[A-Z][a-z]+ [a-z]+$"_s}}) << u"title"_s
@@ -125,26 +127,29 @@ private slots:
         QTest::newRow("in with parentheses in a quoted value")
             << u"tasks"_s << tasks({{u"title"_s, u"in.(\"Logo (final)\")"_s}}) << u"title"_s
             << QStringList{u"Logo (final)"_s};
-        QTest::newRow("empty in matches nothing") << u"tasks"_s << tasks({{u"status"_s, u"in.()"_s}}) << u"title"_s
-                                                  << QStringList{};
+        QTest::newRow("empty in matches nothing")
+            << u"tasks"_s << tasks({{u"status"_s, u"in.()"_s}}) << u"title"_s << QStringList{};
         QTest::newRow("not.in") << u"tasks"_s << tasks({{u"status"_s, u"not.in.(completed,not_started)"_s}})
                                 << u"title"_s << QStringList{u"Photo retouch"_s};
         QTest::newRow("is.null") << u"tasks"_s << tasks({{u"due_date"_s, u"is.null"_s}}) << u"title"_s
                                  << QStringList{u"Logo (final)"_s, u"Weekly sync"_s};
         QTest::newRow("not.is.null") << u"tasks"_s << tasks({{u"due_date"_s, u"not.is.null"_s}}) << u"title"_s
                                      << QStringList{u"Invoice, admin"_s, u"Photo retouch"_s, u"photo shoot"_s};
-        QTest::newRow("is.true on a boolean") << u"clients"_s
-                                              << Items{{u"select"_s, u"name"_s}, {u"archived"_s, u"is.true"_s}}
-                                              << u"name"_s << QStringList{u"Old client"_s};
+        QTest::newRow("is.true on a boolean")
+            << u"clients"_s << Items{{u"select"_s, u"name"_s}, {u"archived"_s, u"is.true"_s}} << u"name"_s
+            << QStringList{u"Old client"_s};
         QTest::newRow("isdistinct keeps nulls")
-            << u"projects"_s << Items{{u"select"_s, u"name"_s}, {u"hourly_rate"_s, u"isdistinct.80"_s}, {u"order"_s, u"name"_s}}
+            << u"projects"_s
+            << Items{{u"select"_s, u"name"_s}, {u"hourly_rate"_s, u"isdistinct.80"_s}, {u"order"_s, u"name"_s}}
             << u"name"_s << QStringList{u"Beta"_s, u"Gamma"_s};
-        QTest::newRow("neq drops nulls")
-            << u"projects"_s << Items{{u"select"_s, u"name"_s}, {u"hourly_rate"_s, u"neq.80"_s}} << u"name"_s
-            << QStringList{u"Gamma"_s};
+        QTest::newRow("neq drops nulls") << u"projects"_s
+                                         << Items{{u"select"_s, u"name"_s}, {u"hourly_rate"_s, u"neq.80"_s}}
+                                         << u"name"_s << QStringList{u"Gamma"_s};
         QTest::newRow("time stamp with a plus offset")
             << u"time_entries"_s
-            << Items{{u"select"_s, u"id"_s}, {u"started_at"_s, u"gte.2025-03-01T10:00:00+01:00"_s}, {u"order"_s, u"id"_s}}
+            << Items{{u"select"_s, u"id"_s},
+                     {u"started_at"_s, u"gte.2025-03-01T10:00:00+01:00"_s},
+                     {u"order"_s, u"id"_s}}
             << u"id"_s
             << QStringList{u"00000000-0000-4000-8000-0000000000c2"_s, u"00000000-0000-4000-8000-0000000000c3"_s};
         QTest::newRow("uuid eq") << u"tasks"_s << tasks({{u"id"_s, u"eq.00000000-0000-4000-8000-0000000000b2"_s}})
@@ -170,7 +175,8 @@ private slots:
 
         QTest::newRow("or") << u"or"_s << u"(status.eq.completed,priority.eq.low)"_s
                             << QStringList{u"Invoice, admin"_s, u"Logo (final)"_s, u"Weekly sync"_s};
-        QTest::newRow("and") << u"and"_s << u"(status.eq.completed,priority.eq.high)"_s << QStringList{u"Logo (final)"_s};
+        QTest::newRow("and") << u"and"_s << u"(status.eq.completed,priority.eq.high)"_s
+                             << QStringList{u"Logo (final)"_s};
         QTest::newRow("not.or") << u"not.or"_s << u"(status.eq.completed,priority.eq.low)"_s
                                 << QStringList{u"Photo retouch"_s, u"photo shoot"_s};
         QTest::newRow("nested and inside or")
@@ -201,14 +207,15 @@ private slots:
 
     void embedsToOneAndToMany()
     {
-        HttpResult result = get(u"tasks"_s, {{u"select"_s, u"title,project:projects(name,status)"_s},
-                                             {u"title"_s, u"eq.Weekly sync"_s}});
+        HttpResult result = get(
+            u"tasks"_s, {{u"select"_s, u"title,project:projects(name,status)"_s}, {u"title"_s, u"eq.Weekly sync"_s}});
         QCOMPARE(result.status, 200);
         QCOMPARE(result.json().array().first().toObject().value(u"project"_s).toObject(),
                  (QJsonObject{{u"name"_s, u"Alpha"_s}, {u"status"_s, u"active"_s}}));
 
-        result = get(u"projects"_s, {{u"select"_s, u"name,tasks(title)"_s}, {u"order"_s, u"name"_s},
-                                     {u"tasks.order"_s, u"title.desc"_s}});
+        result =
+            get(u"projects"_s,
+                {{u"select"_s, u"name,tasks(title)"_s}, {u"order"_s, u"name"_s}, {u"tasks.order"_s, u"title.desc"_s}});
         QCOMPARE(result.status, 200);
         const QJsonArray projects = result.json().array();
         QCOMPARE(values(projects, u"name"_s), (QStringList{u"Alpha"_s, u"Beta"_s, u"Gamma"_s}));
@@ -220,8 +227,9 @@ private slots:
 
     void embedsNestAndFollowKeyNames()
     {
-        const HttpResult nested = get(u"time_entries"_s, {{u"select"_s, u"id,task:tasks(title,project:projects(name))"_s},
-                                                         {u"id"_s, u"eq.00000000-0000-4000-8000-0000000000c3"_s}});
+        const HttpResult nested =
+            get(u"time_entries"_s, {{u"select"_s, u"id,task:tasks(title,project:projects(name))"_s},
+                                    {u"id"_s, u"eq.00000000-0000-4000-8000-0000000000c3"_s}});
         QCOMPARE(nested.status, 200);
         const QJsonObject task = nested.json().array().first().toObject().value(u"task"_s).toObject();
         QCOMPARE(task.value(u"title"_s).toString(), u"Logo (final)"_s);
@@ -229,7 +237,7 @@ private slots:
 
         // The foreign key column names the relationship too, and becomes the key.
         const HttpResult byColumn = get(u"time_entries"_s, {{u"select"_s, u"id,task_id(title)"_s},
-                                                           {u"id"_s, u"eq.00000000-0000-4000-8000-0000000000c1"_s}});
+                                                            {u"id"_s, u"eq.00000000-0000-4000-8000-0000000000c1"_s}});
         QCOMPARE(byColumn.status, 200);
         QCOMPARE(byColumn.json().array().first().toObject().value(u"task_id"_s).toObject().value(u"title"_s).toString(),
                  u"Photo retouch"_s);
@@ -238,9 +246,9 @@ private slots:
     void embeddedFiltersLimitsAndInner()
     {
         // Without !inner an embedded filter narrows the list; every project stays.
-        HttpResult result = get(u"projects"_s, {{u"select"_s, u"name,tasks(title)"_s},
-                                                {u"tasks.status"_s, u"eq.completed"_s},
-                                                {u"order"_s, u"name"_s}});
+        HttpResult result = get(
+            u"projects"_s,
+            {{u"select"_s, u"name,tasks(title)"_s}, {u"tasks.status"_s, u"eq.completed"_s}, {u"order"_s, u"name"_s}});
         QCOMPARE(result.status, 200);
         QCOMPARE(result.json().array().size(), 3);
         QCOMPARE(values(result.json().array()[2].toObject().value(u"tasks"_s).toArray(), u"title"_s),
@@ -289,9 +297,10 @@ private slots:
 
     void hintsChooseTheRelationship()
     {
-        const HttpResult result =
-            m_backend.request("GET", "/rest/v1/messages?select=body,sender:people!sender_id(name),to:people!messages_receiver_id_fkey(name)",
-                              m_backend.serviceToken());
+        const HttpResult result = m_backend.request(
+            "GET",
+            "/rest/v1/messages?select=body,sender:people!sender_id(name),to:people!messages_receiver_id_fkey(name)",
+            m_backend.serviceToken());
         QCOMPARE(result.status, 200);
         const QJsonObject message = result.json().array().first().toObject();
         QCOMPARE(message.value(u"sender"_s).toObject().value(u"name"_s).toString(), u"Ann"_s);
@@ -302,14 +311,14 @@ private slots:
     {
         QTest::addColumn<QString>("order");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("descending puts nulls first") << u"hourly_rate.desc"_s
-                                                     << QStringList{u"Beta"_s, u"Gamma"_s, u"Alpha"_s};
-        QTest::newRow("descending, nulls last") << u"hourly_rate.desc.nullslast"_s
-                                                << QStringList{u"Gamma"_s, u"Alpha"_s, u"Beta"_s};
-        QTest::newRow("ascending puts nulls last") << u"hourly_rate.asc"_s
-                                                   << QStringList{u"Alpha"_s, u"Gamma"_s, u"Beta"_s};
-        QTest::newRow("ascending, nulls first") << u"hourly_rate.nullsfirst"_s
-                                                << QStringList{u"Beta"_s, u"Alpha"_s, u"Gamma"_s};
+        QTest::newRow("descending puts nulls first")
+            << u"hourly_rate.desc"_s << QStringList{u"Beta"_s, u"Gamma"_s, u"Alpha"_s};
+        QTest::newRow("descending, nulls last")
+            << u"hourly_rate.desc.nullslast"_s << QStringList{u"Gamma"_s, u"Alpha"_s, u"Beta"_s};
+        QTest::newRow("ascending puts nulls last")
+            << u"hourly_rate.asc"_s << QStringList{u"Alpha"_s, u"Gamma"_s, u"Beta"_s};
+        QTest::newRow("ascending, nulls first")
+            << u"hourly_rate.nullsfirst"_s << QStringList{u"Beta"_s, u"Alpha"_s, u"Gamma"_s};
         QTest::newRow("two keys") << u"description.asc.nullslast,name.desc"_s
                                   << QStringList{u"Alpha"_s, u"Gamma"_s, u"Beta"_s};
     }
@@ -345,8 +354,8 @@ private slots:
             << (Items(ordered) << std::pair{u"status"_s, u"eq.paused"_s}) << count << 200 << QByteArray("*/0") << 0;
         QTest::newRow("nothing matches, not counted")
             << (Items(ordered) << std::pair{u"status"_s, u"eq.paused"_s}) << Headers{} << 200 << QByteArray("*/*") << 0;
-        QTest::newRow("offset past the total") << (Items(ordered) << std::pair{u"offset"_s, u"9"_s}) << count << 416
-                                               << QByteArray() << -1;
+        QTest::newRow("offset past the total")
+            << (Items(ordered) << std::pair{u"offset"_s, u"9"_s}) << count << 416 << QByteArray() << -1;
     }
 
     void paging()
