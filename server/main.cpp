@@ -39,7 +39,9 @@ int main(int argc, char *argv[])
     const QCommandLineOption listen(u"listen"_s, u"Address to listen on."_s, u"address"_s, u"127.0.0.1"_s);
     const QCommandLineOption databaseUrl(
         u"database-url"_s, u"Use this PostgreSQL database instead of a private one (libpq form)."_s, u"url"_s);
-    parser.addOptions({dataDir, port, listen, databaseUrl});
+    const QCommandLineOption migrations(u"migrations-dir"_s,
+                                        u"Apply the migrations of this folder instead of those built in."_s, u"dir"_s);
+    parser.addOptions({dataDir, port, listen, databaseUrl, migrations});
     parser.process(app);
 
     bool portOk = false;
@@ -49,7 +51,8 @@ int main(int argc, char *argv[])
         return 2;
     }
 
-    ServerApp server({parser.value(dataDir), quint16(portNumber), parser.value(listen), parser.value(databaseUrl)});
+    ServerApp server({parser.value(dataDir), quint16(portNumber), parser.value(listen), parser.value(databaseUrl),
+                      parser.value(migrations)});
 
     // Signals arrive on any thread; a pipe turns them into an event of the main loop, where the
     // database can be stopped cleanly.

@@ -125,7 +125,8 @@ bool ServerApp::start()
     std::shared_ptr<const Catalog> catalog;
     try {
         auto connection = PgConnection::open(conninfo);
-        applyMigrations(*connection, embeddedMigrations(), say);
+        applyMigrations(*connection,
+                        m_options.migrationsDir.isEmpty() ? embeddedMigrations() : migrationsIn(m_options.migrationsDir), say);
         catalog = std::make_shared<const Catalog>(Catalog::load(*connection));
     } catch (const MigrationError &error) {
         say(QString::fromStdString(error.what()));

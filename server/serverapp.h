@@ -23,6 +23,7 @@ public:
         quint16 port = 54321;
         QString listenAddress = QStringLiteral("127.0.0.1");
         QString databaseUrl;
+        QString migrationsDir; // empty: the migrations built into the program
     };
 
     explicit ServerApp(Options options, QObject *parent = nullptr);

@@ -17,8 +17,13 @@ constexpr auto lockKey = "7316240519";
 
 QList<Migration> embeddedMigrations()
 {
+    return migrationsIn(u":/migrations"_s);
+}
+
+QList<Migration> migrationsIn(const QString &path)
+{
     QList<Migration> migrations;
-    const QDir dir(u":/migrations"_s);
+    const QDir dir(path);
     const QStringList names = dir.entryList({u"*.sql"_s}, QDir::Files, QDir::Name);
     for (const QString &name : names) {
         QFile file(dir.filePath(name));

@@ -32,6 +32,8 @@ private:
 
 // The migrations compiled into the server, in name order.
 QList<Migration> embeddedMigrations();
+// The *.sql files of a folder, in name order.
+QList<Migration> migrationsIn(const QString &dir);
 
 // Applies, in order, every migration not yet recorded, each in its own transaction, and records
 // it. Several servers may share a database, so the whole run holds an advisory lock. Answers the
