@@ -99,6 +99,11 @@ PgResult PgConnection::exec(const QByteArray &sql, const PgParams &params)
     values.reserve(std::size_t(params.size()));
     lengths.reserve(std::size_t(params.size()));
     for (const auto &param : params) {
+        // Text parameters end at the first NUL, so "a\0b" would arrive as "a": a filter could
+        // match far more than was asked. PostgreSQL text cannot hold NUL, so refuse it as it would.
+        if (param && param->contains('\0')) {
+            throw PgException({"22021", QStringLiteral("invalid byte sequence for encoding \"UTF8\": 0x00"), {}, {}});
+        }
         values.push_back(param ? param->constData() : nullptr);
         lengths.push_back(param ? int(param->size()) : 0);
     }

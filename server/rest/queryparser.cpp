@@ -5,6 +5,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Deeper nesting than any real request needs; it keeps hostile input from exhausting the stack.
+constexpr int maxDepth = 16;
+
 const QStringList operators{u"eq"_s,    u"neq"_s,   u"gt"_s,     u"gte"_s, u"lt"_s, u"lte"_s,       u"like"_s,
                             u"ilike"_s, u"match"_s, u"imatch"_s, u"in"_s,  u"is"_s, u"isdistinct"_s};
 
@@ -87,10 +90,14 @@ private:
 
     QList<SelectItem> readList()
     {
+        if (++m_depth > maxDepth) {
+            fail(u"embedding nested more than %1 levels deep"_s.arg(maxDepth));
+        }
         QList<SelectItem> items;
         do {
             items.append(readItem());
         } while (take(u","));
+        --m_depth;
         return items;
     }
 
@@ -133,6 +140,7 @@ private:
 
     const QString &m_text;
     qsizetype m_pos = 0;
+    int m_depth = 0;
 };
 
 // Splits at commas outside double quotes and parentheses.
@@ -277,8 +285,25 @@ Condition parseCondition(const QString &column, const QString &text)
     return condition;
 }
 
+namespace {
+
+LogicTree parseLogicAt(const QString &operatorName, bool negate, const QString &text, int depth);
+
+} // namespace
+
 LogicTree parseLogic(const QString &operatorName, bool negate, const QString &text)
 {
+    return parseLogicAt(operatorName, negate, text, 1);
+}
+
+namespace {
+
+LogicTree parseLogicAt(const QString &operatorName, bool negate, const QString &text, int depth)
+{
+    if (depth > maxDepth) {
+        throw ApiError::badQuery(u"\"failed to parse logic tree\""_s,
+                                 u"logic nested more than %1 levels deep"_s.arg(maxDepth));
+    }
     LogicTree tree;
     tree.kind = operatorName == u"or" ? LogicTree::Kind::Or : LogicTree::Kind::And;
     tree.negate = negate;
@@ -294,7 +319,7 @@ LogicTree parseLogic(const QString &operatorName, bool negate, const QString &te
         }
         if (item.startsWith(u"and(") || item.startsWith(u"or(")) {
             const qsizetype open = item.indexOf(u'(');
-            tree.children.append(parseLogic(item.left(open), notted, item.mid(open)));
+            tree.children.append(parseLogicAt(item.left(open), notted, item.mid(open), depth + 1));
             continue;
         }
         const qsizetype dot = item.indexOf(u'.');
@@ -312,6 +337,8 @@ LogicTree parseLogic(const QString &operatorName, bool negate, const QString &te
     }
     return tree;
 }
+
+} // namespace
 
 QList<OrderTerm> parseOrder(const QString &text)
 {

@@ -1,0 +1,162 @@
+#include "pg/pgconnection.h"
+#include "support/testbackend.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+// Requests built to break the query translator or reach around it. Each must be answered with a
+// clear client error, and none may change anything.
+class TestRestHostile : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestBackend m_backend;
+    QByteArray m_token;
+
+    // Everything a successful attack could touch, in one string.
+    QByteArray fingerprint()
+    {
+        return m_backend.database()
+            .exec("SELECT (SELECT count(*) FROM pg_class) || '/' || (SELECT count(*) FROM tasks) || '/' ||"
+                  " (SELECT string_agg(title || status, ',' ORDER BY id) FROM tasks) || '/' ||"
+                  " (SELECT count(*) FROM pg_roles WHERE rolsuper)")
+            .value(0, 0);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
+        const QString user = m_backend.createUser(u"mallory@example.nl"_s);
+        m_token = m_backend.tokenFor(user);
+        m_backend.database().exec("INSERT INTO projects (id, user_id, name) VALUES "
+                                  "('00000000-0000-4000-8000-0000000000a1', $1, 'Canary')",
+                                  {user.toUtf8()});
+        m_backend.database().exec("INSERT INTO tasks (user_id, project_id, title) VALUES "
+                                  "($1, '00000000-0000-4000-8000-0000000000a1', 'canary task')",
+                                  {user.toUtf8()});
+    }
+
+    void refusedClearly_data()
+    {
+        QTest::addColumn<QByteArray>("method");
+        QTest::addColumn<QByteArray>("target");
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<int>("status");
+
+        const QByteArray deep(5000, '(');
+        const QByteArray deepSelect = "/rest/v1/tasks?select=" + QByteArray("a(").repeated(5000) + "id";
+        const QByteArray deepOr =
+            "/rest/v1/tasks?or=(" + QByteArray("or(").repeated(3000) + "id.eq.1" + QByteArray(")").repeated(3001);
+        struct Row
+        {
+            const char *name;
+            QByteArray method;
+            QByteArray target;
+            QByteArray body;
+            int status;
+        };
+        const QList<Row> rows{
+            {"statement after select", "GET", "/rest/v1/tasks?select=id;DROP%20TABLE%20tasks", {}, 400},
+            {"comment in select", "GET", "/rest/v1/tasks?select=id--", {}, 400},
+            {"quote breaking out of a name",
+             "GET",
+             "/rest/v1/tasks?select=%22id%22%22;drop%20table%20tasks;--%22",
+             {},
+             400},
+            {"unbalanced embed", "GET", "/rest/v1/tasks?select=*,project:projects(name", {}, 400},
+            {"stray parenthesis", "GET", "/rest/v1/tasks?select=id)", {}, 400},
+            {"cast carrying SQL", "GET", "/rest/v1/tasks?select=id::text);drop%20table%20tasks;--", {}, 400},
+            {"embedding nested beyond reason", "GET", deepSelect, {}, 400},
+            {"logic nested beyond reason", "GET", deepOr, {}, 400},
+            {"statement in order", "GET", "/rest/v1/tasks?order=id;delete%20from%20tasks", {}, 400},
+            {"unknown order modifier", "GET", "/rest/v1/tasks?order=id.sideways", {}, 400},
+            {"statement as a filter column", "GET", "/rest/v1/tasks?id;drop%20table%20tasks=eq.1", {}, 400},
+            {"SQL in a uuid value", "GET", "/rest/v1/tasks?id=eq.1'%20OR%20'1'='1", {}, 400},
+            {"unknown operator", "GET", "/rest/v1/tasks?title=xx.1", {}, 400},
+            {"operator without value", "GET", "/rest/v1/tasks?title=eq", {}, 400},
+            {"empty logic tree", "GET", "/rest/v1/tasks?or=()", {}, 400},
+            {"logic tree with open quote", "GET", "/rest/v1/tasks?or=(title.eq.%22open,id.eq.1)", {}, 400},
+            {"logic tree, unbalanced", "GET", "/rest/v1/tasks?or=" + deep, {}, 400},
+            {"in list, unterminated", "GET", "/rest/v1/tasks?title=in.(a,%22b)", {}, 400},
+            {"negative limit", "GET", "/rest/v1/tasks?limit=-1", {}, 400},
+            {"limit with SQL", "GET", "/rest/v1/tasks?limit=1;delete%20from%20tasks", {}, 400},
+            {"offset not a number", "GET", "/rest/v1/tasks?offset=abc", {}, 400},
+            {"quoted table name", "GET", "/rest/v1/%22tasks%22", {}, 404},
+            {"system catalog", "GET", "/rest/v1/pg_authid", {}, 404},
+            {"another schema", "GET", "/rest/v1/auth.users", {}, 404},
+            {"path climbing out", "GET", "/rest/v1/../auth/users", {}, 404},
+            {"columns carrying SQL", "POST", "/rest/v1/tasks?columns=title%22);drop%20table%20tasks;--", "{}", 400},
+            {"on_conflict carrying SQL", "POST", "/rest/v1/tasks?on_conflict=id);drop%20table%20tasks;--",
+             "{\"title\":\"x\"}", 400},
+            {"body key carrying SQL", "POST", "/rest/v1/tasks", "{\"title\\\" ) ; drop table tasks; --\":1}", 400},
+            {"patch key carrying SQL", "PATCH", "/rest/v1/tasks?title=eq.x", "{\"status = 'completed' --\":1}", 400},
+            {"procedure outside the schema", "POST", "/rest/v1/rpc/pg_sleep", "{\"seconds\":5}", 404},
+            {"procedure name with SQL", "POST", "/rest/v1/rpc/next_invoice_number();drop%20table%20tasks;--", "{}",
+             404},
+            {"invalid JSON", "POST", "/rest/v1/tasks", "{\"title\":", 400},
+            {"JSON nested beyond reason", "POST", "/rest/v1/tasks", QByteArray(3000, '['), 400},
+            {"body that is a string", "POST", "/rest/v1/tasks", "\"drop table tasks\"", 400},
+        };
+        for (const Row &row : rows) {
+            QTest::newRow(row.name) << row.method << row.target << row.body << row.status;
+        }
+    }
+
+    void refusedClearly()
+    {
+        QFETCH(QByteArray, method);
+        QFETCH(QByteArray, target);
+        QFETCH(QByteArray, body);
+        const QByteArray before = fingerprint();
+        const HttpResult result = m_backend.request(method, target, m_token, body);
+        QTEST(result.status, "status");
+        QVERIFY2(!result.code().isEmpty(), result.body.constData());
+        QVERIFY(!result.json().object().value(u"message"_s).toString().isEmpty());
+        QCOMPARE(fingerprint(), before);
+    }
+
+    void valuesNeverBecomeSql_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("quote and OR") << u"x' OR '1'='1"_s;
+        QTest::newRow("statement after quote") << u"x'; DELETE FROM tasks; --"_s;
+        QTest::newRow("dollar quoting") << u"$$; DROP TABLE tasks; $$"_s;
+        QTest::newRow("backslash and quote") << u"\\'; DROP TABLE tasks; --"_s;
+        QTest::newRow("null byte") << QString(QChar(0)) + u"x"_s;
+    }
+
+    void valuesNeverBecomeSql()
+    {
+        QFETCH(QString, value);
+        const QByteArray before = fingerprint();
+        for (const QString &filter : QStringList{u"eq."_s + value, u"like.*"_s + value, u"in.("_s + value + u')'}) {
+            const HttpResult result = m_backend.request(
+                "GET", "/rest/v1/tasks?" + queryString({{u"select"_s, u"title"_s}, {u"title"_s, filter}}), m_token);
+            // Either nothing matches, or PostgreSQL refuses the text (a null byte): never a change.
+            QVERIFY2(result.status == 200 || result.status == 400, result.body.constData());
+            if (result.status == 200) {
+                QCOMPARE(result.json().array().size(), 0);
+            }
+        }
+        const HttpResult patch =
+            m_backend.request("PATCH", "/rest/v1/tasks?" + queryString({{u"title"_s, u"eq."_s + value}}), m_token,
+                              "{\"status\":\"completed\"}");
+        QVERIFY(patch.status == 204 || patch.status == 400);
+        QCOMPARE(fingerprint(), before);
+    }
+
+    void theServerKeepsServing()
+    {
+        const HttpResult result = m_backend.request("GET", "/rest/v1/tasks?select=title", m_token);
+        QCOMPARE(result.status, 200);
+        QCOMPARE(result.json().array().first().toObject().value(u"title"_s).toString(), u"canary task"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRestHostile)
+#include "tst_resthostile.moc"
