@@ -47,6 +47,21 @@ QList<CatalogFunction> Catalog::functions(const QString &name) const
     return m_functions.values(name);
 }
 
+Catalog Catalog::fromParts(const QString &schema, const QList<CatalogRelation> &relations,
+                           QList<CatalogForeignKey> foreignKeys, const QList<CatalogFunction> &functions)
+{
+    Catalog catalog;
+    catalog.m_schema = schema;
+    for (const CatalogRelation &relation : relations) {
+        catalog.m_relations.insert(relation.name, relation);
+    }
+    catalog.m_foreignKeys = std::move(foreignKeys);
+    for (const CatalogFunction &function : functions) {
+        catalog.m_functions.insert(function.name, function);
+    }
+    return catalog;
+}
+
 Catalog Catalog::load(PgConnection &connection, const QString &schema)
 {
     Catalog catalog;

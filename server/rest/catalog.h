@@ -62,6 +62,9 @@ class Catalog
 {
 public:
     static Catalog load(PgConnection &connection, const QString &schema = QStringLiteral("public"));
+    // A catalog described by hand, for tools that translate queries without a database.
+    static Catalog fromParts(const QString &schema, const QList<CatalogRelation> &relations,
+                             QList<CatalogForeignKey> foreignKeys, const QList<CatalogFunction> &functions);
 
     [[nodiscard]] const QString &schema() const { return m_schema; }
     [[nodiscard]] const CatalogRelation *relation(const QString &name) const;

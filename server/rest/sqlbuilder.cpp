@@ -432,9 +432,11 @@ SqlBuilder::Statement SqlBuilder::call(const CatalogFunction &function,
                                        bool wholeBody)
 {
     QStringList passed;
-    for (const auto &[name, value] : arguments) {
+    for (const auto &given : arguments) {
+        const QString &name = given.first;
+        const std::optional<QByteArray> &value = given.second;
         const auto argument = std::find_if(function.arguments.cbegin(), function.arguments.cend(),
-                                           [&](const CatalogArgument &a) { return a.name == name; });
+                                           [&name](const CatalogArgument &a) { return a.name == name; });
         const QString type = wholeBody ? function.arguments.first().type : argument->type;
         const QString cast = param(value) + u"::" + type;
         passed.append(wholeBody ? cast : quoteIdentifier(name) + u" := " + cast);
