@@ -59,3 +59,22 @@ morvane_build() {
     fi
     cmake --build "$MORVANE_BUILD" --parallel "$(nproc)" || return 1
 }
+
+# The official JavaScript client that tst_jsclient drives, installed exactly as package-lock.json
+# pins it. Skipped while node_modules is newer than the lock file, so only a changed lock file
+# reaches the registry.
+morvane_install_js_packages() {
+    local dir="$MORVANE_ROOT/tests/js"
+    [ -f "$dir/package-lock.json" ] || return 0
+    if [ -d "$dir/node_modules" ] && [ ! "$dir/package-lock.json" -nt "$dir/node_modules" ]; then
+        return 0
+    fi
+    if ! command -v npm >/dev/null 2>&1; then
+        echo "morvane: npm is missing; the tests in tests/js need Node.js 20 or later with npm" >&2
+        return 1
+    fi
+    echo "morvane: installing the JavaScript test packages in tests/js"
+    (cd "$dir" && npm ci --no-audit --no-fund) || return 1
+    # The folder's time marks the install as current, whatever npm did to the folder itself.
+    touch "$dir/node_modules"
+}

@@ -199,6 +199,14 @@ HttpResponse RestService::handle(const HttpRequest &request)
 HttpResponse RestService::dispatch(const HttpRequest &request, const RequestIdentity &identity)
 {
     const std::shared_ptr<const Catalog> current = catalog();
+    // Clients name the schema on every call (supabase-js sends "public"); one that switches to a
+    // schema we do not expose must hear so instead of silently getting the public tables.
+    const bool reading = request.method == "GET" || request.method == "HEAD";
+    const QString profile = QString::fromUtf8(request.header(reading ? "accept-profile" : "content-profile"));
+    if (!profile.isEmpty() && profile != current->schema()) {
+        throw ApiError(406, u"PGRST106"_s, u"Invalid schema: %1"_s.arg(profile), std::nullopt,
+                       u"Only the following schemas are exposed: %1"_s.arg(current->schema()));
+    }
     QString name = request.path.mid(prefix().size());
     while (name.startsWith(u'/')) {
         name.remove(0, 1);
