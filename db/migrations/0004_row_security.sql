@@ -276,8 +276,10 @@ create policy "owner and project admins update entries" on public.time_entries f
 create policy "owner and project admins delete entries" on public.time_entries for delete to authenticated
     using (user_id = (select auth.uid()) or project_id in (select app.writable_project_ids()));
 
--- Lines and links follow their invoice. Linking also needs the entry or trip itself to be visible:
--- otherwise anyone could block a stranger's time from being billed by linking it first.
+-- Lines and links follow their invoice. Linking also needs the right to change the entry (its owner
+-- or an admin of its project; a trip is only ever visible to its owner): otherwise anyone could block
+-- time from being billed by linking it first, a team's viewer included, on an invoice of their own
+-- whose link the entry's owner can neither see nor remove.
 create policy "read lines of readable invoices" on public.invoice_lines for select to authenticated
     using (invoice_id in (select app.readable_invoice_ids()));
 create policy "add lines to writable invoices" on public.invoice_lines for insert to authenticated
@@ -290,13 +292,19 @@ create policy "remove lines of writable invoices" on public.invoice_lines for de
 
 create policy "read entry links of readable invoices" on public.invoice_entries for select to authenticated
     using (invoice_id in (select app.readable_invoice_ids()));
-create policy "link visible entries to writable invoices" on public.invoice_entries for insert to authenticated
+create policy "link changeable entries to writable invoices" on public.invoice_entries for insert to authenticated
     with check (invoice_id in (select app.writable_invoice_ids())
-                and exists (select 1 from public.time_entries te where te.id = invoice_entries.time_entry_id));
+                and exists (select 1 from public.time_entries te
+                            where te.id = invoice_entries.time_entry_id
+                              and (te.user_id = (select auth.uid())
+                                   or te.project_id in (select app.writable_project_ids()))));
 create policy "change entry links of writable invoices" on public.invoice_entries for update to authenticated
     using (invoice_id in (select app.writable_invoice_ids()))
     with check (invoice_id in (select app.writable_invoice_ids())
-                and exists (select 1 from public.time_entries te where te.id = invoice_entries.time_entry_id));
+                and exists (select 1 from public.time_entries te
+                            where te.id = invoice_entries.time_entry_id
+                              and (te.user_id = (select auth.uid())
+                                   or te.project_id in (select app.writable_project_ids()))));
 create policy "remove entry links of writable invoices" on public.invoice_entries for delete to authenticated
     using (invoice_id in (select app.writable_invoice_ids()));
 

@@ -23,7 +23,9 @@ public:
     struct Limits
     {
         qint64 maxBodyBytes = 10 * 1024 * 1024;
-        int workerThreads = 8;
+        // More threads than database connections, so that requests waiting on a lock leave room for
+        // the others.
+        int workerThreads = 16;
     };
 
     explicit HttpServer(Limits limits, QObject *parent = nullptr);
