@@ -23,6 +23,8 @@ MORVANE_PACKAGES=(
     libpq-dev
     postgresql
     postgresql-contrib
+    clang
+    libclang-rt-14-dev
 )
 
 morvane_missing_packages() {
