@@ -30,6 +30,15 @@ QString HttpResult::code() const
     return json().object().value(u"code"_s).toVariant().toString();
 }
 
+QStringList jsonColumn(const QJsonArray &rows, const QString &key)
+{
+    QStringList found;
+    for (const QJsonValue &row : rows) {
+        found.append(row.toObject().value(key).toVariant().toString());
+    }
+    return found;
+}
+
 QByteArray queryString(const QList<std::pair<QString, QString>> &items)
 {
     QByteArray encoded;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QList>
 #include <QProcess>
@@ -64,6 +65,9 @@ private:
     QString m_log;
     std::unique_ptr<PgConnection> m_database;
 };
+
+// The value of `key` in every row of a JSON array, as text (numbers and booleans too).
+QStringList jsonColumn(const QJsonArray &rows, const QString &key);
 
 // Percent-encodes query values the way a client library does.
 QByteArray queryString(const QList<std::pair<QString, QString>> &items);

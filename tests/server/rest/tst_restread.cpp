@@ -10,19 +10,6 @@ using namespace Qt::StringLiterals;
 using Items = QList<std::pair<QString, QString>>;
 using Headers = QList<std::pair<QByteArray, QByteArray>>;
 
-namespace {
-
-QStringList values(const QJsonArray &rows, const QString &key)
-{
-    QStringList found;
-    for (const QJsonValue &row : rows) {
-        found.append(row.toObject().value(key).toVariant().toString());
-    }
-    return found;
-}
-
-} // namespace
-
 class TestRestRead : public QObject
 {
     Q_OBJECT
@@ -164,7 +151,7 @@ private slots:
         QFETCH(QStringList, expected);
         const HttpResult result = get(table, query);
         QCOMPARE(result.status, 200);
-        QCOMPARE(values(result.json().array(), key), expected);
+        QCOMPARE(jsonColumn(result.json().array(), key), expected);
     }
 
     void logicTrees_data()
@@ -202,7 +189,7 @@ private slots:
         QFETCH(QStringList, expected);
         const HttpResult result = get(u"tasks"_s, {{u"select"_s, u"title"_s}, {key, tree}, {u"order"_s, u"title"_s}});
         QCOMPARE(result.status, 200);
-        QCOMPARE(values(result.json().array(), u"title"_s), expected);
+        QCOMPARE(jsonColumn(result.json().array(), u"title"_s), expected);
     }
 
     void embedsToOneAndToMany()
@@ -218,8 +205,8 @@ private slots:
                 {{u"select"_s, u"name,tasks(title)"_s}, {u"order"_s, u"name"_s}, {u"tasks.order"_s, u"title.desc"_s}});
         QCOMPARE(result.status, 200);
         const QJsonArray projects = result.json().array();
-        QCOMPARE(values(projects, u"name"_s), (QStringList{u"Alpha"_s, u"Beta"_s, u"Gamma"_s}));
-        QCOMPARE(values(projects[0].toObject().value(u"tasks"_s).toArray(), u"title"_s),
+        QCOMPARE(jsonColumn(projects, u"name"_s), (QStringList{u"Alpha"_s, u"Beta"_s, u"Gamma"_s}));
+        QCOMPARE(jsonColumn(projects[0].toObject().value(u"tasks"_s).toArray(), u"title"_s),
                  (QStringList{u"Weekly sync"_s, u"Photo retouch"_s, u"Invoice, admin"_s}));
         // A project without tasks has an empty list, not null.
         QCOMPARE(projects[1].toObject().value(u"tasks"_s), QJsonValue(QJsonArray()));
@@ -251,7 +238,7 @@ private slots:
             {{u"select"_s, u"name,tasks(title)"_s}, {u"tasks.status"_s, u"eq.completed"_s}, {u"order"_s, u"name"_s}});
         QCOMPARE(result.status, 200);
         QCOMPARE(result.json().array().size(), 3);
-        QCOMPARE(values(result.json().array()[2].toObject().value(u"tasks"_s).toArray(), u"title"_s),
+        QCOMPARE(jsonColumn(result.json().array()[2].toObject().value(u"tasks"_s).toArray(), u"title"_s),
                  QStringList{u"Logo (final)"_s});
 
         // With !inner only projects with a matching task remain.
@@ -259,13 +246,13 @@ private slots:
                                      {u"tasks.priority"_s, u"eq.high"_s},
                                      {u"order"_s, u"name"_s}});
         QCOMPARE(result.status, 200);
-        QCOMPARE(values(result.json().array(), u"name"_s), (QStringList{u"Alpha"_s, u"Gamma"_s}));
+        QCOMPARE(jsonColumn(result.json().array(), u"name"_s), (QStringList{u"Alpha"_s, u"Gamma"_s}));
 
         result = get(u"projects"_s, {{u"select"_s, u"name,tasks(title)"_s},
                                      {u"name"_s, u"eq.Alpha"_s},
                                      {u"tasks.order"_s, u"time_spent_seconds.desc"_s},
                                      {u"tasks.limit"_s, u"1"_s}});
-        QCOMPARE(values(result.json().array().first().toObject().value(u"tasks"_s).toArray(), u"title"_s),
+        QCOMPARE(jsonColumn(result.json().array().first().toObject().value(u"tasks"_s).toArray(), u"title"_s),
                  QStringList{u"Photo retouch"_s});
     }
 
@@ -329,7 +316,7 @@ private slots:
         QFETCH(QStringList, expected);
         const HttpResult result = get(u"projects"_s, {{u"select"_s, u"name"_s}, {u"order"_s, order}});
         QCOMPARE(result.status, 200);
-        QCOMPARE(values(result.json().array(), u"name"_s), expected);
+        QCOMPARE(jsonColumn(result.json().array(), u"name"_s), expected);
     }
 
     void paging_data()

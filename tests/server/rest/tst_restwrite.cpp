@@ -13,15 +13,6 @@ namespace {
 
 const QByteArray project = "00000000-0000-4000-8000-00000000000a";
 
-QStringList values(const QJsonArray &rows, const QString &key)
-{
-    QStringList found;
-    for (const QJsonValue &row : rows) {
-        found.append(row.toObject().value(key).toVariant().toString());
-    }
-    return found;
-}
-
 } // namespace
 
 class TestRestWrite : public QObject
@@ -159,13 +150,13 @@ private slots:
             return;
         }
         const QJsonArray rows = result.json().array();
-        QCOMPARE(values(rows, u"name"_s), names);
+        QCOMPARE(jsonColumn(rows, u"name"_s), names);
         if (!statuses.isEmpty()) {
-            QCOMPARE(values(rows, u"archived"_s), statuses);
+            QCOMPARE(jsonColumn(rows, u"archived"_s), statuses);
         }
         if (target.startsWith("projects")) {
-            QCOMPARE(values(rows, u"status"_s), (QStringList{u"completed"_s, u"active"_s}));
-            QCOMPARE(values(rows, u"user_id"_s), (QStringList{m_anna, m_anna}));
+            QCOMPARE(jsonColumn(rows, u"status"_s), (QStringList{u"completed"_s, u"active"_s}));
+            QCOMPARE(jsonColumn(rows, u"user_id"_s), (QStringList{m_anna, m_anna}));
         }
     }
 
@@ -180,12 +171,12 @@ private slots:
         HttpResult result =
             send("POST", "clients", again, {{"Prefer", "return=representation,resolution=ignore-duplicates"}});
         QCOMPARE(result.status, 201);
-        QCOMPARE(values(result.json().array(), u"name"_s), QStringList{u"Other"_s});
+        QCOMPARE(jsonColumn(result.json().array(), u"name"_s), QStringList{u"Other"_s});
         QCOMPARE(result.header("Preference-Applied"), "return=representation, resolution=ignore-duplicates");
 
         result = send("POST", "clients", again, {{"Prefer", "return=representation, resolution=merge-duplicates"}});
         QCOMPARE(result.status, 201);
-        QCOMPARE(values(result.json().array(), u"name"_s), (QStringList{u"Second"_s, u"Other"_s}));
+        QCOMPARE(jsonColumn(result.json().array(), u"name"_s), (QStringList{u"Second"_s, u"Other"_s}));
 
         // Without a resolution a duplicate is an error.
         result = send("POST", "clients", again);
@@ -219,7 +210,7 @@ private slots:
         HttpResult result = send("PATCH", "clients?notes=eq.batch&name=in.(U1,U2)", "{\"phone\":\"030\"}",
                                  {{"Prefer", "return=representation,count=exact"}});
         QCOMPARE(result.status, 200);
-        QCOMPARE(values(result.json().array(), u"phone"_s), (QStringList{u"030"_s, u"030"_s}));
+        QCOMPARE(jsonColumn(result.json().array(), u"phone"_s), (QStringList{u"030"_s, u"030"_s}));
         QCOMPARE(result.header("Content-Range"), "*/2");
 
         // A filter that matches nothing is not an error.
@@ -234,7 +225,7 @@ private slots:
         // A limit with an order changes only the first rows.
         result = send("PATCH", "clients?notes=eq.seen&order=name.desc&limit=2", "{\"notes\":\"last two\"}",
                       {{"Prefer", "return=representation"}});
-        QStringList changed = values(result.json().array(), u"name"_s);
+        QStringList changed = jsonColumn(result.json().array(), u"name"_s);
         changed.sort();
         QCOMPARE(changed, (QStringList{u"U4"_s, u"U5"_s}));
 
