@@ -41,7 +41,9 @@ int main(int argc, char *argv[])
         u"database-url"_s, u"Use this PostgreSQL database instead of a private one (libpq form)."_s, u"url"_s);
     const QCommandLineOption migrations(u"migrations-dir"_s,
                                         u"Apply the migrations of this folder instead of those built in."_s, u"dir"_s);
-    parser.addOptions({dataDir, port, listen, databaseUrl, migrations});
+    const QCommandLineOption idle(u"idle-timeout"_s, u"Close connections idle for this many seconds (default 60)."_s,
+                                  u"seconds"_s, u"60"_s);
+    parser.addOptions({dataDir, port, listen, databaseUrl, migrations, idle});
     parser.process(app);
 
     bool portOk = false;
@@ -51,8 +53,14 @@ int main(int argc, char *argv[])
         return 2;
     }
 
+    bool idleOk = false;
+    const int idleSeconds = parser.value(idle).toInt(&idleOk);
+    if (!idleOk || idleSeconds < 1) {
+        std::fprintf(stderr, "morvane-server: --idle-timeout needs a number of seconds, 1 or more\n");
+        return 2;
+    }
     ServerApp server({parser.value(dataDir), quint16(portNumber), parser.value(listen), parser.value(databaseUrl),
-                      parser.value(migrations)});
+                      parser.value(migrations), idleSeconds});
 
     // Signals arrive on any thread; a pipe turns them into an event of the main loop, where the
     // database can be stopped cleanly.

@@ -125,8 +125,9 @@ bool ServerApp::start()
     std::shared_ptr<const Catalog> catalog;
     try {
         auto connection = PgConnection::open(conninfo);
-        applyMigrations(*connection,
-                        m_options.migrationsDir.isEmpty() ? embeddedMigrations() : migrationsIn(m_options.migrationsDir), say);
+        applyMigrations(
+            *connection,
+            m_options.migrationsDir.isEmpty() ? embeddedMigrations() : migrationsIn(m_options.migrationsDir), say);
         catalog = std::make_shared<const Catalog>(Catalog::load(*connection));
     } catch (const MigrationError &error) {
         say(QString::fromStdString(error.what()));
@@ -137,7 +138,9 @@ bool ServerApp::start()
     }
 
     m_pool = std::make_unique<PgPool>(conninfo, 12);
-    m_http = std::make_unique<HttpServer>(HttpServer::Limits{});
+    HttpServer::Limits limits;
+    limits.idleConnection = std::chrono::seconds(m_options.idleSeconds);
+    m_http = std::make_unique<HttpServer>(limits);
     auto rest = std::make_shared<RestService>(*m_pool, secret, catalog);
     m_http->addService(rest);
     // As PostgREST does: `NOTIFY pgrst, 'reload schema'` after a change of tables or functions.
@@ -155,7 +158,7 @@ bool ServerApp::start()
     });
 
     const QHostAddress address(m_options.listenAddress);
-    const quint16 port = m_http->listen(address, m_options.port);
+    const quint16 port = m_http->listenGuarded(address, m_options.port);
     if (port == 0) {
         say(u"cannot listen on %1:%2 (is another program using the port?)"_s.arg(m_options.listenAddress)
                 .arg(m_options.port));

@@ -24,6 +24,7 @@ public:
         QString listenAddress = QStringLiteral("127.0.0.1");
         QString databaseUrl;
         QString migrationsDir; // empty: the migrations built into the program
+        int idleSeconds = 60;
     };
 
     explicit ServerApp(Options options, QObject *parent = nullptr);

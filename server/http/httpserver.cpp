@@ -1,5 +1,7 @@
 #include "httpserver.h"
 
+#include "http/guardedtcpserver.h"
+
 #include <QHttpServerRequest>
 #include <QLoggingCategory>
 #include <QTcpSocket>
@@ -81,6 +83,25 @@ HttpServer::HttpServer(Limits limits, QObject *parent)
 HttpServer::~HttpServer()
 {
     m_pool.waitForDone();
+}
+
+quint16 HttpServer::listenGuarded(const QHostAddress &address, quint16 port)
+{
+    // Headers come on top of the body; the guard only has to stop what no request could need.
+    auto *server = new GuardedTcpServer(m_limits.maxBodyBytes + 64 * 1024, m_limits.idleConnection, this);
+    if (!server->listen(address, port)) {
+        delete server;
+        return 0;
+    }
+    connect(server, &GuardedTcpServer::socketIdle, this, [this](QTcpSocket *socket) {
+        const auto it = m_connections.constFind(socket);
+        // A request still being worked on keeps its connection.
+        if (it == m_connections.cend() || it->nextToWrite == it->nextSequence) {
+            socket->disconnectFromHost();
+        }
+    });
+    bind(server);
+    return server->serverPort();
 }
 
 void HttpServer::addService(std::shared_ptr<HttpService> service)

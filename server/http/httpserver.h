@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QThreadPool>
 
+#include <chrono>
 #include <memory>
 
 class QTcpSocket;
@@ -23,6 +24,8 @@ public:
     struct Limits
     {
         qint64 maxBodyBytes = 10 * 1024 * 1024;
+        // A connection that sends nothing and waits for nothing is closed after this long.
+        std::chrono::milliseconds idleConnection{std::chrono::seconds(60)};
         // More threads than database connections, so that requests waiting on a lock leave room for
         // the others.
         int workerThreads = 16;
@@ -32,6 +35,9 @@ public:
     ~HttpServer() override;
 
     void addService(std::shared_ptr<HttpService> service);
+
+    // Listens with the size and idle guards; answers the port, or 0 when it cannot listen.
+    quint16 listenGuarded(const QHostAddress &address, quint16 port);
 
 protected:
     bool handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) override;

@@ -9,6 +9,7 @@
 #include <QJsonObject>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
+#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -252,8 +253,8 @@ private slots:
         QTest::addColumn<int>("status");
         QTest::newRow("unknown path") << QByteArray("GET") << QByteArray("/nowhere") << QByteArray() << 404;
         QTest::newRow("unknown service path") << QByteArray("GET") << QByteArray("/rest/v1/a/b") << QByteArray() << 404;
-        QTest::newRow("body over the limit")
-            << QByteArray("POST") << QByteArray("/rest/v1/clients") << QByteArray(11 * 1024 * 1024, 'x') << 413;
+        QTest::newRow("body just over the limit")
+            << QByteArray("POST") << QByteArray("/rest/v1/clients") << QByteArray(10 * 1024 * 1024 + 1, 'x') << 413;
     }
 
     void everyAnswerIsJson()
@@ -268,6 +269,41 @@ private slots:
         QVERIFY(result.header("Content-Type").startsWith("application/json"));
         QVERIFY(!result.code().isEmpty());
         QVERIFY(!result.json().object().value(u"message"_s).toString().isEmpty());
+    }
+
+    void guardsAgainstSlowAndOversizedClients()
+    {
+        DataDir dir;
+        ServerProcess server(dir.path(), {u"--idle-timeout"_s, u"1"_s});
+        QVERIFY2(server.waitReady(), qPrintable(server.log()));
+        const QUrl url(server.url());
+
+        // A client that opens a connection and sends half a request is let go.
+        QTcpSocket slow;
+        slow.connectToHost(url.host(), quint16(url.port()));
+        QVERIFY(slow.waitForConnected(10000));
+        slow.write("GET /rest/v1/tasks HTTP/1.1\r\nHost: x\r\n");
+        QTRY_COMPARE_WITH_TIMEOUT(slow.state(), QAbstractSocket::UnconnectedState, 15000);
+
+        // A body far over the limit is refused while it arrives, before the server holds it all.
+        QTcpSocket big;
+        big.connectToHost(url.host(), quint16(url.port()));
+        QVERIFY(big.waitForConnected(10000));
+        big.write("POST /rest/v1/clients HTTP/1.1\r\nHost: x\r\nContent-Type: application/json\r\n"
+                  "Content-Length: 1073741824\r\n\r\n");
+        const QByteArray chunk(1024 * 1024, 'x');
+        QByteArray answer;
+        for (int i = 0; i < 64 && big.state() == QAbstractSocket::ConnectedState; ++i) {
+            big.write(chunk);
+            big.waitForBytesWritten(1000);
+            big.waitForReadyRead(50);
+            answer += big.readAll();
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (answer += big.readAll()).contains("PGRST413") || big.state() == QAbstractSocket::UnconnectedState, 15000);
+        answer += big.readAll();
+        QVERIFY2(answer.startsWith("HTTP/1.1 413"), answer.left(200).constData());
+        QVERIFY(answer.contains("\"code\":\"PGRST413\""));
     }
 
     void preflightAllowsBrowsers()
