@@ -43,7 +43,13 @@ int main(int argc, char *argv[])
                                         u"Apply the migrations of this folder instead of those built in."_s, u"dir"_s);
     const QCommandLineOption idle(u"idle-timeout"_s, u"Close connections idle for this many seconds (default 60)."_s,
                                   u"seconds"_s, u"60"_s);
-    parser.addOptions({dataDir, port, listen, databaseUrl, migrations, idle});
+    const QCommandLineOption confirmEmail(
+        u"confirm-email"_s,
+        u"Send confirmation e-mails (to the outbox folder) instead of confirming sign-ups at once."_s);
+    const QCommandLineOption providers(
+        u"auth-providers"_s, u"OpenID Connect providers for sign-in (default: <data-dir>/auth-providers.json)."_s,
+        u"file"_s);
+    parser.addOptions({dataDir, port, listen, databaseUrl, migrations, idle, confirmEmail, providers});
     parser.process(app);
 
     bool portOk = false;
@@ -60,7 +66,7 @@ int main(int argc, char *argv[])
         return 2;
     }
     ServerApp server({parser.value(dataDir), quint16(portNumber), parser.value(listen), parser.value(databaseUrl),
-                      parser.value(migrations), idleSeconds});
+                      parser.value(migrations), idleSeconds, parser.isSet(confirmEmail), parser.value(providers)});
 
     // Signals arrive on any thread; a pipe turns them into an event of the main loop, where the
     // database can be stopped cleanly.

@@ -1,6 +1,8 @@
 #include "serverapp.h"
 
+#include "auth/authservice.h"
 #include "auth/jwt.h"
+#include "functions/functionsservice.h"
 #include "http/httpserver.h"
 #include "pg/migrator.h"
 #include "pg/pgcluster.h"
@@ -8,6 +10,7 @@
 #include "pg/pgpool.h"
 #include "rest/catalog.h"
 #include "rest/restservice.h"
+#include "storage/storageservice.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -141,8 +144,24 @@ bool ServerApp::start()
     HttpServer::Limits limits;
     limits.idleConnection = std::chrono::seconds(m_options.idleSeconds);
     m_http = std::make_unique<HttpServer>(limits);
+    const QHostAddress address(m_options.listenAddress);
+    const quint16 port = m_http->listenGuarded(address, m_options.port);
+    if (port == 0) {
+        say(u"cannot listen on %1:%2 (is another program using the port?)"_s.arg(m_options.listenAddress)
+                .arg(m_options.port));
+        return false;
+    }
+    const QString host =
+        address.protocol() == QAbstractSocket::IPv6Protocol ? u'[' + address.toString() + u']' : address.toString();
+    const QString url = u"http://%1:%2"_s.arg(host == u"0.0.0.0" ? u"127.0.0.1"_s : host).arg(port);
+
     auto rest = std::make_shared<RestService>(*m_pool, secret, catalog);
     m_http->addService(rest);
+    // Objects are never larger than a request may be: the HTTP front refuses those while they arrive.
+    const QString storageRoot = QDir(m_options.dataDir).filePath(u"storage"_s);
+    m_http->addService(
+        std::make_shared<StorageService>(*m_pool, secret, storageRoot, StorageService::Limits{limits.maxBodyBytes}));
+    m_http->addService(std::make_shared<FunctionsService>(*m_pool, secret, storageRoot));
     // As PostgREST does: `NOTIFY pgrst, 'reload schema'` after a change of tables or functions.
     m_schemaListener = std::make_unique<PgListener>(conninfo, "pgrst", [conninfo, rest](const QByteArray &payload) {
         if (!payload.isEmpty() && payload != "reload schema") {
@@ -157,17 +176,20 @@ bool ServerApp::start()
         }
     });
 
-    const QHostAddress address(m_options.listenAddress);
-    const quint16 port = m_http->listenGuarded(address, m_options.port);
-    if (port == 0) {
-        say(u"cannot listen on %1:%2 (is another program using the port?)"_s.arg(m_options.listenAddress)
-                .arg(m_options.port));
-        return false;
+    AuthSettings auth;
+    auth.autoConfirm = !m_options.confirmEmail;
+    auth.outboxDir = QDir(m_options.dataDir).filePath(u"outbox"_s);
+    QString providersError;
+    const QString providersFile = m_options.authProvidersFile.isEmpty()
+                                      ? QDir(m_options.dataDir).filePath(u"auth-providers.json"_s)
+                                      : m_options.authProvidersFile;
+    auth.providers = AuthSettings::readProviders(providersFile, &providersError);
+    if (!providersError.isEmpty()) {
+        say(providersError);
     }
-    const QString host =
-        address.protocol() == QAbstractSocket::IPv6Protocol ? u'[' + address.toString() + u']' : address.toString();
-    const QString url = u"http://%1:%2"_s.arg(host == u"0.0.0.0" ? u"127.0.0.1"_s : host).arg(port);
-
+    // Links in e-mails and the token issuer name the address the server answers on, known only
+    // now that it listens.
+    m_http->addService(std::make_shared<AuthService>(*m_pool, secret, QUrl(url), auth));
     const qint64 now = QDateTime::currentSecsSinceEpoch();
     const QByteArray anonKey = Jwt::sign(
         {{u"iss"_s, u"morvane"_s}, {u"role"_s, u"anon"_s}, {u"iat"_s, now}, {u"exp"_s, now + 10LL * 365 * 24 * 3600}},

@@ -25,6 +25,8 @@ public:
         QString databaseUrl;
         QString migrationsDir; // empty: the migrations built into the program
         int idleSeconds = 60;
+        bool confirmEmail = false; // send confirmation mails instead of confirming at once
+        QString authProvidersFile; // empty: <data-dir>/auth-providers.json
     };
 
     explicit ServerApp(Options options, QObject *parent = nullptr);

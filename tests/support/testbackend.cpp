@@ -56,13 +56,13 @@ QString TestBackend::serverProgram()
     return QStringLiteral(MORVANE_SERVER_PROGRAM);
 }
 
-TestBackend::TestBackend()
+TestBackend::TestBackend(const QStringList &extraArguments)
 {
     // The cluster runs as 'postgres' when the tests run as root; it must reach the folder.
     QFile::setPermissions(m_dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
                                             QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
     m_process.setProcessChannelMode(QProcess::SeparateChannels);
-    m_process.start(serverProgram(), {u"--data-dir"_s, dataDir(), u"--port"_s, u"0"_s});
+    m_process.start(serverProgram(), QStringList{u"--data-dir"_s, dataDir(), u"--port"_s, u"0"_s} + extraArguments);
     QByteArray out;
     const qint64 deadline = QDateTime::currentMSecsSinceEpoch() + 120000;
     while (QDateTime::currentMSecsSinceEpoch() < deadline && m_process.state() != QProcess::NotRunning) {
@@ -142,6 +142,8 @@ HttpResult TestBackend::request(const QByteArray &method, const QByteArray &targ
 {
     static QNetworkAccessManager *manager = new QNetworkAccessManager;
     QNetworkRequest request(QUrl::fromEncoded(m_url.toEncoded() + target));
+    // Redirects are answers to check, not to follow.
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setRawHeader("Content-Type", "application/json");
     request.setRawHeader("apikey", m_anonKey);
     if (!token.isEmpty()) {

@@ -32,7 +32,7 @@ struct HttpResult
 class TestBackend
 {
 public:
-    TestBackend();
+    explicit TestBackend(const QStringList &extraArguments = {});
     ~TestBackend();
 
     [[nodiscard]] bool isReady() const { return m_url.isValid(); }

@@ -1,0 +1,38 @@
+#include "ratelimiter.h"
+
+void RateLimiter::prune(const QString &key, std::chrono::seconds window, const QDateTime &now)
+{
+    auto it = m_events.find(key);
+    if (it == m_events.end()) {
+        return;
+    }
+    const QDateTime start = now.addSecs(-window.count());
+    it->removeIf([&](const QDateTime &at) { return at <= start; });
+    if (it->isEmpty()) {
+        m_events.erase(it);
+    }
+}
+
+int RateLimiter::count(const QString &key, std::chrono::seconds window, const QDateTime &now)
+{
+    QMutexLocker lock(&m_mutex);
+    prune(key, window, now);
+    return int(m_events.value(key).size());
+}
+
+void RateLimiter::record(const QString &key, const QDateTime &now)
+{
+    QMutexLocker lock(&m_mutex);
+    m_events[key].append(now);
+}
+
+qint64 RateLimiter::secondsUntilFree(const QString &key, std::chrono::seconds window, const QDateTime &now)
+{
+    QMutexLocker lock(&m_mutex);
+    prune(key, window, now);
+    const QList<QDateTime> events = m_events.value(key);
+    if (events.isEmpty()) {
+        return 0;
+    }
+    return std::max<qint64>(1, now.secsTo(events.first().addSecs(window.count())));
+}
