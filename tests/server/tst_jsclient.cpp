@@ -1,4 +1,5 @@
 #include "pg/pgconnection.h"
+#include "support/noderunner.h"
 #include "support/testbackend.h"
 
 #include <QDir>
@@ -32,11 +33,6 @@ const QByteArray testing = id("b5");
 const QByteArray strangerTask = id("b9");
 const QByteArray invoice = id("d0");
 const QByteArray invoiceEntry = id("d1");
-
-QString jsFolder()
-{
-    return QStringLiteral(MORVANE_JS_TESTS);
-}
 
 } // namespace
 
@@ -121,40 +117,10 @@ private slots:
 
     void officialClientQueries()
     {
-        const QString node = QStandardPaths::findExecutable(u"node"_s);
-        QVERIFY2(!node.isEmpty(), "node is not on PATH; the JavaScript client tests need Node.js 20 or later");
-        const QDir folder(jsFolder());
-        QVERIFY2(QFileInfo::exists(folder.filePath(u"node_modules/@supabase/postgrest-js/package.json"_s)),
-                 qPrintable(u"the client is not installed: run 'npm ci --no-audit --no-fund' in %1"
-                            u" (./scripts/test does this)"_s.arg(folder.path())));
-
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"MORVANE_URL"_s, m_backend.url().toString(QUrl::StripTrailingSlash));
-        environment.insert(u"MORVANE_ANON_KEY"_s, QString::fromLatin1(m_backend.anonKey()));
-        environment.insert(u"MORVANE_TOKEN"_s, QString::fromLatin1(m_backend.tokenFor(m_anna)));
-        environment.insert(u"MORVANE_FIXTURE"_s, QString::fromUtf8(fixture()));
-        environment.insert(u"NO_COLOR"_s, u"1"_s);
-
-        QProcess process;
-        process.setProcessEnvironment(environment);
-        process.setWorkingDirectory(folder.path());
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(node, {u"--test"_s, u"--test-reporter=spec"_s, folder.filePath(u"postgrest-client.test.js"_s)});
-        QVERIFY2(process.waitForStarted(), qPrintable(process.errorString()));
-        const bool finished = process.waitForFinished(240000);
-        if (!finished) {
-            process.kill();
-            process.waitForFinished();
-        }
-        const QString output = QString::fromUtf8(process.readAll());
-        qInfo().noquote() << output;
-        QVERIFY2(finished, qPrintable(u"node did not finish in time:\n"_s + output));
-        QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
-                 qPrintable(u"node --test failed:\n"_s + output));
-        // A script that loaded but registered nothing also exits 0.
-        const QRegularExpressionMatch passed = QRegularExpression(u"\\bpass (\\d+)"_s).match(output);
-        QVERIFY2(passed.hasMatch() && passed.captured(1).toInt() >= 10,
-                 qPrintable(u"node ran fewer tests than the script holds:\n"_s + output));
+        const QString problem =
+            runNodeTests(m_backend, u"postgrest-client.test.js"_s, u"@supabase/postgrest-js"_s,
+                         m_backend.tokenFor(m_anna), QJsonDocument::fromJson(fixture()).object(), 10);
+        QVERIFY2(problem.isEmpty(), qPrintable(problem));
     }
 };
 
