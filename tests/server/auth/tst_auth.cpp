@@ -147,19 +147,28 @@ private slots:
     {
         QTest::addColumn<QString>("email");
         QTest::addColumn<QString>("password");
+        QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("code");
-        QTest::newRow("short password") << u"ana@example.nl"_s << u"12345"_s << u"weak_password"_s;
+        QTest::newRow("short password") << u"ana@example.nl"_s << u"12345"_s << u"Ana"_s << u"weak_password"_s;
         QTest::newRow("password past what bcrypt reads")
-            << u"ana@example.nl"_s << QString(73, u'p') << u"weak_password"_s;
-        QTest::newRow("no dot in the domain") << u"ana@example"_s << u"123456"_s << u"validation_failed"_s;
-        QTest::newRow("space in the address") << u"a na@example.nl"_s << u"123456"_s << u"validation_failed"_s;
+            << u"ana@example.nl"_s << QString(73, u'p') << u"Ana"_s << u"weak_password"_s;
+        QTest::newRow("no dot in the domain") << u"ana@example"_s << u"123456"_s << u"Ana"_s << u"validation_failed"_s;
+        QTest::newRow("space in the address")
+            << u"a na@example.nl"_s << u"123456"_s << u"Ana"_s << u"validation_failed"_s;
+        QTest::newRow("absurdly long name")
+            << u"ana@example.nl"_s << u"123456"_s << QString(40000, u'n') << u"validation_failed"_s;
     }
 
     void signUpRefusals()
     {
         QFETCH(QString, email);
         QFETCH(QString, password);
-        QTEST(failureCode(m_client->signUp(email, password, u"Ana"_s)), "code");
+        QFETCH(QString, name);
+        QTEST(failureCode(m_client->signUp(email, password, name)), "code");
+        // Nothing of a refused sign-up stays behind.
+        QCOMPARE(
+            m_backend.database().exec("SELECT count(*) FROM auth.users WHERE email = 'ana@example.nl'").value(0, 0),
+            "0");
     }
 
     void refreshTokensRotate()
