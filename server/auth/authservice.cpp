@@ -225,40 +225,26 @@ HttpResponse AuthService::handle(const HttpRequest &request)
 
 AuthService::Answer AuthService::route(const HttpRequest &request)
 {
+    using Handler = Answer (AuthService::*)(const HttpRequest &);
+    struct Route
+    {
+        const char *method;
+        const char16_t *path;
+        Handler handler;
+    };
+    static const Route routes[] = {
+        {"POST", u"/signup", &AuthService::signUp},      {"POST", u"/token", &AuthService::token},
+        {"POST", u"/recover", &AuthService::recover},    {"POST", u"/resend", &AuthService::resend},
+        {"POST", u"/logout", &AuthService::logout},      {"GET", u"/user", &AuthService::user},
+        {"PUT", u"/user", &AuthService::updateUser},     {"GET", u"/verify", &AuthService::verify},
+        {"GET", u"/authorize", &AuthService::authorize}, {"GET", u"/callback", &AuthService::callback},
+        {"GET", u"/settings", &AuthService::settings},
+    };
     const QString path = request.path.mid(prefix().size());
-    const QByteArray &method = request.method;
-    if (method == "POST" && path == u"/signup") {
-        return signUp(request);
-    }
-    if (method == "POST" && path == u"/token") {
-        return token(request);
-    }
-    if (method == "POST" && path == u"/recover") {
-        return recover(request);
-    }
-    if (method == "POST" && path == u"/resend") {
-        return resend(request);
-    }
-    if (method == "POST" && path == u"/logout") {
-        return logout(request);
-    }
-    if (method == "GET" && path == u"/user") {
-        return user(request);
-    }
-    if (method == "PUT" && path == u"/user") {
-        return updateUser(request);
-    }
-    if (method == "GET" && path == u"/verify") {
-        return verify(request);
-    }
-    if (method == "GET" && path == u"/authorize") {
-        return authorize(request);
-    }
-    if (method == "GET" && path == u"/callback") {
-        return callback(request);
-    }
-    if (method == "GET" && path == u"/settings") {
-        return settings();
+    for (const Route &route : routes) {
+        if (request.method == route.method && path == QStringView(route.path)) {
+            return (this->*route.handler)(request);
+        }
     }
     throw Failure(404, u"not_found"_s, u"The requested resource does not exist"_s);
 }
@@ -373,12 +359,7 @@ AuthService::Answer AuthService::signUp(const HttpRequest &request)
     if (QJsonDocument(metadata).toJson(QJsonDocument::Compact).size() > maxMetadataBytes) {
         throw Failure(400, u"validation_failed"_s, u"User metadata is too large"_s);
     }
-    QString landing;
-    for (const auto &[key, value] : request.query) {
-        if (key == u"redirect_to") {
-            landing = value;
-        }
-    }
+    const QString landing = request.queryValue(u"redirect_to"_s);
 
     return inTransaction(m_pool, [&](PgConnection &db) -> Answer {
         const PgResult existing =
@@ -436,12 +417,7 @@ AuthService::Answer AuthService::signUp(const HttpRequest &request)
 
 AuthService::Answer AuthService::token(const HttpRequest &request)
 {
-    QString grant;
-    for (const auto &[key, value] : request.query) {
-        if (key == u"grant_type") {
-            grant = value;
-        }
-    }
+    const QString grant = request.queryValue(u"grant_type"_s);
     const QJsonObject body = readJsonBody(request);
     if (grant == u"password") {
         return passwordGrant(body);
@@ -579,12 +555,7 @@ AuthService::Answer AuthService::recover(const HttpRequest &request)
     if (!isEmail(email)) {
         throw Failure(400, u"validation_failed"_s, u"Unable to validate email address: invalid format"_s);
     }
-    QString landing;
-    for (const auto &[key, value] : request.query) {
-        if (key == u"redirect_to") {
-            landing = value;
-        }
-    }
+    const QString landing = request.queryValue(u"redirect_to"_s);
     // The same answer and the same limit whether or not the address has an account.
     checkEmailAllowance(email);
     inTransaction(m_pool, [&](PgConnection &db) {
@@ -608,12 +579,7 @@ AuthService::Answer AuthService::resend(const HttpRequest &request)
     if (!isEmail(email)) {
         throw Failure(400, u"validation_failed"_s, u"Unable to validate email address: invalid format"_s);
     }
-    QString landing;
-    for (const auto &[key, value] : request.query) {
-        if (key == u"redirect_to") {
-            landing = value;
-        }
-    }
+    const QString landing = request.queryValue(u"redirect_to"_s);
     checkEmailAllowance(email);
     inTransaction(m_pool, [&](PgConnection &db) {
         const PgResult found = db.exec(
@@ -645,12 +611,8 @@ QJsonObject AuthService::requireClaims(const HttpRequest &request) const
 
 AuthService::Answer AuthService::logout(const HttpRequest &request)
 {
-    QString scope = u"global"_s;
-    for (const auto &[key, value] : request.query) {
-        if (key == u"scope") {
-            scope = value;
-        }
-    }
+    // As the service this one answers like, a logout without a scope ends every session.
+    const QString scope = request.queryValue(u"scope"_s).isEmpty() ? u"global"_s : request.queryValue(u"scope"_s);
     if (scope != u"global" && scope != u"local" && scope != u"others") {
         throw Failure(400, u"validation_failed"_s, u"Unsupported logout scope \"%1\""_s.arg(scope));
     }
@@ -730,18 +692,9 @@ AuthService::Answer AuthService::updateUser(const HttpRequest &request)
 
 AuthService::Answer AuthService::verify(const HttpRequest &request)
 {
-    QString token;
-    QString type;
-    QString landing;
-    for (const auto &[key, value] : request.query) {
-        if (key == u"token") {
-            token = value;
-        } else if (key == u"type") {
-            type = value;
-        } else if (key == u"redirect_to") {
-            landing = value;
-        }
-    }
+    const QString token = request.queryValue(u"token"_s);
+    const QString type = request.queryValue(u"type"_s);
+    const QString landing = request.queryValue(u"redirect_to"_s);
     const QString target = safeRedirect(landing);
     if (type != u"signup" && type != u"recovery" && type != u"email") {
         throw Failure(400, u"validation_failed"_s, u"Verify requires a verification type"_s);
@@ -794,21 +747,12 @@ const IdentityProvider *AuthService::provider(const QString &name) const
 
 AuthService::Answer AuthService::authorize(const HttpRequest &request)
 {
-    QString providerName;
-    QString landing;
-    QString challenge;
-    QString method = u"s256"_s;
-    for (const auto &[key, value] : request.query) {
-        if (key == u"provider") {
-            providerName = value;
-        } else if (key == u"redirect_to") {
-            landing = value;
-        } else if (key == u"code_challenge") {
-            challenge = value;
-        } else if (key == u"code_challenge_method") {
-            method = value.toLower();
-        }
-    }
+    const QString providerName = request.queryValue(u"provider"_s);
+    const QString landing = request.queryValue(u"redirect_to"_s);
+    const QString challenge = request.queryValue(u"code_challenge"_s);
+    const QString method = request.queryValue(u"code_challenge_method"_s).isEmpty()
+                               ? u"s256"_s
+                               : request.queryValue(u"code_challenge_method"_s).toLower();
     const IdentityProvider *chosen = provider(providerName);
     if (!chosen) {
         throw Failure(400, u"validation_failed"_s,
@@ -844,18 +788,9 @@ AuthService::Answer AuthService::authorize(const HttpRequest &request)
 
 AuthService::Answer AuthService::callback(const HttpRequest &request)
 {
-    QString code;
-    QString state;
-    QString providerError;
-    for (const auto &[key, value] : request.query) {
-        if (key == u"code") {
-            code = value;
-        } else if (key == u"state") {
-            state = value;
-        } else if (key == u"error") {
-            providerError = value;
-        }
-    }
+    const QString code = request.queryValue(u"code"_s);
+    const QString state = request.queryValue(u"state"_s);
+    const QString providerError = request.queryValue(u"error"_s);
     if (QUuid::fromString(state).isNull()) {
         throw Failure(400, u"bad_oauth_state"_s, u"OAuth state parameter missing or invalid"_s);
     }
@@ -967,7 +902,7 @@ AuthService::Answer AuthService::callback(const HttpRequest &request)
     return answer;
 }
 
-AuthService::Answer AuthService::settings() const
+AuthService::Answer AuthService::settings(const HttpRequest &)
 {
     QJsonObject external{{u"email"_s, true}, {u"phone"_s, false}};
     for (const IdentityProvider &provider : m_settings.providers) {

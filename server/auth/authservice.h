@@ -72,7 +72,7 @@ private:
     Answer verify(const HttpRequest &request);
     Answer authorize(const HttpRequest &request);
     Answer callback(const HttpRequest &request);
-    Answer settings() const;
+    Answer settings(const HttpRequest &request);
 
     QJsonObject issueSession(PgConnection &db, const QString &userId, const QString &method);
     QJsonObject tokenAnswer(PgConnection &db, const QString &userId, const QString &sessionId,

@@ -26,6 +26,17 @@ QList<QByteArray> HttpRequest::headerValues(const QByteArray &lowerCaseName) con
     return values;
 }
 
+QString HttpRequest::queryValue(const QString &key) const
+{
+    QString found;
+    for (const auto &[name, value] : query) {
+        if (name == key) {
+            found = value;
+        }
+    }
+    return found;
+}
+
 QList<std::pair<QString, QString>> HttpRequest::parseQuery(const QByteArray &raw)
 {
     QList<std::pair<QString, QString>> items;

@@ -20,6 +20,8 @@ struct HttpRequest
 
     [[nodiscard]] QByteArray header(const QByteArray &lowerCaseName) const;
     [[nodiscard]] QList<QByteArray> headerValues(const QByteArray &lowerCaseName) const;
+    // The last value of a query item; empty when the item is absent.
+    [[nodiscard]] QString queryValue(const QString &key) const;
 
     // Splits a raw query string into items.
     static QList<std::pair<QString, QString>> parseQuery(const QByteArray &raw);
