@@ -455,12 +455,7 @@ HttpResponse StorageService::sign(const HttpRequest &request, const ObjectPath &
 
 HttpResponse StorageService::serveSigned(const HttpRequest &request, const ObjectPath &path)
 {
-    QByteArray token;
-    for (const auto &[key, value] : request.query) {
-        if (key == u"token") {
-            token = value.toLatin1();
-        }
-    }
+    const QByteArray token = request.queryValue(u"token"_s).toLatin1();
     if (token.isEmpty()) {
         throw StorageError::invalidRequest(u"querystring must have required property 'token'"_s);
     }
