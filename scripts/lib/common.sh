@@ -17,6 +17,7 @@ MORVANE_PACKAGES=(
     qt6-l10n-tools
     qt6-tools-dev-tools
     qcoro-qt6-dev
+    qtkeychain-qt6-dev
     qt6-translations-l10n
     qt6-httpserver-dev
     qt6-websockets-dev

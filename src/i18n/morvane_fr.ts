@@ -3,6 +3,50 @@
 <TS version="2.1" language="fr_FR">
   <context>
     <name>Morvane</name>
+    <message id="auth.err.emailExists">
+      <source>An account with this e-mail address exists already. Sign in instead.</source>
+      <translation>Un compte existe déjà avec cette adresse e-mail. Connectez-vous plutôt.</translation>
+    </message>
+    <message id="auth.err.invalidEmail">
+      <source>Enter a valid e-mail address.</source>
+      <translation>Saisissez une adresse e-mail valide.</translation>
+    </message>
+    <message id="auth.err.network">
+      <source>Morvane cannot reach the server. Check your connection and try again.</source>
+      <translation>Morvane ne parvient pas à joindre le serveur. Vérifiez votre connexion et réessayez.</translation>
+    </message>
+    <message id="auth.err.oauthBadUrl">
+      <source>The sign-in address is not valid.</source>
+      <translation>L’adresse de connexion n’est pas valide.</translation>
+    </message>
+    <message id="auth.err.oauthCancelled">
+      <source>The sign-in was cancelled.</source>
+      <translation>La connexion a été annulée.</translation>
+    </message>
+    <message id="auth.err.oauthCannotStart">
+      <source>Could not start the sign-in.</source>
+      <translation>Impossible de lancer la connexion.</translation>
+    </message>
+    <message id="auth.err.oauthNoCode">
+      <source>The sign-in came back without a code.</source>
+      <translation>La connexion est revenue sans code.</translation>
+    </message>
+    <message id="auth.err.rateLimit">
+      <source>Too many attempts. Wait a few minutes, then try again.</source>
+      <translation>Trop de tentatives. Attendez quelques minutes, puis réessayez.</translation>
+    </message>
+    <message id="auth.err.server">
+      <source>The server ran into a problem. Try again in a moment.</source>
+      <translation>Le serveur a rencontré un problème. Réessayez dans un instant.</translation>
+    </message>
+    <message id="auth.err.switchExpired">
+      <source>Couldn't switch to %1. That account's session expired - sign in to it again.</source>
+      <translation>Impossible de passer à %1. La session de ce compte a expiré - reconnectez-vous-y.</translation>
+    </message>
+    <message id="auth.oauthDone">
+      <source>You are signed in to Morvane. You can close this window.</source>
+      <translation>Vous êtes connecté à Morvane. Vous pouvez fermer cette fenêtre.</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>La commande à exécuter ; sans commande, la liste des commandes s’affiche.</translation>
@@ -59,6 +103,18 @@
       <source>application settings</source>
       <translation>réglages de l’application</translation>
     </message>
+    <message id="errEmailNotConfirmed">
+      <source>Confirm your e-mail address first: follow the link in the mail we sent you.</source>
+      <translation>Confirmez d’abord votre adresse e-mail : suivez le lien du message que nous vous avons envoyé.</translation>
+    </message>
+    <message id="errEmailRateLimit">
+      <source>Too many e-mails went to this address. Wait a minute, then try again.</source>
+      <translation>Trop d’e-mails ont été envoyés à cette adresse. Attendez une minute, puis réessayez.</translation>
+    </message>
+    <message id="errInvalidCredentials">
+      <source>The e-mail address or the password is not right.</source>
+      <translation>L’adresse e-mail ou le mot de passe est incorrect.</translation>
+    </message>
     <message id="net.err.connection">
       <source>Could not reach the server: %1</source>
       <translation>Impossible de joindre le serveur : %1</translation>
@@ -70,6 +126,10 @@
     <message id="net.err.timeout">
       <source>The request timed out.</source>
       <translation>Le délai de la requête a expiré.</translation>
+    </message>
+    <message id="somethingWentWrong">
+      <source>Something went wrong. Try again.</source>
+      <translation>Un problème est survenu. Réessayez.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>

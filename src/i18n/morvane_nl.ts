@@ -3,6 +3,50 @@
 <TS version="2.1" language="nl_NL">
   <context>
     <name>Morvane</name>
+    <message id="auth.err.emailExists">
+      <source>An account with this e-mail address exists already. Sign in instead.</source>
+      <translation>Er bestaat al een account met dit e-mailadres. Log in plaats daarvan in.</translation>
+    </message>
+    <message id="auth.err.invalidEmail">
+      <source>Enter a valid e-mail address.</source>
+      <translation>Vul een geldig e-mailadres in.</translation>
+    </message>
+    <message id="auth.err.network">
+      <source>Morvane cannot reach the server. Check your connection and try again.</source>
+      <translation>Morvane kan de server niet bereiken. Controleer je verbinding en probeer het opnieuw.</translation>
+    </message>
+    <message id="auth.err.oauthBadUrl">
+      <source>The sign-in address is not valid.</source>
+      <translation>Het inlogadres is ongeldig.</translation>
+    </message>
+    <message id="auth.err.oauthCancelled">
+      <source>The sign-in was cancelled.</source>
+      <translation>Het inloggen is geannuleerd.</translation>
+    </message>
+    <message id="auth.err.oauthCannotStart">
+      <source>Could not start the sign-in.</source>
+      <translation>Het inloggen kon niet worden gestart.</translation>
+    </message>
+    <message id="auth.err.oauthNoCode">
+      <source>The sign-in came back without a code.</source>
+      <translation>Het inloggen kwam terug zonder code.</translation>
+    </message>
+    <message id="auth.err.rateLimit">
+      <source>Too many attempts. Wait a few minutes, then try again.</source>
+      <translation>Te veel pogingen. Wacht een paar minuten en probeer het opnieuw.</translation>
+    </message>
+    <message id="auth.err.server">
+      <source>The server ran into a problem. Try again in a moment.</source>
+      <translation>De server liep tegen een probleem aan. Probeer het zo opnieuw.</translation>
+    </message>
+    <message id="auth.err.switchExpired">
+      <source>Couldn't switch to %1. That account's session expired - sign in to it again.</source>
+      <translation>Overschakelen naar %1 lukte niet. De sessie van dat account is verlopen - log er opnieuw op in.</translation>
+    </message>
+    <message id="auth.oauthDone">
+      <source>You are signed in to Morvane. You can close this window.</source>
+      <translation>Je bent ingelogd bij Morvane. Je kunt dit venster sluiten.</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>De uit te voeren opdracht; zonder opdracht verschijnt de lijst met opdrachten.</translation>
@@ -59,6 +103,18 @@
       <source>application settings</source>
       <translation>programma-instellingen</translation>
     </message>
+    <message id="errEmailNotConfirmed">
+      <source>Confirm your e-mail address first: follow the link in the mail we sent you.</source>
+      <translation>Bevestig eerst je e-mailadres: volg de link in de mail die we je stuurden.</translation>
+    </message>
+    <message id="errEmailRateLimit">
+      <source>Too many e-mails went to this address. Wait a minute, then try again.</source>
+      <translation>Er zijn te veel e-mails naar dit adres gegaan. Wacht een minuut en probeer het opnieuw.</translation>
+    </message>
+    <message id="errInvalidCredentials">
+      <source>The e-mail address or the password is not right.</source>
+      <translation>Het e-mailadres of het wachtwoord klopt niet.</translation>
+    </message>
     <message id="net.err.connection">
       <source>Could not reach the server: %1</source>
       <translation>Kan de server niet bereiken: %1</translation>
@@ -70,6 +126,10 @@
     <message id="net.err.timeout">
       <source>The request timed out.</source>
       <translation>Er is een time-out opgetreden voor het verzoek.</translation>
+    </message>
+    <message id="somethingWentWrong">
+      <source>Something went wrong. Try again.</source>
+      <translation>Er ging iets mis. Probeer het opnieuw.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>

@@ -1,0 +1,358 @@
+#include "backend/authstore.h"
+#include "backend/runblocking.h"
+#include "i18n/language.h"
+#include "pg/pgconnection.h"
+#include "support/scriptedhttpserver.h"
+#include "support/testbackend.h"
+
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QTest>
+#include <QTimer>
+#include <QUrlQuery>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A clock the test moves by hand.
+struct TestClock
+{
+    QDateTime now = QDateTime::currentDateTimeUtc();
+    Clock clock()
+    {
+        return [this] { return now; };
+    }
+};
+
+QByteArray get(const QUrl &url, QByteArray *location = nullptr)
+{
+    QNetworkAccessManager network;
+    QNetworkRequest request(url);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    QNetworkReply *reply = network.get(request);
+    QEventLoop loop;
+    QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
+    QTimer::singleShot(15000, &loop, &QEventLoop::quit);
+    loop.exec();
+    if (location) {
+        *location = reply->rawHeader("Location");
+    }
+    const QByteArray body = reply->readAll();
+    delete reply;
+    return body;
+}
+
+} // namespace
+
+class TestAuthStore : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestBackend m_backend;
+    QTemporaryDir m_dir;
+    int m_stores = 0;
+
+    struct Device
+    {
+        std::shared_ptr<SecretStore> secrets;
+        std::shared_ptr<QSettings> settings;
+        TestClock time;
+        std::unique_ptr<AuthStore> auth;
+    };
+
+    // One installation of the application: its secrets file and settings, and a store on them.
+    std::unique_ptr<Device> device(const QUrl &backend = {})
+    {
+        auto made = std::make_unique<Device>();
+        const QString name = QString::number(m_stores++);
+        made->secrets = SecretStore::file(m_dir.filePath(name + u"-secrets.json"_s));
+        made->settings = std::make_shared<QSettings>(m_dir.filePath(name + u".conf"_s), QSettings::IniFormat);
+        made->auth = std::make_unique<AuthStore>(
+            Supabase(backend.isEmpty() ? m_backend.url() : backend, QString::fromLatin1(m_backend.anonKey())),
+            made->secrets, made->settings, made->time.clock());
+        return made;
+    }
+
+    // The same installation started again: a new store on the same secrets and settings.
+    std::unique_ptr<AuthStore> restart(Device &device, const QUrl &backend = {})
+    {
+        auto store = std::make_unique<AuthStore>(
+            Supabase(backend.isEmpty() ? m_backend.url() : backend, QString::fromLatin1(m_backend.anonKey())),
+            device.secrets, device.settings, device.time.clock());
+        runBlocking(store->restore());
+        return store;
+    }
+
+    int refreshTokenRows(const QString &userId)
+    {
+        return m_backend.database()
+            .exec("SELECT count(*) FROM auth.refresh_tokens WHERE user_id = $1", {userId.toUtf8()})
+            .value(0, 0)
+            .toInt();
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
+        Language::apply(u"en"_s);
+    }
+
+    void signUpThenRestart()
+    {
+        auto phone = device();
+        QSignalSpy sessions(phone->auth.get(), &AuthStore::sessionChanged);
+        QCOMPARE(runBlocking(phone->auth->registerAccount(u"Dana@Example.nl"_s, u"dana's secret"_s, u"Dana"_s)),
+                 AuthStore::RegisterResult::SignedIn);
+        QVERIFY(phone->auth->isSignedIn());
+        QCOMPARE(phone->auth->email(), u"dana@example.nl"_s);
+        QCOMPARE(sessions.count(), 1);
+        const QString user = phone->auth->userId();
+        QVERIFY(!user.isEmpty());
+
+        const auto again = restart(*phone);
+        QVERIFY(again->isSignedIn());
+        QCOMPARE(again->userId(), user);
+        QCOMPARE(again->email(), u"dana@example.nl"_s);
+        const std::optional<QString> token = runBlocking(again->validToken(30));
+        QVERIFY(token.has_value());
+        QCOMPARE(m_backend.request("GET", "/auth/v1/user", token->toLatin1()).status, 200);
+        QCOMPARE(again->accounts().size(), 1);
+
+        // A second sign-up of the address says so.
+        auto laptop = device();
+        QCOMPARE(runBlocking(laptop->auth->registerAccount(u"dana@example.nl"_s, u"whatever1"_s, {})),
+                 AuthStore::RegisterResult::EmailExists);
+        QCOMPARE(laptop->auth->lastError(), u"An account with this e-mail address exists already. Sign in instead."_s);
+    }
+
+    void signInRefusals_data()
+    {
+        QTest::addColumn<QString>("email");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("wrong password") << u"dana@example.nl"_s << u"not hers"_s
+                                        << u"The e-mail address or the password is not right."_s;
+        QTest::newRow("no dot after the at sign") << u"dana@example"_s << u"x"_s << u"Enter a valid e-mail address."_s;
+        QTest::newRow("space in the address") << u"dana @example.nl"_s << u"x"_s << u"Enter a valid e-mail address."_s;
+    }
+
+    void signInRefusals()
+    {
+        QFETCH(QString, email);
+        QFETCH(QString, password);
+        auto laptop = device();
+        QVERIFY(!runBlocking(laptop->auth->signIn(email, password)));
+        QTEST(laptop->auth->lastError(), "message");
+        QVERIFY(!laptop->auth->isSignedIn());
+    }
+
+    void tokensAreRefreshedAheadOfExpiry()
+    {
+        auto phone = device();
+        QVERIFY(runBlocking(phone->auth->signIn(u"dana@example.nl"_s, u"dana's secret"_s)));
+        const QString first = *runBlocking(phone->auth->validToken(30));
+        // Still valid for long: the same token.
+        phone->time.now = phone->time.now.addSecs(1000);
+        QCOMPARE(*runBlocking(phone->auth->validToken(30)), first);
+        const int rows = refreshTokenRows(phone->auth->userId());
+
+        // Twenty seconds left, thirty asked for: two callers at once make one refresh.
+        phone->time.now = phone->time.now.addSecs(2580);
+        QCoro::Task<std::optional<QString>> one = phone->auth->validToken(30);
+        QCoro::Task<std::optional<QString>> two = phone->auth->validToken(30);
+        const std::optional<QString> a = runBlocking(std::move(one));
+        const std::optional<QString> b = runBlocking(std::move(two));
+        QVERIFY(a.has_value());
+        QCOMPARE(a, b);
+        QVERIFY(*a != first);
+        QCOMPARE(refreshTokenRows(phone->auth->userId()), rows + 1);
+
+        // The rotated refresh token replaced the remembered one.
+        const auto restarted = restart(*phone);
+        QCOMPARE(restarted->accounts().first().refreshToken,
+                 QString::fromUtf8(m_backend.database()
+                                       .exec("SELECT token FROM auth.refresh_tokens WHERE user_id = $1 AND NOT revoked"
+                                             " ORDER BY id DESC LIMIT 1",
+                                             {phone->auth->userId().toUtf8()})
+                                       .value(0, 0)));
+    }
+
+    void aRejectedRefreshEndsTheSessionButNoAnswerDoesNot()
+    {
+        auto phone = device();
+        QVERIFY(runBlocking(phone->auth->registerAccount(u"eve@example.nl"_s, u"eve's secret"_s, {})) ==
+                AuthStore::RegisterResult::SignedIn);
+
+        // The server cannot be reached: the session stays for later.
+        QUrl dead;
+        {
+            ScriptedHttpServer gone([](const RecordedRequest &) { return ScriptedHttpServer::json(200, "{}"); });
+            dead = gone.url();
+        }
+        const auto offline = restart(*phone, dead);
+        phone->time.now = phone->time.now.addSecs(4000);
+        QCOMPARE(runBlocking(offline->validToken(30)), std::nullopt);
+        QVERIFY(offline->isSignedIn());
+
+        // The server revoked the session: refreshing signs out here too.
+        m_backend.database().exec("DELETE FROM auth.sessions WHERE user_id = $1", {phone->auth->userId().toUtf8()});
+        const auto online = restart(*phone);
+        QSignalSpy ended(online.get(), &AuthStore::sessionChanged);
+        QCOMPARE(runBlocking(online->validToken(30)), std::nullopt);
+        QVERIFY(!online->isSignedIn());
+        QCOMPARE(ended.count(), 1);
+        QVERIFY(!restart(*phone)->isSignedIn());
+    }
+
+    void unauthorizedCallersShareTheNewToken()
+    {
+        auto phone = device();
+        QVERIFY(runBlocking(phone->auth->signIn(u"dana@example.nl"_s, u"dana's secret"_s)));
+        const QString old = *runBlocking(phone->auth->validToken(30));
+        const std::optional<QString> fresh = runBlocking(phone->auth->tokenAfterUnauthorized(old));
+        QVERIFY(fresh && *fresh != old);
+        const int rows = refreshTokenRows(phone->auth->userId());
+        // A caller still holding the old token gets the new one without another refresh.
+        QCOMPARE(runBlocking(phone->auth->tokenAfterUnauthorized(old)), fresh);
+        QCOMPARE(refreshTokenRows(phone->auth->userId()), rows);
+    }
+
+    void accountsSwitchAndExpire()
+    {
+        auto laptop = device();
+        QVERIFY(runBlocking(laptop->auth->registerAccount(u"work@example.nl"_s, u"work secret"_s, {})) ==
+                AuthStore::RegisterResult::SignedIn);
+        const QString work = laptop->auth->userId();
+        QVERIFY(runBlocking(laptop->auth->signIn(u"dana@example.nl"_s, u"dana's secret"_s)));
+        QCOMPARE(laptop->auth->accounts().size(), 2);
+
+        QVERIFY(runBlocking(laptop->auth->switchAccount(work)));
+        QCOMPARE(laptop->auth->email(), u"work@example.nl"_s);
+        QCOMPARE(laptop->auth->userId(), work);
+        QVERIFY(runBlocking(laptop->auth->validToken(30)).has_value());
+
+        const QString dana = laptop->auth->accounts().at(1).id;
+        m_backend.database().exec("DELETE FROM auth.sessions WHERE user_id = $1", {dana.toUtf8()});
+        QVERIFY(!runBlocking(laptop->auth->switchAccount(dana)));
+        QCOMPARE(laptop->auth->lastError(),
+                 u"Couldn't switch to dana@example.nl. That account's session expired - sign in to it again."_s);
+        QCOMPARE(laptop->auth->accounts().size(), 2);
+        QVERIFY(!laptop->auth->isSignedIn());
+    }
+
+    void signOutEndsTheServerSession()
+    {
+        auto phone = device();
+        QVERIFY(runBlocking(phone->auth->signIn(u"work@example.nl"_s, u"work secret"_s)));
+        const QString token = *runBlocking(phone->auth->validToken(30));
+        runBlocking(phone->auth->signOut());
+        QVERIFY(!phone->auth->isSignedIn());
+        QCOMPARE(m_backend.request("GET", "/auth/v1/user", token.toLatin1()).status, 403);
+        QVERIFY(!restart(*phone)->isSignedIn());
+        QCOMPARE(runBlocking(phone->auth->validToken(30)), std::nullopt);
+    }
+
+    void deletionRemovesTheAccount()
+    {
+        auto phone = device();
+        QVERIFY(runBlocking(phone->auth->registerAccount(u"leaving@example.nl"_s, u"goodbye!"_s, {})) ==
+                AuthStore::RegisterResult::SignedIn);
+        const QString user = phone->auth->userId();
+        QVERIFY(runBlocking(phone->auth->deleteAccount()));
+        QVERIFY(!phone->auth->isSignedIn());
+        QVERIFY(phone->auth->accounts().isEmpty());
+        QCOMPARE(
+            m_backend.database().exec("SELECT count(*) FROM auth.users WHERE id = $1", {user.toUtf8()}).value(0, 0),
+            "0");
+        QVERIFY(!runBlocking(device()->auth->signIn(u"leaving@example.nl"_s, u"goodbye!"_s)));
+    }
+
+    void errorsAreClassified_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("body");
+        QTest::addColumn<int>("kind");
+        QTest::newRow("code invalid_credentials")
+            << 400 << u"{\"code\":\"invalid_credentials\"}"_s << int(AuthErrorKind::InvalidCredentials);
+        QTest::newRow("older text only") << 400 << u"{\"error_description\":\"Invalid login credentials\"}"_s
+                                         << int(AuthErrorKind::InvalidCredentials);
+        QTest::newRow("not confirmed") << 400 << u"{\"code\":400,\"error_code\":\"email_not_confirmed\"}"_s
+                                       << int(AuthErrorKind::EmailNotConfirmed);
+        QTest::newRow("mail limit by text") << 429 << u"{\"msg\":\"you can only request this after 42 seconds\"}"_s
+                                            << int(AuthErrorKind::EmailRateLimit);
+        QTest::newRow("request limit") << 429 << u"{\"code\":\"over_request_rate_limit\"}"_s
+                                       << int(AuthErrorKind::RateLimit);
+        QTest::newRow("too many requests text") << 429 << u"Too Many Requests"_s << int(AuthErrorKind::RateLimit);
+        QTest::newRow("server failure") << 502 << u"<html>bad gateway</html>"_s << int(AuthErrorKind::Server);
+        QTest::newRow("anything else") << 422 << u"{\"code\":\"weak_password\"}"_s << int(AuthErrorKind::Unknown);
+    }
+
+    void errorsAreClassified()
+    {
+        QFETCH(int, status);
+        QFETCH(QString, body);
+        QTEST(int(AuthStore::classify(SupabaseError::httpStatus(status, body))), "kind");
+        QCOMPARE(AuthStore::classify(TransportError(TransportError::Kind::TimedOut)), AuthErrorKind::Network);
+    }
+
+    void signInThroughAnOutsideProvider()
+    {
+        ScriptedHttpServer provider([](const RecordedRequest &request) {
+            if (request.path() == "/authorize") {
+                const QString back =
+                    request.queryValue(u"redirect_uri"_s) + u"?code=c&state="_s + request.queryValue(u"state"_s);
+                return ScriptedResponse{302, {}, {{"Location", back.toUtf8()}}, false};
+            }
+            if (request.path() == "/token") {
+                return ScriptedHttpServer::json(200, "{\"access_token\":\"t\",\"token_type\":\"Bearer\"}");
+            }
+            return ScriptedHttpServer::json(200, "{\"sub\":\"p-7\",\"email\":\"pia@example.nl\",\"name\":\"Pia\"}");
+        });
+        QTemporaryFile config;
+        QVERIFY(config.open());
+        const QString base = provider.url().toString();
+        QJsonObject idp{{u"client_id"_s, u"morvane"_s}, {u"client_secret"_s, u"s"_s}};
+        idp.insert(u"authorization_endpoint"_s, QString(base + u"/authorize"_s));
+        idp.insert(u"token_endpoint"_s, QString(base + u"/token"_s));
+        idp.insert(u"userinfo_endpoint"_s, QString(base + u"/userinfo"_s));
+        config.write(QJsonDocument(QJsonObject{{u"idp"_s, idp}}).toJson());
+        config.flush();
+        TestBackend backend({u"--auth-providers"_s, config.fileName()});
+        QVERIFY(backend.isReady());
+        auto secrets = SecretStore::file(m_dir.filePath(u"oauth-secrets.json"_s));
+        auto settings = std::make_shared<QSettings>(m_dir.filePath(u"oauth.conf"_s), QSettings::IniFormat);
+        AuthStore auth(Supabase(backend.url(), QString::fromLatin1(backend.anonKey())), secrets, settings);
+
+        // The "browser": the server sends it to the provider, the provider back to the server,
+        // the server on to the application's loopback address.
+        auto browser = [](const QUrl &address) {
+            QTimer::singleShot(0, [address] {
+                QByteArray location;
+                get(address, &location);
+                get(QUrl::fromEncoded(location), &location);
+                get(QUrl::fromEncoded(location), &location);
+                get(QUrl::fromEncoded(location));
+            });
+            return true;
+        };
+        QVERIFY2(runBlocking(auth.signInWithOAuth(u"idp"_s, browser)), qPrintable(auth.lastError()));
+        QVERIFY(auth.isSignedIn());
+        QCOMPARE(auth.email(), u"pia@example.nl"_s);
+        QVERIFY(runBlocking(auth.validToken(30)).has_value());
+
+        QVERIFY(!runBlocking(auth.signInWithOAuth(u"idp"_s, [](const QUrl &) { return false; })));
+        QCOMPARE(auth.lastError(), u"Could not start the sign-in."_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAuthStore)
+#include "tst_authstore.moc"
