@@ -110,7 +110,9 @@ QString SqlBuilder::logicSql(const CatalogRelation &relation, const QString &ali
         for (const LogicTree &child : tree.children) {
             parts.append(u'(' + logicSql(relation, alias, child) + u')');
         }
-        sql = parts.join(tree.kind == LogicTree::Kind::Or ? u" OR " : u" AND ");
+        // Bracketed as a whole: the tree is ANDed with the other filters, and AND binds tighter
+        // than OR, so a bare "a OR b" would let b match rows the other filters exclude.
+        sql = u'(' + parts.join(tree.kind == LogicTree::Kind::Or ? u" OR " : u" AND ") + u')';
     }
     return tree.negate ? u"NOT (" + sql + u')' : sql;
 }

@@ -1,6 +1,10 @@
 #include "commandline.h"
 
+#include "app/authcommands.h"
+#include "app/servercommand.h"
+#include "app/startup.h"
 #include "backend/config.h"
+#include "backend/runblocking.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -19,6 +23,9 @@ struct Command
     QString name;
     std::function<QString()> summary;
     std::function<int(const QStringList &arguments, QTextStream &out, QTextStream &err)> run;
+    // With no backend configured, the local one is started for such a command first. Commands
+    // that only look at settings or manage the local server themselves say so.
+    bool needsBackend = true;
 };
 
 QString sourceKey(Config::Source source)
@@ -79,7 +86,14 @@ QList<Command> commands()
 {
     return {
         //% "Show which backend Morvane uses and where each setting comes from"
-        {u"config"_s, [] { return qtTrId("cli.command.config"); }, showConfig},
+        {u"auth"_s, [] { return qtTrId("cli.command.auth"); },
+         [](const QStringList &arguments, QTextStream &out, QTextStream &err) {
+             QTextStream in(stdin);
+             return runAuthCommand(arguments, out, err, in);
+         }},
+        {u"config"_s, [] { return qtTrId("cli.command.config"); }, showConfig, false},
+        //% "Start, stop or show the local backend: server start|stop|status"
+        {u"server"_s, [] { return qtTrId("cli.command.server"); }, runServerCommand, false},
     };
 }
 
@@ -133,6 +147,14 @@ int runCommandLine(const QStringList &arguments, QTextStream &out, QTextStream &
     const QString name = positional.first();
     for (const Command &command : commands()) {
         if (command.name == name) {
+            if (command.needsBackend) {
+                try {
+                    runBlocking(Startup::ensureBackend());
+                } catch (const LocalServerError &error) {
+                    err << error.message() << Qt::endl;
+                    return 1;
+                }
+            }
             return command.run(QStringList{arguments.first() + u' ' + name} + positional.mid(1), out, err);
         }
     }

@@ -2,11 +2,15 @@
 #include "i18n/language.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 #include <QTextStream>
 
 int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
+    // The command line speaks in its messages; the library's notes stay out of the way unless
+    // QT_LOGGING_RULES asks for them.
+    QLoggingCategory::setFilterRules(QStringLiteral("morvane.*.debug=false\nmorvane.*.info=false"));
     QCoreApplication::setOrganizationName(QStringLiteral("morvane"));
     QCoreApplication::setApplicationName(QStringLiteral("morvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));

@@ -250,7 +250,7 @@ QString AuthStore::message(AuthErrorKind kind)
     return qtTrId("somethingWentWrong");
 }
 
-QCoro::Task<> AuthStore::applyTokens(QString access, QString refresh, qint64 expiresIn)
+QCoro::Task<> AuthStore::applyTokens(QString access, QString refresh, qint64 expiresIn, bool rotated)
 {
     const QString previous = d->refreshToken;
     d->accessToken = access;
@@ -261,7 +261,9 @@ QCoro::Task<> AuthStore::applyTokens(QString access, QString refresh, qint64 exp
     co_await d->secrets->write(refreshItem, refresh);
     co_await d->secrets->write(expiresItem, d->accessExpiresAt.toString(Qt::ISODateWithMs));
     co_await d->secrets->write(userItem, user);
-    rememberRotatedToken(previous, refresh);
+    if (rotated) {
+        rememberRotatedToken(previous, refresh);
+    }
 }
 
 QCoro::Task<> AuthStore::clearSessionLocally()
@@ -507,7 +509,7 @@ QCoro::Task<std::optional<QString>> AuthStore::refreshNow()
         qCInfo(lcAuthStore) << "Refresh failed:" << error.what();
     }
     if (fresh) {
-        co_await applyTokens(fresh->accessToken, fresh->refreshToken, fresh->expiresIn);
+        co_await applyTokens(fresh->accessToken, fresh->refreshToken, fresh->expiresIn, true);
         flight->token = fresh->accessToken;
     } else if (dead) {
         co_await clearSessionLocally();
@@ -548,7 +550,7 @@ QCoro::Task<bool> AuthStore::switchAccount(QString userId)
     try {
         const RefreshResponse fresh = co_await m_client.refresh(chosen.refreshToken);
         d->refreshToken = chosen.refreshToken;
-        co_await applyTokens(fresh.accessToken, fresh.refreshToken, fresh.expiresIn);
+        co_await applyTokens(fresh.accessToken, fresh.refreshToken, fresh.expiresIn, true);
         setUserId(chosen.id);
         setEmail(chosen.email);
         setLastError({});

@@ -127,7 +127,8 @@ private:
     void setUnconfirmedEmail(const QString &value);
     void setWorking(bool value);
     void setAccounts(const QList<RememberedAccount> &accounts);
-    QCoro::Task<> applyTokens(QString access, QString refresh, qint64 expiresIn);
+    // `rotated`: the tokens replace the current session's after a refresh (not a new sign-in).
+    QCoro::Task<> applyTokens(QString access, QString refresh, qint64 expiresIn, bool rotated = false);
     QCoro::Task<> clearSessionLocally();
     void rememberCurrentAccount();
     void rememberRotatedToken(const QString &oldToken, const QString &newToken);

@@ -51,9 +51,49 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Der auszuführende Befehl; ohne Befehl wird die Befehlsliste angezeigt.</translation>
     </message>
+    <message id="cli.auth.confirm">
+      <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
+      <translation>Sieh in dein Postfach: Bestätige %1 mit dem Link in der Mail und melde dich dann an.</translation>
+    </message>
+    <message id="cli.auth.noAccounts">
+      <source>No remembered accounts.</source>
+      <translation>Keine gemerkten Konten.</translation>
+    </message>
+    <message id="cli.auth.option.name">
+      <source>The name shown on your profile and to your team.</source>
+      <translation>Der Name in deinem Profil und für dein Team.</translation>
+    </message>
+    <message id="cli.auth.password">
+      <source>Password: </source>
+      <translation>Passwort: </translation>
+    </message>
+    <message id="cli.auth.signedIn">
+      <source>Signed in as %1.</source>
+      <translation>Angemeldet als %1.</translation>
+    </message>
+    <message id="cli.auth.signedOut">
+      <source>Signed out.</source>
+      <translation>Abgemeldet.</translation>
+    </message>
+    <message id="cli.auth.unknownAccount">
+      <source>No remembered account %1. Sign in to it first.</source>
+      <translation>Kein gemerktes Konto %1. Melde dich zuerst dort an.</translation>
+    </message>
+    <message id="cli.auth.usage">
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>Aufruf: morvane auth signup|signin &lt;E-Mail&gt; | signout | status | switch &lt;E-Mail&gt; | accounts [--json]</translation>
+    </message>
+    <message id="cli.command.auth">
+      <source>Sign up, sign in and out, switch between accounts</source>
+      <translation>Registrieren, an- und abmelden, zwischen Konten wechseln</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Zeigt, welches Backend Morvane nutzt und woher jede Einstellung stammt</translation>
+    </message>
+    <message id="cli.command.server">
+      <source>Start, stop or show the local backend: server start|stop|status</source>
+      <translation>Das lokale Backend starten, beenden oder anzeigen: server start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -87,9 +127,53 @@
       <source>Show this help.</source>
       <translation>Diese Hilfe anzeigen.</translation>
     </message>
+    <message id="cli.option.json">
+      <source>Print the answer as JSON.</source>
+      <translation>Die Antwort als JSON ausgeben.</translation>
+    </message>
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Die Version anzeigen.</translation>
+    </message>
+    <message id="cli.server.action">
+      <source>start, stop or status</source>
+      <translation>start, stop oder status</translation>
+    </message>
+    <message id="cli.server.dataDir">
+      <source>Data folder: %1</source>
+      <translation>Datenordner: %1</translation>
+    </message>
+    <message id="cli.server.notInUse">
+      <source>Morvane uses %1 (%2), not the local backend.</source>
+      <translation>Morvane verwendet %1 (%2), nicht das lokale Backend.</translation>
+    </message>
+    <message id="cli.server.running">
+      <source>The local backend is running at %1 (process %2).</source>
+      <translation>Das lokale Backend läuft unter %1 (Prozess %2).</translation>
+    </message>
+    <message id="cli.server.started">
+      <source>Started the local backend at %1 (process %2).</source>
+      <translation>Das lokale Backend wurde unter %1 gestartet (Prozess %2).</translation>
+    </message>
+    <message id="cli.server.starting">
+      <source>The local backend (process %1) is starting and does not answer yet.</source>
+      <translation>Das lokale Backend (Prozess %1) startet und antwortet noch nicht.</translation>
+    </message>
+    <message id="cli.server.stopped">
+      <source>The local backend is not running.</source>
+      <translation>Das lokale Backend läuft nicht.</translation>
+    </message>
+    <message id="cli.server.stoppedNow">
+      <source>Stopped the local backend (process %1).</source>
+      <translation>Das lokale Backend wurde beendet (Prozess %1).</translation>
+    </message>
+    <message id="cli.server.usage">
+      <source>Usage: morvane server start|stop|status [--json]</source>
+      <translation>Aufruf: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="client.err.notLoaded">
+      <source>Your clients could not be loaded.</source>
+      <translation>Deine Kunden konnten nicht geladen werden.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>
@@ -115,6 +199,58 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>Die E-Mail-Adresse oder das Passwort stimmt nicht.</translation>
     </message>
+    <message id="inviteAlreadyMember">
+      <source>%1 is already in this team.</source>
+      <translation>%1 ist bereits in diesem Team.</translation>
+    </message>
+    <message id="inviteFailed">
+      <source>Could not send the invite. Try again.</source>
+      <translation>Die Einladung konnte nicht gesendet werden. Versuche es erneut.</translation>
+    </message>
+    <message id="inviteNoAccount">
+      <source>No Morvane account uses that email yet. Ask them to sign up first.</source>
+      <translation>Bisher verwendet kein Morvane-Konto diese E-Mail-Adresse. Bitte die Person, sich zuerst zu registrieren.</translation>
+    </message>
+    <message id="inviteNotAllowed">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Nur der Besitzer und die Bearbeiter des Teams können Personen einladen.</translation>
+    </message>
+    <message id="inviteSent">
+      <source>%1 is invited to this team.</source>
+      <translation>%1 ist zu diesem Team eingeladen.</translation>
+    </message>
+    <message id="inviteTeamFull">
+      <source>This team is full: it already has 10 members, the maximum.</source>
+      <translation>Dieses Team ist voll: Es hat bereits 10 Mitglieder, das Maximum.</translation>
+    </message>
+    <message id="inviteUnavailable">
+      <source>Inviting by email is not available yet. Try again later.</source>
+      <translation>Einladen per E-Mail ist noch nicht verfügbar. Versuche es später erneut.</translation>
+    </message>
+    <message id="localServer.err.dataFolder">
+      <source>Cannot write the local backend's data folder %1.</source>
+      <translation>Der Datenordner %1 des lokalen Backends ist nicht beschreibbar.</translation>
+    </message>
+    <message id="localServer.err.exited">
+      <source>The local backend stopped before it was ready (log: %1).</source>
+      <translation>Das lokale Backend wurde beendet, bevor es bereit war (Protokoll: %1).</translation>
+    </message>
+    <message id="localServer.err.launch">
+      <source>Cannot run the local backend %1.</source>
+      <translation>Das lokale Backend %1 lässt sich nicht ausführen.</translation>
+    </message>
+    <message id="localServer.err.noProgram">
+      <source>Cannot find the local backend: %1 is neither next to Morvane nor on the PATH.</source>
+      <translation>Das lokale Backend wurde nicht gefunden: %1 liegt weder neben Morvane noch im PATH.</translation>
+    </message>
+    <message id="localServer.err.notReady">
+      <source>The local backend was not ready within %1 seconds (log: %2).</source>
+      <translation>Das lokale Backend war nicht innerhalb von %1 Sekunden bereit (Protokoll: %2).</translation>
+    </message>
+    <message id="localServer.err.wouldNotStop">
+      <source>The local backend (process %1) did not stop within %2 seconds.</source>
+      <translation>Das lokale Backend (Prozess %1) wurde nicht innerhalb von %2 Sekunden beendet.</translation>
+    </message>
     <message id="net.err.connection">
       <source>Could not reach the server: %1</source>
       <translation>Server nicht erreichbar: %1</translation>
@@ -127,9 +263,37 @@
       <source>The request timed out.</source>
       <translation>Zeitüberschreitung bei der Anfrage.</translation>
     </message>
+    <message id="onboarding.err.notSaved">
+      <source>Your first-run answers were not saved yet. Morvane tries again at the next sign-in.</source>
+      <translation>Deine Antworten aus der Ersteinrichtung wurden noch nicht gespeichert. Morvane versucht es bei der nächsten Anmeldung erneut.</translation>
+    </message>
+    <message id="profile.err.notSaved">
+      <source>Your profile was not saved. Try again.</source>
+      <translation>Dein Profil wurde nicht gespeichert. Versuche es erneut.</translation>
+    </message>
+    <message id="project.err.notCreated">
+      <source>The project was not created: you may not add projects to that team.</source>
+      <translation>Das Projekt wurde nicht angelegt: Du darfst diesem Team keine Projekte hinzufügen.</translation>
+    </message>
+    <message id="project.err.notSaved">
+      <source>The project was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>Das Projekt wurde nicht geändert: Du darfst es nicht bearbeiten, oder es existiert nicht mehr.</translation>
+    </message>
+    <message id="project.err.teamNotChanged">
+      <source>The project's team was not changed: only its creator and the team's owners and editors can move it.</source>
+      <translation>Das Team des Projekts wurde nicht geändert: Verschieben können es nur die Person, die es angelegt hat, sowie die Besitzer und Bearbeiter des Teams.</translation>
+    </message>
     <message id="somethingWentWrong">
       <source>Something went wrong. Try again.</source>
       <translation>Etwas ist schiefgelaufen. Versuche es erneut.</translation>
+    </message>
+    <message id="store.err.loadFailed">
+      <source>Your data could not be loaded. Morvane tries again shortly.</source>
+      <translation>Deine Daten konnten nicht geladen werden. Morvane versucht es gleich erneut.</translation>
+    </message>
+    <message id="store.err.writeFailed">
+      <source>The change could not be saved. Check the connection and try again.</source>
+      <translation>Die Änderung konnte nicht gespeichert werden. Prüfe die Verbindung und versuche es erneut.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>
@@ -146,6 +310,26 @@
     <message id="supabase.err.noAuth">
       <source>Not signed in.</source>
       <translation>Nicht angemeldet.</translation>
+    </message>
+    <message id="task.err.notCreated">
+      <source>The task was not created: you may not add tasks to this project.</source>
+      <translation>Die Aufgabe wurde nicht angelegt: Du darfst diesem Projekt keine Aufgaben hinzufügen.</translation>
+    </message>
+    <message id="task.err.notSaved">
+      <source>The task was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>Die Aufgabe wurde nicht geändert: Du darfst sie nicht bearbeiten, oder sie existiert nicht mehr.</translation>
+    </message>
+    <message id="team.err.notCreated">
+      <source>The team was not created. Try again.</source>
+      <translation>Das Team wurde nicht angelegt. Versuche es erneut.</translation>
+    </message>
+    <message id="team.err.notLoaded">
+      <source>Your teams could not be loaded.</source>
+      <translation>Deine Teams konnten nicht geladen werden.</translation>
+    </message>
+    <message id="timer.err.startedElsewhere">
+      <source>The timer of this task was started on another device, so its status was not changed.</source>
+      <translation>Der Timer dieser Aufgabe wurde auf einem anderen Gerät gestartet, daher wurde ihr Status nicht geändert.</translation>
     </message>
   </context>
 </TS>

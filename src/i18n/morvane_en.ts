@@ -51,9 +51,49 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>The command to run; without one, the command list is shown.</translation>
     </message>
+    <message id="cli.auth.confirm">
+      <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
+      <translation>Check your inbox: confirm %1 with the link in the mail, then sign in.</translation>
+    </message>
+    <message id="cli.auth.noAccounts">
+      <source>No remembered accounts.</source>
+      <translation>No remembered accounts.</translation>
+    </message>
+    <message id="cli.auth.option.name">
+      <source>The name shown on your profile and to your team.</source>
+      <translation>The name shown on your profile and to your team.</translation>
+    </message>
+    <message id="cli.auth.password">
+      <source>Password: </source>
+      <translation>Password: </translation>
+    </message>
+    <message id="cli.auth.signedIn">
+      <source>Signed in as %1.</source>
+      <translation>Signed in as %1.</translation>
+    </message>
+    <message id="cli.auth.signedOut">
+      <source>Signed out.</source>
+      <translation>Signed out.</translation>
+    </message>
+    <message id="cli.auth.unknownAccount">
+      <source>No remembered account %1. Sign in to it first.</source>
+      <translation>No remembered account %1. Sign in to it first.</translation>
+    </message>
+    <message id="cli.auth.usage">
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
+    </message>
+    <message id="cli.command.auth">
+      <source>Sign up, sign in and out, switch between accounts</source>
+      <translation>Sign up, sign in and out, switch between accounts</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Show which backend Morvane uses and where each setting comes from</translation>
+    </message>
+    <message id="cli.command.server">
+      <source>Start, stop or show the local backend: server start|stop|status</source>
+      <translation>Start, stop or show the local backend: server start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -87,9 +127,53 @@
       <source>Show this help.</source>
       <translation>Show this help.</translation>
     </message>
+    <message id="cli.option.json">
+      <source>Print the answer as JSON.</source>
+      <translation>Print the answer as JSON.</translation>
+    </message>
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Show the version.</translation>
+    </message>
+    <message id="cli.server.action">
+      <source>start, stop or status</source>
+      <translation>start, stop or status</translation>
+    </message>
+    <message id="cli.server.dataDir">
+      <source>Data folder: %1</source>
+      <translation>Data folder: %1</translation>
+    </message>
+    <message id="cli.server.notInUse">
+      <source>Morvane uses %1 (%2), not the local backend.</source>
+      <translation>Morvane uses %1 (%2), not the local backend.</translation>
+    </message>
+    <message id="cli.server.running">
+      <source>The local backend is running at %1 (process %2).</source>
+      <translation>The local backend is running at %1 (process %2).</translation>
+    </message>
+    <message id="cli.server.started">
+      <source>Started the local backend at %1 (process %2).</source>
+      <translation>Started the local backend at %1 (process %2).</translation>
+    </message>
+    <message id="cli.server.starting">
+      <source>The local backend (process %1) is starting and does not answer yet.</source>
+      <translation>The local backend (process %1) is starting and does not answer yet.</translation>
+    </message>
+    <message id="cli.server.stopped">
+      <source>The local backend is not running.</source>
+      <translation>The local backend is not running.</translation>
+    </message>
+    <message id="cli.server.stoppedNow">
+      <source>Stopped the local backend (process %1).</source>
+      <translation>Stopped the local backend (process %1).</translation>
+    </message>
+    <message id="cli.server.usage">
+      <source>Usage: morvane server start|stop|status [--json]</source>
+      <translation>Usage: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="client.err.notLoaded">
+      <source>Your clients could not be loaded.</source>
+      <translation>Your clients could not be loaded.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>
@@ -115,6 +199,58 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>The e-mail address or the password is not right.</translation>
     </message>
+    <message id="inviteAlreadyMember">
+      <source>%1 is already in this team.</source>
+      <translation>%1 is already in this team.</translation>
+    </message>
+    <message id="inviteFailed">
+      <source>Could not send the invite. Try again.</source>
+      <translation>Could not send the invite. Try again.</translation>
+    </message>
+    <message id="inviteNoAccount">
+      <source>No Morvane account uses that email yet. Ask them to sign up first.</source>
+      <translation>No Morvane account uses that email yet. Ask them to sign up first.</translation>
+    </message>
+    <message id="inviteNotAllowed">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Only the team owner and editors can invite people.</translation>
+    </message>
+    <message id="inviteSent">
+      <source>%1 is invited to this team.</source>
+      <translation>%1 is invited to this team.</translation>
+    </message>
+    <message id="inviteTeamFull">
+      <source>This team is full: it already has 10 members, the maximum.</source>
+      <translation>This team is full: it already has 10 members, the maximum.</translation>
+    </message>
+    <message id="inviteUnavailable">
+      <source>Inviting by email is not available yet. Try again later.</source>
+      <translation>Inviting by email is not available yet. Try again later.</translation>
+    </message>
+    <message id="localServer.err.dataFolder">
+      <source>Cannot write the local backend's data folder %1.</source>
+      <translation>Cannot write the local backend's data folder %1.</translation>
+    </message>
+    <message id="localServer.err.exited">
+      <source>The local backend stopped before it was ready (log: %1).</source>
+      <translation>The local backend stopped before it was ready (log: %1).</translation>
+    </message>
+    <message id="localServer.err.launch">
+      <source>Cannot run the local backend %1.</source>
+      <translation>Cannot run the local backend %1.</translation>
+    </message>
+    <message id="localServer.err.noProgram">
+      <source>Cannot find the local backend: %1 is neither next to Morvane nor on the PATH.</source>
+      <translation>Cannot find the local backend: %1 is neither next to Morvane nor on the PATH.</translation>
+    </message>
+    <message id="localServer.err.notReady">
+      <source>The local backend was not ready within %1 seconds (log: %2).</source>
+      <translation>The local backend was not ready within %1 seconds (log: %2).</translation>
+    </message>
+    <message id="localServer.err.wouldNotStop">
+      <source>The local backend (process %1) did not stop within %2 seconds.</source>
+      <translation>The local backend (process %1) did not stop within %2 seconds.</translation>
+    </message>
     <message id="net.err.connection">
       <source>Could not reach the server: %1</source>
       <translation>Could not reach the server: %1</translation>
@@ -127,9 +263,37 @@
       <source>The request timed out.</source>
       <translation>The request timed out.</translation>
     </message>
+    <message id="onboarding.err.notSaved">
+      <source>Your first-run answers were not saved yet. Morvane tries again at the next sign-in.</source>
+      <translation>Your first-run answers were not saved yet. Morvane tries again at the next sign-in.</translation>
+    </message>
+    <message id="profile.err.notSaved">
+      <source>Your profile was not saved. Try again.</source>
+      <translation>Your profile was not saved. Try again.</translation>
+    </message>
+    <message id="project.err.notCreated">
+      <source>The project was not created: you may not add projects to that team.</source>
+      <translation>The project was not created: you may not add projects to that team.</translation>
+    </message>
+    <message id="project.err.notSaved">
+      <source>The project was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>The project was not changed: you may not edit it, or it no longer exists.</translation>
+    </message>
+    <message id="project.err.teamNotChanged">
+      <source>The project's team was not changed: only its creator and the team's owners and editors can move it.</source>
+      <translation>The project's team was not changed: only its creator and the team's owners and editors can move it.</translation>
+    </message>
     <message id="somethingWentWrong">
       <source>Something went wrong. Try again.</source>
       <translation>Something went wrong. Try again.</translation>
+    </message>
+    <message id="store.err.loadFailed">
+      <source>Your data could not be loaded. Morvane tries again shortly.</source>
+      <translation>Your data could not be loaded. Morvane tries again shortly.</translation>
+    </message>
+    <message id="store.err.writeFailed">
+      <source>The change could not be saved. Check the connection and try again.</source>
+      <translation>The change could not be saved. Check the connection and try again.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>
@@ -146,6 +310,26 @@
     <message id="supabase.err.noAuth">
       <source>Not signed in.</source>
       <translation>Not signed in.</translation>
+    </message>
+    <message id="task.err.notCreated">
+      <source>The task was not created: you may not add tasks to this project.</source>
+      <translation>The task was not created: you may not add tasks to this project.</translation>
+    </message>
+    <message id="task.err.notSaved">
+      <source>The task was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>The task was not changed: you may not edit it, or it no longer exists.</translation>
+    </message>
+    <message id="team.err.notCreated">
+      <source>The team was not created. Try again.</source>
+      <translation>The team was not created. Try again.</translation>
+    </message>
+    <message id="team.err.notLoaded">
+      <source>Your teams could not be loaded.</source>
+      <translation>Your teams could not be loaded.</translation>
+    </message>
+    <message id="timer.err.startedElsewhere">
+      <source>The timer of this task was started on another device, so its status was not changed.</source>
+      <translation>The timer of this task was started on another device, so its status was not changed.</translation>
     </message>
   </context>
 </TS>

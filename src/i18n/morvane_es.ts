@@ -51,9 +51,49 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>El comando que se ejecutará; sin él, se muestra la lista de comandos.</translation>
     </message>
+    <message id="cli.auth.confirm">
+      <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
+      <translation>Revisa tu bandeja de entrada: confirma %1 con el enlace del mensaje y luego inicia sesión.</translation>
+    </message>
+    <message id="cli.auth.noAccounts">
+      <source>No remembered accounts.</source>
+      <translation>No hay cuentas recordadas.</translation>
+    </message>
+    <message id="cli.auth.option.name">
+      <source>The name shown on your profile and to your team.</source>
+      <translation>El nombre que se muestra en tu perfil y a tu equipo.</translation>
+    </message>
+    <message id="cli.auth.password">
+      <source>Password: </source>
+      <translation>Contraseña: </translation>
+    </message>
+    <message id="cli.auth.signedIn">
+      <source>Signed in as %1.</source>
+      <translation>Sesión iniciada como %1.</translation>
+    </message>
+    <message id="cli.auth.signedOut">
+      <source>Signed out.</source>
+      <translation>Sesión cerrada.</translation>
+    </message>
+    <message id="cli.auth.unknownAccount">
+      <source>No remembered account %1. Sign in to it first.</source>
+      <translation>No hay ninguna cuenta recordada %1. Inicia sesión en ella primero.</translation>
+    </message>
+    <message id="cli.auth.usage">
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>Uso: morvane auth signup|signin &lt;correo&gt; | signout | status | switch &lt;correo&gt; | accounts [--json]</translation>
+    </message>
+    <message id="cli.command.auth">
+      <source>Sign up, sign in and out, switch between accounts</source>
+      <translation>Registrarse, iniciar y cerrar sesión, cambiar de cuenta</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostrar qué servidor usa Morvane y de dónde viene cada ajuste</translation>
+    </message>
+    <message id="cli.command.server">
+      <source>Start, stop or show the local backend: server start|stop|status</source>
+      <translation>Iniciar, detener o mostrar el servidor local: server start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -87,9 +127,53 @@
       <source>Show this help.</source>
       <translation>Mostrar esta ayuda.</translation>
     </message>
+    <message id="cli.option.json">
+      <source>Print the answer as JSON.</source>
+      <translation>Mostrar la respuesta en formato JSON.</translation>
+    </message>
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Mostrar la versión.</translation>
+    </message>
+    <message id="cli.server.action">
+      <source>start, stop or status</source>
+      <translation>start, stop o status</translation>
+    </message>
+    <message id="cli.server.dataDir">
+      <source>Data folder: %1</source>
+      <translation>Carpeta de datos: %1</translation>
+    </message>
+    <message id="cli.server.notInUse">
+      <source>Morvane uses %1 (%2), not the local backend.</source>
+      <translation>Morvane usa %1 (%2), no el servidor local.</translation>
+    </message>
+    <message id="cli.server.running">
+      <source>The local backend is running at %1 (process %2).</source>
+      <translation>El servidor local está en marcha en %1 (proceso %2).</translation>
+    </message>
+    <message id="cli.server.started">
+      <source>Started the local backend at %1 (process %2).</source>
+      <translation>Servidor local iniciado en %1 (proceso %2).</translation>
+    </message>
+    <message id="cli.server.starting">
+      <source>The local backend (process %1) is starting and does not answer yet.</source>
+      <translation>El servidor local (proceso %1) se está iniciando y aún no responde.</translation>
+    </message>
+    <message id="cli.server.stopped">
+      <source>The local backend is not running.</source>
+      <translation>El servidor local no está en marcha.</translation>
+    </message>
+    <message id="cli.server.stoppedNow">
+      <source>Stopped the local backend (process %1).</source>
+      <translation>Servidor local detenido (proceso %1).</translation>
+    </message>
+    <message id="cli.server.usage">
+      <source>Usage: morvane server start|stop|status [--json]</source>
+      <translation>Uso: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="client.err.notLoaded">
+      <source>Your clients could not be loaded.</source>
+      <translation>No se pudieron cargar tus clientes.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>
@@ -115,6 +199,58 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>La dirección de correo o la contraseña no es correcta.</translation>
     </message>
+    <message id="inviteAlreadyMember">
+      <source>%1 is already in this team.</source>
+      <translation>%1 ya está en este equipo.</translation>
+    </message>
+    <message id="inviteFailed">
+      <source>Could not send the invite. Try again.</source>
+      <translation>No se pudo enviar la invitación. Vuelve a intentarlo.</translation>
+    </message>
+    <message id="inviteNoAccount">
+      <source>No Morvane account uses that email yet. Ask them to sign up first.</source>
+      <translation>Ninguna cuenta de Morvane usa ese correo todavía. Pídele a esa persona que se registre primero.</translation>
+    </message>
+    <message id="inviteNotAllowed">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Solo el propietario y los editores del equipo pueden invitar a otras personas.</translation>
+    </message>
+    <message id="inviteSent">
+      <source>%1 is invited to this team.</source>
+      <translation>Se ha invitado a %1 a este equipo.</translation>
+    </message>
+    <message id="inviteTeamFull">
+      <source>This team is full: it already has 10 members, the maximum.</source>
+      <translation>Este equipo está completo: ya tiene 10 miembros, el máximo.</translation>
+    </message>
+    <message id="inviteUnavailable">
+      <source>Inviting by email is not available yet. Try again later.</source>
+      <translation>La invitación por correo aún no está disponible. Vuelve a intentarlo más tarde.</translation>
+    </message>
+    <message id="localServer.err.dataFolder">
+      <source>Cannot write the local backend's data folder %1.</source>
+      <translation>No se puede escribir en la carpeta de datos %1 del servidor local.</translation>
+    </message>
+    <message id="localServer.err.exited">
+      <source>The local backend stopped before it was ready (log: %1).</source>
+      <translation>El servidor local se detuvo antes de estar listo (registro: %1).</translation>
+    </message>
+    <message id="localServer.err.launch">
+      <source>Cannot run the local backend %1.</source>
+      <translation>No se puede ejecutar el servidor local %1.</translation>
+    </message>
+    <message id="localServer.err.noProgram">
+      <source>Cannot find the local backend: %1 is neither next to Morvane nor on the PATH.</source>
+      <translation>No se encuentra el servidor local: %1 no está junto a Morvane ni en el PATH.</translation>
+    </message>
+    <message id="localServer.err.notReady">
+      <source>The local backend was not ready within %1 seconds (log: %2).</source>
+      <translation>El servidor local no estuvo listo en %1 segundos (registro: %2).</translation>
+    </message>
+    <message id="localServer.err.wouldNotStop">
+      <source>The local backend (process %1) did not stop within %2 seconds.</source>
+      <translation>El servidor local (proceso %1) no se detuvo en %2 segundos.</translation>
+    </message>
     <message id="net.err.connection">
       <source>Could not reach the server: %1</source>
       <translation>No se pudo conectar con el servidor: %1</translation>
@@ -127,9 +263,37 @@
       <source>The request timed out.</source>
       <translation>Se agotó el tiempo de espera de la solicitud.</translation>
     </message>
+    <message id="onboarding.err.notSaved">
+      <source>Your first-run answers were not saved yet. Morvane tries again at the next sign-in.</source>
+      <translation>Tus respuestas del primer inicio aún no se han guardado. Morvane lo volverá a intentar la próxima vez que inicies sesión.</translation>
+    </message>
+    <message id="profile.err.notSaved">
+      <source>Your profile was not saved. Try again.</source>
+      <translation>Tu perfil no se guardó. Vuelve a intentarlo.</translation>
+    </message>
+    <message id="project.err.notCreated">
+      <source>The project was not created: you may not add projects to that team.</source>
+      <translation>El proyecto no se creó: no puedes añadir proyectos a ese equipo.</translation>
+    </message>
+    <message id="project.err.notSaved">
+      <source>The project was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>El proyecto no se modificó: no puedes editarlo o ya no existe.</translation>
+    </message>
+    <message id="project.err.teamNotChanged">
+      <source>The project's team was not changed: only its creator and the team's owners and editors can move it.</source>
+      <translation>El equipo del proyecto no se cambió: solo quien lo creó y los propietarios y editores del equipo pueden moverlo.</translation>
+    </message>
     <message id="somethingWentWrong">
       <source>Something went wrong. Try again.</source>
       <translation>Algo salió mal. Vuelve a intentarlo.</translation>
+    </message>
+    <message id="store.err.loadFailed">
+      <source>Your data could not be loaded. Morvane tries again shortly.</source>
+      <translation>No se pudieron cargar tus datos. Morvane lo volverá a intentar en breve.</translation>
+    </message>
+    <message id="store.err.writeFailed">
+      <source>The change could not be saved. Check the connection and try again.</source>
+      <translation>No se pudo guardar el cambio. Revisa la conexión y vuelve a intentarlo.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>
@@ -146,6 +310,26 @@
     <message id="supabase.err.noAuth">
       <source>Not signed in.</source>
       <translation>No has iniciado sesión.</translation>
+    </message>
+    <message id="task.err.notCreated">
+      <source>The task was not created: you may not add tasks to this project.</source>
+      <translation>La tarea no se creó: no puedes añadir tareas a este proyecto.</translation>
+    </message>
+    <message id="task.err.notSaved">
+      <source>The task was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>La tarea no se modificó: no puedes editarla o ya no existe.</translation>
+    </message>
+    <message id="team.err.notCreated">
+      <source>The team was not created. Try again.</source>
+      <translation>El equipo no se creó. Vuelve a intentarlo.</translation>
+    </message>
+    <message id="team.err.notLoaded">
+      <source>Your teams could not be loaded.</source>
+      <translation>No se pudieron cargar tus equipos.</translation>
+    </message>
+    <message id="timer.err.startedElsewhere">
+      <source>The timer of this task was started on another device, so its status was not changed.</source>
+      <translation>El temporizador de esta tarea se inició en otro dispositivo, así que su estado no se cambió.</translation>
     </message>
   </context>
 </TS>

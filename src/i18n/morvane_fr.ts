@@ -51,9 +51,49 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>La commande à exécuter ; sans commande, la liste des commandes s’affiche.</translation>
     </message>
+    <message id="cli.auth.confirm">
+      <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
+      <translation>Consultez votre boîte de réception : confirmez %1 avec le lien du message, puis connectez-vous.</translation>
+    </message>
+    <message id="cli.auth.noAccounts">
+      <source>No remembered accounts.</source>
+      <translation>Aucun compte mémorisé.</translation>
+    </message>
+    <message id="cli.auth.option.name">
+      <source>The name shown on your profile and to your team.</source>
+      <translation>Le nom affiché sur votre profil et à votre équipe.</translation>
+    </message>
+    <message id="cli.auth.password">
+      <source>Password: </source>
+      <translation>Mot de passe : </translation>
+    </message>
+    <message id="cli.auth.signedIn">
+      <source>Signed in as %1.</source>
+      <translation>Connecté en tant que %1.</translation>
+    </message>
+    <message id="cli.auth.signedOut">
+      <source>Signed out.</source>
+      <translation>Déconnecté.</translation>
+    </message>
+    <message id="cli.auth.unknownAccount">
+      <source>No remembered account %1. Sign in to it first.</source>
+      <translation>Aucun compte mémorisé %1. Connectez-vous-y d’abord.</translation>
+    </message>
+    <message id="cli.auth.usage">
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>Utilisation : morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
+    </message>
+    <message id="cli.command.auth">
+      <source>Sign up, sign in and out, switch between accounts</source>
+      <translation>Créer un compte, se connecter et se déconnecter, changer de compte</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Afficher le serveur utilisé par Morvane et l’origine de chaque réglage</translation>
+    </message>
+    <message id="cli.command.server">
+      <source>Start, stop or show the local backend: server start|stop|status</source>
+      <translation>Démarrer, arrêter ou afficher le serveur local : server start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -87,9 +127,53 @@
       <source>Show this help.</source>
       <translation>Afficher cette aide.</translation>
     </message>
+    <message id="cli.option.json">
+      <source>Print the answer as JSON.</source>
+      <translation>Afficher la réponse au format JSON.</translation>
+    </message>
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Afficher la version.</translation>
+    </message>
+    <message id="cli.server.action">
+      <source>start, stop or status</source>
+      <translation>start, stop ou status</translation>
+    </message>
+    <message id="cli.server.dataDir">
+      <source>Data folder: %1</source>
+      <translation>Dossier de données : %1</translation>
+    </message>
+    <message id="cli.server.notInUse">
+      <source>Morvane uses %1 (%2), not the local backend.</source>
+      <translation>Morvane utilise %1 (%2), pas le serveur local.</translation>
+    </message>
+    <message id="cli.server.running">
+      <source>The local backend is running at %1 (process %2).</source>
+      <translation>Le serveur local tourne à l'adresse %1 (processus %2).</translation>
+    </message>
+    <message id="cli.server.started">
+      <source>Started the local backend at %1 (process %2).</source>
+      <translation>Serveur local démarré à l'adresse %1 (processus %2).</translation>
+    </message>
+    <message id="cli.server.starting">
+      <source>The local backend (process %1) is starting and does not answer yet.</source>
+      <translation>Le serveur local (processus %1) démarre et ne répond pas encore.</translation>
+    </message>
+    <message id="cli.server.stopped">
+      <source>The local backend is not running.</source>
+      <translation>Le serveur local ne tourne pas.</translation>
+    </message>
+    <message id="cli.server.stoppedNow">
+      <source>Stopped the local backend (process %1).</source>
+      <translation>Serveur local arrêté (processus %1).</translation>
+    </message>
+    <message id="cli.server.usage">
+      <source>Usage: morvane server start|stop|status [--json]</source>
+      <translation>Utilisation : morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="client.err.notLoaded">
+      <source>Your clients could not be loaded.</source>
+      <translation>Vos clients n’ont pas pu être chargés.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>
@@ -115,6 +199,58 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>L’adresse e-mail ou le mot de passe est incorrect.</translation>
     </message>
+    <message id="inviteAlreadyMember">
+      <source>%1 is already in this team.</source>
+      <translation>%1 fait déjà partie de cette équipe.</translation>
+    </message>
+    <message id="inviteFailed">
+      <source>Could not send the invite. Try again.</source>
+      <translation>Impossible d’envoyer l’invitation. Réessayez.</translation>
+    </message>
+    <message id="inviteNoAccount">
+      <source>No Morvane account uses that email yet. Ask them to sign up first.</source>
+      <translation>Aucun compte Morvane n’utilise encore cette adresse e-mail. Demandez à cette personne de s’inscrire d’abord.</translation>
+    </message>
+    <message id="inviteNotAllowed">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Seuls le propriétaire et les éditeurs de l’équipe peuvent inviter des personnes.</translation>
+    </message>
+    <message id="inviteSent">
+      <source>%1 is invited to this team.</source>
+      <translation>Invitation envoyée à %1 pour cette équipe.</translation>
+    </message>
+    <message id="inviteTeamFull">
+      <source>This team is full: it already has 10 members, the maximum.</source>
+      <translation>Cette équipe est complète : elle compte déjà 10 membres, le maximum.</translation>
+    </message>
+    <message id="inviteUnavailable">
+      <source>Inviting by email is not available yet. Try again later.</source>
+      <translation>L’invitation par e-mail n’est pas encore disponible. Réessayez plus tard.</translation>
+    </message>
+    <message id="localServer.err.dataFolder">
+      <source>Cannot write the local backend's data folder %1.</source>
+      <translation>Impossible d'écrire dans le dossier de données %1 du serveur local.</translation>
+    </message>
+    <message id="localServer.err.exited">
+      <source>The local backend stopped before it was ready (log: %1).</source>
+      <translation>Le serveur local s'est arrêté avant d'être prêt (journal : %1).</translation>
+    </message>
+    <message id="localServer.err.launch">
+      <source>Cannot run the local backend %1.</source>
+      <translation>Impossible d'exécuter le serveur local %1.</translation>
+    </message>
+    <message id="localServer.err.noProgram">
+      <source>Cannot find the local backend: %1 is neither next to Morvane nor on the PATH.</source>
+      <translation>Serveur local introuvable : %1 n'est ni à côté de Morvane ni dans le PATH.</translation>
+    </message>
+    <message id="localServer.err.notReady">
+      <source>The local backend was not ready within %1 seconds (log: %2).</source>
+      <translation>Le serveur local n'était pas prêt au bout de %1 secondes (journal : %2).</translation>
+    </message>
+    <message id="localServer.err.wouldNotStop">
+      <source>The local backend (process %1) did not stop within %2 seconds.</source>
+      <translation>Le serveur local (processus %1) ne s'est pas arrêté au bout de %2 secondes.</translation>
+    </message>
     <message id="net.err.connection">
       <source>Could not reach the server: %1</source>
       <translation>Impossible de joindre le serveur : %1</translation>
@@ -127,9 +263,37 @@
       <source>The request timed out.</source>
       <translation>Le délai de la requête a expiré.</translation>
     </message>
+    <message id="onboarding.err.notSaved">
+      <source>Your first-run answers were not saved yet. Morvane tries again at the next sign-in.</source>
+      <translation>Vos réponses du premier démarrage ne sont pas encore enregistrées. Morvane réessaiera à la prochaine connexion.</translation>
+    </message>
+    <message id="profile.err.notSaved">
+      <source>Your profile was not saved. Try again.</source>
+      <translation>Votre profil n’a pas été enregistré. Réessayez.</translation>
+    </message>
+    <message id="project.err.notCreated">
+      <source>The project was not created: you may not add projects to that team.</source>
+      <translation>Le projet n’a pas été créé : vous ne pouvez pas ajouter de projets à cette équipe.</translation>
+    </message>
+    <message id="project.err.notSaved">
+      <source>The project was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>Le projet n’a pas été modifié : vous n’avez pas le droit de le modifier, ou il n’existe plus.</translation>
+    </message>
+    <message id="project.err.teamNotChanged">
+      <source>The project's team was not changed: only its creator and the team's owners and editors can move it.</source>
+      <translation>L’équipe du projet n’a pas été modifiée : seuls son créateur ainsi que les propriétaires et éditeurs de l’équipe peuvent le déplacer.</translation>
+    </message>
     <message id="somethingWentWrong">
       <source>Something went wrong. Try again.</source>
       <translation>Un problème est survenu. Réessayez.</translation>
+    </message>
+    <message id="store.err.loadFailed">
+      <source>Your data could not be loaded. Morvane tries again shortly.</source>
+      <translation>Vos données n’ont pas pu être chargées. Morvane réessaiera dans un instant.</translation>
+    </message>
+    <message id="store.err.writeFailed">
+      <source>The change could not be saved. Check the connection and try again.</source>
+      <translation>La modification n’a pas pu être enregistrée. Vérifiez la connexion et réessayez.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>
@@ -146,6 +310,26 @@
     <message id="supabase.err.noAuth">
       <source>Not signed in.</source>
       <translation>Non connecté.</translation>
+    </message>
+    <message id="task.err.notCreated">
+      <source>The task was not created: you may not add tasks to this project.</source>
+      <translation>La tâche n’a pas été créée : vous ne pouvez pas ajouter de tâches à ce projet.</translation>
+    </message>
+    <message id="task.err.notSaved">
+      <source>The task was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>La tâche n’a pas été modifiée : vous n’avez pas le droit de la modifier, ou elle n’existe plus.</translation>
+    </message>
+    <message id="team.err.notCreated">
+      <source>The team was not created. Try again.</source>
+      <translation>L’équipe n’a pas été créée. Réessayez.</translation>
+    </message>
+    <message id="team.err.notLoaded">
+      <source>Your teams could not be loaded.</source>
+      <translation>Vos équipes n’ont pas pu être chargées.</translation>
+    </message>
+    <message id="timer.err.startedElsewhere">
+      <source>The timer of this task was started on another device, so its status was not changed.</source>
+      <translation>Le minuteur de cette tâche a été lancé sur un autre appareil, son statut n’a donc pas été modifié.</translation>
     </message>
   </context>
 </TS>

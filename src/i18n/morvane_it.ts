@@ -51,9 +51,49 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Il comando da eseguire; senza comando viene mostrato l’elenco dei comandi.</translation>
     </message>
+    <message id="cli.auth.confirm">
+      <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
+      <translation>Controlla la posta: conferma %1 con il link nel messaggio, poi accedi.</translation>
+    </message>
+    <message id="cli.auth.noAccounts">
+      <source>No remembered accounts.</source>
+      <translation>Nessun account memorizzato.</translation>
+    </message>
+    <message id="cli.auth.option.name">
+      <source>The name shown on your profile and to your team.</source>
+      <translation>Il nome mostrato sul tuo profilo e al tuo team.</translation>
+    </message>
+    <message id="cli.auth.password">
+      <source>Password: </source>
+      <translation>Password: </translation>
+    </message>
+    <message id="cli.auth.signedIn">
+      <source>Signed in as %1.</source>
+      <translation>Accesso effettuato come %1.</translation>
+    </message>
+    <message id="cli.auth.signedOut">
+      <source>Signed out.</source>
+      <translation>Disconnesso.</translation>
+    </message>
+    <message id="cli.auth.unknownAccount">
+      <source>No remembered account %1. Sign in to it first.</source>
+      <translation>Nessun account memorizzato %1. Accedi prima a quell’account.</translation>
+    </message>
+    <message id="cli.auth.usage">
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>Uso: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
+    </message>
+    <message id="cli.command.auth">
+      <source>Sign up, sign in and out, switch between accounts</source>
+      <translation>Registrarsi, accedere e uscire, passare da un account all’altro</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostra quale server usa Morvane e da dove proviene ogni impostazione</translation>
+    </message>
+    <message id="cli.command.server">
+      <source>Start, stop or show the local backend: server start|stop|status</source>
+      <translation>Avvia, ferma o mostra il server locale: server start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -87,9 +127,53 @@
       <source>Show this help.</source>
       <translation>Mostra questo aiuto.</translation>
     </message>
+    <message id="cli.option.json">
+      <source>Print the answer as JSON.</source>
+      <translation>Mostra la risposta in formato JSON.</translation>
+    </message>
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Mostra la versione.</translation>
+    </message>
+    <message id="cli.server.action">
+      <source>start, stop or status</source>
+      <translation>start, stop o status</translation>
+    </message>
+    <message id="cli.server.dataDir">
+      <source>Data folder: %1</source>
+      <translation>Cartella dati: %1</translation>
+    </message>
+    <message id="cli.server.notInUse">
+      <source>Morvane uses %1 (%2), not the local backend.</source>
+      <translation>Morvane usa %1 (%2), non il server locale.</translation>
+    </message>
+    <message id="cli.server.running">
+      <source>The local backend is running at %1 (process %2).</source>
+      <translation>Il server locale è in esecuzione su %1 (processo %2).</translation>
+    </message>
+    <message id="cli.server.started">
+      <source>Started the local backend at %1 (process %2).</source>
+      <translation>Server locale avviato su %1 (processo %2).</translation>
+    </message>
+    <message id="cli.server.starting">
+      <source>The local backend (process %1) is starting and does not answer yet.</source>
+      <translation>Il server locale (processo %1) si sta avviando e non risponde ancora.</translation>
+    </message>
+    <message id="cli.server.stopped">
+      <source>The local backend is not running.</source>
+      <translation>Il server locale non è in esecuzione.</translation>
+    </message>
+    <message id="cli.server.stoppedNow">
+      <source>Stopped the local backend (process %1).</source>
+      <translation>Server locale fermato (processo %1).</translation>
+    </message>
+    <message id="cli.server.usage">
+      <source>Usage: morvane server start|stop|status [--json]</source>
+      <translation>Uso: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="client.err.notLoaded">
+      <source>Your clients could not be loaded.</source>
+      <translation>Non è stato possibile caricare i tuoi clienti.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>
@@ -115,6 +199,58 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>L’indirizzo e-mail o la password non è corretto.</translation>
     </message>
+    <message id="inviteAlreadyMember">
+      <source>%1 is already in this team.</source>
+      <translation>%1 fa già parte di questo team.</translation>
+    </message>
+    <message id="inviteFailed">
+      <source>Could not send the invite. Try again.</source>
+      <translation>Impossibile inviare l’invito. Riprova.</translation>
+    </message>
+    <message id="inviteNoAccount">
+      <source>No Morvane account uses that email yet. Ask them to sign up first.</source>
+      <translation>Nessun account Morvane usa ancora quell’email. Chiedi a questa persona di registrarsi prima.</translation>
+    </message>
+    <message id="inviteNotAllowed">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Solo il proprietario e gli editor del team possono invitare persone.</translation>
+    </message>
+    <message id="inviteSent">
+      <source>%1 is invited to this team.</source>
+      <translation>Invito inviato a %1 per questo team.</translation>
+    </message>
+    <message id="inviteTeamFull">
+      <source>This team is full: it already has 10 members, the maximum.</source>
+      <translation>Questo team è al completo: ha già 10 membri, il massimo.</translation>
+    </message>
+    <message id="inviteUnavailable">
+      <source>Inviting by email is not available yet. Try again later.</source>
+      <translation>L’invito via email non è ancora disponibile. Riprova più tardi.</translation>
+    </message>
+    <message id="localServer.err.dataFolder">
+      <source>Cannot write the local backend's data folder %1.</source>
+      <translation>Impossibile scrivere nella cartella dati %1 del server locale.</translation>
+    </message>
+    <message id="localServer.err.exited">
+      <source>The local backend stopped before it was ready (log: %1).</source>
+      <translation>Il server locale si è fermato prima di essere pronto (log: %1).</translation>
+    </message>
+    <message id="localServer.err.launch">
+      <source>Cannot run the local backend %1.</source>
+      <translation>Impossibile eseguire il server locale %1.</translation>
+    </message>
+    <message id="localServer.err.noProgram">
+      <source>Cannot find the local backend: %1 is neither next to Morvane nor on the PATH.</source>
+      <translation>Server locale non trovato: %1 non è accanto a Morvane né nel PATH.</translation>
+    </message>
+    <message id="localServer.err.notReady">
+      <source>The local backend was not ready within %1 seconds (log: %2).</source>
+      <translation>Il server locale non era pronto entro %1 secondi (log: %2).</translation>
+    </message>
+    <message id="localServer.err.wouldNotStop">
+      <source>The local backend (process %1) did not stop within %2 seconds.</source>
+      <translation>Il server locale (processo %1) non si è fermato entro %2 secondi.</translation>
+    </message>
     <message id="net.err.connection">
       <source>Could not reach the server: %1</source>
       <translation>Impossibile raggiungere il server: %1</translation>
@@ -127,9 +263,37 @@
       <source>The request timed out.</source>
       <translation>Tempo scaduto per la richiesta.</translation>
     </message>
+    <message id="onboarding.err.notSaved">
+      <source>Your first-run answers were not saved yet. Morvane tries again at the next sign-in.</source>
+      <translation>Le tue risposte del primo avvio non sono ancora state salvate. Morvane riproverà al prossimo accesso.</translation>
+    </message>
+    <message id="profile.err.notSaved">
+      <source>Your profile was not saved. Try again.</source>
+      <translation>Il tuo profilo non è stato salvato. Riprova.</translation>
+    </message>
+    <message id="project.err.notCreated">
+      <source>The project was not created: you may not add projects to that team.</source>
+      <translation>Il progetto non è stato creato: non puoi aggiungere progetti a quel team.</translation>
+    </message>
+    <message id="project.err.notSaved">
+      <source>The project was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>Il progetto non è stato modificato: non puoi modificarlo, oppure non esiste più.</translation>
+    </message>
+    <message id="project.err.teamNotChanged">
+      <source>The project's team was not changed: only its creator and the team's owners and editors can move it.</source>
+      <translation>Il team del progetto non è stato cambiato: solo chi l’ha creato e i proprietari e gli editor del team possono spostarlo.</translation>
+    </message>
     <message id="somethingWentWrong">
       <source>Something went wrong. Try again.</source>
       <translation>Qualcosa è andato storto. Riprova.</translation>
+    </message>
+    <message id="store.err.loadFailed">
+      <source>Your data could not be loaded. Morvane tries again shortly.</source>
+      <translation>Non è stato possibile caricare i tuoi dati. Morvane riproverà a breve.</translation>
+    </message>
+    <message id="store.err.writeFailed">
+      <source>The change could not be saved. Check the connection and try again.</source>
+      <translation>Non è stato possibile salvare la modifica. Controlla la connessione e riprova.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>
@@ -146,6 +310,26 @@
     <message id="supabase.err.noAuth">
       <source>Not signed in.</source>
       <translation>Accesso non effettuato.</translation>
+    </message>
+    <message id="task.err.notCreated">
+      <source>The task was not created: you may not add tasks to this project.</source>
+      <translation>L’attività non è stata creata: non puoi aggiungere attività a questo progetto.</translation>
+    </message>
+    <message id="task.err.notSaved">
+      <source>The task was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>L’attività non è stata modificata: non puoi modificarla, oppure non esiste più.</translation>
+    </message>
+    <message id="team.err.notCreated">
+      <source>The team was not created. Try again.</source>
+      <translation>Il team non è stato creato. Riprova.</translation>
+    </message>
+    <message id="team.err.notLoaded">
+      <source>Your teams could not be loaded.</source>
+      <translation>Non è stato possibile caricare i tuoi team.</translation>
+    </message>
+    <message id="timer.err.startedElsewhere">
+      <source>The timer of this task was started on another device, so its status was not changed.</source>
+      <translation>Il timer di questa attività è stato avviato su un altro dispositivo, quindi il suo stato non è stato cambiato.</translation>
     </message>
   </context>
 </TS>

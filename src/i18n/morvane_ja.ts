@@ -51,9 +51,49 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>実行するコマンド。省略するとコマンド一覧を表示します。</translation>
     </message>
+    <message id="cli.auth.confirm">
+      <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
+      <translation>受信トレイを確認してください。メールのリンクで %1 を確認してからサインインしてください。</translation>
+    </message>
+    <message id="cli.auth.noAccounts">
+      <source>No remembered accounts.</source>
+      <translation>記憶されたアカウントはありません。</translation>
+    </message>
+    <message id="cli.auth.option.name">
+      <source>The name shown on your profile and to your team.</source>
+      <translation>プロフィールとチームに表示される名前です。</translation>
+    </message>
+    <message id="cli.auth.password">
+      <source>Password: </source>
+      <translation>パスワード: </translation>
+    </message>
+    <message id="cli.auth.signedIn">
+      <source>Signed in as %1.</source>
+      <translation>%1 としてサインインしています。</translation>
+    </message>
+    <message id="cli.auth.signedOut">
+      <source>Signed out.</source>
+      <translation>サインアウトしました。</translation>
+    </message>
+    <message id="cli.auth.unknownAccount">
+      <source>No remembered account %1. Sign in to it first.</source>
+      <translation>記憶されたアカウント %1 はありません。先にサインインしてください。</translation>
+    </message>
+    <message id="cli.auth.usage">
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>使い方: morvane auth signup|signin &lt;メール&gt; | signout | status | switch &lt;メール&gt; | accounts [--json]</translation>
+    </message>
+    <message id="cli.command.auth">
+      <source>Sign up, sign in and out, switch between accounts</source>
+      <translation>登録、サインインとサインアウト、アカウントの切り替え</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Morvane が使うバックエンドと各設定の出どころを表示します</translation>
+    </message>
+    <message id="cli.command.server">
+      <source>Start, stop or show the local backend: server start|stop|status</source>
+      <translation>ローカルバックエンドを起動・停止・表示します: server start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -87,9 +127,53 @@
       <source>Show this help.</source>
       <translation>このヘルプを表示します。</translation>
     </message>
+    <message id="cli.option.json">
+      <source>Print the answer as JSON.</source>
+      <translation>結果を JSON で表示します。</translation>
+    </message>
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>バージョンを表示します。</translation>
+    </message>
+    <message id="cli.server.action">
+      <source>start, stop or status</source>
+      <translation>start、stop、status のいずれか</translation>
+    </message>
+    <message id="cli.server.dataDir">
+      <source>Data folder: %1</source>
+      <translation>データフォルダー: %1</translation>
+    </message>
+    <message id="cli.server.notInUse">
+      <source>Morvane uses %1 (%2), not the local backend.</source>
+      <translation>Morvane はローカルバックエンドではなく %1 (%2) を使用しています。</translation>
+    </message>
+    <message id="cli.server.running">
+      <source>The local backend is running at %1 (process %2).</source>
+      <translation>ローカルバックエンドは %1 で動作しています (プロセス %2)。</translation>
+    </message>
+    <message id="cli.server.started">
+      <source>Started the local backend at %1 (process %2).</source>
+      <translation>ローカルバックエンドを %1 で起動しました (プロセス %2)。</translation>
+    </message>
+    <message id="cli.server.starting">
+      <source>The local backend (process %1) is starting and does not answer yet.</source>
+      <translation>ローカルバックエンド (プロセス %1) は起動中で、まだ応答しません。</translation>
+    </message>
+    <message id="cli.server.stopped">
+      <source>The local backend is not running.</source>
+      <translation>ローカルバックエンドは動作していません。</translation>
+    </message>
+    <message id="cli.server.stoppedNow">
+      <source>Stopped the local backend (process %1).</source>
+      <translation>ローカルバックエンドを停止しました (プロセス %1)。</translation>
+    </message>
+    <message id="cli.server.usage">
+      <source>Usage: morvane server start|stop|status [--json]</source>
+      <translation>使い方: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="client.err.notLoaded">
+      <source>Your clients could not be loaded.</source>
+      <translation>クライアントを読み込めませんでした。</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>
@@ -115,6 +199,58 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>メールアドレスまたはパスワードが正しくありません。</translation>
     </message>
+    <message id="inviteAlreadyMember">
+      <source>%1 is already in this team.</source>
+      <translation>%1 はすでにこのチームのメンバーです。</translation>
+    </message>
+    <message id="inviteFailed">
+      <source>Could not send the invite. Try again.</source>
+      <translation>招待を送信できませんでした。もう一度お試しください。</translation>
+    </message>
+    <message id="inviteNoAccount">
+      <source>No Morvane account uses that email yet. Ask them to sign up first.</source>
+      <translation>このメールアドレスを使う Morvane アカウントはまだありません。先に登録してもらってください。</translation>
+    </message>
+    <message id="inviteNotAllowed">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>メンバーを招待できるのは、チームのオーナーと編集者だけです。</translation>
+    </message>
+    <message id="inviteSent">
+      <source>%1 is invited to this team.</source>
+      <translation>%1 をこのチームに招待しました。</translation>
+    </message>
+    <message id="inviteTeamFull">
+      <source>This team is full: it already has 10 members, the maximum.</source>
+      <translation>このチームは満員です。メンバーはすでに上限の 10 人です。</translation>
+    </message>
+    <message id="inviteUnavailable">
+      <source>Inviting by email is not available yet. Try again later.</source>
+      <translation>メールでの招待はまだご利用いただけません。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message id="localServer.err.dataFolder">
+      <source>Cannot write the local backend's data folder %1.</source>
+      <translation>ローカルバックエンドのデータフォルダー %1 に書き込めません。</translation>
+    </message>
+    <message id="localServer.err.exited">
+      <source>The local backend stopped before it was ready (log: %1).</source>
+      <translation>ローカルバックエンドは準備が整う前に終了しました (ログ: %1)。</translation>
+    </message>
+    <message id="localServer.err.launch">
+      <source>Cannot run the local backend %1.</source>
+      <translation>ローカルバックエンド %1 を実行できません。</translation>
+    </message>
+    <message id="localServer.err.noProgram">
+      <source>Cannot find the local backend: %1 is neither next to Morvane nor on the PATH.</source>
+      <translation>ローカルバックエンドが見つかりません: %1 が Morvane と同じ場所にも PATH にもありません。</translation>
+    </message>
+    <message id="localServer.err.notReady">
+      <source>The local backend was not ready within %1 seconds (log: %2).</source>
+      <translation>ローカルバックエンドは %1 秒以内に準備が整いませんでした (ログ: %2)。</translation>
+    </message>
+    <message id="localServer.err.wouldNotStop">
+      <source>The local backend (process %1) did not stop within %2 seconds.</source>
+      <translation>ローカルバックエンド (プロセス %1) は %2 秒以内に停止しませんでした。</translation>
+    </message>
     <message id="net.err.connection">
       <source>Could not reach the server: %1</source>
       <translation>サーバーに接続できませんでした: %1</translation>
@@ -127,9 +263,37 @@
       <source>The request timed out.</source>
       <translation>リクエストがタイムアウトしました。</translation>
     </message>
+    <message id="onboarding.err.notSaved">
+      <source>Your first-run answers were not saved yet. Morvane tries again at the next sign-in.</source>
+      <translation>初回設定の回答はまだ保存されていません。次回のサインイン時に Morvane が再試行します。</translation>
+    </message>
+    <message id="profile.err.notSaved">
+      <source>Your profile was not saved. Try again.</source>
+      <translation>プロフィールを保存できませんでした。もう一度お試しください。</translation>
+    </message>
+    <message id="project.err.notCreated">
+      <source>The project was not created: you may not add projects to that team.</source>
+      <translation>プロジェクトは作成されませんでした。そのチームにプロジェクトを追加する権限がありません。</translation>
+    </message>
+    <message id="project.err.notSaved">
+      <source>The project was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>プロジェクトは変更されませんでした。編集する権限がないか、プロジェクトがすでに存在しません。</translation>
+    </message>
+    <message id="project.err.teamNotChanged">
+      <source>The project's team was not changed: only its creator and the team's owners and editors can move it.</source>
+      <translation>プロジェクトのチームは変更されませんでした。移動できるのは、プロジェクトの作成者とチームのオーナーおよび編集者だけです。</translation>
+    </message>
     <message id="somethingWentWrong">
       <source>Something went wrong. Try again.</source>
       <translation>問題が発生しました。もう一度お試しください。</translation>
+    </message>
+    <message id="store.err.loadFailed">
+      <source>Your data could not be loaded. Morvane tries again shortly.</source>
+      <translation>データを読み込めませんでした。Morvane がまもなく再試行します。</translation>
+    </message>
+    <message id="store.err.writeFailed">
+      <source>The change could not be saved. Check the connection and try again.</source>
+      <translation>変更を保存できませんでした。接続を確認してもう一度お試しください。</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>
@@ -146,6 +310,26 @@
     <message id="supabase.err.noAuth">
       <source>Not signed in.</source>
       <translation>サインインしていません。</translation>
+    </message>
+    <message id="task.err.notCreated">
+      <source>The task was not created: you may not add tasks to this project.</source>
+      <translation>タスクは作成されませんでした。このプロジェクトにタスクを追加する権限がありません。</translation>
+    </message>
+    <message id="task.err.notSaved">
+      <source>The task was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>タスクは変更されませんでした。編集する権限がないか、タスクがすでに存在しません。</translation>
+    </message>
+    <message id="team.err.notCreated">
+      <source>The team was not created. Try again.</source>
+      <translation>チームを作成できませんでした。もう一度お試しください。</translation>
+    </message>
+    <message id="team.err.notLoaded">
+      <source>Your teams could not be loaded.</source>
+      <translation>チームを読み込めませんでした。</translation>
+    </message>
+    <message id="timer.err.startedElsewhere">
+      <source>The timer of this task was started on another device, so its status was not changed.</source>
+      <translation>このタスクのタイマーは別のデバイスで開始されたため、ステータスは変更されませんでした。</translation>
     </message>
   </context>
 </TS>

@@ -51,9 +51,49 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>คำสั่งที่จะเรียกใช้ หากไม่ระบุจะแสดงรายการคำสั่ง</translation>
     </message>
+    <message id="cli.auth.confirm">
+      <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
+      <translation>โปรดตรวจสอบกล่องจดหมาย ยืนยัน %1 ด้วยลิงก์ในอีเมล แล้วลงชื่อเข้าใช้</translation>
+    </message>
+    <message id="cli.auth.noAccounts">
+      <source>No remembered accounts.</source>
+      <translation>ไม่มีบัญชีที่จำไว้</translation>
+    </message>
+    <message id="cli.auth.option.name">
+      <source>The name shown on your profile and to your team.</source>
+      <translation>ชื่อที่แสดงในโปรไฟล์และต่อทีมของคุณ</translation>
+    </message>
+    <message id="cli.auth.password">
+      <source>Password: </source>
+      <translation>รหัสผ่าน: </translation>
+    </message>
+    <message id="cli.auth.signedIn">
+      <source>Signed in as %1.</source>
+      <translation>ลงชื่อเข้าใช้ในชื่อ %1 แล้ว</translation>
+    </message>
+    <message id="cli.auth.signedOut">
+      <source>Signed out.</source>
+      <translation>ออกจากระบบแล้ว</translation>
+    </message>
+    <message id="cli.auth.unknownAccount">
+      <source>No remembered account %1. Sign in to it first.</source>
+      <translation>ไม่มีบัญชีที่จำไว้ชื่อ %1 โปรดลงชื่อเข้าใช้บัญชีนั้นก่อน</translation>
+    </message>
+    <message id="cli.auth.usage">
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>วิธีใช้: morvane auth signup|signin &lt;อีเมล&gt; | signout | status | switch &lt;อีเมล&gt; | accounts [--json]</translation>
+    </message>
+    <message id="cli.command.auth">
+      <source>Sign up, sign in and out, switch between accounts</source>
+      <translation>สมัคร ลงชื่อเข้าและออก สลับบัญชี</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>แสดงแบ็กเอนด์ที่ Morvane ใช้และที่มาของการตั้งค่าแต่ละรายการ</translation>
+    </message>
+    <message id="cli.command.server">
+      <source>Start, stop or show the local backend: server start|stop|status</source>
+      <translation>เริ่ม หยุด หรือแสดงแบ็กเอนด์ในเครื่อง: server start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -87,9 +127,53 @@
       <source>Show this help.</source>
       <translation>แสดงวิธีใช้นี้</translation>
     </message>
+    <message id="cli.option.json">
+      <source>Print the answer as JSON.</source>
+      <translation>แสดงคำตอบเป็น JSON</translation>
+    </message>
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>แสดงเวอร์ชัน</translation>
+    </message>
+    <message id="cli.server.action">
+      <source>start, stop or status</source>
+      <translation>start, stop หรือ status</translation>
+    </message>
+    <message id="cli.server.dataDir">
+      <source>Data folder: %1</source>
+      <translation>โฟลเดอร์ข้อมูล: %1</translation>
+    </message>
+    <message id="cli.server.notInUse">
+      <source>Morvane uses %1 (%2), not the local backend.</source>
+      <translation>Morvane ใช้ %1 (%2) ไม่ได้ใช้แบ็กเอนด์ในเครื่อง</translation>
+    </message>
+    <message id="cli.server.running">
+      <source>The local backend is running at %1 (process %2).</source>
+      <translation>แบ็กเอนด์ในเครื่องทำงานอยู่ที่ %1 (โปรเซส %2)</translation>
+    </message>
+    <message id="cli.server.started">
+      <source>Started the local backend at %1 (process %2).</source>
+      <translation>เริ่มแบ็กเอนด์ในเครื่องที่ %1 แล้ว (โปรเซส %2)</translation>
+    </message>
+    <message id="cli.server.starting">
+      <source>The local backend (process %1) is starting and does not answer yet.</source>
+      <translation>แบ็กเอนด์ในเครื่อง (โปรเซส %1) กำลังเริ่มทำงานและยังไม่ตอบสนอง</translation>
+    </message>
+    <message id="cli.server.stopped">
+      <source>The local backend is not running.</source>
+      <translation>แบ็กเอนด์ในเครื่องไม่ได้ทำงานอยู่</translation>
+    </message>
+    <message id="cli.server.stoppedNow">
+      <source>Stopped the local backend (process %1).</source>
+      <translation>หยุดแบ็กเอนด์ในเครื่องแล้ว (โปรเซส %1)</translation>
+    </message>
+    <message id="cli.server.usage">
+      <source>Usage: morvane server start|stop|status [--json]</source>
+      <translation>วิธีใช้: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="client.err.notLoaded">
+      <source>Your clients could not be loaded.</source>
+      <translation>โหลดลูกค้าของคุณไม่ได้</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>
@@ -115,6 +199,58 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>อีเมลหรือรหัสผ่านไม่ถูกต้อง</translation>
     </message>
+    <message id="inviteAlreadyMember">
+      <source>%1 is already in this team.</source>
+      <translation>%1 อยู่ในทีมนี้แล้ว</translation>
+    </message>
+    <message id="inviteFailed">
+      <source>Could not send the invite. Try again.</source>
+      <translation>ส่งคำเชิญไม่ได้ โปรดลองอีกครั้ง</translation>
+    </message>
+    <message id="inviteNoAccount">
+      <source>No Morvane account uses that email yet. Ask them to sign up first.</source>
+      <translation>ยังไม่มีบัญชี Morvane ที่ใช้อีเมลนี้ โปรดขอให้เขาสมัครสมาชิกก่อน</translation>
+    </message>
+    <message id="inviteNotAllowed">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>เฉพาะเจ้าของทีมและผู้แก้ไขเท่านั้นที่เชิญคนอื่นได้</translation>
+    </message>
+    <message id="inviteSent">
+      <source>%1 is invited to this team.</source>
+      <translation>เชิญ %1 เข้าทีมนี้แล้ว</translation>
+    </message>
+    <message id="inviteTeamFull">
+      <source>This team is full: it already has 10 members, the maximum.</source>
+      <translation>ทีมนี้เต็มแล้ว: มีสมาชิกครบ 10 คนซึ่งเป็นจำนวนสูงสุด</translation>
+    </message>
+    <message id="inviteUnavailable">
+      <source>Inviting by email is not available yet. Try again later.</source>
+      <translation>ยังเชิญทางอีเมลไม่ได้ในขณะนี้ โปรดลองอีกครั้งในภายหลัง</translation>
+    </message>
+    <message id="localServer.err.dataFolder">
+      <source>Cannot write the local backend's data folder %1.</source>
+      <translation>เขียนลงโฟลเดอร์ข้อมูล %1 ของแบ็กเอนด์ในเครื่องไม่ได้</translation>
+    </message>
+    <message id="localServer.err.exited">
+      <source>The local backend stopped before it was ready (log: %1).</source>
+      <translation>แบ็กเอนด์ในเครื่องหยุดทำงานก่อนจะพร้อม (บันทึก: %1)</translation>
+    </message>
+    <message id="localServer.err.launch">
+      <source>Cannot run the local backend %1.</source>
+      <translation>เรียกใช้แบ็กเอนด์ในเครื่อง %1 ไม่ได้</translation>
+    </message>
+    <message id="localServer.err.noProgram">
+      <source>Cannot find the local backend: %1 is neither next to Morvane nor on the PATH.</source>
+      <translation>ไม่พบแบ็กเอนด์ในเครื่อง: ไม่มี %1 อยู่ข้าง Morvane หรือใน PATH</translation>
+    </message>
+    <message id="localServer.err.notReady">
+      <source>The local backend was not ready within %1 seconds (log: %2).</source>
+      <translation>แบ็กเอนด์ในเครื่องไม่พร้อมภายใน %1 วินาที (บันทึก: %2)</translation>
+    </message>
+    <message id="localServer.err.wouldNotStop">
+      <source>The local backend (process %1) did not stop within %2 seconds.</source>
+      <translation>แบ็กเอนด์ในเครื่อง (โปรเซส %1) ไม่หยุดภายใน %2 วินาที</translation>
+    </message>
     <message id="net.err.connection">
       <source>Could not reach the server: %1</source>
       <translation>ไม่สามารถเชื่อมต่อเซิร์ฟเวอร์ได้: %1</translation>
@@ -127,9 +263,37 @@
       <source>The request timed out.</source>
       <translation>คำขอหมดเวลา</translation>
     </message>
+    <message id="onboarding.err.notSaved">
+      <source>Your first-run answers were not saved yet. Morvane tries again at the next sign-in.</source>
+      <translation>คำตอบจากการตั้งค่าครั้งแรกยังไม่ได้บันทึก Morvane จะลองใหม่เมื่อคุณลงชื่อเข้าใช้ครั้งถัดไป</translation>
+    </message>
+    <message id="profile.err.notSaved">
+      <source>Your profile was not saved. Try again.</source>
+      <translation>บันทึกโปรไฟล์ของคุณไม่ได้ โปรดลองอีกครั้ง</translation>
+    </message>
+    <message id="project.err.notCreated">
+      <source>The project was not created: you may not add projects to that team.</source>
+      <translation>ไม่ได้สร้างโปรเจกต์: คุณไม่มีสิทธิ์เพิ่มโปรเจกต์ในทีมนั้น</translation>
+    </message>
+    <message id="project.err.notSaved">
+      <source>The project was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>ไม่ได้เปลี่ยนโปรเจกต์: คุณไม่มีสิทธิ์แก้ไข หรือโปรเจกต์นี้ไม่มีอยู่แล้ว</translation>
+    </message>
+    <message id="project.err.teamNotChanged">
+      <source>The project's team was not changed: only its creator and the team's owners and editors can move it.</source>
+      <translation>ไม่ได้เปลี่ยนทีมของโปรเจกต์: เฉพาะผู้สร้างโปรเจกต์ รวมถึงเจ้าของและผู้แก้ไขของทีมเท่านั้นที่ย้ายได้</translation>
+    </message>
     <message id="somethingWentWrong">
       <source>Something went wrong. Try again.</source>
       <translation>เกิดข้อผิดพลาด โปรดลองอีกครั้ง</translation>
+    </message>
+    <message id="store.err.loadFailed">
+      <source>Your data could not be loaded. Morvane tries again shortly.</source>
+      <translation>โหลดข้อมูลของคุณไม่ได้ Morvane จะลองใหม่ในอีกสักครู่</translation>
+    </message>
+    <message id="store.err.writeFailed">
+      <source>The change could not be saved. Check the connection and try again.</source>
+      <translation>บันทึกการเปลี่ยนแปลงไม่ได้ โปรดตรวจสอบการเชื่อมต่อแล้วลองอีกครั้ง</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>
@@ -146,6 +310,26 @@
     <message id="supabase.err.noAuth">
       <source>Not signed in.</source>
       <translation>ยังไม่ได้ลงชื่อเข้าใช้</translation>
+    </message>
+    <message id="task.err.notCreated">
+      <source>The task was not created: you may not add tasks to this project.</source>
+      <translation>ไม่ได้สร้างงาน: คุณไม่มีสิทธิ์เพิ่มงานในโปรเจกต์นี้</translation>
+    </message>
+    <message id="task.err.notSaved">
+      <source>The task was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>ไม่ได้เปลี่ยนงาน: คุณไม่มีสิทธิ์แก้ไข หรืองานนี้ไม่มีอยู่แล้ว</translation>
+    </message>
+    <message id="team.err.notCreated">
+      <source>The team was not created. Try again.</source>
+      <translation>สร้างทีมไม่ได้ โปรดลองอีกครั้ง</translation>
+    </message>
+    <message id="team.err.notLoaded">
+      <source>Your teams could not be loaded.</source>
+      <translation>โหลดทีมของคุณไม่ได้</translation>
+    </message>
+    <message id="timer.err.startedElsewhere">
+      <source>The timer of this task was started on another device, so its status was not changed.</source>
+      <translation>ตัวจับเวลาของงานนี้เริ่มบนอุปกรณ์อื่น จึงไม่ได้เปลี่ยนสถานะของงาน</translation>
     </message>
   </context>
 </TS>

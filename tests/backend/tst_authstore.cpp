@@ -235,10 +235,13 @@ private slots:
         QVERIFY(runBlocking(laptop->auth->signIn(u"dana@example.nl"_s, u"dana's secret"_s)));
         QCOMPARE(laptop->auth->accounts().size(), 2);
 
+        // Signing in to the second account left the first one's session alone.
         QVERIFY(runBlocking(laptop->auth->switchAccount(work)));
         QCOMPARE(laptop->auth->email(), u"work@example.nl"_s);
         QCOMPARE(laptop->auth->userId(), work);
-        QVERIFY(runBlocking(laptop->auth->validToken(30)).has_value());
+        const QByteArray token = runBlocking(laptop->auth->validToken(30)).value_or(QString()).toLatin1();
+        QCOMPARE(m_backend.request("GET", "/auth/v1/user", token).json().object().value(u"email"_s).toString(),
+                 u"work@example.nl"_s);
 
         const QString dana = laptop->auth->accounts().at(1).id;
         m_backend.database().exec("DELETE FROM auth.sessions WHERE user_id = $1", {dana.toUtf8()});

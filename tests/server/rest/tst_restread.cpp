@@ -192,6 +192,21 @@ private slots:
         QCOMPARE(jsonColumn(result.json().array(), u"title"_s), expected);
     }
 
+    void logicTreesCombineWithOtherFilters()
+    {
+        // The tree is one condition among the others: "a AND (b OR c)", never "a AND b OR c".
+        const HttpResult result = get(u"tasks"_s, {{u"select"_s, u"title"_s},
+                                                   {u"title"_s, u"in.(Weekly sync,Photo retouch)"_s},
+                                                   {u"or"_s, u"(status.neq.in_progress,started_at.is.null)"_s},
+                                                   {u"order"_s, u"title"_s}});
+        QCOMPARE(result.status, 200);
+        QCOMPARE(jsonColumn(result.json().array(), u"title"_s), (QStringList{u"Photo retouch"_s, u"Weekly sync"_s}));
+        const HttpResult negated = get(u"tasks"_s, {{u"select"_s, u"title"_s},
+                                                    {u"priority"_s, u"eq.high"_s},
+                                                    {u"not.or"_s, u"(status.eq.completed,title.eq.nothing)"_s}});
+        QCOMPARE(jsonColumn(negated.json().array(), u"title"_s), QStringList{u"Photo retouch"_s});
+    }
+
     void embedsToOneAndToMany()
     {
         HttpResult result = get(

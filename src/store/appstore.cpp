@@ -1,0 +1,1700 @@
+#include "appstore.h"
+
+#include "backend/authstore.h"
+#include "backend/supabase.h"
+#include "i18n/language.h"
+#include "model/isodate.h"
+#include "store/pendingonboarding.h"
+#include "store/storelog.h"
+#include "store/storetext.h"
+
+#include <QTimeZone>
+
+#include <algorithm>
+#include <limits>
+#include <vector>
+
+Q_LOGGING_CATEGORY(lcStore, "morvane.store")
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QueryItems idFilter(const QString &id)
+{
+    return {{u"id"_s, u"eq."_s + id}};
+}
+
+QString inList(const QStringList &ids)
+{
+    return u"in.("_s + Supabase::uuidList(ids).join(u',') + u')';
+}
+
+// deleteFrom() answers nothing, and a delete that row-level security keeps from a row is no error
+// either: only the deleted rows coming back tell a refusal from a success.
+template<Wire::WireRecord T>
+QCoro::Task<QList<T>> deleteReturning(Supabase client, QString table, QString accessToken, QueryItems query)
+{
+    BackendRequest request;
+    request.method = "DELETE";
+    request.path = u"rest/v1/"_s + table;
+    request.query = std::move(query);
+    request.headers = {
+        {"Accept", "application/json"},
+        {"apikey", client.anonKey().toUtf8()},
+        {"Authorization", QByteArray("Bearer " + accessToken.toUtf8())},
+        {"Prefer", "return=representation"},
+    };
+    const QByteArray body = co_await client.send(std::move(request), Supabase::Channel::Data);
+    co_return Supabase::decodeBody<QList<T>>(body);
+}
+
+// A refusal is the backend saying no to this user (a policy, a missing row the write refers to);
+// anything else (no answer, a server failure) is worth trying again.
+bool isRefusal(const MorvaneError &error)
+{
+    const auto *backend = dynamic_cast<const SupabaseError *>(&error);
+    if (!backend || backend->kind() != SupabaseError::Kind::HttpStatus) {
+        return false;
+    }
+    const std::optional<QString> code = backend->errorCode();
+    return backend->status() == 403 || backend->status() == 409 || code == u"42501" || code == u"23503";
+}
+
+qint64 instantKey(const std::optional<QString> &text)
+{
+    const std::optional<QDateTime> instant = isoDate(text);
+    return instant ? instant->toMSecsSinceEpoch() : std::numeric_limits<qint64>::min();
+}
+
+QSet<QString> idSet(const QStringList &ids)
+{
+    return {ids.cbegin(), ids.cend()};
+}
+
+void sortMembers(QList<TeamMember> &members)
+{
+    std::stable_sort(members.begin(), members.end(), [](const TeamMember &a, const TeamMember &b) {
+        if (a.role != b.role) {
+            return a.role < b.role;
+        }
+        return a.email.compare(b.email, Qt::CaseInsensitive) < 0;
+    });
+}
+
+} // namespace
+
+// isLoading is true while any refresh runs.
+class AppStore::LoadingScope
+{
+public:
+    explicit LoadingScope(AppStore &store)
+        : m_store(store)
+    {
+        m_store.setLoadingDepth(m_store.m_loadingDepth + 1);
+    }
+    ~LoadingScope() { m_store.setLoadingDepth(m_store.m_loadingDepth - 1); }
+    LoadingScope(const LoadingScope &) = delete;
+    LoadingScope &operator=(const LoadingScope &) = delete;
+
+private:
+    AppStore &m_store;
+};
+
+// Marks tasks as saving for as long as a write on them is in flight.
+class AppStore::SavingScope
+{
+public:
+    SavingScope(AppStore &store, QStringList taskIds)
+        : m_store(store)
+        , m_ids(std::move(taskIds))
+    {
+        for (const QString &id : std::as_const(m_ids)) {
+            ++m_store.m_savingCounts[id];
+        }
+        publish();
+    }
+    ~SavingScope()
+    {
+        for (const QString &id : std::as_const(m_ids)) {
+            auto it = m_store.m_savingCounts.find(id);
+            if (it != m_store.m_savingCounts.end() && --it.value() <= 0) {
+                m_store.m_savingCounts.erase(it);
+            }
+        }
+        publish();
+    }
+    SavingScope(const SavingScope &) = delete;
+    SavingScope &operator=(const SavingScope &) = delete;
+
+private:
+    void publish()
+    {
+        QSet<QString> ids;
+        for (auto it = m_store.m_savingCounts.cbegin(); it != m_store.m_savingCounts.cend(); ++it) {
+            ids.insert(it.key());
+        }
+        if (ids != m_store.m_savingTaskIds) {
+            m_store.m_savingTaskIds = std::move(ids);
+            emit m_store.savingTaskIdsChanged();
+        }
+    }
+
+    AppStore &m_store;
+    QStringList m_ids;
+};
+
+AppStore::AppStore(AuthStore &auth, std::shared_ptr<QSettings> settings, Clock clock, QObject *parent)
+    : QObject(parent)
+    , m_auth(auth)
+    , m_settings(std::move(settings))
+    , m_clock(std::move(clock))
+{
+    m_pollTimer.setSingleShot(true);
+    connect(&m_pollTimer, &QTimer::timeout, this, [this] { pollStep(m_pollRun); });
+}
+
+AppStore::~AppStore() = default;
+
+// ---- Published state -------------------------------------------------------------------------
+
+std::optional<Project> AppStore::project(const QString &projectId) const
+{
+    for (const Project &project : m_projects) {
+        if (project.id == projectId) {
+            return project;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<TaskItem> AppStore::task(const QString &taskId) const
+{
+    const auto owner = m_projectOfTask.constFind(taskId);
+    if (owner == m_projectOfTask.cend()) {
+        return std::nullopt;
+    }
+    for (const TaskItem &task : m_tasksByProject.value(*owner)) {
+        if (task.id == taskId) {
+            return task;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<TaskItem> AppStore::runningTask() const
+{
+    std::optional<TaskItem> running;
+    qint64 runningSince = 0;
+    for (const QList<TaskItem> &tasks : m_tasksByProject) {
+        for (const TaskItem &task : tasks) {
+            if (task.status != TaskStatus::InProgress) {
+                continue;
+            }
+            const qint64 since = instantKey(task.startedAt);
+            if (!running || since > runningSince || (since == runningSince && task.id < running->id)) {
+                running = task;
+                runningSince = since;
+            }
+        }
+    }
+    return running;
+}
+
+void AppStore::setSelectedProjectId(const QString &projectId)
+{
+    if (m_selectedProjectId == projectId) {
+        return;
+    }
+    m_selectedProjectId = projectId;
+    emit selectedProjectIdChanged();
+}
+
+void AppStore::setSelectedTaskId(const QString &taskId)
+{
+    if (m_selectedTaskId == taskId) {
+        return;
+    }
+    m_selectedTaskId = taskId;
+    emit selectedTaskIdChanged();
+}
+
+QStringList AppStore::savingTaskIdList() const
+{
+    QStringList ids(m_savingTaskIds.cbegin(), m_savingTaskIds.cend());
+    ids.sort();
+    return ids;
+}
+
+void AppStore::setRealtimeConnected(bool connected)
+{
+    if (m_realtimeConnected == connected) {
+        return;
+    }
+    m_realtimeConnected = connected;
+    emit realtimeConnectedChanged();
+}
+
+QStringList AppStore::selectedTaskIdList() const
+{
+    QStringList ids(m_selectedTaskIds.cbegin(), m_selectedTaskIds.cend());
+    ids.sort();
+    return ids;
+}
+
+void AppStore::toggleSelection(const QString &taskId)
+{
+    QSet<QString> ids = m_selectedTaskIds;
+    if (!ids.remove(taskId)) {
+        ids.insert(taskId);
+    }
+    setSelectedTaskIds(std::move(ids));
+}
+
+void AppStore::clearSelection()
+{
+    setSelectedTaskIds({});
+}
+
+void AppStore::setSelectedTaskIds(QSet<QString> ids)
+{
+    if (m_selectedTaskIds == ids) {
+        return;
+    }
+    m_selectedTaskIds = std::move(ids);
+    emit selectedTaskIdsChanged();
+}
+
+void AppStore::setSidebarSelection(const SidebarSelection &selection)
+{
+    if (m_sidebarSelection == selection) {
+        return;
+    }
+    m_sidebarSelection = selection;
+    emit sidebarSelectionChanged();
+}
+
+void AppStore::setTaskFilter(TaskFilter filter)
+{
+    if (m_taskFilter == filter) {
+        return;
+    }
+    m_taskFilter = filter;
+    emit taskFilterChanged();
+}
+
+QString AppStore::taskFilterName() const
+{
+    return Wire::enumName(m_taskFilter);
+}
+
+void AppStore::setTaskFilterName(const QString &name)
+{
+    if (const std::optional<TaskFilter> filter = Wire::enumFromName<TaskFilter>(name)) {
+        setTaskFilter(*filter);
+    }
+}
+
+void AppStore::setTaskSort(TaskSort sort)
+{
+    if (m_taskSort == sort) {
+        return;
+    }
+    m_taskSort = sort;
+    emit taskSortChanged();
+}
+
+QString AppStore::taskSortName() const
+{
+    return Wire::enumName(m_taskSort);
+}
+
+void AppStore::setTaskSortName(const QString &name)
+{
+    if (const std::optional<TaskSort> sort = Wire::enumFromName<TaskSort>(name)) {
+        setTaskSort(*sort);
+    }
+}
+
+void AppStore::setSearchQuery(const QString &query)
+{
+    if (m_searchQuery == query) {
+        return;
+    }
+    m_searchQuery = query;
+    emit searchQueryChanged();
+}
+
+void AppStore::setAiProgress(const QString &progress)
+{
+    if (m_aiProgress == progress) {
+        return;
+    }
+    m_aiProgress = progress;
+    emit aiProgressChanged();
+}
+
+void AppStore::setLastError(const QString &message)
+{
+    if (m_lastError == message) {
+        return;
+    }
+    m_lastError = message;
+    emit lastErrorChanged();
+}
+
+void AppStore::failed(const char *logPrefix, const QString &detail, const QString &message)
+{
+    qCWarning(lcStore).noquote() << QString(QLatin1StringView(logPrefix) + detail);
+    setLastError(message);
+}
+
+void AppStore::writeFailed(const char *logPrefix, const MorvaneError &error, const QString &refusedMessage)
+{
+    failed(logPrefix, error.message(), isRefusal(error) ? refusedMessage : StoreText::writeFailed());
+}
+
+void AppStore::setLoadingDepth(int depth)
+{
+    const bool was = isLoading();
+    m_loadingDepth = depth;
+    if (was != isLoading()) {
+        emit isLoadingChanged();
+    }
+}
+
+void AppStore::setLastRefreshedAt(const QDateTime &at)
+{
+    if (m_lastRefreshedAt == at) {
+        return;
+    }
+    m_lastRefreshedAt = at;
+    emit lastRefreshedAtChanged();
+}
+
+void AppStore::setCurrentUserId(const QString &userId)
+{
+    if (m_currentUserId == userId) {
+        return;
+    }
+    m_currentUserId = userId;
+    emit currentUserIdChanged();
+}
+
+void AppStore::setProfile(const std::optional<Profile> &profile)
+{
+    if (m_profile == profile) {
+        return;
+    }
+    m_profile = profile;
+    emit profileChanged();
+}
+
+void AppStore::setProjects(QList<Project> projects)
+{
+    if (m_projects == projects) {
+        return;
+    }
+    m_projects = std::move(projects);
+    emit projectsChanged();
+}
+
+void AppStore::setTeams(QList<Team> teams, QHash<QString, QList<TeamMember>> members)
+{
+    if (m_teams == teams && m_membersByTeam == members) {
+        return;
+    }
+    m_teams = std::move(teams);
+    m_membersByTeam = std::move(members);
+    emit teamsChanged();
+}
+
+void AppStore::setClients(QList<Client> all)
+{
+    QList<Client> active;
+    for (const Client &client : all) {
+        if (!client.isArchived()) {
+            active.append(client);
+        }
+    }
+    if (m_allClients == all && m_clients == active) {
+        return;
+    }
+    m_allClients = std::move(all);
+    m_clients = std::move(active);
+    emit clientsChanged();
+}
+
+// ---- Sessions --------------------------------------------------------------------------------
+
+QCoro::Task<std::optional<AppStore::Session>> AppStore::openSession(const char *logPrefix)
+{
+    const std::optional<QString> token = co_await m_auth.validToken(30);
+    if (!token) {
+        failed(logPrefix, u"not signed in"_s, StoreText::notSignedIn());
+        co_return std::nullopt;
+    }
+    const QString userId = m_auth.userId();
+    if (userId != m_currentUserId) {
+        adoptUser(userId);
+    }
+    co_return Session{*token, m_generation};
+}
+
+void AppStore::adoptUser(const QString &userId)
+{
+    // Another account's rows must never show, not even until the first refresh ends.
+    clearCollections();
+    ++m_generation;
+    setCurrentUserId(userId);
+}
+
+void AppStore::endSession()
+{
+    stopSync();
+    clearCollections();
+    ++m_generation;
+    setCurrentUserId({});
+}
+
+void AppStore::clearCollections()
+{
+    setProjects({});
+    if (!m_tasksByProject.isEmpty()) {
+        m_tasksByProject.clear();
+        m_projectOfTask.clear();
+        tasksDidChange();
+    }
+    if (!m_entriesByTask.isEmpty() || !m_recentEntries.isEmpty()) {
+        m_entriesByTask.clear();
+        m_recentEntries.clear();
+        emit entriesChanged();
+    }
+    setTeams({}, {});
+    setClients({});
+    setProfile(std::nullopt);
+    setSelectedProjectId({});
+    setSelectedTaskId({});
+    setSelectedTaskIds({});
+    setSidebarSelection({});
+    setLastRefreshedAt({});
+    setLastError({});
+}
+
+// ---- Loading ---------------------------------------------------------------------------------
+
+QDateTime AppStore::recentWindowStart() const
+{
+    // Midnight of the local day 30 days back: the window follows the user's calendar, not UTC.
+    const QDate today = m_clock().toLocalTime().date();
+    return QDateTime(today.addDays(-recentWindowDays), QTime(0, 0)).toUTC();
+}
+
+QCoro::Task<bool> AppStore::refreshAll()
+{
+    const std::optional<Session> session = co_await openSession("Refresh failed: ");
+    if (!session) {
+        co_return false;
+    }
+    LoadingScope loading(*this);
+    const Supabase client = m_auth.client();
+    const QDateTime windowStart = recentWindowStart();
+
+    const QueryItems profileQuery{{u"select"_s, u"*"_s}};
+    const QueryItems projectQuery{{u"select"_s, u"*"_s}, {u"order"_s, u"updated_at.desc"_s}};
+    const QueryItems taskQuery{{u"select"_s, u"*"_s}, {u"order"_s, u"created_at.desc"_s}};
+    const QueryItems entryQuery{{u"select"_s, u"*"_s},
+                                {u"ended_at"_s, u"gte."_s + isoString(windowStart)},
+                                {u"order"_s, u"ended_at.desc,id.desc"_s}};
+    // All four are under way before the first is awaited.
+    QCoro::Task<QList<Profile>> profileRead = client.select<Profile>(u"profiles"_s, session->token, profileQuery);
+    QCoro::Task<QList<Project>> projectRead = client.select<Project>(u"projects"_s, session->token, projectQuery);
+    QCoro::Task<QList<TaskItem>> taskRead = client.select<TaskItem>(u"tasks"_s, session->token, taskQuery);
+    QCoro::Task<QList<TimeEntry>> entryRead =
+        client.selectAll<TimeEntry>(u"time_entries"_s, session->token, entryQuery);
+
+    QStringList failures;
+    QList<Profile> profiles;
+    QList<Project> projects;
+    QList<TaskItem> tasks;
+    std::optional<QList<TimeEntry>> entries;
+    try {
+        profiles = co_await profileRead;
+    } catch (const MorvaneError &error) {
+        failures << u"profiles: "_s + error.message();
+    }
+    try {
+        projects = co_await projectRead;
+    } catch (const MorvaneError &error) {
+        failures << u"projects: "_s + error.message();
+    }
+    try {
+        tasks = co_await taskRead;
+    } catch (const MorvaneError &error) {
+        failures << u"tasks: "_s + error.message();
+    }
+    try {
+        entries = co_await entryRead;
+    } catch (const MorvaneError &error) {
+        // The entries are the least needed part: the lists still load without them.
+        qCWarning(lcStore).noquote() << u"Load time entries failed: "_s + error.message();
+    }
+    if (!isCurrent(*session)) {
+        co_return false;
+    }
+    if (!failures.isEmpty()) {
+        failed("Refresh failed: ", failures.join(u"; "), StoreText::loadFailed());
+        co_return false;
+    }
+
+    // Team mates' profiles come along (team views show their names); ours is the one with our id.
+    std::optional<Profile> own;
+    for (const Profile &profile : std::as_const(profiles)) {
+        if (profile.id == m_currentUserId) {
+            own = profile;
+        }
+    }
+    setProfile(own);
+
+    // Visibility depends on the user's roles, so the teams come before the tasks are grouped. A
+    // failed team read leaves the last known teams in place and says so; the lists still load.
+    co_await loadTeams();
+    if (!isCurrent(*session)) {
+        co_return false;
+    }
+    setProjects(std::move(projects));
+    groupTasks(tasks);
+    if (entries) {
+        foldEntries(*entries, windowStart);
+    }
+    // The timer display follows runningTaskChanged, which groupTasks raised if the running task
+    // changed; invoices join the refresh here once invoicing is built.
+    co_await loadClients();
+    if (!isCurrent(*session)) {
+        co_return false;
+    }
+    setLastRefreshedAt(m_clock());
+    co_return true;
+}
+
+void AppStore::groupTasks(const QList<TaskItem> &tasks)
+{
+    // canSeeTask per project rather than per task: a refresh brings thousands of tasks.
+    QHash<QString, bool> seesEveryTaskOf;
+    for (const Project &project : std::as_const(m_projects)) {
+        seesEveryTaskOf.insert(project.id, project.userId == m_currentUserId ||
+                                               (project.teamId && roleInTeam(*project.teamId).has_value()));
+    }
+    QHash<QString, QList<TaskItem>> grouped;
+    QHash<QString, QString> owners;
+    owners.reserve(tasks.size());
+    for (const TaskItem &task : tasks) {
+        if (task.userId == m_currentUserId || seesEveryTaskOf.value(task.projectId)) {
+            grouped[task.projectId].append(task);
+            owners.insert(task.id, task.projectId);
+        }
+    }
+    if (grouped == m_tasksByProject) {
+        return;
+    }
+    m_tasksByProject = std::move(grouped);
+    m_projectOfTask = std::move(owners);
+    tasksDidChange();
+}
+
+void AppStore::foldEntries(const QList<TimeEntry> &entries, const QDateTime &windowStart)
+{
+    // Entries that ended before the window were loaded for one task on demand; the fresh read
+    // says nothing about them, so they stay. Inside the window the fresh read is the truth.
+    QHash<QString, QList<TimeEntry>> byTask;
+    for (const TimeEntry &entry : entries) {
+        byTask[entry.taskId].append(entry);
+    }
+    for (auto it = m_entriesByTask.cbegin(); it != m_entriesByTask.cend(); ++it) {
+        for (const TimeEntry &entry : it.value()) {
+            const std::optional<QDateTime> ended = isoDate(entry.endedAt);
+            if (ended && *ended < windowStart) {
+                byTask[it.key()].append(entry);
+            }
+        }
+    }
+    if (byTask == m_entriesByTask && entries == m_recentEntries) {
+        return;
+    }
+    m_entriesByTask = std::move(byTask);
+    m_recentEntries = entries;
+    emit entriesChanged();
+}
+
+void AppStore::tasksDidChange()
+{
+    emit tasksChanged();
+    const std::optional<TaskItem> running = runningTask();
+    const QString key = running ? running->id + u'|' + running->startedAt.value_or(QString()) : QString();
+    if (key != m_runningKey) {
+        m_runningKey = key;
+        emit runningTaskChanged();
+    }
+}
+
+QCoro::Task<bool> AppStore::loadTeams()
+{
+    const std::optional<Session> session = co_await openSession("Load teams failed: ");
+    if (!session) {
+        co_return false;
+    }
+    const Supabase client = m_auth.client();
+    try {
+        const QueryItems teamQuery{{u"select"_s, u"*"_s}, {u"order"_s, u"created_at.desc"_s}};
+        const QueryItems memberQuery{{u"select"_s, u"*"_s}};
+        QCoro::Task<QList<Team>> teamRead = client.select<Team>(u"teams"_s, session->token, teamQuery);
+        QCoro::Task<QList<TeamMember>> memberRead =
+            client.select<TeamMember>(u"team_members"_s, session->token, memberQuery);
+        // Both reads are awaited even when the first fails: a read left running would outlive the
+        // client it was started on.
+        std::exception_ptr teamFailure;
+        QList<Team> teams;
+        try {
+            teams = co_await teamRead;
+        } catch (...) {
+            teamFailure = std::current_exception();
+        }
+        const QList<TeamMember> members = co_await memberRead;
+        if (teamFailure) {
+            std::rethrow_exception(teamFailure);
+        }
+
+        // A backend that shows a member only the teams they own still lists their memberships:
+        // those teams are read by id.
+        QSet<QString> owned;
+        QSet<QString> known;
+        for (const Team &team : std::as_const(teams)) {
+            known.insert(team.id);
+            if (team.ownerId == m_currentUserId) {
+                owned.insert(team.id);
+            }
+        }
+        QStringList memberOf;
+        for (const TeamMember &member : members) {
+            if (member.userId == m_currentUserId && !owned.contains(member.teamId) &&
+                !memberOf.contains(member.teamId)) {
+                memberOf.append(member.teamId);
+            }
+        }
+        if (!memberOf.isEmpty()) {
+            const QueryItems byId{{u"select"_s, u"*"_s}, {u"id"_s, inList(memberOf)}};
+            const QList<Team> extra = co_await client.select<Team>(u"teams"_s, session->token, byId);
+            for (const Team &team : extra) {
+                if (!known.contains(team.id)) {
+                    known.insert(team.id);
+                    teams.append(team);
+                }
+            }
+            std::stable_sort(teams.begin(), teams.end(), [](const Team &a, const Team &b) {
+                return instantKey(a.createdAt) > instantKey(b.createdAt);
+            });
+        }
+
+        QHash<QString, QList<TeamMember>> byTeam;
+        for (const TeamMember &member : members) {
+            byTeam[member.teamId].append(member);
+        }
+        for (QList<TeamMember> &list : byTeam) {
+            sortMembers(list);
+        }
+        if (!isCurrent(*session)) {
+            co_return false;
+        }
+        setTeams(std::move(teams), std::move(byTeam));
+        co_return true;
+    } catch (const MorvaneError &error) {
+        failed("Load teams failed: ", error.message(), StoreText::teamsNotLoaded());
+        co_return false;
+    }
+}
+
+QCoro::Task<> AppStore::reloadMembers(Session session, QString teamId)
+{
+    try {
+        const QueryItems query{{u"select"_s, u"*"_s}, {u"team_id"_s, u"eq."_s + teamId}};
+        QList<TeamMember> members =
+            co_await m_auth.client().select<TeamMember>(u"team_members"_s, session.token, query);
+        if (!isCurrent(session)) {
+            co_return;
+        }
+        sortMembers(members);
+        QHash<QString, QList<TeamMember>> byTeam = m_membersByTeam;
+        byTeam.insert(teamId, members);
+        setTeams(m_teams, std::move(byTeam));
+    } catch (const MorvaneError &error) {
+        // The write before this succeeded; the next refresh brings the members.
+        qCWarning(lcStore).noquote() << u"Load team members failed: "_s + error.message();
+    }
+}
+
+QCoro::Task<bool> AppStore::loadClients()
+{
+    const std::optional<Session> session = co_await openSession("Load clients failed: ");
+    if (!session) {
+        co_return false;
+    }
+    try {
+        const QueryItems query{{u"select"_s, u"*"_s}, {u"order"_s, u"name.asc"_s}};
+        QList<Client> all = co_await m_auth.client().select<Client>(u"clients"_s, session->token, query);
+        if (!isCurrent(*session)) {
+            co_return false;
+        }
+        setClients(std::move(all));
+        co_return true;
+    } catch (const MorvaneError &error) {
+        failed("Load clients failed: ", error.message(), StoreText::clientsNotLoaded());
+        co_return false;
+    }
+}
+
+// ---- Sync ------------------------------------------------------------------------------------
+
+void AppStore::startSync()
+{
+    // The realtime feed starts here once it exists: a token provider asking for 300 seconds of
+    // validity, its status into setRealtimeConnected, its changes merged by id, and its resync
+    // into refreshAll. Until then the feed counts as down and the poll runs at the quick pace.
+    m_syncing = true;
+    ++m_pollRun;
+    armPoll();
+}
+
+void AppStore::stopSync()
+{
+    m_syncing = false;
+    ++m_pollRun;
+    m_pollTimer.stop();
+    setRealtimeConnected(false);
+}
+
+void AppStore::armPoll()
+{
+    m_pollTimer.start(m_pollInterval);
+}
+
+QCoro::Task<> AppStore::pollStep(quint64 run)
+{
+    co_await pollOnce();
+    if (m_syncing && run == m_pollRun) {
+        armPoll();
+    }
+}
+
+bool AppStore::refreshDue(const QDateTime &now) const
+{
+    if (!m_lastRefreshedAt.isValid()) {
+        return true;
+    }
+    const std::chrono::milliseconds age(m_lastRefreshedAt.msecsTo(now));
+    // A last refresh "in the future" means the clock was set back: better one refresh too many
+    // than none until the clock catches up.
+    if (age.count() < 0) {
+        return true;
+    }
+    return age >= (m_realtimeConnected ? staleWithRealtime : staleWithoutRealtime);
+}
+
+QCoro::Task<bool> AppStore::pollOnce()
+{
+    // A refresh under way will end with a fresh lastRefreshedAt; a second one would only repeat it.
+    if (!m_auth.isSignedIn() || isLoading() || !refreshDue(m_clock())) {
+        co_return false;
+    }
+    co_return co_await refreshAll();
+}
+
+// ---- Task views ------------------------------------------------------------------------------
+
+QList<TaskItem> AppStore::filteredSortedTasks(const QString &projectId) const
+{
+    return TaskOrder::filterAndSort(m_tasksByProject.value(projectId), m_taskFilter, m_taskSort, m_clock());
+}
+
+std::optional<TaskItem> AppStore::neighborTask(const QString &taskId, Neighbor direction) const
+{
+    const QString projectId = m_projectOfTask.value(taskId);
+    if (projectId.isEmpty()) {
+        return std::nullopt;
+    }
+    const QList<TaskItem> shown = filteredSortedTasks(projectId);
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        if (shown[i].id != taskId) {
+            continue;
+        }
+        const qsizetype next = direction == Neighbor::Next ? i + 1 : i - 1;
+        if (next < 0 || next >= shown.size()) {
+            return std::nullopt;
+        }
+        return shown[next];
+    }
+    return std::nullopt;
+}
+
+std::optional<TeamRole> AppStore::roleInTeam(const QString &teamId) const
+{
+    if (m_currentUserId.isEmpty()) {
+        return std::nullopt;
+    }
+    // The backend counts an invitation not yet accepted with its role, and so does this.
+    std::optional<TeamRole> role;
+    for (const Team &team : m_teams) {
+        if (team.id == teamId && team.ownerId == m_currentUserId) {
+            role = TeamRole::Owner;
+        }
+    }
+    for (const TeamMember &member : m_membersByTeam.value(teamId)) {
+        if (member.userId == m_currentUserId && (!role || member.role < *role)) {
+            role = member.role;
+        }
+    }
+    return role;
+}
+
+bool AppStore::canSeeTask(const TaskItem &task, const QList<Project> *projects) const
+{
+    if (m_currentUserId.isEmpty()) {
+        return false;
+    }
+    if (task.userId == m_currentUserId) {
+        return true;
+    }
+    const QList<Project> &list = projects ? *projects : m_projects;
+    const auto found =
+        std::find_if(list.cbegin(), list.cend(), [&](const Project &p) { return p.id == task.projectId; });
+    if (found == list.cend()) {
+        return false;
+    }
+    if (found->userId == m_currentUserId) {
+        return true;
+    }
+    return found->teamId && roleInTeam(*found->teamId).has_value();
+}
+
+bool AppStore::isProjectAdmin(const QString &projectId) const
+{
+    if (m_currentUserId.isEmpty()) {
+        return false;
+    }
+    const std::optional<Project> found = project(projectId);
+    if (!found) {
+        return false;
+    }
+    if (found->userId == m_currentUserId) {
+        return true;
+    }
+    if (!found->teamId) {
+        return false;
+    }
+    const std::optional<TeamRole> role = roleInTeam(*found->teamId);
+    return role == TeamRole::Owner || role == TeamRole::Editor;
+}
+
+void AppStore::replaceTask(const TaskItem &task)
+{
+    const QString oldProject = m_projectOfTask.value(task.id);
+    if (!oldProject.isEmpty()) {
+        QList<TaskItem> &list = m_tasksByProject[oldProject];
+        for (qsizetype i = 0; i < list.size(); ++i) {
+            if (list[i].id != task.id) {
+                continue;
+            }
+            if (oldProject == task.projectId && canSeeTask(task)) {
+                if (list[i] == task) {
+                    return;
+                }
+                list[i] = task;
+                tasksDidChange();
+                return;
+            }
+            list.removeAt(i);
+            break;
+        }
+        if (list.isEmpty()) {
+            m_tasksByProject.remove(oldProject);
+        }
+        m_projectOfTask.remove(task.id);
+    }
+    if (canSeeTask(task)) {
+        // Lists keep the load order, newest first, so a moved or new task goes where a reload
+        // would put it.
+        QList<TaskItem> &list = m_tasksByProject[task.projectId];
+        const qint64 created = instantKey(task.createdAt);
+        const auto at = std::find_if(list.begin(), list.end(),
+                                     [&](const TaskItem &other) { return instantKey(other.createdAt) < created; });
+        list.insert(at, task);
+        m_projectOfTask.insert(task.id, task.projectId);
+    }
+    tasksDidChange();
+}
+
+void AppStore::removeTasks(const QSet<QString> &taskIds)
+{
+    bool changed = false;
+    for (const QString &id : taskIds) {
+        const QString projectId = m_projectOfTask.take(id);
+        if (projectId.isEmpty()) {
+            continue;
+        }
+        QList<TaskItem> &list = m_tasksByProject[projectId];
+        list.removeIf([&](const TaskItem &task) { return task.id == id; });
+        if (list.isEmpty()) {
+            m_tasksByProject.remove(projectId);
+        }
+        changed = true;
+    }
+    bool entriesTouched = false;
+    for (const QString &id : taskIds) {
+        entriesTouched |= m_entriesByTask.remove(id);
+    }
+    entriesTouched |=
+        m_recentEntries.removeIf([&](const TimeEntry &entry) { return taskIds.contains(entry.taskId); }) > 0;
+    if (changed) {
+        tasksDidChange();
+    }
+    if (entriesTouched) {
+        emit entriesChanged();
+    }
+    setSelectedTaskIds(m_selectedTaskIds - taskIds);
+    if (taskIds.contains(m_selectedTaskId)) {
+        setSelectedTaskId({});
+    }
+}
+
+// ---- Projects --------------------------------------------------------------------------------
+
+void AppStore::mergeProject(const Project &project)
+{
+    QList<Project> projects = m_projects;
+    const auto found =
+        std::find_if(projects.begin(), projects.end(), [&](const Project &p) { return p.id == project.id; });
+    if (found != projects.end()) {
+        *found = project;
+    } else {
+        projects.prepend(project);
+    }
+    setProjects(std::move(projects));
+}
+
+void AppStore::removeProject(const QString &projectId)
+{
+    QList<Project> projects = m_projects;
+    projects.removeIf([&](const Project &p) { return p.id == projectId; });
+    setProjects(std::move(projects));
+    QSet<QString> taskIds;
+    for (const TaskItem &task : m_tasksByProject.value(projectId)) {
+        taskIds.insert(task.id);
+    }
+    removeTasks(taskIds);
+    if (m_selectedProjectId == projectId) {
+        setSelectedProjectId({});
+    }
+}
+
+QCoro::Task<std::optional<Project>> AppStore::createProject(ProjectInsert draft)
+{
+    const std::optional<Session> session = co_await openSession("Create project failed: ");
+    if (!session) {
+        co_return std::nullopt;
+    }
+    if (draft.userId.isEmpty()) {
+        draft.userId = m_currentUserId;
+    }
+    try {
+        const QList<Project> rows = co_await m_auth.client().insert<Project>(u"projects"_s, session->token, draft);
+        if (!isCurrent(*session)) {
+            co_return std::nullopt;
+        }
+        if (rows.isEmpty()) {
+            failed("Create project failed: ", u"no row came back"_s, StoreText::projectNotCreated());
+            co_return std::nullopt;
+        }
+        mergeProject(rows.first());
+        co_return rows.first();
+    } catch (const MorvaneError &error) {
+        writeFailed("Create project failed: ", error, StoreText::projectNotCreated());
+        co_return std::nullopt;
+    }
+}
+
+QCoro::Task<bool> AppStore::patchProject(QString projectId, AnyEncodable body, const char *logPrefix,
+                                         QString refusedMessage)
+{
+    const std::optional<Session> session = co_await openSession(logPrefix);
+    if (!session) {
+        co_return false;
+    }
+    try {
+        const QList<Project> rows =
+            co_await m_auth.client().update<Project>(u"projects"_s, session->token, idFilter(projectId), body);
+        if (!isCurrent(*session)) {
+            co_return false;
+        }
+        if (rows.isEmpty()) {
+            failed(logPrefix, u"no row matched "_s + projectId, refusedMessage);
+            co_return false;
+        }
+        mergeProject(rows.first());
+        co_return true;
+    } catch (const MorvaneError &error) {
+        writeFailed(logPrefix, error, refusedMessage);
+        co_return false;
+    }
+}
+
+QCoro::Task<bool> AppStore::updateProject(QString projectId, ProjectPatch patch)
+{
+    co_return co_await patchProject(projectId, patch, "Update project failed: ", StoreText::projectNotSaved());
+}
+
+QCoro::Task<bool> AppStore::deleteProject(QString projectId)
+{
+    const std::optional<Session> session = co_await openSession("Delete project failed: ");
+    if (!session) {
+        co_return false;
+    }
+    try {
+        const QList<Project> rows =
+            co_await deleteReturning<Project>(m_auth.client(), u"projects"_s, session->token, idFilter(projectId));
+        if (!isCurrent(*session)) {
+            co_return false;
+        }
+        if (rows.isEmpty()) {
+            failed("Delete project failed: ", u"no row matched "_s + projectId, StoreText::projectNotSaved());
+            co_return false;
+        }
+        removeProject(projectId);
+        co_return true;
+    } catch (const MorvaneError &error) {
+        writeFailed("Delete project failed: ", error, StoreText::projectNotSaved());
+        co_return false;
+    }
+}
+
+QCoro::Task<int> AppStore::archiveIdleProjects(int olderThanDays)
+{
+    const std::optional<Session> session = co_await openSession("Archive projects failed: ");
+    if (!session) {
+        co_return -1;
+    }
+    const QDateTime cutoff = m_clock().addDays(-qMax(0, olderThanDays));
+    const qint64 cutoffKey = cutoff.toMSecsSinceEpoch();
+    QStringList candidates;
+    for (const Project &project : std::as_const(m_projects)) {
+        if (project.status != ProjectStatus::Active || project.userId != m_currentUserId ||
+            instantKey(project.createdAt) >= cutoffKey) {
+            continue;
+        }
+        const QList<TaskItem> tasks = m_tasksByProject.value(project.id);
+        const bool busy = std::any_of(tasks.cbegin(), tasks.cend(), [&](const TaskItem &task) {
+            return task.status == TaskStatus::InProgress || instantKey(task.createdAt) >= cutoffKey;
+        });
+        if (!busy) {
+            candidates.append(project.id);
+        }
+    }
+    if (candidates.isEmpty()) {
+        co_return 0;
+    }
+    try {
+        const Supabase client = m_auth.client();
+        // The window may reach past the entries the store holds, so the backend answers which
+        // candidates saw logged time.
+        const QueryItems entryQuery{{u"select"_s, u"project_id"_s},
+                                    {u"project_id"_s, inList(candidates)},
+                                    {u"ended_at"_s, u"gte."_s + isoString(cutoff)},
+                                    {u"order"_s, u"id.asc"_s}};
+        const QList<ProjectRef> worked =
+            co_await client.selectAll<ProjectRef>(u"time_entries"_s, session->token, entryQuery);
+        for (const ProjectRef &ref : worked) {
+            candidates.removeAll(ref.projectId);
+        }
+        if (candidates.isEmpty()) {
+            co_return 0;
+        }
+        // Only projects still active: another device may have changed one meanwhile.
+        const QueryItems archiveQuery{{u"id"_s, inList(candidates)}, {u"status"_s, u"eq.active"_s}};
+        const ProjectStatusPatch patch{ProjectStatus::Archived};
+        const QList<Project> rows = co_await client.update<Project>(u"projects"_s, session->token, archiveQuery, patch);
+        if (!isCurrent(*session)) {
+            co_return -1;
+        }
+        for (const Project &project : rows) {
+            mergeProject(project);
+        }
+        co_return int(rows.size());
+    } catch (const MorvaneError &error) {
+        writeFailed("Archive projects failed: ", error, StoreText::projectNotSaved());
+        co_return -1;
+    }
+}
+
+QCoro::Task<bool> AppStore::assignProjectToTeam(QString projectId, std::optional<QString> teamId)
+{
+    const ProjectTeamPatch patch{teamId};
+    co_return co_await patchProject(projectId, patch, "Assign-to-team failed: ", StoreText::projectTeamNotChanged());
+}
+
+// ---- Tasks -----------------------------------------------------------------------------------
+
+QCoro::Task<std::optional<TaskItem>> AppStore::createTask(TaskInsert draft)
+{
+    const std::optional<Session> session = co_await openSession("Create task failed: ");
+    if (!session) {
+        co_return std::nullopt;
+    }
+    if (draft.userId.isEmpty()) {
+        draft.userId = m_currentUserId;
+    }
+    try {
+        const QList<TaskItem> rows = co_await m_auth.client().insert<TaskItem>(u"tasks"_s, session->token, draft);
+        if (!isCurrent(*session)) {
+            co_return std::nullopt;
+        }
+        if (rows.isEmpty()) {
+            failed("Create task failed: ", u"no row came back"_s, StoreText::taskNotCreated());
+            co_return std::nullopt;
+        }
+        replaceTask(rows.first());
+        co_return rows.first();
+    } catch (const MorvaneError &error) {
+        writeFailed("Create task failed: ", error, StoreText::taskNotCreated());
+        co_return std::nullopt;
+    }
+}
+
+QCoro::Task<bool> AppStore::patchTask(QString taskId, AnyEncodable body, const char *logPrefix)
+{
+    const std::optional<Session> session = co_await openSession(logPrefix);
+    if (!session) {
+        co_return false;
+    }
+    SavingScope saving(*this, {taskId});
+    try {
+        const QList<TaskItem> rows =
+            co_await m_auth.client().update<TaskItem>(u"tasks"_s, session->token, idFilter(taskId), body);
+        if (!isCurrent(*session)) {
+            co_return false;
+        }
+        if (rows.isEmpty()) {
+            failed(logPrefix, u"no row matched "_s + taskId, StoreText::taskNotSaved());
+            co_return false;
+        }
+        replaceTask(rows.first());
+        co_return true;
+    } catch (const MorvaneError &error) {
+        writeFailed(logPrefix, error, StoreText::taskNotSaved());
+        co_return false;
+    }
+}
+
+QCoro::Task<bool> AppStore::updateTask(QString taskId, TaskPatch patch)
+{
+    co_return co_await patchTask(taskId, patch, "Update task failed: ");
+}
+
+QCoro::Task<bool> AppStore::moveTask(QString taskId, QString projectId)
+{
+    const TaskMovePatch patch{projectId};
+    co_return co_await patchTask(taskId, patch, "Move task failed: ");
+}
+
+QCoro::Task<QStringList> AppStore::writeStatus(Session session, QStringList taskIds, TaskStatus status,
+                                               const char *logPrefix)
+{
+    QStringList changed;
+    if (taskIds.isEmpty()) {
+        co_return changed;
+    }
+    const Supabase client = m_auth.client();
+    try {
+        // The second condition keeps a running timer out of reach: its task is "in_progress" with a
+        // start, and only the timer's own stop may end that.
+        const QueryItems query{
+            {u"id"_s, taskIds.size() == 1 ? u"eq."_s + taskIds.first() : inList(taskIds)},
+            {u"or"_s, u"(status.neq.in_progress,started_at.is.null)"_s},
+        };
+        const TaskStatusPatch patch{status};
+        const QList<TaskItem> rows = co_await client.update<TaskItem>(u"tasks"_s, session.token, query, patch);
+        if (!isCurrent(session)) {
+            co_return changed;
+        }
+        for (const TaskItem &task : rows) {
+            replaceTask(task);
+            changed.append(task.id);
+        }
+        QStringList untouched;
+        for (const QString &id : std::as_const(taskIds)) {
+            if (!changed.contains(id)) {
+                untouched.append(id);
+            }
+        }
+        if (untouched.isEmpty()) {
+            co_return changed;
+        }
+        // Why did they stay? The rows as they are now tell a timer that runs (started on another
+        // device since the last refresh) from a task this user may not change or that is gone.
+        const QueryItems reread{{u"select"_s, u"*"_s}, {u"id"_s, inList(untouched)}};
+        const QList<TaskItem> current = co_await client.select<TaskItem>(u"tasks"_s, session.token, reread);
+        if (!isCurrent(session)) {
+            co_return changed;
+        }
+        bool running = false;
+        QSet<QString> gone = idSet(untouched);
+        for (const TaskItem &task : current) {
+            replaceTask(task);
+            gone.remove(task.id);
+            running |= task.status == TaskStatus::InProgress;
+        }
+        removeTasks(gone);
+        failed(logPrefix, QStringLiteral("%1 of %2 tasks unchanged").arg(untouched.size()).arg(taskIds.size()),
+               running ? StoreText::timerStartedElsewhere() : StoreText::taskNotSaved());
+    } catch (const MorvaneError &error) {
+        writeFailed(logPrefix, error, StoreText::taskNotSaved());
+    }
+    co_return changed;
+}
+
+QCoro::Task<bool> AppStore::setTaskStatus(QString taskId, TaskStatus status)
+{
+    const std::optional<Session> session = co_await openSession("Set task status failed: ");
+    if (!session) {
+        co_return false;
+    }
+    const QStringList ids{taskId};
+    SavingScope saving(*this, ids);
+    const QStringList changed = co_await writeStatus(*session, ids, status, "Set task status failed: ");
+    co_return !changed.isEmpty();
+}
+
+QCoro::Task<bool> AppStore::deleteTask(QString taskId)
+{
+    const std::optional<Session> session = co_await openSession("Delete task failed: ");
+    if (!session) {
+        co_return false;
+    }
+    SavingScope saving(*this, {taskId});
+    try {
+        const QList<TaskItem> rows =
+            co_await deleteReturning<TaskItem>(m_auth.client(), u"tasks"_s, session->token, idFilter(taskId));
+        if (!isCurrent(*session)) {
+            co_return false;
+        }
+        if (rows.isEmpty()) {
+            failed("Delete task failed: ", u"no row matched "_s + taskId, StoreText::taskNotSaved());
+            co_return false;
+        }
+        removeTasks({taskId});
+        co_return true;
+    } catch (const MorvaneError &error) {
+        writeFailed("Delete task failed: ", error, StoreText::taskNotSaved());
+        co_return false;
+    }
+}
+
+QCoro::Task<bool> AppStore::updateTaskCategory(QString taskId, std::optional<TaskCategory> category)
+{
+    const std::optional<TaskItem> local = task(taskId);
+    if (!local) {
+        failed("Update task category failed: ", u"unknown task "_s + taskId, StoreText::taskNotSaved());
+        co_return false;
+    }
+    TaskAttachments attachments = local->attachments.value_or(TaskAttachments{});
+    attachments.category = category;
+    const TaskAttachmentsPatch patch{std::move(attachments)};
+    co_return co_await patchTask(taskId, patch, "Update task category failed: ");
+}
+
+QCoro::Task<bool> AppStore::updateTaskSubtasks(QString taskId, QList<Subtask> subtasks)
+{
+    const std::optional<TaskItem> local = task(taskId);
+    if (!local) {
+        failed("Update subtasks failed: ", u"unknown task "_s + taskId, StoreText::taskNotSaved());
+        co_return false;
+    }
+    TaskAttachments attachments = local->attachments.value_or(TaskAttachments{});
+    attachments.subtasks = std::move(subtasks);
+    const TaskAttachmentsPatch patch{std::move(attachments)};
+    co_return co_await patchTask(taskId, patch, "Update subtasks failed: ");
+}
+
+QCoro::Task<bool> AppStore::updateTaskAssignees(QString taskId, QList<TaskAssignee> assignees)
+{
+    const std::optional<TaskItem> local = task(taskId);
+    if (!local) {
+        failed("Update assignees failed: ", u"unknown task "_s + taskId, StoreText::taskNotSaved());
+        co_return false;
+    }
+    TaskAttachments attachments = local->attachments.value_or(TaskAttachments{});
+    attachments.assignees = std::move(assignees);
+    const TaskAttachmentsPatch patch{std::move(attachments)};
+    co_return co_await patchTask(taskId, patch, "Update assignees failed: ");
+}
+
+QCoro::Task<bool> AppStore::updateTaskNotes(QString taskId, QList<TaskNote> notes)
+{
+    const std::optional<TaskItem> local = task(taskId);
+    if (!local) {
+        failed("Update notes failed: ", u"unknown task "_s + taskId, StoreText::taskNotSaved());
+        co_return false;
+    }
+    TaskAttachments attachments = local->attachments.value_or(TaskAttachments{});
+    attachments.notes = std::move(notes);
+    const TaskAttachmentsPatch patch{std::move(attachments)};
+    co_return co_await patchTask(taskId, patch, "Update notes failed: ");
+}
+
+QCoro::Task<int> AppStore::bulkUpdateStatus(TaskStatus status)
+{
+    const QStringList ids = selectedTaskIdList();
+    if (ids.isEmpty()) {
+        co_return 0;
+    }
+    const std::optional<Session> session = co_await openSession("Bulk status change failed: ");
+    if (!session) {
+        co_return 0;
+    }
+    SavingScope saving(*this, ids);
+    const QStringList changed = co_await writeStatus(*session, ids, status, "Bulk status change failed: ");
+    co_return int(changed.size());
+}
+
+QCoro::Task<int> AppStore::bulkDelete()
+{
+    const QStringList ids = selectedTaskIdList();
+    if (ids.isEmpty()) {
+        co_return 0;
+    }
+    const std::optional<Session> session = co_await openSession("Bulk delete failed: ");
+    if (!session) {
+        co_return 0;
+    }
+    SavingScope saving(*this, ids);
+    try {
+        const QueryItems query{{u"id"_s, inList(ids)}};
+        const QList<TaskItem> rows =
+            co_await deleteReturning<TaskItem>(m_auth.client(), u"tasks"_s, session->token, query);
+        if (!isCurrent(*session)) {
+            co_return 0;
+        }
+        QSet<QString> deleted;
+        for (const TaskItem &task : rows) {
+            deleted.insert(task.id);
+        }
+        removeTasks(deleted);
+        if (deleted.size() < ids.size()) {
+            failed("Bulk delete failed: ",
+                   QStringLiteral("%1 of %2 tasks not deleted").arg(ids.size() - deleted.size()).arg(ids.size()),
+                   StoreText::taskNotSaved());
+        }
+        co_return int(deleted.size());
+    } catch (const MorvaneError &error) {
+        writeFailed("Bulk delete failed: ", error, StoreText::taskNotSaved());
+        co_return 0;
+    }
+}
+
+QCoro::Task<int> AppStore::bulkMoveToProject(QString projectId)
+{
+    const QStringList ids = selectedTaskIdList();
+    if (ids.isEmpty()) {
+        co_return 0;
+    }
+    const std::optional<Session> session = co_await openSession("Bulk move failed: ");
+    if (!session) {
+        co_return 0;
+    }
+    SavingScope saving(*this, ids);
+    try {
+        const QueryItems query{{u"id"_s, inList(ids)}};
+        const TaskMovePatch patch{projectId};
+        const QList<TaskItem> rows =
+            co_await m_auth.client().update<TaskItem>(u"tasks"_s, session->token, query, patch);
+        if (!isCurrent(*session)) {
+            co_return 0;
+        }
+        for (const TaskItem &task : rows) {
+            replaceTask(task);
+        }
+        if (rows.size() < ids.size()) {
+            failed("Bulk move failed: ",
+                   QStringLiteral("%1 of %2 tasks not moved").arg(ids.size() - rows.size()).arg(ids.size()),
+                   StoreText::taskNotSaved());
+        }
+        co_return int(rows.size());
+    } catch (const MorvaneError &error) {
+        writeFailed("Bulk move failed: ", error, StoreText::taskNotSaved());
+        co_return 0;
+    }
+}
+
+QCoro::Task<bool> AppStore::reorderTasks(QString projectId, QStringList orderedIds)
+{
+    const std::optional<Session> session = co_await openSession("Reorder tasks failed: ");
+    if (!session) {
+        co_return false;
+    }
+    const QList<TaskItem> current = TaskOrder::manualOrder(m_tasksByProject.value(projectId));
+    QHash<QString, TaskItem> byId;
+    for (const TaskItem &task : current) {
+        byId.insert(task.id, task);
+    }
+    QStringList order;
+    for (const QString &id : std::as_const(orderedIds)) {
+        if (byId.contains(id) && !order.contains(id)) {
+            order.append(id);
+        }
+    }
+    const QSet<QString> moving = idSet(order);
+    QList<TaskItem> reordered;
+    reordered.reserve(current.size());
+    qsizetype next = 0;
+    for (const TaskItem &task : current) {
+        reordered.append(moving.contains(task.id) ? byId.value(order[next++]) : task);
+    }
+
+    // The new positions show at once; the writes follow.
+    QHash<QString, std::optional<int>> previous;
+    QList<std::pair<QString, TaskAttachments>> writes;
+    for (qsizetype i = 0; i < reordered.size(); ++i) {
+        const TaskItem &task = reordered[i];
+        const std::optional<int> was = task.attachments ? task.attachments->position : std::nullopt;
+        if (was == int(i)) {
+            continue;
+        }
+        TaskAttachments attachments = task.attachments.value_or(TaskAttachments{});
+        attachments.position = int(i);
+        previous.insert(task.id, was);
+        writes.append({task.id, attachments});
+    }
+    if (writes.isEmpty()) {
+        co_return true;
+    }
+    auto setLocalPosition = [this, &projectId](const QString &taskId, std::optional<int> position) {
+        for (TaskItem &task : m_tasksByProject[projectId]) {
+            if (task.id == taskId) {
+                TaskAttachments attachments = task.attachments.value_or(TaskAttachments{});
+                attachments.position = position;
+                task.attachments = attachments;
+            }
+        }
+    };
+    for (const auto &[id, attachments] : std::as_const(writes)) {
+        setLocalPosition(id, attachments.position);
+    }
+    tasksDidChange();
+
+    QStringList writing;
+    for (const auto &[id, attachments] : std::as_const(writes)) {
+        writing.append(id);
+    }
+    SavingScope saving(*this, writing);
+    const Supabase client = m_auth.client();
+    std::vector<QCoro::Task<QList<TaskItem>>> calls;
+    calls.reserve(std::size_t(writes.size()));
+    for (const auto &[id, attachments] : std::as_const(writes)) {
+        const TaskAttachmentsPatch patch{attachments};
+        calls.push_back(client.update<TaskItem>(u"tasks"_s, session->token, idFilter(id), patch));
+    }
+    QStringList failedIds;
+    bool refused = false;
+    QString detail;
+    for (std::size_t i = 0; i < calls.size(); ++i) {
+        try {
+            const QList<TaskItem> rows = co_await calls[i];
+            if (rows.isEmpty()) {
+                refused = true;
+                failedIds.append(writes[qsizetype(i)].first);
+            } else if (isCurrent(*session)) {
+                replaceTask(rows.first());
+            }
+        } catch (const MorvaneError &error) {
+            refused |= isRefusal(error);
+            detail = error.message();
+            failedIds.append(writes[qsizetype(i)].first);
+        }
+    }
+    if (!isCurrent(*session)) {
+        co_return false;
+    }
+    if (failedIds.isEmpty()) {
+        co_return true;
+    }
+    for (const QString &id : std::as_const(failedIds)) {
+        setLocalPosition(id, previous.value(id));
+    }
+    tasksDidChange();
+    failed("Reorder tasks failed: ",
+           QStringLiteral("%1 of %2 tasks kept their place").arg(failedIds.size()).arg(writes.size()) +
+               (detail.isEmpty() ? QString() : QString(u": "_s + detail)),
+           refused ? StoreText::taskNotSaved() : StoreText::writeFailed());
+    co_return false;
+}
+
+// ---- Profile and onboarding ------------------------------------------------------------------
+
+QCoro::Task<bool> AppStore::updateProfile(ProfilePatch patch)
+{
+    const std::optional<Session> session = co_await openSession("Update profile failed: ");
+    if (!session) {
+        co_return false;
+    }
+    try {
+        const QList<Profile> rows =
+            co_await m_auth.client().update<Profile>(u"profiles"_s, session->token, idFilter(m_currentUserId), patch);
+        if (!isCurrent(*session)) {
+            co_return false;
+        }
+        if (rows.isEmpty()) {
+            failed("Update profile failed: ", u"no profile row"_s, StoreText::profileNotSaved());
+            co_return false;
+        }
+        setProfile(rows.first());
+        co_return true;
+    } catch (const MorvaneError &error) {
+        failed("Update profile failed: ", error.message(), StoreText::profileNotSaved());
+        co_return false;
+    }
+}
+
+QCoro::Task<bool> AppStore::saveOnboarding(OnboardingPatch patch)
+{
+    const std::optional<Session> session = co_await openSession("Save onboarding failed: ");
+    if (!session) {
+        co_return false;
+    }
+    try {
+        const QList<Profile> rows =
+            co_await m_auth.client().update<Profile>(u"profiles"_s, session->token, idFilter(m_currentUserId), patch);
+        if (!isCurrent(*session)) {
+            co_return false;
+        }
+        if (rows.isEmpty()) {
+            failed("Save onboarding failed: ", u"no profile row"_s, StoreText::onboardingNotSaved());
+            co_return false;
+        }
+        setProfile(rows.first());
+        co_return true;
+    } catch (const MorvaneError &error) {
+        failed("Save onboarding failed: ", error.message(), StoreText::onboardingNotSaved());
+        co_return false;
+    }
+}
+
+QCoro::Task<bool> AppStore::ensureOnboarded()
+{
+    const std::optional<Session> session = co_await openSession("Onboarding check failed: ");
+    if (!session) {
+        co_return false;
+    }
+    OnboardingPatch patch;
+    try {
+        const QueryItems query{{u"select"_s, u"id,onboarding_complete,language,currency,timezone"_s},
+                               {u"id"_s, u"eq."_s + m_currentUserId}};
+        const QList<OnboardingState> states =
+            co_await m_auth.client().select<OnboardingState>(u"profiles"_s, session->token, query);
+        if (states.isEmpty()) {
+            // Every account gets its profile row when it is made; without one there is nothing to fill.
+            qCWarning(lcStore).noquote() << u"Onboarding check failed: no profile row for "_s + m_currentUserId;
+            co_return false;
+        }
+        const OnboardingState &state = states.first();
+        if (state.onboardingComplete) {
+            co_return true;
+        }
+        const QString language = Language::current();
+        patch.language = state.language.value_or(language.isEmpty() ? u"en"_s : language);
+        patch.currency = state.currency.value_or(u"EUR"_s);
+        if (!state.timezone) {
+            patch.timezone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
+        }
+        patch.onboardingComplete = true;
+    } catch (const MorvaneError &error) {
+        qCWarning(lcStore).noquote() << u"Onboarding check failed: "_s + error.message();
+        co_return false;
+    }
+    co_return co_await saveOnboarding(std::move(patch));
+}
+
+QCoro::Task<bool> AppStore::applyPendingOnboarding()
+{
+    std::optional<PendingOnboarding> pending = PendingOnboarding::load(*m_settings);
+    if (!pending || !pending->belongsTo(m_auth.email())) {
+        co_return false;
+    }
+    pending->answers.onboardingComplete = true;
+    if (!co_await saveOnboarding(pending->answers)) {
+        // The answers stay for the next sign-in.
+        co_return false;
+    }
+    PendingOnboarding::clear(*m_settings);
+    co_return true;
+}
+
+// ---- Teams -----------------------------------------------------------------------------------
+
+QCoro::Task<std::optional<Team>> AppStore::createTeam(QString name)
+{
+    const std::optional<Session> session = co_await openSession("Create team failed: ");
+    if (!session) {
+        co_return std::nullopt;
+    }
+    std::optional<Team> created;
+    try {
+        const TeamInsert draft{m_currentUserId, name.trimmed()};
+        const QList<Team> rows = co_await m_auth.client().insert<Team>(u"teams"_s, session->token, draft);
+        if (!isCurrent(*session)) {
+            co_return std::nullopt;
+        }
+        if (rows.isEmpty()) {
+            failed("Create team failed: ", u"no row came back"_s, StoreText::teamNotCreated());
+            co_return std::nullopt;
+        }
+        created = rows.first();
+    } catch (const MorvaneError &error) {
+        failed("Create team failed: ", error.message(), StoreText::teamNotCreated());
+        co_return std::nullopt;
+    }
+    QList<Team> teams = m_teams;
+    teams.prepend(*created);
+    setTeams(std::move(teams), m_membersByTeam);
+    // The backend made the creator the first member; the list shows that row.
+    co_await reloadMembers(*session, created->id);
+    co_return created;
+}
+
+QCoro::Task<InviteOutcome> AppStore::inviteMember(QString teamId, QString email, TeamRole role)
+{
+    const QString address = email.trimmed();
+    const std::optional<Session> session = co_await openSession("invite_team_member_by_email failed: ");
+    if (!session) {
+        co_return InviteOutcome{InviteOutcome::Kind::Failed, address, std::nullopt};
+    }
+    InviteOutcome outcome;
+    try {
+        const InviteByEmailArgs args{teamId, address, role};
+        const InviteByEmailResult result = co_await m_auth.client().callRPCReturning<InviteByEmailResult>(
+            u"invite_team_member_by_email"_s, session->token, args);
+        outcome = InviteOutcome::fromStatus(result.status, address);
+        outcome.userId = result.userId;
+        if (outcome.kind == InviteOutcome::Kind::Failed) {
+            qCWarning(lcStore).noquote() << u"invite_team_member_by_email failed: unexpected status "_s + result.status;
+        }
+    } catch (const SupabaseError &error) {
+        outcome = InviteOutcome::fromErrorCode(error.errorCode(), address);
+        if (outcome.kind == InviteOutcome::Kind::Failed || outcome.kind == InviteOutcome::Kind::Unavailable) {
+            qCWarning(lcStore).noquote() << u"invite_team_member_by_email failed: "_s + error.message();
+        }
+    } catch (const MorvaneError &error) {
+        qCWarning(lcStore).noquote() << u"invite_team_member_by_email failed: "_s + error.message();
+        outcome = InviteOutcome{InviteOutcome::Kind::Failed, address, std::nullopt};
+    }
+    if (outcome.kind == InviteOutcome::Kind::Invited) {
+        co_await reloadMembers(*session, teamId);
+    }
+    co_return outcome;
+}

@@ -1,0 +1,327 @@
+#pragma once
+
+#include "model/client.h"
+#include "model/clock.h"
+#include "model/profile.h"
+#include "model/project.h"
+#include "model/taskitem.h"
+#include "model/team.h"
+#include "model/timeentry.h"
+#include "store/inviteoutcome.h"
+#include "store/taskorder.h"
+#include "store/writerecords.h"
+
+#include <QDateTime>
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QSettings>
+#include <QStringList>
+#include <QTimer>
+
+#include <QCoroTask>
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+class AuthStore;
+class MorvaneError;
+
+// What the sidebar shows: one project, the overview of all projects (a project selection
+// without an id), the AI sessions or the earnings.
+struct SidebarSelection
+{
+    enum class Kind { Project, AISessions, Earnings };
+    Kind kind = Kind::Project;
+    std::optional<QString> projectId;
+
+    friend bool operator==(const SidebarSelection &, const SidebarSelection &) = default;
+};
+
+// The signed-in user's data in memory and every operation on it. Views read the collections and
+// call the operations; each operation writes through to the backend and merges the row the
+// backend answers by id, so a change that arrived meanwhile (another operation, a refresh) is not
+// overwritten by position. Lives on the main thread and must outlive the operations it runs (the
+// application holds it for the whole process).
+//
+// Failed writes: nothing is changed locally before the backend answers, except the order of
+// tasks (reorderTasks), which moves at once and is put back for the tasks whose write failed.
+// Every failure sets `lastError` to a localised sentence and logs one English line.
+class AppStore : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString currentUserId READ currentUserId NOTIFY currentUserIdChanged)
+    Q_PROPERTY(
+        QString selectedProjectId READ selectedProjectId WRITE setSelectedProjectId NOTIFY selectedProjectIdChanged)
+    Q_PROPERTY(QString selectedTaskId READ selectedTaskId WRITE setSelectedTaskId NOTIFY selectedTaskIdChanged)
+    Q_PROPERTY(QString lastError READ lastError NOTIFY lastErrorChanged)
+    Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged)
+    Q_PROPERTY(QDateTime lastRefreshedAt READ lastRefreshedAt NOTIFY lastRefreshedAtChanged)
+    Q_PROPERTY(QStringList savingTaskIds READ savingTaskIdList NOTIFY savingTaskIdsChanged)
+    Q_PROPERTY(bool realtimeConnected READ realtimeConnected NOTIFY realtimeConnectedChanged)
+    Q_PROPERTY(QStringList selectedTaskIds READ selectedTaskIdList NOTIFY selectedTaskIdsChanged)
+    Q_PROPERTY(QString taskFilter READ taskFilterName WRITE setTaskFilterName NOTIFY taskFilterChanged)
+    Q_PROPERTY(QString taskSort READ taskSortName WRITE setTaskSortName NOTIFY taskSortChanged)
+    Q_PROPERTY(QString searchQuery READ searchQuery WRITE setSearchQuery NOTIFY searchQueryChanged)
+    Q_PROPERTY(QString aiProgress READ aiProgress WRITE setAiProgress NOTIFY aiProgressChanged)
+
+public:
+    enum class Neighbor { Previous, Next };
+
+    // How long the safety poll waits between looks, and how old the last refresh must be before
+    // a look refreshes: the feed normally carries every change, so with it up the poll only
+    // catches events the feed lost.
+    static constexpr std::chrono::seconds defaultPollInterval{20};
+    static constexpr std::chrono::seconds staleWithoutRealtime{20};
+    static constexpr std::chrono::seconds staleWithRealtime{120};
+    // Entries of this many days come with every refresh; older ones are loaded per task.
+    static constexpr int recentWindowDays = 30;
+
+    AppStore(AuthStore &auth, std::shared_ptr<QSettings> settings, Clock clock = systemClock(),
+             QObject *parent = nullptr);
+    ~AppStore() override;
+
+    // Published collections.
+    [[nodiscard]] const QList<Project> &projects() const { return m_projects; }
+    [[nodiscard]] const QHash<QString, QList<TaskItem>> &tasksByProject() const { return m_tasksByProject; }
+    [[nodiscard]] const QHash<QString, QList<TimeEntry>> &entriesByTask() const { return m_entriesByTask; }
+    [[nodiscard]] const QList<Team> &teams() const { return m_teams; }
+    // Each team's members: owners, then editors, then viewers, each group by address.
+    [[nodiscard]] const QHash<QString, QList<TeamMember>> &membersByTeam() const { return m_membersByTeam; }
+    [[nodiscard]] const QList<TimeEntry> &recentEntries() const { return m_recentEntries; }
+    [[nodiscard]] const QList<Client> &clients() const { return m_clients; }
+    [[nodiscard]] const QList<Client> &allClients() const { return m_allClients; }
+    [[nodiscard]] const std::optional<Profile> &profile() const { return m_profile; }
+
+    [[nodiscard]] std::optional<Project> project(const QString &projectId) const;
+    [[nodiscard]] std::optional<TaskItem> task(const QString &taskId) const;
+    [[nodiscard]] QList<TaskItem> tasks(const QString &projectId) const { return m_tasksByProject.value(projectId); }
+    // The task whose timer runs; with several (team mates' timers show too), the one started last.
+    [[nodiscard]] std::optional<TaskItem> runningTask() const;
+
+    // Published state.
+    [[nodiscard]] QString currentUserId() const { return m_currentUserId; }
+    [[nodiscard]] QString selectedProjectId() const { return m_selectedProjectId; }
+    void setSelectedProjectId(const QString &projectId);
+    [[nodiscard]] QString selectedTaskId() const { return m_selectedTaskId; }
+    void setSelectedTaskId(const QString &taskId);
+    [[nodiscard]] QString lastError() const { return m_lastError; }
+    void clearLastError() { setLastError({}); }
+    [[nodiscard]] bool isLoading() const { return m_loadingDepth > 0; }
+    // Invalid until the first successful refresh.
+    [[nodiscard]] QDateTime lastRefreshedAt() const { return m_lastRefreshedAt; }
+    [[nodiscard]] const QSet<QString> &savingTaskIds() const { return m_savingTaskIds; }
+    [[nodiscard]] QStringList savingTaskIdList() const;
+    [[nodiscard]] bool realtimeConnected() const { return m_realtimeConnected; }
+    // The realtime feed reports its state here; until it runs, the feed counts as down.
+    void setRealtimeConnected(bool connected);
+    [[nodiscard]] const QSet<QString> &selectedTaskIds() const { return m_selectedTaskIds; }
+    [[nodiscard]] QStringList selectedTaskIdList() const;
+    void toggleSelection(const QString &taskId);
+    void clearSelection();
+    [[nodiscard]] SidebarSelection sidebarSelection() const { return m_sidebarSelection; }
+    void setSidebarSelection(const SidebarSelection &selection);
+    [[nodiscard]] TaskFilter taskFilter() const { return m_taskFilter; }
+    void setTaskFilter(TaskFilter filter);
+    [[nodiscard]] QString taskFilterName() const;
+    void setTaskFilterName(const QString &name);
+    [[nodiscard]] TaskSort taskSort() const { return m_taskSort; }
+    void setTaskSort(TaskSort sort);
+    [[nodiscard]] QString taskSortName() const;
+    void setTaskSortName(const QString &name);
+    [[nodiscard]] QString searchQuery() const { return m_searchQuery; }
+    void setSearchQuery(const QString &query);
+    [[nodiscard]] QString aiProgress() const { return m_aiProgress; }
+    void setAiProgress(const QString &progress);
+
+    // Loading and sync. Each answers whether it succeeded.
+    QCoro::Task<bool> refreshAll();
+    QCoro::Task<bool> loadTeams();
+    QCoro::Task<bool> loadClients();
+    // The realtime feed joins here once it exists; until then the safety poll alone keeps this
+    // device in step, at its realtime-down pace.
+    void startSync();
+    void stopSync();
+    [[nodiscard]] bool isSyncing() const { return m_syncing; }
+    // One look of the safety poll: refreshes when the last refresh is old enough for the state of
+    // the feed. Answers whether it refreshed.
+    QCoro::Task<bool> pollOnce();
+    void setPollInterval(std::chrono::milliseconds interval) { m_pollInterval = interval; }
+    [[nodiscard]] std::chrono::milliseconds pollInterval() const { return m_pollInterval; }
+    // The session ended: stops syncing and empties every collection.
+    void endSession();
+
+    // Task views.
+    [[nodiscard]] QList<TaskItem> filteredSortedTasks(const QString &projectId) const;
+    [[nodiscard]] std::optional<TaskItem> neighborTask(const QString &taskId, Neighbor direction) const;
+    // With no list, against `projects`.
+    [[nodiscard]] bool canSeeTask(const TaskItem &task, const QList<Project> *projects = nullptr) const;
+    [[nodiscard]] bool isProjectAdmin(const QString &projectId) const;
+    [[nodiscard]] std::optional<TeamRole> roleInTeam(const QString &teamId) const;
+    // Puts a changed row in place of the one with its id, moving it between project lists when
+    // its project changed; a row the user may no longer see leaves the store.
+    void replaceTask(const TaskItem &task);
+
+    // Projects.
+    QCoro::Task<std::optional<Project>> createProject(ProjectInsert draft);
+    QCoro::Task<bool> updateProject(QString projectId, ProjectPatch patch);
+    QCoro::Task<bool> deleteProject(QString projectId);
+    // Archives the user's own active projects that saw no work in the last `olderThanDays` days:
+    // no time entry ended in that span, no task was created in it, no timer runs on one of their
+    // tasks, and the project itself is older than the span. Editing a project or its tasks does
+    // not count as work (reordering would otherwise keep every project alive). Team mates'
+    // projects are left to their creators. Answers how many it archived, or -1 on failure.
+    QCoro::Task<int> archiveIdleProjects(int olderThanDays);
+    QCoro::Task<bool> assignProjectToTeam(QString projectId, std::optional<QString> teamId);
+
+    // Tasks.
+    QCoro::Task<std::optional<TaskItem>> createTask(TaskInsert draft);
+    QCoro::Task<bool> updateTask(QString taskId, TaskPatch patch);
+    QCoro::Task<bool> moveTask(QString taskId, QString projectId);
+    // Never stops or changes a running timer: a task whose timer runs keeps its status, and the
+    // user learns that the timer was started elsewhere.
+    QCoro::Task<bool> setTaskStatus(QString taskId, TaskStatus status);
+    QCoro::Task<bool> deleteTask(QString taskId);
+    QCoro::Task<bool> updateTaskCategory(QString taskId, std::optional<TaskCategory> category);
+    QCoro::Task<bool> updateTaskSubtasks(QString taskId, QList<Subtask> subtasks);
+    QCoro::Task<bool> updateTaskAssignees(QString taskId, QList<TaskAssignee> assignees);
+    QCoro::Task<bool> updateTaskNotes(QString taskId, QList<TaskNote> notes);
+    // Over `selectedTaskIds`; each answers how many tasks it changed. Deleted tasks leave the
+    // selection; after a status change or a move the selection stays for a further action.
+    QCoro::Task<int> bulkUpdateStatus(TaskStatus status);
+    QCoro::Task<int> bulkDelete();
+    QCoro::Task<int> bulkMoveToProject(QString projectId);
+    // `orderedIds` is the new order of some of the project's tasks (usually the visible list).
+    // Those tasks swap among the places they held in the manual order, so tasks the view hides
+    // keep theirs; then every task of the project gets its index in that order as "_position".
+    QCoro::Task<bool> reorderTasks(QString projectId, QStringList orderedIds);
+
+    // Profile and onboarding.
+    QCoro::Task<bool> updateProfile(ProfilePatch patch);
+    QCoro::Task<bool> saveOnboarding(OnboardingPatch patch);
+    // Makes sure the profile counts as onboarded: a user who never went through the first-run
+    // screens (an account made elsewhere) gets the interface language and the profile's currency
+    // (or EUR) and this machine's time zone, without overwriting what the profile already has.
+    QCoro::Task<bool> ensureOnboarded();
+    // Writes the answers that wait in the settings (see PendingOnboarding) to the signed-in
+    // profile and deletes them; answers meant for another address stay. Answers whether
+    // answers were applied.
+    QCoro::Task<bool> applyPendingOnboarding();
+
+    // Teams.
+    QCoro::Task<std::optional<Team>> createTeam(QString name);
+    QCoro::Task<InviteOutcome> inviteMember(QString teamId, QString email, TeamRole role);
+
+signals:
+    void projectsChanged();
+    void tasksChanged();
+    void entriesChanged();
+    void teamsChanged();
+    void clientsChanged();
+    void profileChanged();
+    void currentUserIdChanged();
+    void selectedProjectIdChanged();
+    void selectedTaskIdChanged();
+    void lastErrorChanged();
+    void isLoadingChanged();
+    void lastRefreshedAtChanged();
+    void savingTaskIdsChanged();
+    void realtimeConnectedChanged();
+    void selectedTaskIdsChanged();
+    void sidebarSelectionChanged();
+    void taskFilterChanged();
+    void taskSortChanged();
+    void searchQueryChanged();
+    void aiProgressChanged();
+    // The running task, or its start, changed: the timer display binds to runningTask() here.
+    void runningTaskChanged();
+
+private:
+    // A token and the session it belongs to: an answer that arrives after the user changed is
+    // dropped instead of being merged into the next user's data.
+    struct Session
+    {
+        QString token;
+        quint64 generation = 0;
+    };
+    class LoadingScope;
+    class SavingScope;
+
+    QCoro::Task<std::optional<Session>> openSession(const char *logPrefix);
+    [[nodiscard]] bool isCurrent(const Session &session) const { return session.generation == m_generation; }
+    void adoptUser(const QString &userId);
+    void clearCollections();
+
+    // One PATCH of one row by id, its answer merged; a write that matches no row was refused.
+    QCoro::Task<bool> patchTask(QString taskId, AnyEncodable body, const char *logPrefix);
+    QCoro::Task<bool> patchProject(QString projectId, AnyEncodable body, const char *logPrefix, QString refusedMessage);
+    // Status writes that leave running timers alone; answers the ids that changed.
+    QCoro::Task<QStringList> writeStatus(Session session, QStringList taskIds, TaskStatus status,
+                                         const char *logPrefix);
+    QCoro::Task<> reloadMembers(Session session, QString teamId);
+    void armPoll();
+    [[nodiscard]] bool refreshDue(const QDateTime &now) const;
+    QCoro::Task<> pollStep(quint64 run);
+
+    void setLastError(const QString &message);
+    void failed(const char *logPrefix, const QString &detail, const QString &message);
+    void writeFailed(const char *logPrefix, const MorvaneError &error, const QString &refusedMessage);
+    void setLoadingDepth(int depth);
+    void setLastRefreshedAt(const QDateTime &at);
+    void setCurrentUserId(const QString &userId);
+    void setProfile(const std::optional<Profile> &profile);
+    void setProjects(QList<Project> projects);
+    void setTeams(QList<Team> teams, QHash<QString, QList<TeamMember>> members);
+    void setClients(QList<Client> all);
+    void setSelectedTaskIds(QSet<QString> ids);
+    void mergeProject(const Project &project);
+    void removeProject(const QString &projectId);
+    void removeTasks(const QSet<QString> &taskIds);
+    void groupTasks(const QList<TaskItem> &tasks);
+    void foldEntries(const QList<TimeEntry> &entries, const QDateTime &windowStart);
+    void tasksDidChange();
+    [[nodiscard]] QDateTime recentWindowStart() const;
+
+    AuthStore &m_auth;
+    std::shared_ptr<QSettings> m_settings;
+    Clock m_clock;
+
+    QList<Project> m_projects;
+    QHash<QString, QList<TaskItem>> m_tasksByProject;
+    QHash<QString, QString> m_projectOfTask;
+    QHash<QString, QList<TimeEntry>> m_entriesByTask;
+    QList<Team> m_teams;
+    QHash<QString, QList<TeamMember>> m_membersByTeam;
+    QList<TimeEntry> m_recentEntries;
+    QList<Client> m_clients;
+    QList<Client> m_allClients;
+    std::optional<Profile> m_profile;
+
+    QString m_currentUserId;
+    QString m_selectedProjectId;
+    QString m_selectedTaskId;
+    QString m_lastError;
+    int m_loadingDepth = 0;
+    QDateTime m_lastRefreshedAt;
+    QSet<QString> m_savingTaskIds;
+    // Two writes on one task may overlap; the task shows as saving until the last one ends.
+    QHash<QString, int> m_savingCounts;
+    bool m_realtimeConnected = false;
+    QSet<QString> m_selectedTaskIds;
+    SidebarSelection m_sidebarSelection;
+    TaskFilter m_taskFilter = TaskFilter::All;
+    TaskSort m_taskSort = TaskSort::Manual;
+    QString m_searchQuery;
+    QString m_aiProgress;
+    QString m_runningKey;
+
+    quint64 m_generation = 0;
+    bool m_syncing = false;
+    // The safety poll: one look per timeout, re-armed after each look, so a slow refresh delays
+    // the next look instead of piling looks up. A run number tells a look of an earlier
+    // startSync not to re-arm.
+    QTimer m_pollTimer;
+    quint64 m_pollRun = 0;
+    std::chrono::milliseconds m_pollInterval = defaultPollInterval;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+// The sentences the store shows in `lastError`, one function per text so that each lives once.
+namespace StoreText {
+
+QString notSignedIn();
+QString loadFailed();
+QString teamsNotLoaded();
+QString clientsNotLoaded();
+QString writeFailed();
+QString projectNotCreated();
+QString projectNotSaved();
+QString projectTeamNotChanged();
+QString taskNotCreated();
+QString taskNotSaved();
+QString timerStartedElsewhere();
+QString profileNotSaved();
+QString onboardingNotSaved();
+QString teamNotCreated();
+
+} // namespace StoreText

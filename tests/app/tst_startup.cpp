@@ -1,0 +1,145 @@
+#include "app/startup.h"
+#include "support/localservers.h"
+#include "support/testbackend.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSettings>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QUrl teamUrl(u"https://team.example.org"_s);
+
+Config configured(Config::Source urlSource, Config::Source keySource)
+{
+    Config config;
+    config.urlSource = urlSource;
+    config.keySource = keySource;
+    config.supabaseURL = urlSource == Config::Source::LocalServer ? Config::defaultLocalUrl() : teamUrl;
+    config.supabaseAnonKey = keySource == Config::Source::LocalServer ? QString() : u"configured-key"_s;
+    return config;
+}
+
+} // namespace
+
+class TestStartup : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_home;
+
+private slots:
+    void initTestCase()
+    {
+        // The user's own data folder and settings must stay untouched: the start-up finds the
+        // local backend under the XDG data folder, and the program on the PATH, as nothing sits
+        // beside a test executable.
+        QFile::setPermissions(m_home.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                                 QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_home.path() + u"/data"_s));
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home.path() + u"/config"_s));
+        qputenv("MORVANE_SERVER_PORT", "0");
+        qputenv("PATH", QFile::encodeName(QFileInfo(TestBackend::serverProgram()).path()) + ':' + qgetenv("PATH"));
+        QCOMPARE(Config::localServerDir(), m_home.path() + u"/data/morvane/server"_s);
+    }
+
+    void cleanup()
+    {
+        // One data folder for the whole suite: each test starts from a stopped server.
+        runBlocking(Startup::localServer().stop());
+    }
+
+    void onlyTheLocalPartIsReplaced_data()
+    {
+        using Source = Config::Source;
+        QTest::addColumn<Config>("config");
+        QTest::addColumn<bool>("startsServer");
+        QTest::addColumn<bool>("keepsKey");
+
+        QTest::newRow("nothing configured") << configured(Source::LocalServer, Source::LocalServer) << true << false;
+        QTest::newRow("only a key configured") << configured(Source::LocalServer, Source::Environment) << true << true;
+        QTest::newRow("another backend in the environment")
+            << configured(Source::Environment, Source::Environment) << false << true;
+        QTest::newRow("another backend in the settings, key left local")
+            << configured(Source::Settings, Source::LocalServer) << false << true;
+    }
+
+    void onlyTheLocalPartIsReplaced()
+    {
+        QFETCH(Config, config);
+        QFETCH(bool, startsServer);
+        QFETCH(bool, keepsKey);
+
+        ScratchServerDir dir;
+        LocalServer server(dir.path(), TestBackend::serverProgram());
+        server.setArguments({u"--port"_s, u"0"_s});
+        const Config live = runBlocking(Startup::liveBackend(config, server));
+
+        QCOMPARE(live.urlSource, config.urlSource);
+        QCOMPARE(live.keySource, config.keySource);
+        if (!startsServer) {
+            QCOMPARE(live.supabaseURL, config.supabaseURL);
+            QCOMPARE(live.supabaseAnonKey, config.supabaseAnonKey);
+            QVERIFY(!QFile::exists(dir.path()));
+            return;
+        }
+        const LocalServer::Status status = runBlocking(server.status());
+        QCOMPARE(status.state, LocalServer::State::Running);
+        QCOMPARE(live.supabaseURL, status.url);
+        QCOMPARE(live.supabaseAnonKey, keepsKey ? config.supabaseAnonKey : status.anonKey);
+        if (!keepsKey) {
+            const QString failure = accountWorks(live.supabaseURL, live.supabaseAnonKey);
+            QVERIFY2(failure.isEmpty(), qPrintable(failure));
+        }
+    }
+
+    void ensureBackendLeavesAnotherBackendAlone()
+    {
+        Config::setCurrent(configured(Config::Source::Environment, Config::Source::Environment));
+        const int generation = Config::generation();
+        const Config config = runBlocking(Startup::ensureBackend());
+        QCOMPARE(config.supabaseURL, teamUrl);
+        QCOMPARE(Config::generation(), generation);
+        QCOMPARE(runBlocking(Startup::localServer().status()).state, LocalServer::State::Stopped);
+        QVERIFY(!QFile::exists(Startup::localServer().logPath()));
+    }
+
+    void ensureBackendMakesTheLiveServerCurrent()
+    {
+        // server.json of a server that is gone: read into the configuration, but not believed.
+        const QString dataDir = Config::localServerDir();
+        QVERIFY(QDir().mkpath(dataDir));
+        QFile stale(dataDir + u"/server.json"_s);
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        stale.write(
+            QJsonDocument(QJsonObject{{u"url"_s, u"http://127.0.0.1:9"_s}, {u"anon_key"_s, u"stale-key"_s}}).toJson());
+        stale.close();
+        Config::setCurrent(Config::resolve(QSettings(m_home.filePath(u"none.conf"_s), QSettings::IniFormat),
+                                           QProcessEnvironment(), dataDir));
+        QCOMPARE(Config::current().supabaseAnonKey, u"stale-key"_s);
+        const int generation = Config::generation();
+
+        const Config live = runBlocking(Startup::ensureBackend());
+        QCOMPARE(Config::generation(), generation + 1);
+        QCOMPARE(Config::current().supabaseURL, live.supabaseURL);
+        QCOMPARE(Config::current().supabaseAnonKey, live.supabaseAnonKey);
+        QCOMPARE(Config::current().urlSource, Config::Source::LocalServer);
+        QVERIFY(live.supabaseAnonKey != u"stale-key"_s);
+        const QString failure = accountWorks(live.supabaseURL, live.supabaseAnonKey);
+        QVERIFY2(failure.isEmpty(), qPrintable(failure));
+
+        // A second time the running server is found, and the configuration stays the same.
+        const qint64 pid = runBlocking(Startup::localServer().status()).pid;
+        const Config again = runBlocking(Startup::ensureBackend());
+        QCOMPARE(again.supabaseURL, live.supabaseURL);
+        QCOMPARE(runBlocking(Startup::localServer().status()).pid, pid);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestStartup)
+#include "tst_startup.moc"
