@@ -1296,56 +1296,44 @@ QCoro::Task<bool> AppStore::deleteTask(QString taskId)
     }
 }
 
-QCoro::Task<bool> AppStore::updateTaskCategory(QString taskId, std::optional<TaskCategory> category)
+QCoro::Task<bool> AppStore::rewriteAttachments(QString taskId, std::function<void(TaskAttachments &)> change,
+                                               const char *logPrefix)
 {
     const std::optional<TaskItem> local = task(taskId);
     if (!local) {
-        failed("Update task category failed: ", u"unknown task "_s + taskId, StoreText::taskNotSaved());
+        failed(logPrefix, u"unknown task "_s + taskId, StoreText::taskNotSaved());
         co_return false;
     }
+    // The column holds all side data at once, so the whole object is written with one field changed.
     TaskAttachments attachments = local->attachments.value_or(TaskAttachments{});
-    attachments.category = category;
+    change(attachments);
     const TaskAttachmentsPatch patch{std::move(attachments)};
-    co_return co_await patchTask(taskId, patch, "Update task category failed: ");
+    co_return co_await patchTask(taskId, patch, logPrefix);
+}
+
+// Each change is built before the co_await: GCC 12 mishandles a temporary made inside one.
+QCoro::Task<bool> AppStore::updateTaskCategory(QString taskId, std::optional<TaskCategory> category)
+{
+    std::function<void(TaskAttachments &)> change = [category](TaskAttachments &a) { a.category = category; };
+    co_return co_await rewriteAttachments(taskId, std::move(change), "Update task category failed: ");
 }
 
 QCoro::Task<bool> AppStore::updateTaskSubtasks(QString taskId, QList<Subtask> subtasks)
 {
-    const std::optional<TaskItem> local = task(taskId);
-    if (!local) {
-        failed("Update subtasks failed: ", u"unknown task "_s + taskId, StoreText::taskNotSaved());
-        co_return false;
-    }
-    TaskAttachments attachments = local->attachments.value_or(TaskAttachments{});
-    attachments.subtasks = std::move(subtasks);
-    const TaskAttachmentsPatch patch{std::move(attachments)};
-    co_return co_await patchTask(taskId, patch, "Update subtasks failed: ");
+    std::function<void(TaskAttachments &)> change = [subtasks](TaskAttachments &a) { a.subtasks = subtasks; };
+    co_return co_await rewriteAttachments(taskId, std::move(change), "Update subtasks failed: ");
 }
 
 QCoro::Task<bool> AppStore::updateTaskAssignees(QString taskId, QList<TaskAssignee> assignees)
 {
-    const std::optional<TaskItem> local = task(taskId);
-    if (!local) {
-        failed("Update assignees failed: ", u"unknown task "_s + taskId, StoreText::taskNotSaved());
-        co_return false;
-    }
-    TaskAttachments attachments = local->attachments.value_or(TaskAttachments{});
-    attachments.assignees = std::move(assignees);
-    const TaskAttachmentsPatch patch{std::move(attachments)};
-    co_return co_await patchTask(taskId, patch, "Update assignees failed: ");
+    std::function<void(TaskAttachments &)> change = [assignees](TaskAttachments &a) { a.assignees = assignees; };
+    co_return co_await rewriteAttachments(taskId, std::move(change), "Update assignees failed: ");
 }
 
 QCoro::Task<bool> AppStore::updateTaskNotes(QString taskId, QList<TaskNote> notes)
 {
-    const std::optional<TaskItem> local = task(taskId);
-    if (!local) {
-        failed("Update notes failed: ", u"unknown task "_s + taskId, StoreText::taskNotSaved());
-        co_return false;
-    }
-    TaskAttachments attachments = local->attachments.value_or(TaskAttachments{});
-    attachments.notes = std::move(notes);
-    const TaskAttachmentsPatch patch{std::move(attachments)};
-    co_return co_await patchTask(taskId, patch, "Update notes failed: ");
+    std::function<void(TaskAttachments &)> change = [notes](TaskAttachments &a) { a.notes = notes; };
+    co_return co_await rewriteAttachments(taskId, std::move(change), "Update notes failed: ");
 }
 
 QCoro::Task<int> AppStore::bulkUpdateStatus(TaskStatus status)

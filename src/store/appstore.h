@@ -22,6 +22,7 @@
 #include <QCoroTask>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -255,6 +256,8 @@ private:
 
     // One PATCH of one row by id, its answer merged; a write that matches no row was refused.
     QCoro::Task<bool> patchTask(QString taskId, AnyEncodable body, const char *logPrefix);
+    QCoro::Task<bool> rewriteAttachments(QString taskId, std::function<void(TaskAttachments &)> change,
+                                         const char *logPrefix);
     QCoro::Task<bool> patchProject(QString projectId, AnyEncodable body, const char *logPrefix, QString refusedMessage);
     // Status writes that leave running timers alone; answers the ids that changed.
     QCoro::Task<QStringList> writeStatus(Session session, QStringList taskIds, TaskStatus status,
