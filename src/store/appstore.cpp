@@ -1525,9 +1525,9 @@ QCoro::Task<bool> AppStore::reorderTasks(QString projectId, QStringList orderedI
 
 // ---- Profile and onboarding ------------------------------------------------------------------
 
-QCoro::Task<bool> AppStore::updateProfile(ProfilePatch patch)
+QCoro::Task<bool> AppStore::patchProfile(AnyEncodable patch, const char *logPrefix, QString notSaved)
 {
-    const std::optional<Session> session = co_await openSession("Update profile failed: ");
+    const std::optional<Session> session = co_await openSession(logPrefix);
     if (!session) {
         co_return false;
     }
@@ -1538,39 +1538,27 @@ QCoro::Task<bool> AppStore::updateProfile(ProfilePatch patch)
             co_return false;
         }
         if (rows.isEmpty()) {
-            failed("Update profile failed: ", u"no profile row"_s, StoreText::profileNotSaved());
+            failed(logPrefix, u"no profile row"_s, notSaved);
             co_return false;
         }
         setProfile(rows.first());
         co_return true;
     } catch (const MorvaneError &error) {
-        failed("Update profile failed: ", error.message(), StoreText::profileNotSaved());
+        failed(logPrefix, error.message(), notSaved);
         co_return false;
     }
 }
 
+QCoro::Task<bool> AppStore::updateProfile(ProfilePatch patch)
+{
+    AnyEncodable body(patch);
+    co_return co_await patchProfile(std::move(body), "Update profile failed: ", StoreText::profileNotSaved());
+}
+
 QCoro::Task<bool> AppStore::saveOnboarding(OnboardingPatch patch)
 {
-    const std::optional<Session> session = co_await openSession("Save onboarding failed: ");
-    if (!session) {
-        co_return false;
-    }
-    try {
-        const QList<Profile> rows =
-            co_await m_auth.client().update<Profile>(u"profiles"_s, session->token, idFilter(m_currentUserId), patch);
-        if (!isCurrent(*session)) {
-            co_return false;
-        }
-        if (rows.isEmpty()) {
-            failed("Save onboarding failed: ", u"no profile row"_s, StoreText::onboardingNotSaved());
-            co_return false;
-        }
-        setProfile(rows.first());
-        co_return true;
-    } catch (const MorvaneError &error) {
-        failed("Save onboarding failed: ", error.message(), StoreText::onboardingNotSaved());
-        co_return false;
-    }
+    AnyEncodable body(patch);
+    co_return co_await patchProfile(std::move(body), "Save onboarding failed: ", StoreText::onboardingNotSaved());
 }
 
 QCoro::Task<bool> AppStore::ensureOnboarded()

@@ -256,6 +256,7 @@ private:
 
     // One PATCH of one row by id, its answer merged; a write that matches no row was refused.
     QCoro::Task<bool> patchTask(QString taskId, AnyEncodable body, const char *logPrefix);
+    QCoro::Task<bool> patchProfile(AnyEncodable patch, const char *logPrefix, QString notSaved);
     QCoro::Task<bool> rewriteAttachments(QString taskId, std::function<void(TaskAttachments &)> change,
                                          const char *logPrefix);
     QCoro::Task<bool> patchProject(QString projectId, AnyEncodable body, const char *logPrefix, QString refusedMessage);

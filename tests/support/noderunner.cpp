@@ -33,7 +33,7 @@ QString runNodeTests(const TestBackend &backend, const QString &script, const QS
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder.path());
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(node, {u"--test"_s, u"--test-reporter=spec"_s, folder.filePath(script)});
+    process.start(node, {u"--test"_s, u"--test-reporter=tap"_s, folder.filePath(script)});
     if (!process.waitForStarted()) {
         return process.errorString();
     }
