@@ -3,6 +3,7 @@
 #include "app/authcommands.h"
 #include "app/servercommand.h"
 #include "app/startup.h"
+#include "app/storecommands.h"
 #include "backend/config.h"
 #include "backend/runblocking.h"
 
@@ -85,15 +86,22 @@ int showConfig(const QStringList &arguments, QTextStream &out, QTextStream &err)
 QList<Command> commands()
 {
     return {
-        //% "Show which backend Morvane uses and where each setting comes from"
+        //% "Sign up, sign in and out, switch between accounts"
         {u"auth"_s, [] { return qtTrId("cli.command.auth"); },
          [](const QStringList &arguments, QTextStream &out, QTextStream &err) {
              QTextStream in(stdin);
              return runAuthCommand(arguments, out, err, in);
          }},
+        //% "Show which backend Morvane uses and where each setting comes from"
         {u"config"_s, [] { return qtTrId("cli.command.config"); }, showConfig, false},
         //% "Start, stop or show the local backend: server start|stop|status"
         {u"server"_s, [] { return qtTrId("cli.command.server"); }, runServerCommand, false},
+        //% "List, add, rename, archive or delete projects: projects list|add|rename|archive|rm"
+        {u"projects"_s, [] { return qtTrId("cli.command.projects"); }, runProjectsCommand},
+        //% "List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm"
+        {u"tasks"_s, [] { return qtTrId("cli.command.tasks"); }, runTasksCommand},
+        //% "Teams and their members: teams list|create|invite|assign"
+        {u"teams"_s, [] { return qtTrId("cli.command.teams"); }, runTeamsCommand},
     };
 }
 

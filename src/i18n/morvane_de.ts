@@ -91,9 +91,21 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Zeigt, welches Backend Morvane nutzt und woher jede Einstellung stammt</translation>
     </message>
+    <message id="cli.command.projects">
+      <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
+      <translation>Projekte anzeigen, anlegen, umbenennen, archivieren oder löschen: projects list|add|rename|archive|rm</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Das lokale Backend starten, beenden oder anzeigen: server start|stop|status</translation>
+    </message>
+    <message id="cli.command.tasks">
+      <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
+      <translation>Aufgaben anzeigen, anlegen, bearbeiten, verschieben oder löschen: tasks list|add|edit|move|status|rm</translation>
+    </message>
+    <message id="cli.command.teams">
+      <source>Teams and their members: teams list|create|invite|assign</source>
+      <translation>Teams und ihre Mitglieder: teams list|create|invite|assign</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -119,6 +131,10 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane erfasst Arbeitszeit für Projekte und Aufgaben und macht daraus Rechnungen.</translation>
     </message>
+    <message id="cli.err.notSignedIn">
+      <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>
+      <translation>Nicht angemeldet. Melde dich an mit: morvane auth signin &lt;e-mail&gt;</translation>
+    </message>
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Unbekannter Befehl: %1. Mit morvane --help wird die Befehlsliste angezeigt.</translation>
@@ -134,6 +150,82 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Die Version anzeigen.</translation>
+    </message>
+    <message id="cli.projects.active">
+      <source>active</source>
+      <translation>aktiv</translation>
+    </message>
+    <message id="cli.projects.added">
+      <source>Added project %1 (%2).</source>
+      <translation>Projekt %1 (%2) angelegt.</translation>
+    </message>
+    <message id="cli.projects.archived">
+      <source>archived</source>
+      <translation>archiviert</translation>
+    </message>
+    <message id="cli.projects.archivedIdle">
+      <source>Idle projects archived: %1.</source>
+      <translation>Ruhende Projekte archiviert: %1.</translation>
+    </message>
+    <message id="cli.projects.archivedOne">
+      <source>Archived %1.</source>
+      <translation>%1 archiviert.</translation>
+    </message>
+    <message id="cli.projects.completed">
+      <source>completed</source>
+      <translation>abgeschlossen</translation>
+    </message>
+    <message id="cli.projects.deleted">
+      <source>Deleted %1 and its tasks.</source>
+      <translation>%1 und seine Aufgaben gelöscht.</translation>
+    </message>
+    <message id="cli.projects.none">
+      <source>No projects yet. Add one with: morvane projects add &lt;name&gt;</source>
+      <translation>Noch keine Projekte. Lege eins an mit: morvane projects add &lt;name&gt;</translation>
+    </message>
+    <message id="cli.projects.option.description">
+      <source>A description of the project.</source>
+      <translation>Eine Beschreibung des Projekts.</translation>
+    </message>
+    <message id="cli.projects.option.idle">
+      <source>Archive every project of yours without work for this many days.</source>
+      <translation>Archiviert alle deine Projekte ohne Arbeit seit so vielen Tagen.</translation>
+    </message>
+    <message id="cli.projects.option.team">
+      <source>The team the new project belongs to.</source>
+      <translation>Das Team, zu dem das neue Projekt gehört.</translation>
+    </message>
+    <message id="cli.projects.renamed">
+      <source>Renamed %1 to %2.</source>
+      <translation>%1 in %2 umbenannt.</translation>
+    </message>
+    <message id="cli.projects.taskCount">
+      <source>tasks: %1</source>
+      <translation>Aufgaben: %1</translation>
+    </message>
+    <message id="cli.projects.team">
+      <source>team %1</source>
+      <translation>Team %1</translation>
+    </message>
+    <message id="cli.projects.usage">
+      <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
+      <translation>Aufruf: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
+    </message>
+    <message id="cli.ref.ambiguous">
+      <source>"%1" matches several: %2. Use the id.</source>
+      <translation>"%1" passt auf mehrere: %2. Verwende die ID.</translation>
+    </message>
+    <message id="cli.ref.noProject">
+      <source>No project matches "%1".</source>
+      <translation>Kein Projekt passt auf "%1".</translation>
+    </message>
+    <message id="cli.ref.noTask">
+      <source>No task matches "%1".</source>
+      <translation>Keine Aufgabe passt auf "%1".</translation>
+    </message>
+    <message id="cli.ref.noTeam">
+      <source>No team matches "%1".</source>
+      <translation>Kein Team passt auf "%1".</translation>
     </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
@@ -170,6 +262,134 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Aufruf: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.tasks.added">
+      <source>Added task %1 (%2) to %3.</source>
+      <translation>Aufgabe %1 (%2) zu %3 hinzugefügt.</translation>
+    </message>
+    <message id="cli.tasks.badDue">
+      <source>Not a day: %1. Write it as YYYY-MM-DD.</source>
+      <translation>Kein Tag: %1. Schreibe ihn als YYYY-MM-DD.</translation>
+    </message>
+    <message id="cli.tasks.badOrder">
+      <source>Unknown filter or sort. Filters: %1. Sorts: %2.</source>
+      <translation>Unbekannter Filter oder unbekannte Sortierung. Filter: %1. Sortierungen: %2.</translation>
+    </message>
+    <message id="cli.tasks.badStatus">
+      <source>Unknown status %1. Statuses: %2.</source>
+      <translation>Unbekannter Status %1. Status: %2.</translation>
+    </message>
+    <message id="cli.tasks.deleted">
+      <source>Deleted %1.</source>
+      <translation>%1 gelöscht.</translation>
+    </message>
+    <message id="cli.tasks.due">
+      <source>due %1</source>
+      <translation>fällig %1</translation>
+    </message>
+    <message id="cli.tasks.high">
+      <source>high</source>
+      <translation>hoch</translation>
+    </message>
+    <message id="cli.tasks.low">
+      <source>low</source>
+      <translation>niedrig</translation>
+    </message>
+    <message id="cli.tasks.medium">
+      <source>medium</source>
+      <translation>mittel</translation>
+    </message>
+    <message id="cli.tasks.moved">
+      <source>Moved %1 to %2.</source>
+      <translation>%1 nach %2 verschoben.</translation>
+    </message>
+    <message id="cli.tasks.none">
+      <source>  No tasks to show.</source>
+      <translation>  Keine Aufgaben anzuzeigen.</translation>
+    </message>
+    <message id="cli.tasks.option.description">
+      <source>The task's description; empty clears it.</source>
+      <translation>Die Beschreibung der Aufgabe; leer löscht sie.</translation>
+    </message>
+    <message id="cli.tasks.option.due">
+      <source>The day the task is due (YYYY-MM-DD); empty clears it.</source>
+      <translation>Der Tag, an dem die Aufgabe fällig ist (YYYY-MM-DD); leer löscht ihn.</translation>
+    </message>
+    <message id="cli.tasks.option.filter">
+      <source>Which tasks to list: %1.</source>
+      <translation>Welche Aufgaben angezeigt werden: %1.</translation>
+    </message>
+    <message id="cli.tasks.option.sort">
+      <source>How to order the list: %1.</source>
+      <translation>Wie die Liste sortiert wird: %1.</translation>
+    </message>
+    <message id="cli.tasks.option.title">
+      <source>The task's new title.</source>
+      <translation>Der neue Titel der Aufgabe.</translation>
+    </message>
+    <message id="cli.tasks.running">
+      <source>timer running</source>
+      <translation>Timer läuft</translation>
+    </message>
+    <message id="cli.tasks.saved">
+      <source>Saved %1.</source>
+      <translation>%1 gespeichert.</translation>
+    </message>
+    <message id="cli.tasks.statusSet">
+      <source>%1 is now %2.</source>
+      <translation>%1 ist jetzt %2.</translation>
+    </message>
+    <message id="cli.tasks.usage">
+      <source>Usage: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</source>
+      <translation>Aufruf: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</translation>
+    </message>
+    <message id="cli.teams.assigned">
+      <source>%1 now belongs to team %2.</source>
+      <translation>%1 gehört jetzt zum Team %2.</translation>
+    </message>
+    <message id="cli.teams.created">
+      <source>Created team %1 (%2).</source>
+      <translation>Team %1 (%2) angelegt.</translation>
+    </message>
+    <message id="cli.teams.editor">
+      <source>editor</source>
+      <translation>Bearbeiter</translation>
+    </message>
+    <message id="cli.teams.none">
+      <source>No teams. Create one with: morvane teams create &lt;name&gt;</source>
+      <translation>Keine Teams. Lege eins an mit: morvane teams create &lt;name&gt;</translation>
+    </message>
+    <message id="cli.teams.option.role">
+      <source>The role of the invited member: editor or viewer.</source>
+      <translation>Die Rolle des eingeladenen Mitglieds: editor oder viewer.</translation>
+    </message>
+    <message id="cli.teams.owner">
+      <source>owner</source>
+      <translation>Inhaber</translation>
+    </message>
+    <message id="cli.teams.pending">
+      <source>invited</source>
+      <translation>eingeladen</translation>
+    </message>
+    <message id="cli.teams.projects">
+      <source>Projects: %1</source>
+      <translation>Projekte: %1</translation>
+    </message>
+    <message id="cli.teams.unassigned">
+      <source>%1 no longer belongs to a team.</source>
+      <translation>%1 gehört keinem Team mehr an.</translation>
+    </message>
+    <message id="cli.teams.usage">
+      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
+      <translation>Aufruf: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
+    </message>
+    <message id="cli.teams.viewer">
+      <source>viewer</source>
+      <translation>Betrachter</translation>
+    </message>
+    <message id="cli.teams.you">
+      <source>you: %1</source>
+      <translation>du: %1</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -91,9 +91,21 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostrar qué servidor usa Morvane y de dónde viene cada ajuste</translation>
     </message>
+    <message id="cli.command.projects">
+      <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
+      <translation>Listar, añadir, renombrar, archivar o eliminar proyectos: projects list|add|rename|archive|rm</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Iniciar, detener o mostrar el servidor local: server start|stop|status</translation>
+    </message>
+    <message id="cli.command.tasks">
+      <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
+      <translation>Listar, añadir, editar, mover o eliminar tareas: tasks list|add|edit|move|status|rm</translation>
+    </message>
+    <message id="cli.command.teams">
+      <source>Teams and their members: teams list|create|invite|assign</source>
+      <translation>Equipos y sus miembros: teams list|create|invite|assign</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -119,6 +131,10 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane registra el tiempo de trabajo en proyectos y tareas y lo convierte en facturas.</translation>
     </message>
+    <message id="cli.err.notSignedIn">
+      <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>
+      <translation>No has iniciado sesión. Inicia sesión con: morvane auth signin &lt;e-mail&gt;</translation>
+    </message>
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Comando desconocido: %1. Ejecuta morvane --help para ver la lista de comandos.</translation>
@@ -134,6 +150,82 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Mostrar la versión.</translation>
+    </message>
+    <message id="cli.projects.active">
+      <source>active</source>
+      <translation>activo</translation>
+    </message>
+    <message id="cli.projects.added">
+      <source>Added project %1 (%2).</source>
+      <translation>Proyecto %1 (%2) añadido.</translation>
+    </message>
+    <message id="cli.projects.archived">
+      <source>archived</source>
+      <translation>archivado</translation>
+    </message>
+    <message id="cli.projects.archivedIdle">
+      <source>Idle projects archived: %1.</source>
+      <translation>Proyectos inactivos archivados: %1.</translation>
+    </message>
+    <message id="cli.projects.archivedOne">
+      <source>Archived %1.</source>
+      <translation>%1 archivado.</translation>
+    </message>
+    <message id="cli.projects.completed">
+      <source>completed</source>
+      <translation>completado</translation>
+    </message>
+    <message id="cli.projects.deleted">
+      <source>Deleted %1 and its tasks.</source>
+      <translation>%1 y sus tareas eliminados.</translation>
+    </message>
+    <message id="cli.projects.none">
+      <source>No projects yet. Add one with: morvane projects add &lt;name&gt;</source>
+      <translation>Aún no hay proyectos. Añade uno con: morvane projects add &lt;name&gt;</translation>
+    </message>
+    <message id="cli.projects.option.description">
+      <source>A description of the project.</source>
+      <translation>Una descripción del proyecto.</translation>
+    </message>
+    <message id="cli.projects.option.idle">
+      <source>Archive every project of yours without work for this many days.</source>
+      <translation>Archiva todos tus proyectos sin trabajo durante tantos días.</translation>
+    </message>
+    <message id="cli.projects.option.team">
+      <source>The team the new project belongs to.</source>
+      <translation>El equipo al que pertenece el nuevo proyecto.</translation>
+    </message>
+    <message id="cli.projects.renamed">
+      <source>Renamed %1 to %2.</source>
+      <translation>%1 renombrado a %2.</translation>
+    </message>
+    <message id="cli.projects.taskCount">
+      <source>tasks: %1</source>
+      <translation>tareas: %1</translation>
+    </message>
+    <message id="cli.projects.team">
+      <source>team %1</source>
+      <translation>equipo %1</translation>
+    </message>
+    <message id="cli.projects.usage">
+      <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
+      <translation>Uso: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
+    </message>
+    <message id="cli.ref.ambiguous">
+      <source>"%1" matches several: %2. Use the id.</source>
+      <translation>"%1" coincide con varios: %2. Usa el id.</translation>
+    </message>
+    <message id="cli.ref.noProject">
+      <source>No project matches "%1".</source>
+      <translation>Ningún proyecto coincide con "%1".</translation>
+    </message>
+    <message id="cli.ref.noTask">
+      <source>No task matches "%1".</source>
+      <translation>Ninguna tarea coincide con "%1".</translation>
+    </message>
+    <message id="cli.ref.noTeam">
+      <source>No team matches "%1".</source>
+      <translation>Ningún equipo coincide con "%1".</translation>
     </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
@@ -170,6 +262,134 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Uso: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.tasks.added">
+      <source>Added task %1 (%2) to %3.</source>
+      <translation>Tarea %1 (%2) añadida a %3.</translation>
+    </message>
+    <message id="cli.tasks.badDue">
+      <source>Not a day: %1. Write it as YYYY-MM-DD.</source>
+      <translation>No es un día: %1. Escríbelo como YYYY-MM-DD.</translation>
+    </message>
+    <message id="cli.tasks.badOrder">
+      <source>Unknown filter or sort. Filters: %1. Sorts: %2.</source>
+      <translation>Filtro u orden desconocido. Filtros: %1. Órdenes: %2.</translation>
+    </message>
+    <message id="cli.tasks.badStatus">
+      <source>Unknown status %1. Statuses: %2.</source>
+      <translation>Estado desconocido %1. Estados: %2.</translation>
+    </message>
+    <message id="cli.tasks.deleted">
+      <source>Deleted %1.</source>
+      <translation>%1 eliminada.</translation>
+    </message>
+    <message id="cli.tasks.due">
+      <source>due %1</source>
+      <translation>vence %1</translation>
+    </message>
+    <message id="cli.tasks.high">
+      <source>high</source>
+      <translation>alta</translation>
+    </message>
+    <message id="cli.tasks.low">
+      <source>low</source>
+      <translation>baja</translation>
+    </message>
+    <message id="cli.tasks.medium">
+      <source>medium</source>
+      <translation>media</translation>
+    </message>
+    <message id="cli.tasks.moved">
+      <source>Moved %1 to %2.</source>
+      <translation>%1 movida a %2.</translation>
+    </message>
+    <message id="cli.tasks.none">
+      <source>  No tasks to show.</source>
+      <translation>  No hay tareas que mostrar.</translation>
+    </message>
+    <message id="cli.tasks.option.description">
+      <source>The task's description; empty clears it.</source>
+      <translation>La descripción de la tarea; vacía la borra.</translation>
+    </message>
+    <message id="cli.tasks.option.due">
+      <source>The day the task is due (YYYY-MM-DD); empty clears it.</source>
+      <translation>El día de vencimiento de la tarea (YYYY-MM-DD); vacío lo borra.</translation>
+    </message>
+    <message id="cli.tasks.option.filter">
+      <source>Which tasks to list: %1.</source>
+      <translation>Qué tareas listar: %1.</translation>
+    </message>
+    <message id="cli.tasks.option.sort">
+      <source>How to order the list: %1.</source>
+      <translation>Cómo ordenar la lista: %1.</translation>
+    </message>
+    <message id="cli.tasks.option.title">
+      <source>The task's new title.</source>
+      <translation>El nuevo título de la tarea.</translation>
+    </message>
+    <message id="cli.tasks.running">
+      <source>timer running</source>
+      <translation>temporizador en marcha</translation>
+    </message>
+    <message id="cli.tasks.saved">
+      <source>Saved %1.</source>
+      <translation>%1 guardada.</translation>
+    </message>
+    <message id="cli.tasks.statusSet">
+      <source>%1 is now %2.</source>
+      <translation>%1 ahora está en %2.</translation>
+    </message>
+    <message id="cli.tasks.usage">
+      <source>Usage: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</source>
+      <translation>Uso: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</translation>
+    </message>
+    <message id="cli.teams.assigned">
+      <source>%1 now belongs to team %2.</source>
+      <translation>%1 ahora pertenece al equipo %2.</translation>
+    </message>
+    <message id="cli.teams.created">
+      <source>Created team %1 (%2).</source>
+      <translation>Equipo %1 (%2) creado.</translation>
+    </message>
+    <message id="cli.teams.editor">
+      <source>editor</source>
+      <translation>editor</translation>
+    </message>
+    <message id="cli.teams.none">
+      <source>No teams. Create one with: morvane teams create &lt;name&gt;</source>
+      <translation>No hay equipos. Crea uno con: morvane teams create &lt;name&gt;</translation>
+    </message>
+    <message id="cli.teams.option.role">
+      <source>The role of the invited member: editor or viewer.</source>
+      <translation>El rol del miembro invitado: editor o viewer.</translation>
+    </message>
+    <message id="cli.teams.owner">
+      <source>owner</source>
+      <translation>propietario</translation>
+    </message>
+    <message id="cli.teams.pending">
+      <source>invited</source>
+      <translation>invitado</translation>
+    </message>
+    <message id="cli.teams.projects">
+      <source>Projects: %1</source>
+      <translation>Proyectos: %1</translation>
+    </message>
+    <message id="cli.teams.unassigned">
+      <source>%1 no longer belongs to a team.</source>
+      <translation>%1 ya no pertenece a ningún equipo.</translation>
+    </message>
+    <message id="cli.teams.usage">
+      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
+      <translation>Uso: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
+    </message>
+    <message id="cli.teams.viewer">
+      <source>viewer</source>
+      <translation>lector</translation>
+    </message>
+    <message id="cli.teams.you">
+      <source>you: %1</source>
+      <translation>tú: %1</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

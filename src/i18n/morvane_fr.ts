@@ -91,9 +91,21 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Afficher le serveur utilisé par Morvane et l’origine de chaque réglage</translation>
     </message>
+    <message id="cli.command.projects">
+      <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
+      <translation>Lister, ajouter, renommer, archiver ou supprimer des projets : projects list|add|rename|archive|rm</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Démarrer, arrêter ou afficher le serveur local : server start|stop|status</translation>
+    </message>
+    <message id="cli.command.tasks">
+      <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
+      <translation>Lister, ajouter, modifier, déplacer ou supprimer des tâches : tasks list|add|edit|move|status|rm</translation>
+    </message>
+    <message id="cli.command.teams">
+      <source>Teams and their members: teams list|create|invite|assign</source>
+      <translation>Les équipes et leurs membres : teams list|create|invite|assign</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -119,6 +131,10 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane suit le temps de travail sur les projets et les tâches et le transforme en factures.</translation>
     </message>
+    <message id="cli.err.notSignedIn">
+      <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>
+      <translation>Non connecté. Connectez-vous avec : morvane auth signin &lt;e-mail&gt;</translation>
+    </message>
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Commande inconnue : %1. Lancez morvane --help pour la liste des commandes.</translation>
@@ -134,6 +150,82 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Afficher la version.</translation>
+    </message>
+    <message id="cli.projects.active">
+      <source>active</source>
+      <translation>actif</translation>
+    </message>
+    <message id="cli.projects.added">
+      <source>Added project %1 (%2).</source>
+      <translation>Projet %1 (%2) ajouté.</translation>
+    </message>
+    <message id="cli.projects.archived">
+      <source>archived</source>
+      <translation>archivé</translation>
+    </message>
+    <message id="cli.projects.archivedIdle">
+      <source>Idle projects archived: %1.</source>
+      <translation>Projets inactifs archivés : %1.</translation>
+    </message>
+    <message id="cli.projects.archivedOne">
+      <source>Archived %1.</source>
+      <translation>%1 archivé.</translation>
+    </message>
+    <message id="cli.projects.completed">
+      <source>completed</source>
+      <translation>terminé</translation>
+    </message>
+    <message id="cli.projects.deleted">
+      <source>Deleted %1 and its tasks.</source>
+      <translation>%1 et ses tâches supprimés.</translation>
+    </message>
+    <message id="cli.projects.none">
+      <source>No projects yet. Add one with: morvane projects add &lt;name&gt;</source>
+      <translation>Aucun projet pour l’instant. Ajoutez-en un avec : morvane projects add &lt;name&gt;</translation>
+    </message>
+    <message id="cli.projects.option.description">
+      <source>A description of the project.</source>
+      <translation>Une description du projet.</translation>
+    </message>
+    <message id="cli.projects.option.idle">
+      <source>Archive every project of yours without work for this many days.</source>
+      <translation>Archive tous vos projets sans travail depuis ce nombre de jours.</translation>
+    </message>
+    <message id="cli.projects.option.team">
+      <source>The team the new project belongs to.</source>
+      <translation>L’équipe à laquelle appartient le nouveau projet.</translation>
+    </message>
+    <message id="cli.projects.renamed">
+      <source>Renamed %1 to %2.</source>
+      <translation>%1 renommé en %2.</translation>
+    </message>
+    <message id="cli.projects.taskCount">
+      <source>tasks: %1</source>
+      <translation>tâches : %1</translation>
+    </message>
+    <message id="cli.projects.team">
+      <source>team %1</source>
+      <translation>équipe %1</translation>
+    </message>
+    <message id="cli.projects.usage">
+      <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
+      <translation>Utilisation : morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
+    </message>
+    <message id="cli.ref.ambiguous">
+      <source>"%1" matches several: %2. Use the id.</source>
+      <translation>« %1 » correspond à plusieurs éléments : %2. Utilisez l’identifiant.</translation>
+    </message>
+    <message id="cli.ref.noProject">
+      <source>No project matches "%1".</source>
+      <translation>Aucun projet ne correspond à « %1 ».</translation>
+    </message>
+    <message id="cli.ref.noTask">
+      <source>No task matches "%1".</source>
+      <translation>Aucune tâche ne correspond à « %1 ».</translation>
+    </message>
+    <message id="cli.ref.noTeam">
+      <source>No team matches "%1".</source>
+      <translation>Aucune équipe ne correspond à « %1 ».</translation>
     </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
@@ -170,6 +262,134 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Utilisation : morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.tasks.added">
+      <source>Added task %1 (%2) to %3.</source>
+      <translation>Tâche %1 (%2) ajoutée à %3.</translation>
+    </message>
+    <message id="cli.tasks.badDue">
+      <source>Not a day: %1. Write it as YYYY-MM-DD.</source>
+      <translation>Pas une date : %1. Écrivez-la sous la forme YYYY-MM-DD.</translation>
+    </message>
+    <message id="cli.tasks.badOrder">
+      <source>Unknown filter or sort. Filters: %1. Sorts: %2.</source>
+      <translation>Filtre ou tri inconnu. Filtres : %1. Tris : %2.</translation>
+    </message>
+    <message id="cli.tasks.badStatus">
+      <source>Unknown status %1. Statuses: %2.</source>
+      <translation>Statut inconnu %1. Statuts : %2.</translation>
+    </message>
+    <message id="cli.tasks.deleted">
+      <source>Deleted %1.</source>
+      <translation>%1 supprimée.</translation>
+    </message>
+    <message id="cli.tasks.due">
+      <source>due %1</source>
+      <translation>échéance %1</translation>
+    </message>
+    <message id="cli.tasks.high">
+      <source>high</source>
+      <translation>haute</translation>
+    </message>
+    <message id="cli.tasks.low">
+      <source>low</source>
+      <translation>basse</translation>
+    </message>
+    <message id="cli.tasks.medium">
+      <source>medium</source>
+      <translation>moyenne</translation>
+    </message>
+    <message id="cli.tasks.moved">
+      <source>Moved %1 to %2.</source>
+      <translation>%1 déplacée vers %2.</translation>
+    </message>
+    <message id="cli.tasks.none">
+      <source>  No tasks to show.</source>
+      <translation>  Aucune tâche à afficher.</translation>
+    </message>
+    <message id="cli.tasks.option.description">
+      <source>The task's description; empty clears it.</source>
+      <translation>La description de la tâche ; vide l’efface.</translation>
+    </message>
+    <message id="cli.tasks.option.due">
+      <source>The day the task is due (YYYY-MM-DD); empty clears it.</source>
+      <translation>Le jour d’échéance de la tâche (YYYY-MM-DD) ; vide l’efface.</translation>
+    </message>
+    <message id="cli.tasks.option.filter">
+      <source>Which tasks to list: %1.</source>
+      <translation>Quelles tâches lister : %1.</translation>
+    </message>
+    <message id="cli.tasks.option.sort">
+      <source>How to order the list: %1.</source>
+      <translation>Comment trier la liste : %1.</translation>
+    </message>
+    <message id="cli.tasks.option.title">
+      <source>The task's new title.</source>
+      <translation>Le nouveau titre de la tâche.</translation>
+    </message>
+    <message id="cli.tasks.running">
+      <source>timer running</source>
+      <translation>minuteur en cours</translation>
+    </message>
+    <message id="cli.tasks.saved">
+      <source>Saved %1.</source>
+      <translation>%1 enregistrée.</translation>
+    </message>
+    <message id="cli.tasks.statusSet">
+      <source>%1 is now %2.</source>
+      <translation>%1 est maintenant %2.</translation>
+    </message>
+    <message id="cli.tasks.usage">
+      <source>Usage: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</source>
+      <translation>Utilisation : morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</translation>
+    </message>
+    <message id="cli.teams.assigned">
+      <source>%1 now belongs to team %2.</source>
+      <translation>%1 appartient maintenant à l’équipe %2.</translation>
+    </message>
+    <message id="cli.teams.created">
+      <source>Created team %1 (%2).</source>
+      <translation>Équipe %1 (%2) créée.</translation>
+    </message>
+    <message id="cli.teams.editor">
+      <source>editor</source>
+      <translation>éditeur</translation>
+    </message>
+    <message id="cli.teams.none">
+      <source>No teams. Create one with: morvane teams create &lt;name&gt;</source>
+      <translation>Aucune équipe. Créez-en une avec : morvane teams create &lt;name&gt;</translation>
+    </message>
+    <message id="cli.teams.option.role">
+      <source>The role of the invited member: editor or viewer.</source>
+      <translation>Le rôle du membre invité : editor ou viewer.</translation>
+    </message>
+    <message id="cli.teams.owner">
+      <source>owner</source>
+      <translation>propriétaire</translation>
+    </message>
+    <message id="cli.teams.pending">
+      <source>invited</source>
+      <translation>invité</translation>
+    </message>
+    <message id="cli.teams.projects">
+      <source>Projects: %1</source>
+      <translation>Projets : %1</translation>
+    </message>
+    <message id="cli.teams.unassigned">
+      <source>%1 no longer belongs to a team.</source>
+      <translation>%1 n’appartient plus à aucune équipe.</translation>
+    </message>
+    <message id="cli.teams.usage">
+      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
+      <translation>Utilisation : morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
+    </message>
+    <message id="cli.teams.viewer">
+      <source>viewer</source>
+      <translation>lecteur</translation>
+    </message>
+    <message id="cli.teams.you">
+      <source>you: %1</source>
+      <translation>vous : %1</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

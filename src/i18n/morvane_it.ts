@@ -91,9 +91,21 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostra quale server usa Morvane e da dove proviene ogni impostazione</translation>
     </message>
+    <message id="cli.command.projects">
+      <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
+      <translation>Elencare, aggiungere, rinominare, archiviare o eliminare progetti: projects list|add|rename|archive|rm</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Avvia, ferma o mostra il server locale: server start|stop|status</translation>
+    </message>
+    <message id="cli.command.tasks">
+      <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
+      <translation>Elencare, aggiungere, modificare, spostare o eliminare attività: tasks list|add|edit|move|status|rm</translation>
+    </message>
+    <message id="cli.command.teams">
+      <source>Teams and their members: teams list|create|invite|assign</source>
+      <translation>I team e i loro membri: teams list|create|invite|assign</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -119,6 +131,10 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane registra il tempo di lavoro su progetti e attività e lo trasforma in fatture.</translation>
     </message>
+    <message id="cli.err.notSignedIn">
+      <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>
+      <translation>Accesso non effettuato. Accedi con: morvane auth signin &lt;e-mail&gt;</translation>
+    </message>
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Comando sconosciuto: %1. Esegui morvane --help per l’elenco dei comandi.</translation>
@@ -134,6 +150,82 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Mostra la versione.</translation>
+    </message>
+    <message id="cli.projects.active">
+      <source>active</source>
+      <translation>attivo</translation>
+    </message>
+    <message id="cli.projects.added">
+      <source>Added project %1 (%2).</source>
+      <translation>Progetto %1 (%2) aggiunto.</translation>
+    </message>
+    <message id="cli.projects.archived">
+      <source>archived</source>
+      <translation>archiviato</translation>
+    </message>
+    <message id="cli.projects.archivedIdle">
+      <source>Idle projects archived: %1.</source>
+      <translation>Progetti inattivi archiviati: %1.</translation>
+    </message>
+    <message id="cli.projects.archivedOne">
+      <source>Archived %1.</source>
+      <translation>%1 archiviato.</translation>
+    </message>
+    <message id="cli.projects.completed">
+      <source>completed</source>
+      <translation>completato</translation>
+    </message>
+    <message id="cli.projects.deleted">
+      <source>Deleted %1 and its tasks.</source>
+      <translation>%1 e le sue attività eliminati.</translation>
+    </message>
+    <message id="cli.projects.none">
+      <source>No projects yet. Add one with: morvane projects add &lt;name&gt;</source>
+      <translation>Ancora nessun progetto. Aggiungine uno con: morvane projects add &lt;name&gt;</translation>
+    </message>
+    <message id="cli.projects.option.description">
+      <source>A description of the project.</source>
+      <translation>Una descrizione del progetto.</translation>
+    </message>
+    <message id="cli.projects.option.idle">
+      <source>Archive every project of yours without work for this many days.</source>
+      <translation>Archivia tutti i tuoi progetti senza lavoro da questo numero di giorni.</translation>
+    </message>
+    <message id="cli.projects.option.team">
+      <source>The team the new project belongs to.</source>
+      <translation>Il team a cui appartiene il nuovo progetto.</translation>
+    </message>
+    <message id="cli.projects.renamed">
+      <source>Renamed %1 to %2.</source>
+      <translation>%1 rinominato in %2.</translation>
+    </message>
+    <message id="cli.projects.taskCount">
+      <source>tasks: %1</source>
+      <translation>attività: %1</translation>
+    </message>
+    <message id="cli.projects.team">
+      <source>team %1</source>
+      <translation>team %1</translation>
+    </message>
+    <message id="cli.projects.usage">
+      <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
+      <translation>Uso: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
+    </message>
+    <message id="cli.ref.ambiguous">
+      <source>"%1" matches several: %2. Use the id.</source>
+      <translation>"%1" corrisponde a più elementi: %2. Usa l’id.</translation>
+    </message>
+    <message id="cli.ref.noProject">
+      <source>No project matches "%1".</source>
+      <translation>Nessun progetto corrisponde a "%1".</translation>
+    </message>
+    <message id="cli.ref.noTask">
+      <source>No task matches "%1".</source>
+      <translation>Nessuna attività corrisponde a "%1".</translation>
+    </message>
+    <message id="cli.ref.noTeam">
+      <source>No team matches "%1".</source>
+      <translation>Nessun team corrisponde a "%1".</translation>
     </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
@@ -170,6 +262,134 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Uso: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.tasks.added">
+      <source>Added task %1 (%2) to %3.</source>
+      <translation>Attività %1 (%2) aggiunta a %3.</translation>
+    </message>
+    <message id="cli.tasks.badDue">
+      <source>Not a day: %1. Write it as YYYY-MM-DD.</source>
+      <translation>Non è un giorno: %1. Scrivilo come YYYY-MM-DD.</translation>
+    </message>
+    <message id="cli.tasks.badOrder">
+      <source>Unknown filter or sort. Filters: %1. Sorts: %2.</source>
+      <translation>Filtro o ordinamento sconosciuto. Filtri: %1. Ordinamenti: %2.</translation>
+    </message>
+    <message id="cli.tasks.badStatus">
+      <source>Unknown status %1. Statuses: %2.</source>
+      <translation>Stato sconosciuto %1. Stati: %2.</translation>
+    </message>
+    <message id="cli.tasks.deleted">
+      <source>Deleted %1.</source>
+      <translation>%1 eliminata.</translation>
+    </message>
+    <message id="cli.tasks.due">
+      <source>due %1</source>
+      <translation>scadenza %1</translation>
+    </message>
+    <message id="cli.tasks.high">
+      <source>high</source>
+      <translation>alta</translation>
+    </message>
+    <message id="cli.tasks.low">
+      <source>low</source>
+      <translation>bassa</translation>
+    </message>
+    <message id="cli.tasks.medium">
+      <source>medium</source>
+      <translation>media</translation>
+    </message>
+    <message id="cli.tasks.moved">
+      <source>Moved %1 to %2.</source>
+      <translation>%1 spostata in %2.</translation>
+    </message>
+    <message id="cli.tasks.none">
+      <source>  No tasks to show.</source>
+      <translation>  Nessuna attività da mostrare.</translation>
+    </message>
+    <message id="cli.tasks.option.description">
+      <source>The task's description; empty clears it.</source>
+      <translation>La descrizione dell’attività; vuota la cancella.</translation>
+    </message>
+    <message id="cli.tasks.option.due">
+      <source>The day the task is due (YYYY-MM-DD); empty clears it.</source>
+      <translation>Il giorno di scadenza dell’attività (YYYY-MM-DD); vuoto lo cancella.</translation>
+    </message>
+    <message id="cli.tasks.option.filter">
+      <source>Which tasks to list: %1.</source>
+      <translation>Quali attività elencare: %1.</translation>
+    </message>
+    <message id="cli.tasks.option.sort">
+      <source>How to order the list: %1.</source>
+      <translation>Come ordinare l’elenco: %1.</translation>
+    </message>
+    <message id="cli.tasks.option.title">
+      <source>The task's new title.</source>
+      <translation>Il nuovo titolo dell’attività.</translation>
+    </message>
+    <message id="cli.tasks.running">
+      <source>timer running</source>
+      <translation>timer in corso</translation>
+    </message>
+    <message id="cli.tasks.saved">
+      <source>Saved %1.</source>
+      <translation>%1 salvata.</translation>
+    </message>
+    <message id="cli.tasks.statusSet">
+      <source>%1 is now %2.</source>
+      <translation>%1 ora è %2.</translation>
+    </message>
+    <message id="cli.tasks.usage">
+      <source>Usage: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</source>
+      <translation>Uso: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</translation>
+    </message>
+    <message id="cli.teams.assigned">
+      <source>%1 now belongs to team %2.</source>
+      <translation>%1 ora appartiene al team %2.</translation>
+    </message>
+    <message id="cli.teams.created">
+      <source>Created team %1 (%2).</source>
+      <translation>Team %1 (%2) creato.</translation>
+    </message>
+    <message id="cli.teams.editor">
+      <source>editor</source>
+      <translation>editor</translation>
+    </message>
+    <message id="cli.teams.none">
+      <source>No teams. Create one with: morvane teams create &lt;name&gt;</source>
+      <translation>Nessun team. Creane uno con: morvane teams create &lt;name&gt;</translation>
+    </message>
+    <message id="cli.teams.option.role">
+      <source>The role of the invited member: editor or viewer.</source>
+      <translation>Il ruolo del membro invitato: editor o viewer.</translation>
+    </message>
+    <message id="cli.teams.owner">
+      <source>owner</source>
+      <translation>proprietario</translation>
+    </message>
+    <message id="cli.teams.pending">
+      <source>invited</source>
+      <translation>invitato</translation>
+    </message>
+    <message id="cli.teams.projects">
+      <source>Projects: %1</source>
+      <translation>Progetti: %1</translation>
+    </message>
+    <message id="cli.teams.unassigned">
+      <source>%1 no longer belongs to a team.</source>
+      <translation>%1 non appartiene più a un team.</translation>
+    </message>
+    <message id="cli.teams.usage">
+      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
+      <translation>Uso: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
+    </message>
+    <message id="cli.teams.viewer">
+      <source>viewer</source>
+      <translation>visualizzatore</translation>
+    </message>
+    <message id="cli.teams.you">
+      <source>you: %1</source>
+      <translation>tu: %1</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

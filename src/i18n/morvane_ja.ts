@@ -91,9 +91,21 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Morvane が使うバックエンドと各設定の出どころを表示します</translation>
     </message>
+    <message id="cli.command.projects">
+      <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
+      <translation>プロジェクトの一覧・追加・名前変更・アーカイブ・削除: projects list|add|rename|archive|rm</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>ローカルバックエンドを起動・停止・表示します: server start|stop|status</translation>
+    </message>
+    <message id="cli.command.tasks">
+      <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
+      <translation>タスクの一覧・追加・編集・移動・削除: tasks list|add|edit|move|status|rm</translation>
+    </message>
+    <message id="cli.command.teams">
+      <source>Teams and their members: teams list|create|invite|assign</source>
+      <translation>チームとメンバー: teams list|create|invite|assign</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -119,6 +131,10 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane はプロジェクトとタスクの作業時間を記録し、請求書にします。</translation>
     </message>
+    <message id="cli.err.notSignedIn">
+      <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>
+      <translation>サインインしていません。次でサインイン: morvane auth signin &lt;e-mail&gt;</translation>
+    </message>
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>不明なコマンドです: %1。コマンド一覧は morvane --help で表示できます。</translation>
@@ -134,6 +150,82 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>バージョンを表示します。</translation>
+    </message>
+    <message id="cli.projects.active">
+      <source>active</source>
+      <translation>進行中</translation>
+    </message>
+    <message id="cli.projects.added">
+      <source>Added project %1 (%2).</source>
+      <translation>プロジェクト %1 (%2) を追加しました。</translation>
+    </message>
+    <message id="cli.projects.archived">
+      <source>archived</source>
+      <translation>アーカイブ済み</translation>
+    </message>
+    <message id="cli.projects.archivedIdle">
+      <source>Idle projects archived: %1.</source>
+      <translation>アーカイブした休止中のプロジェクト: %1。</translation>
+    </message>
+    <message id="cli.projects.archivedOne">
+      <source>Archived %1.</source>
+      <translation>%1 をアーカイブしました。</translation>
+    </message>
+    <message id="cli.projects.completed">
+      <source>completed</source>
+      <translation>完了</translation>
+    </message>
+    <message id="cli.projects.deleted">
+      <source>Deleted %1 and its tasks.</source>
+      <translation>%1 とそのタスクを削除しました。</translation>
+    </message>
+    <message id="cli.projects.none">
+      <source>No projects yet. Add one with: morvane projects add &lt;name&gt;</source>
+      <translation>プロジェクトはまだありません。次で追加: morvane projects add &lt;name&gt;</translation>
+    </message>
+    <message id="cli.projects.option.description">
+      <source>A description of the project.</source>
+      <translation>プロジェクトの説明。</translation>
+    </message>
+    <message id="cli.projects.option.idle">
+      <source>Archive every project of yours without work for this many days.</source>
+      <translation>この日数作業のない自分のプロジェクトをすべてアーカイブします。</translation>
+    </message>
+    <message id="cli.projects.option.team">
+      <source>The team the new project belongs to.</source>
+      <translation>新しいプロジェクトが属するチーム。</translation>
+    </message>
+    <message id="cli.projects.renamed">
+      <source>Renamed %1 to %2.</source>
+      <translation>%1 を %2 に名前変更しました。</translation>
+    </message>
+    <message id="cli.projects.taskCount">
+      <source>tasks: %1</source>
+      <translation>タスク: %1</translation>
+    </message>
+    <message id="cli.projects.team">
+      <source>team %1</source>
+      <translation>チーム %1</translation>
+    </message>
+    <message id="cli.projects.usage">
+      <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
+      <translation>使い方: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
+    </message>
+    <message id="cli.ref.ambiguous">
+      <source>"%1" matches several: %2. Use the id.</source>
+      <translation>「%1」は複数に一致します: %2。IDを使ってください。</translation>
+    </message>
+    <message id="cli.ref.noProject">
+      <source>No project matches "%1".</source>
+      <translation>「%1」に一致するプロジェクトはありません。</translation>
+    </message>
+    <message id="cli.ref.noTask">
+      <source>No task matches "%1".</source>
+      <translation>「%1」に一致するタスクはありません。</translation>
+    </message>
+    <message id="cli.ref.noTeam">
+      <source>No team matches "%1".</source>
+      <translation>「%1」に一致するチームはありません。</translation>
     </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
@@ -170,6 +262,134 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>使い方: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.tasks.added">
+      <source>Added task %1 (%2) to %3.</source>
+      <translation>タスク %1 (%2) を %3 に追加しました。</translation>
+    </message>
+    <message id="cli.tasks.badDue">
+      <source>Not a day: %1. Write it as YYYY-MM-DD.</source>
+      <translation>日付ではありません: %1。YYYY-MM-DD の形式で書いてください。</translation>
+    </message>
+    <message id="cli.tasks.badOrder">
+      <source>Unknown filter or sort. Filters: %1. Sorts: %2.</source>
+      <translation>不明なフィルターまたは並べ替えです。フィルター: %1。並べ替え: %2。</translation>
+    </message>
+    <message id="cli.tasks.badStatus">
+      <source>Unknown status %1. Statuses: %2.</source>
+      <translation>不明なステータス %1。ステータス: %2。</translation>
+    </message>
+    <message id="cli.tasks.deleted">
+      <source>Deleted %1.</source>
+      <translation>%1 を削除しました。</translation>
+    </message>
+    <message id="cli.tasks.due">
+      <source>due %1</source>
+      <translation>期限 %1</translation>
+    </message>
+    <message id="cli.tasks.high">
+      <source>high</source>
+      <translation>高</translation>
+    </message>
+    <message id="cli.tasks.low">
+      <source>low</source>
+      <translation>低</translation>
+    </message>
+    <message id="cli.tasks.medium">
+      <source>medium</source>
+      <translation>中</translation>
+    </message>
+    <message id="cli.tasks.moved">
+      <source>Moved %1 to %2.</source>
+      <translation>%1 を %2 に移動しました。</translation>
+    </message>
+    <message id="cli.tasks.none">
+      <source>  No tasks to show.</source>
+      <translation>  表示するタスクはありません。</translation>
+    </message>
+    <message id="cli.tasks.option.description">
+      <source>The task's description; empty clears it.</source>
+      <translation>タスクの説明。空にすると消去します。</translation>
+    </message>
+    <message id="cli.tasks.option.due">
+      <source>The day the task is due (YYYY-MM-DD); empty clears it.</source>
+      <translation>タスクの期限日 (YYYY-MM-DD)。空にすると消去します。</translation>
+    </message>
+    <message id="cli.tasks.option.filter">
+      <source>Which tasks to list: %1.</source>
+      <translation>一覧にするタスク: %1。</translation>
+    </message>
+    <message id="cli.tasks.option.sort">
+      <source>How to order the list: %1.</source>
+      <translation>一覧の並べ方: %1。</translation>
+    </message>
+    <message id="cli.tasks.option.title">
+      <source>The task's new title.</source>
+      <translation>タスクの新しいタイトル。</translation>
+    </message>
+    <message id="cli.tasks.running">
+      <source>timer running</source>
+      <translation>タイマー作動中</translation>
+    </message>
+    <message id="cli.tasks.saved">
+      <source>Saved %1.</source>
+      <translation>%1 を保存しました。</translation>
+    </message>
+    <message id="cli.tasks.statusSet">
+      <source>%1 is now %2.</source>
+      <translation>%1 は %2 になりました。</translation>
+    </message>
+    <message id="cli.tasks.usage">
+      <source>Usage: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</source>
+      <translation>使い方: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</translation>
+    </message>
+    <message id="cli.teams.assigned">
+      <source>%1 now belongs to team %2.</source>
+      <translation>%1 はチーム %2 に属するようになりました。</translation>
+    </message>
+    <message id="cli.teams.created">
+      <source>Created team %1 (%2).</source>
+      <translation>チーム %1 (%2) を作成しました。</translation>
+    </message>
+    <message id="cli.teams.editor">
+      <source>editor</source>
+      <translation>編集者</translation>
+    </message>
+    <message id="cli.teams.none">
+      <source>No teams. Create one with: morvane teams create &lt;name&gt;</source>
+      <translation>チームはありません。次で作成: morvane teams create &lt;name&gt;</translation>
+    </message>
+    <message id="cli.teams.option.role">
+      <source>The role of the invited member: editor or viewer.</source>
+      <translation>招待するメンバーの役割: editor または viewer。</translation>
+    </message>
+    <message id="cli.teams.owner">
+      <source>owner</source>
+      <translation>オーナー</translation>
+    </message>
+    <message id="cli.teams.pending">
+      <source>invited</source>
+      <translation>招待中</translation>
+    </message>
+    <message id="cli.teams.projects">
+      <source>Projects: %1</source>
+      <translation>プロジェクト: %1</translation>
+    </message>
+    <message id="cli.teams.unassigned">
+      <source>%1 no longer belongs to a team.</source>
+      <translation>%1 はどのチームにも属さなくなりました。</translation>
+    </message>
+    <message id="cli.teams.usage">
+      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
+      <translation>使い方: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
+    </message>
+    <message id="cli.teams.viewer">
+      <source>viewer</source>
+      <translation>閲覧者</translation>
+    </message>
+    <message id="cli.teams.you">
+      <source>you: %1</source>
+      <translation>あなた: %1</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -1051,6 +1051,12 @@ QCoro::Task<bool> AppStore::updateProject(QString projectId, ProjectPatch patch)
     co_return co_await patchProject(projectId, patch, "Update project failed: ", StoreText::projectNotSaved());
 }
 
+QCoro::Task<bool> AppStore::setProjectStatus(QString projectId, ProjectStatus status)
+{
+    const ProjectStatusPatch patch{status};
+    co_return co_await patchProject(projectId, patch, "Set project status failed: ", StoreText::projectNotSaved());
+}
+
 QCoro::Task<bool> AppStore::deleteProject(QString projectId)
 {
     const std::optional<Session> session = co_await openSession("Delete project failed: ");

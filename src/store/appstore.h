@@ -168,6 +168,8 @@ public:
     QCoro::Task<std::optional<Project>> createProject(ProjectInsert draft);
     QCoro::Task<bool> updateProject(QString projectId, ProjectPatch patch);
     QCoro::Task<bool> deleteProject(QString projectId);
+    // Archives or reactivates one project without touching what the project form owns.
+    QCoro::Task<bool> setProjectStatus(QString projectId, ProjectStatus status);
     // Archives the user's own active projects that saw no work in the last `olderThanDays` days:
     // no time entry ended in that span, no task was created in it, no timer runs on one of their
     // tasks, and the project itself is older than the span. Editing a project or its tasks does

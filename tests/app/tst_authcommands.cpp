@@ -1,4 +1,5 @@
 #include "pg/pgconnection.h"
+#include "support/morvanecli.h"
 #include "support/testbackend.h"
 
 #include <QFile>
@@ -19,35 +20,8 @@ class TestAuthCommands : public QObject
 
 private:
     TestBackend m_backend;
-    QTemporaryDir m_home;
-
-    struct Run
-    {
-        int code = -1;
-        QString out;
-        QString err;
-    };
-
-    Run morvane(const QStringList &arguments, const QByteArray &input = {})
-    {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"HOME"_s, m_home.path());
-        environment.insert(u"XDG_CONFIG_HOME"_s, m_home.filePath(u"config"_s));
-        environment.insert(u"XDG_DATA_HOME"_s, m_home.filePath(u"data"_s));
-        environment.insert(u"SUPABASE_URL"_s, m_backend.url().toString());
-        environment.insert(u"SUPABASE_ANON_KEY"_s, QString::fromLatin1(m_backend.anonKey()));
-        environment.insert(u"LANGUAGE"_s, u"en"_s);
-        // No keyring session here: the secrets go to the private file.
-        environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
-        process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(MORVANE_APP_PROGRAM), arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        process.waitForFinished(60000);
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-                QString::fromUtf8(process.readAllStandardError())};
-    }
+    MorvaneCli morvane{m_backend};
+    using Run = MorvaneCli::Run;
 
 private slots:
     void initTestCase() { QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog())); }
@@ -68,7 +42,7 @@ private slots:
         QCOMPARE(status.value(u"email"_s).toString(), u"cli@example.nl"_s);
 
         // The secrets file is the user's alone.
-        const QString secrets = m_home.filePath(u"config/morvane/secrets.json"_s);
+        const QString secrets = morvane.homeFile(u"config/morvane/secrets.json"_s);
         QVERIFY(QFile::exists(secrets));
         QCOMPARE(QFile::permissions(secrets) &
                      (QFile::ReadOther | QFile::ReadGroup | QFile::WriteOther | QFile::WriteGroup),

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "backend/authstore.h"
+#include "store/appstore.h"
+#include "store/sessionsequence.h"
+
+#include <QCommandLineParser>
+#include <QJsonValue>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+class QTextStream;
+
+// One command's view of the signed-in user's data: the session restored from the same secrets
+// and settings the desktop application keeps, then loaded through the same sequence, so what a
+// command sees and writes is what the application sees.
+class CliSession
+{
+public:
+    CliSession();
+    ~CliSession();
+
+    // Restores the session and loads the store. On failure prints why ("Not signed in" with the
+    // way out, or the store's own message) and answers false.
+    bool open(QTextStream &err);
+
+    [[nodiscard]] AuthStore &auth() { return *m_auth; }
+    [[nodiscard]] AppStore &store() { return *m_store; }
+
+    // Prints the store's last error and answers the exit code of a failed command.
+    int failed(QTextStream &err) const;
+
+    // A project, task or team by id, by the start of its id, or by its name (any case). An
+    // unknown or ambiguous reference is printed and answers nothing.
+    [[nodiscard]] std::optional<Project> project(const QString &reference, QTextStream &err) const;
+    [[nodiscard]] std::optional<TaskItem> task(const QString &reference, QTextStream &err) const;
+    [[nodiscard]] std::optional<Team> team(const QString &reference, QTextStream &err) const;
+
+private:
+    std::unique_ptr<AuthStore> m_auth;
+    std::unique_ptr<AppStore> m_store;
+    std::unique_ptr<SessionSequence> m_sequence;
+};
+
+namespace Cli {
+
+// Ids are UUIDs; eight characters tell a user's rows apart and can be typed back.
+[[nodiscard]] QString shortId(const QString &id);
+void printJson(QTextStream &out, const QJsonValue &value);
+// Parses `arguments` with the option --json added; prints the parser's complaint on failure.
+[[nodiscard]] bool parse(QCommandLineParser &parser, const QStringList &arguments, QTextStream &err);
+[[nodiscard]] bool wantsJson(const QCommandLineParser &parser);
+// Prints the usage line and answers the exit code of a wrong call.
+int usage(QTextStream &err, const QString &text);
+// Hours and minutes of a duration in seconds, as lists show tracked time ("3:05").
+[[nodiscard]] QString hoursMinutes(qint64 seconds);
+
+} // namespace Cli
