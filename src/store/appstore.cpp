@@ -427,6 +427,30 @@ void AppStore::setClients(QList<Client> all)
 
 // ---- Sessions --------------------------------------------------------------------------------
 
+template<typename Call>
+auto AppStore::authorized(Session &session, Call call) -> decltype(call(QString()))
+{
+    // A handler may not await, so the refusal is kept and the retry happens after it.
+    std::exception_ptr refused;
+    const QString used = session.token;
+    try {
+        co_return co_await call(used);
+    } catch (const SupabaseError &error) {
+        if (error.kind() != SupabaseError::Kind::HttpStatus || error.status() != 401) {
+            throw;
+        }
+        refused = std::current_exception();
+    }
+    // Several reads that were under way together share one refresh: the auth store rotates a
+    // token once, and the others get the token that replaced it.
+    const std::optional<QString> fresh = co_await m_auth.tokenAfterUnauthorized(used);
+    if (!fresh || *fresh == used) {
+        std::rethrow_exception(refused);
+    }
+    session.token = *fresh;
+    co_return co_await call(*fresh);
+}
+
 QCoro::Task<std::optional<AppStore::Session>> AppStore::openSession(const char *logPrefix)
 {
     const std::optional<QString> token = co_await m_auth.validToken(30);
@@ -492,7 +516,7 @@ QDateTime AppStore::recentWindowStart() const
 
 QCoro::Task<bool> AppStore::refreshAll()
 {
-    const std::optional<Session> session = co_await openSession("Refresh failed: ");
+    std::optional<Session> session = co_await openSession("Refresh failed: ");
     if (!session) {
         co_return false;
     }
@@ -507,11 +531,22 @@ QCoro::Task<bool> AppStore::refreshAll()
                                 {u"ended_at"_s, u"gte."_s + isoString(windowStart)},
                                 {u"order"_s, u"ended_at.desc,id.desc"_s}};
     // All four are under way before the first is awaited.
-    QCoro::Task<QList<Profile>> profileRead = client.select<Profile>(u"profiles"_s, session->token, profileQuery);
-    QCoro::Task<QList<Project>> projectRead = client.select<Project>(u"projects"_s, session->token, projectQuery);
-    QCoro::Task<QList<TaskItem>> taskRead = client.select<TaskItem>(u"tasks"_s, session->token, taskQuery);
-    QCoro::Task<QList<TimeEntry>> entryRead =
-        client.selectAll<TimeEntry>(u"time_entries"_s, session->token, entryQuery);
+    const auto profileRequest = [&](const QString &token) {
+        return client.select<Profile>(u"profiles"_s, token, profileQuery);
+    };
+    const auto projectRequest = [&](const QString &token) {
+        return client.select<Project>(u"projects"_s, token, projectQuery);
+    };
+    const auto taskRequest = [&](const QString &token) {
+        return client.select<TaskItem>(u"tasks"_s, token, taskQuery);
+    };
+    const auto entryRequest = [&](const QString &token) {
+        return client.selectAll<TimeEntry>(u"time_entries"_s, token, entryQuery);
+    };
+    QCoro::Task<QList<Profile>> profileRead = authorized(*session, profileRequest);
+    QCoro::Task<QList<Project>> projectRead = authorized(*session, projectRequest);
+    QCoro::Task<QList<TaskItem>> taskRead = authorized(*session, taskRequest);
+    QCoro::Task<QList<TimeEntry>> entryRead = authorized(*session, entryRequest);
 
     QStringList failures;
     QList<Profile> profiles;
@@ -639,7 +674,7 @@ void AppStore::tasksDidChange()
 
 QCoro::Task<bool> AppStore::loadTeams()
 {
-    const std::optional<Session> session = co_await openSession("Load teams failed: ");
+    std::optional<Session> session = co_await openSession("Load teams failed: ");
     if (!session) {
         co_return false;
     }
@@ -647,9 +682,14 @@ QCoro::Task<bool> AppStore::loadTeams()
     try {
         const QueryItems teamQuery{{u"select"_s, u"*"_s}, {u"order"_s, u"created_at.desc"_s}};
         const QueryItems memberQuery{{u"select"_s, u"*"_s}};
-        QCoro::Task<QList<Team>> teamRead = client.select<Team>(u"teams"_s, session->token, teamQuery);
-        QCoro::Task<QList<TeamMember>> memberRead =
-            client.select<TeamMember>(u"team_members"_s, session->token, memberQuery);
+        const auto teamRequest = [&](const QString &token) {
+            return client.select<Team>(u"teams"_s, token, teamQuery);
+        };
+        const auto memberRequest = [&](const QString &token) {
+            return client.select<TeamMember>(u"team_members"_s, token, memberQuery);
+        };
+        QCoro::Task<QList<Team>> teamRead = authorized(*session, teamRequest);
+        QCoro::Task<QList<TeamMember>> memberRead = authorized(*session, memberRequest);
         // Both reads are awaited even when the first fails: a read left running would outlive the
         // client it was started on.
         std::exception_ptr teamFailure;
@@ -683,7 +723,10 @@ QCoro::Task<bool> AppStore::loadTeams()
         }
         if (!memberOf.isEmpty()) {
             const QueryItems byId{{u"select"_s, u"*"_s}, {u"id"_s, inList(memberOf)}};
-            const QList<Team> extra = co_await client.select<Team>(u"teams"_s, session->token, byId);
+            const auto extraRequest = [&](const QString &token) {
+                return client.select<Team>(u"teams"_s, token, byId);
+            };
+            const QList<Team> extra = co_await authorized(*session, extraRequest);
             for (const Team &team : extra) {
                 if (!known.contains(team.id)) {
                     known.insert(team.id);
@@ -717,8 +760,10 @@ QCoro::Task<> AppStore::reloadMembers(Session session, QString teamId)
 {
     try {
         const QueryItems query{{u"select"_s, u"*"_s}, {u"team_id"_s, u"eq."_s + teamId}};
-        QList<TeamMember> members =
-            co_await m_auth.client().select<TeamMember>(u"team_members"_s, session.token, query);
+        const auto membersRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.select<TeamMember>(u"team_members"_s, token, query);
+        };
+        QList<TeamMember> members = co_await authorized(session, membersRequest);
         if (!isCurrent(session)) {
             co_return;
         }
@@ -734,13 +779,16 @@ QCoro::Task<> AppStore::reloadMembers(Session session, QString teamId)
 
 QCoro::Task<bool> AppStore::loadClients()
 {
-    const std::optional<Session> session = co_await openSession("Load clients failed: ");
+    std::optional<Session> session = co_await openSession("Load clients failed: ");
     if (!session) {
         co_return false;
     }
     try {
         const QueryItems query{{u"select"_s, u"*"_s}, {u"order"_s, u"name.asc"_s}};
-        QList<Client> all = co_await m_auth.client().select<Client>(u"clients"_s, session->token, query);
+        const auto allRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.select<Client>(u"clients"_s, token, query);
+        };
+        QList<Client> all = co_await authorized(*session, allRequest);
         if (!isCurrent(*session)) {
             co_return false;
         }
@@ -997,7 +1045,7 @@ void AppStore::removeProject(const QString &projectId)
 
 QCoro::Task<std::optional<Project>> AppStore::createProject(ProjectInsert draft)
 {
-    const std::optional<Session> session = co_await openSession("Create project failed: ");
+    std::optional<Session> session = co_await openSession("Create project failed: ");
     if (!session) {
         co_return std::nullopt;
     }
@@ -1005,7 +1053,10 @@ QCoro::Task<std::optional<Project>> AppStore::createProject(ProjectInsert draft)
         draft.userId = m_currentUserId;
     }
     try {
-        const QList<Project> rows = co_await m_auth.client().insert<Project>(u"projects"_s, session->token, draft);
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.insert<Project>(u"projects"_s, token, draft);
+        };
+        const QList<Project> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return std::nullopt;
         }
@@ -1024,13 +1075,15 @@ QCoro::Task<std::optional<Project>> AppStore::createProject(ProjectInsert draft)
 QCoro::Task<bool> AppStore::patchProject(QString projectId, AnyEncodable body, const char *logPrefix,
                                          QString refusedMessage)
 {
-    const std::optional<Session> session = co_await openSession(logPrefix);
+    std::optional<Session> session = co_await openSession(logPrefix);
     if (!session) {
         co_return false;
     }
     try {
-        const QList<Project> rows =
-            co_await m_auth.client().update<Project>(u"projects"_s, session->token, idFilter(projectId), body);
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.update<Project>(u"projects"_s, token, idFilter(projectId), body);
+        };
+        const QList<Project> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return false;
         }
@@ -1059,13 +1112,15 @@ QCoro::Task<bool> AppStore::setProjectStatus(QString projectId, ProjectStatus st
 
 QCoro::Task<bool> AppStore::deleteProject(QString projectId)
 {
-    const std::optional<Session> session = co_await openSession("Delete project failed: ");
+    std::optional<Session> session = co_await openSession("Delete project failed: ");
     if (!session) {
         co_return false;
     }
     try {
-        const QList<Project> rows =
-            co_await deleteReturning<Project>(m_auth.client(), u"projects"_s, session->token, idFilter(projectId));
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return deleteReturning<Project>(client, u"projects"_s, token, idFilter(projectId));
+        };
+        const QList<Project> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return false;
         }
@@ -1083,7 +1138,7 @@ QCoro::Task<bool> AppStore::deleteProject(QString projectId)
 
 QCoro::Task<int> AppStore::archiveIdleProjects(int olderThanDays)
 {
-    const std::optional<Session> session = co_await openSession("Archive projects failed: ");
+    std::optional<Session> session = co_await openSession("Archive projects failed: ");
     if (!session) {
         co_return -1;
     }
@@ -1114,8 +1169,10 @@ QCoro::Task<int> AppStore::archiveIdleProjects(int olderThanDays)
                                     {u"project_id"_s, inList(candidates)},
                                     {u"ended_at"_s, u"gte."_s + isoString(cutoff)},
                                     {u"order"_s, u"id.asc"_s}};
-        const QList<ProjectRef> worked =
-            co_await client.selectAll<ProjectRef>(u"time_entries"_s, session->token, entryQuery);
+        const auto workedRequest = [&](const QString &token) {
+            return client.selectAll<ProjectRef>(u"time_entries"_s, token, entryQuery);
+        };
+        const QList<ProjectRef> worked = co_await authorized(*session, workedRequest);
         for (const ProjectRef &ref : worked) {
             candidates.removeAll(ref.projectId);
         }
@@ -1125,7 +1182,10 @@ QCoro::Task<int> AppStore::archiveIdleProjects(int olderThanDays)
         // Only projects still active: another device may have changed one meanwhile.
         const QueryItems archiveQuery{{u"id"_s, inList(candidates)}, {u"status"_s, u"eq.active"_s}};
         const ProjectStatusPatch patch{ProjectStatus::Archived};
-        const QList<Project> rows = co_await client.update<Project>(u"projects"_s, session->token, archiveQuery, patch);
+        const auto rowsRequest = [&](const QString &token) {
+            return client.update<Project>(u"projects"_s, token, archiveQuery, patch);
+        };
+        const QList<Project> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return -1;
         }
@@ -1149,7 +1209,7 @@ QCoro::Task<bool> AppStore::assignProjectToTeam(QString projectId, std::optional
 
 QCoro::Task<std::optional<TaskItem>> AppStore::createTask(TaskInsert draft)
 {
-    const std::optional<Session> session = co_await openSession("Create task failed: ");
+    std::optional<Session> session = co_await openSession("Create task failed: ");
     if (!session) {
         co_return std::nullopt;
     }
@@ -1157,7 +1217,10 @@ QCoro::Task<std::optional<TaskItem>> AppStore::createTask(TaskInsert draft)
         draft.userId = m_currentUserId;
     }
     try {
-        const QList<TaskItem> rows = co_await m_auth.client().insert<TaskItem>(u"tasks"_s, session->token, draft);
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.insert<TaskItem>(u"tasks"_s, token, draft);
+        };
+        const QList<TaskItem> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return std::nullopt;
         }
@@ -1175,14 +1238,16 @@ QCoro::Task<std::optional<TaskItem>> AppStore::createTask(TaskInsert draft)
 
 QCoro::Task<bool> AppStore::patchTask(QString taskId, AnyEncodable body, const char *logPrefix)
 {
-    const std::optional<Session> session = co_await openSession(logPrefix);
+    std::optional<Session> session = co_await openSession(logPrefix);
     if (!session) {
         co_return false;
     }
     SavingScope saving(*this, {taskId});
     try {
-        const QList<TaskItem> rows =
-            co_await m_auth.client().update<TaskItem>(u"tasks"_s, session->token, idFilter(taskId), body);
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.update<TaskItem>(u"tasks"_s, token, idFilter(taskId), body);
+        };
+        const QList<TaskItem> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return false;
         }
@@ -1225,7 +1290,10 @@ QCoro::Task<QStringList> AppStore::writeStatus(Session session, QStringList task
             {u"or"_s, u"(status.neq.in_progress,started_at.is.null)"_s},
         };
         const TaskStatusPatch patch{status};
-        const QList<TaskItem> rows = co_await client.update<TaskItem>(u"tasks"_s, session.token, query, patch);
+        const auto rowsRequest = [&](const QString &token) {
+            return client.update<TaskItem>(u"tasks"_s, token, query, patch);
+        };
+        const QList<TaskItem> rows = co_await authorized(session, rowsRequest);
         if (!isCurrent(session)) {
             co_return changed;
         }
@@ -1245,7 +1313,10 @@ QCoro::Task<QStringList> AppStore::writeStatus(Session session, QStringList task
         // Why did they stay? The rows as they are now tell a timer that runs (started on another
         // device since the last refresh) from a task this user may not change or that is gone.
         const QueryItems reread{{u"select"_s, u"*"_s}, {u"id"_s, inList(untouched)}};
-        const QList<TaskItem> current = co_await client.select<TaskItem>(u"tasks"_s, session.token, reread);
+        const auto currentRequest = [&](const QString &token) {
+            return client.select<TaskItem>(u"tasks"_s, token, reread);
+        };
+        const QList<TaskItem> current = co_await authorized(session, currentRequest);
         if (!isCurrent(session)) {
             co_return changed;
         }
@@ -1267,7 +1338,7 @@ QCoro::Task<QStringList> AppStore::writeStatus(Session session, QStringList task
 
 QCoro::Task<bool> AppStore::setTaskStatus(QString taskId, TaskStatus status)
 {
-    const std::optional<Session> session = co_await openSession("Set task status failed: ");
+    std::optional<Session> session = co_await openSession("Set task status failed: ");
     if (!session) {
         co_return false;
     }
@@ -1279,14 +1350,16 @@ QCoro::Task<bool> AppStore::setTaskStatus(QString taskId, TaskStatus status)
 
 QCoro::Task<bool> AppStore::deleteTask(QString taskId)
 {
-    const std::optional<Session> session = co_await openSession("Delete task failed: ");
+    std::optional<Session> session = co_await openSession("Delete task failed: ");
     if (!session) {
         co_return false;
     }
     SavingScope saving(*this, {taskId});
     try {
-        const QList<TaskItem> rows =
-            co_await deleteReturning<TaskItem>(m_auth.client(), u"tasks"_s, session->token, idFilter(taskId));
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return deleteReturning<TaskItem>(client, u"tasks"_s, token, idFilter(taskId));
+        };
+        const QList<TaskItem> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return false;
         }
@@ -1348,7 +1421,7 @@ QCoro::Task<int> AppStore::bulkUpdateStatus(TaskStatus status)
     if (ids.isEmpty()) {
         co_return 0;
     }
-    const std::optional<Session> session = co_await openSession("Bulk status change failed: ");
+    std::optional<Session> session = co_await openSession("Bulk status change failed: ");
     if (!session) {
         co_return 0;
     }
@@ -1363,15 +1436,17 @@ QCoro::Task<int> AppStore::bulkDelete()
     if (ids.isEmpty()) {
         co_return 0;
     }
-    const std::optional<Session> session = co_await openSession("Bulk delete failed: ");
+    std::optional<Session> session = co_await openSession("Bulk delete failed: ");
     if (!session) {
         co_return 0;
     }
     SavingScope saving(*this, ids);
     try {
         const QueryItems query{{u"id"_s, inList(ids)}};
-        const QList<TaskItem> rows =
-            co_await deleteReturning<TaskItem>(m_auth.client(), u"tasks"_s, session->token, query);
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return deleteReturning<TaskItem>(client, u"tasks"_s, token, query);
+        };
+        const QList<TaskItem> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return 0;
         }
@@ -1398,7 +1473,7 @@ QCoro::Task<int> AppStore::bulkMoveToProject(QString projectId)
     if (ids.isEmpty()) {
         co_return 0;
     }
-    const std::optional<Session> session = co_await openSession("Bulk move failed: ");
+    std::optional<Session> session = co_await openSession("Bulk move failed: ");
     if (!session) {
         co_return 0;
     }
@@ -1406,8 +1481,10 @@ QCoro::Task<int> AppStore::bulkMoveToProject(QString projectId)
     try {
         const QueryItems query{{u"id"_s, inList(ids)}};
         const TaskMovePatch patch{projectId};
-        const QList<TaskItem> rows =
-            co_await m_auth.client().update<TaskItem>(u"tasks"_s, session->token, query, patch);
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.update<TaskItem>(u"tasks"_s, token, query, patch);
+        };
+        const QList<TaskItem> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return 0;
         }
@@ -1428,7 +1505,7 @@ QCoro::Task<int> AppStore::bulkMoveToProject(QString projectId)
 
 QCoro::Task<bool> AppStore::reorderTasks(QString projectId, QStringList orderedIds)
 {
-    const std::optional<Session> session = co_await openSession("Reorder tasks failed: ");
+    std::optional<Session> session = co_await openSession("Reorder tasks failed: ");
     if (!session) {
         co_return false;
     }
@@ -1533,13 +1610,15 @@ QCoro::Task<bool> AppStore::reorderTasks(QString projectId, QStringList orderedI
 
 QCoro::Task<bool> AppStore::patchProfile(AnyEncodable patch, const char *logPrefix, QString notSaved)
 {
-    const std::optional<Session> session = co_await openSession(logPrefix);
+    std::optional<Session> session = co_await openSession(logPrefix);
     if (!session) {
         co_return false;
     }
     try {
-        const QList<Profile> rows =
-            co_await m_auth.client().update<Profile>(u"profiles"_s, session->token, idFilter(m_currentUserId), patch);
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.update<Profile>(u"profiles"_s, token, idFilter(m_currentUserId), patch);
+        };
+        const QList<Profile> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return false;
         }
@@ -1569,7 +1648,7 @@ QCoro::Task<bool> AppStore::saveOnboarding(OnboardingPatch patch)
 
 QCoro::Task<bool> AppStore::ensureOnboarded()
 {
-    const std::optional<Session> session = co_await openSession("Onboarding check failed: ");
+    std::optional<Session> session = co_await openSession("Onboarding check failed: ");
     if (!session) {
         co_return false;
     }
@@ -1577,8 +1656,10 @@ QCoro::Task<bool> AppStore::ensureOnboarded()
     try {
         const QueryItems query{{u"select"_s, u"id,onboarding_complete,language,currency,timezone"_s},
                                {u"id"_s, u"eq."_s + m_currentUserId}};
-        const QList<OnboardingState> states =
-            co_await m_auth.client().select<OnboardingState>(u"profiles"_s, session->token, query);
+        const auto statesRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.select<OnboardingState>(u"profiles"_s, token, query);
+        };
+        const QList<OnboardingState> states = co_await authorized(*session, statesRequest);
         if (states.isEmpty()) {
             // Every account gets its profile row when it is made; without one there is nothing to fill.
             qCWarning(lcStore).noquote() << u"Onboarding check failed: no profile row for "_s + m_currentUserId;
@@ -1621,14 +1702,17 @@ QCoro::Task<bool> AppStore::applyPendingOnboarding()
 
 QCoro::Task<std::optional<Team>> AppStore::createTeam(QString name)
 {
-    const std::optional<Session> session = co_await openSession("Create team failed: ");
+    std::optional<Session> session = co_await openSession("Create team failed: ");
     if (!session) {
         co_return std::nullopt;
     }
     std::optional<Team> created;
     try {
         const TeamInsert draft{m_currentUserId, name.trimmed()};
-        const QList<Team> rows = co_await m_auth.client().insert<Team>(u"teams"_s, session->token, draft);
+        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.insert<Team>(u"teams"_s, token, draft);
+        };
+        const QList<Team> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
             co_return std::nullopt;
         }
@@ -1652,15 +1736,17 @@ QCoro::Task<std::optional<Team>> AppStore::createTeam(QString name)
 QCoro::Task<InviteOutcome> AppStore::inviteMember(QString teamId, QString email, TeamRole role)
 {
     const QString address = email.trimmed();
-    const std::optional<Session> session = co_await openSession("invite_team_member_by_email failed: ");
+    std::optional<Session> session = co_await openSession("invite_team_member_by_email failed: ");
     if (!session) {
         co_return InviteOutcome{InviteOutcome::Kind::Failed, address, std::nullopt};
     }
     InviteOutcome outcome;
     try {
         const InviteByEmailArgs args{teamId, address, role};
-        const InviteByEmailResult result = co_await m_auth.client().callRPCReturning<InviteByEmailResult>(
-            u"invite_team_member_by_email"_s, session->token, args);
+        const auto resultRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.callRPCReturning<InviteByEmailResult>(u"invite_team_member_by_email"_s, token, args);
+        };
+        const InviteByEmailResult result = co_await authorized(*session, resultRequest);
         outcome = InviteOutcome::fromStatus(result.status, address);
         outcome.userId = result.userId;
         if (outcome.kind == InviteOutcome::Kind::Failed) {

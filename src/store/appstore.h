@@ -252,6 +252,11 @@ private:
     class SavingScope;
 
     QCoro::Task<std::optional<Session>> openSession(const char *logPrefix);
+    // Runs `call(token)`. A 401 means the backend no longer takes the token (revoked, or expired
+    // early by the clocks' disagreement), not that the user may not do this: the call runs once
+    // more with a fresh token, and only a second refusal reaches the caller.
+    template <typename Call>
+    auto authorized(Session &session, Call call) -> decltype(call(QString()));
     [[nodiscard]] bool isCurrent(const Session &session) const { return session.generation == m_generation; }
     void adoptUser(const QString &userId);
     void clearCollections();

@@ -67,6 +67,17 @@ struct StoreDevice
         return device;
     }
 
+    // The application started again on this device: a new auth store restores the session from
+    // the secrets, and a new store follows it.
+    void restart(const TestBackend &backend)
+    {
+        store.reset();
+        auth = std::make_unique<AuthStore>(Supabase(backend.url(), QString::fromLatin1(backend.anonKey())), secrets,
+                                           settings, systemClock());
+        runBlocking(auth->restore());
+        store = std::make_unique<AppStore>(*auth, settings, [this] { return now; });
+    }
+
     QString userId() const { return auth->userId(); }
     QByteArray userIdBytes() const { return auth->userId().toUtf8(); }
     bool refresh() { return runBlocking(store->refreshAll()); }
