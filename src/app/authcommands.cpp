@@ -2,11 +2,15 @@
 
 #include "backend/authstore.h"
 #include "backend/runblocking.h"
+#include "backend/urlscheme.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTextStream>
 
 #include <termios.h>
@@ -49,6 +53,36 @@ int failed(const AuthStore &auth, QTextStream &err)
     return 1;
 }
 
+// A desktop session can hand the application's own addresses back to it; elsewhere (a server,
+// a terminal over ssh) the browser comes back to a loopback address instead.
+bool desktopCanOpenAddresses()
+{
+    return !QStandardPaths::findExecutable(u"xdg-open"_s).isEmpty() &&
+           (qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
+}
+
+bool signInThroughBrowser(AuthStore &auth, const QString &provider, QTextStream &err)
+{
+    const bool desktop = desktopCanOpenAddresses();
+    CallbackRelay relay;
+    std::optional<QUrl> appRedirect;
+    // The entry names this very program, so the address reaches the build the user runs.
+    if (desktop && UrlScheme::registerHandler(QCoreApplication::applicationFilePath()) && relay.listen()) {
+        appRedirect = UrlScheme::callbackUrl();
+        QObject::connect(&relay, &CallbackRelay::callbackReceived, &auth, &AuthStore::handleCallback);
+    }
+    const auto openBrowser = [&](const QUrl &address) {
+        const QString text = QString::fromUtf8(address.toEncoded());
+        //% "Continue in your browser. If no page opens, go to: %1"
+        err << qtTrId("cli.auth.browser").arg(text) << Qt::endl;
+        if (desktop) {
+            QProcess::startDetached(u"xdg-open"_s, {text});
+        }
+        return true;
+    };
+    return runBlocking(auth.signInWithOAuth(provider, openBrowser, appRedirect));
+}
+
 } // namespace
 
 int runAuthCommand(const QStringList &arguments, QTextStream &out, QTextStream &err, QTextStream &in)
@@ -58,7 +92,9 @@ int runAuthCommand(const QStringList &arguments, QTextStream &out, QTextStream &
     const QCommandLineOption json(u"json"_s, qtTrId("cli.option.json"));
     //% "The name shown on your profile and to your team."
     const QCommandLineOption name(u"name"_s, qtTrId("cli.auth.option.name"), u"name"_s);
-    parser.addOptions({json, name});
+    //% "Sign in through an outside provider in the browser instead of with a password."
+    const QCommandLineOption provider(u"provider"_s, qtTrId("cli.auth.option.provider"), u"provider"_s);
+    parser.addOptions({json, name, provider});
     parser.addPositionalArgument(u"action"_s, qtTrId("cli.command.auth"));
     if (!parser.parse(arguments)) {
         err << parser.errorText() << Qt::endl;
@@ -67,9 +103,10 @@ int runAuthCommand(const QStringList &arguments, QTextStream &out, QTextStream &
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
     static const QStringList actions{u"signup"_s, u"signin"_s, u"signout"_s, u"status"_s, u"switch"_s, u"accounts"_s};
-    const bool needsAddress = action == u"signup" || action == u"signin" || action == u"switch";
+    const bool needsAddress =
+        action == u"signup" || (action == u"signin" && !parser.isSet(provider)) || action == u"switch";
     if (!actions.contains(action) || (needsAddress && positional.size() < 2)) {
-        //% "Usage: morvane auth signup|signin <e-mail> | signout | status | switch <e-mail> | accounts [--json]"
+        //% "Usage: morvane auth signup|signin <e-mail> | signin --provider NAME | signout | status | switch <e-mail> | accounts [--json]"
         err << qtTrId("cli.auth.usage") << Qt::endl;
         return 2;
     }
@@ -93,6 +130,13 @@ int runAuthCommand(const QStringList &arguments, QTextStream &out, QTextStream &
             return 0;
         }
         return failed(auth, err);
+    }
+    if (action == u"signin" && parser.isSet(provider)) {
+        if (!signInThroughBrowser(auth, parser.value(provider), err)) {
+            return failed(auth, err);
+        }
+        out << signedInAs() << Qt::endl;
+        return 0;
     }
     if (action == u"signin") {
         if (!runBlocking(auth.signIn(address, readPassword(in, err)))) {

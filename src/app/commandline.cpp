@@ -6,6 +6,7 @@
 #include "app/storecommands.h"
 #include "backend/config.h"
 #include "backend/runblocking.h"
+#include "backend/urlscheme.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -124,6 +125,17 @@ QString helpText(const QCommandLineParser &parser)
 
 int runCommandLine(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
+    // The desktop started us with an address of our own scheme: it belongs to the sign-in that
+    // waits in another process.
+    if (arguments.size() == 2 && UrlScheme::isCallback(arguments.at(1))) {
+        if (CallbackRelay::forward(QUrl(arguments.at(1)))) {
+            return 0;
+        }
+        //% "No sign-in is waiting for this address. Start the sign-in in Morvane again."
+        err << qtTrId("cli.err.noSignInWaiting") << Qt::endl;
+        return 1;
+    }
+
     QCommandLineParser parser;
     //% "Morvane tracks working time on projects and tasks and turns it into invoices."
     parser.setApplicationDescription(qtTrId("cli.description"));

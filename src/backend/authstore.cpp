@@ -610,7 +610,8 @@ void AuthStore::handleCallback(const QUrl &url)
     }
 }
 
-QCoro::Task<bool> AuthStore::signInWithOAuth(QString provider, BrowserOpener openBrowser)
+QCoro::Task<bool> AuthStore::signInWithOAuth(QString provider, BrowserOpener openBrowser,
+                                             std::optional<QUrl> appRedirect)
 {
     // The verifier: 64 characters of the unreserved alphabet.
     static const QByteArray alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~";
@@ -624,12 +625,16 @@ QCoro::Task<bool> AuthStore::signInWithOAuth(QString provider, BrowserOpener ope
     // Where no handler of the application's own address scheme is installed, the browser comes
     // back to a one-time address on this machine instead.
     QTcpServer loopback;
-    if (!loopback.listen(QHostAddress::LocalHost, 0)) {
+    QString redirect;
+    if (appRedirect) {
+        redirect = appRedirect->toString();
+    } else if (loopback.listen(QHostAddress::LocalHost, 0)) {
+        redirect = u"http://127.0.0.1:%1/auth-callback"_s.arg(loopback.serverPort());
+    } else {
         //% "Could not start the sign-in."
         setLastError(qtTrId("auth.err.oauthCannotStart"));
         co_return false;
     }
-    const QString redirect = u"http://127.0.0.1:%1/auth-callback"_s.arg(loopback.serverPort());
     QUrl authorize(m_client.baseUrl().toString() + u"/auth/v1/authorize"_s);
     QUrlQuery query;
     query.addQueryItem(u"provider"_s, provider);

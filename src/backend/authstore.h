@@ -71,8 +71,11 @@ public:
     QCoro::Task<RegisterResult> registerAccount(QString email, QString password, QString displayName);
     QCoro::Task<bool> recoverPassword(QString email);
     QCoro::Task<ResendOutcome> resendConfirmation(QString email);
-    // PKCE through the user's browser; the callback arrives at handleCallback().
-    QCoro::Task<bool> signInWithOAuth(QString provider, BrowserOpener openBrowser);
+    // PKCE through the user's browser. The browser comes back to `appRedirect` (the application's
+    // own scheme, whose handler passes the address to handleCallback()) or, without one, to a
+    // one-time loopback address that this call answers itself.
+    QCoro::Task<bool> signInWithOAuth(QString provider, BrowserOpener openBrowser,
+                                      std::optional<QUrl> appRedirect = std::nullopt);
     QCoro::Task<> signOut();
     QCoro::Task<bool> switchAccount(QString userId);
     QCoro::Task<bool> deleteAccount();

@@ -51,6 +51,10 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Der auszuführende Befehl; ohne Befehl wird die Befehlsliste angezeigt.</translation>
     </message>
+    <message id="cli.auth.browser">
+      <source>Continue in your browser. If no page opens, go to: %1</source>
+      <translation>Weiter im Browser. Öffnet sich keine Seite, gehe zu: %1</translation>
+    </message>
     <message id="cli.auth.confirm">
       <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
       <translation>Sieh in dein Postfach: Bestätige %1 mit dem Link in der Mail und melde dich dann an.</translation>
@@ -62,6 +66,10 @@
     <message id="cli.auth.option.name">
       <source>The name shown on your profile and to your team.</source>
       <translation>Der Name in deinem Profil und für dein Team.</translation>
+    </message>
+    <message id="cli.auth.option.provider">
+      <source>Sign in through an outside provider in the browser instead of with a password.</source>
+      <translation>Über einen externen Anbieter im Browser anmelden statt mit einem Passwort.</translation>
     </message>
     <message id="cli.auth.password">
       <source>Password: </source>
@@ -80,8 +88,8 @@
       <translation>Kein gemerktes Konto %1. Melde dich zuerst dort an.</translation>
     </message>
     <message id="cli.auth.usage">
-      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
-      <translation>Aufruf: morvane auth signup|signin &lt;E-Mail&gt; | signout | status | switch &lt;E-Mail&gt; | accounts [--json]</translation>
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>Aufruf: morvane auth signup|signin &lt;E-Mail&gt; | signin --provider NAME | signout | status | switch &lt;E-Mail&gt; | accounts [--json]</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
@@ -130,6 +138,10 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane erfasst Arbeitszeit für Projekte und Aufgaben und macht daraus Rechnungen.</translation>
+    </message>
+    <message id="cli.err.noSignInWaiting">
+      <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
+      <translation>Keine Anmeldung wartet auf diese Adresse. Starte die Anmeldung in Morvane erneut.</translation>
     </message>
     <message id="cli.err.notSignedIn">
       <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>

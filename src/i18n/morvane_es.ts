@@ -51,6 +51,10 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>El comando que se ejecutará; sin él, se muestra la lista de comandos.</translation>
     </message>
+    <message id="cli.auth.browser">
+      <source>Continue in your browser. If no page opens, go to: %1</source>
+      <translation>Continúa en tu navegador. Si no se abre ninguna página, ve a: %1</translation>
+    </message>
     <message id="cli.auth.confirm">
       <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
       <translation>Revisa tu bandeja de entrada: confirma %1 con el enlace del mensaje y luego inicia sesión.</translation>
@@ -62,6 +66,10 @@
     <message id="cli.auth.option.name">
       <source>The name shown on your profile and to your team.</source>
       <translation>El nombre que se muestra en tu perfil y a tu equipo.</translation>
+    </message>
+    <message id="cli.auth.option.provider">
+      <source>Sign in through an outside provider in the browser instead of with a password.</source>
+      <translation>Iniciar sesión con un proveedor externo en el navegador en lugar de con una contraseña.</translation>
     </message>
     <message id="cli.auth.password">
       <source>Password: </source>
@@ -80,8 +88,8 @@
       <translation>No hay ninguna cuenta recordada %1. Inicia sesión en ella primero.</translation>
     </message>
     <message id="cli.auth.usage">
-      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
-      <translation>Uso: morvane auth signup|signin &lt;correo&gt; | signout | status | switch &lt;correo&gt; | accounts [--json]</translation>
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>Uso: morvane auth signup|signin &lt;correo&gt; | signin --provider NAME | signout | status | switch &lt;correo&gt; | accounts [--json]</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
@@ -130,6 +138,10 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane registra el tiempo de trabajo en proyectos y tareas y lo convierte en facturas.</translation>
+    </message>
+    <message id="cli.err.noSignInWaiting">
+      <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
+      <translation>Ningún inicio de sesión espera esta dirección. Vuelve a iniciar sesión en Morvane.</translation>
     </message>
     <message id="cli.err.notSignedIn">
       <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>

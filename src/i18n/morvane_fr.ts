@@ -51,6 +51,10 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>La commande à exécuter ; sans commande, la liste des commandes s’affiche.</translation>
     </message>
+    <message id="cli.auth.browser">
+      <source>Continue in your browser. If no page opens, go to: %1</source>
+      <translation>Continuez dans votre navigateur. Si aucune page ne s’ouvre, allez à : %1</translation>
+    </message>
     <message id="cli.auth.confirm">
       <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
       <translation>Consultez votre boîte de réception : confirmez %1 avec le lien du message, puis connectez-vous.</translation>
@@ -62,6 +66,10 @@
     <message id="cli.auth.option.name">
       <source>The name shown on your profile and to your team.</source>
       <translation>Le nom affiché sur votre profil et à votre équipe.</translation>
+    </message>
+    <message id="cli.auth.option.provider">
+      <source>Sign in through an outside provider in the browser instead of with a password.</source>
+      <translation>Se connecter via un fournisseur externe dans le navigateur plutôt qu’avec un mot de passe.</translation>
     </message>
     <message id="cli.auth.password">
       <source>Password: </source>
@@ -80,8 +88,8 @@
       <translation>Aucun compte mémorisé %1. Connectez-vous-y d’abord.</translation>
     </message>
     <message id="cli.auth.usage">
-      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
-      <translation>Utilisation : morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>Utilisation : morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
@@ -130,6 +138,10 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane suit le temps de travail sur les projets et les tâches et le transforme en factures.</translation>
+    </message>
+    <message id="cli.err.noSignInWaiting">
+      <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
+      <translation>Aucune connexion n’attend cette adresse. Relancez la connexion dans Morvane.</translation>
     </message>
     <message id="cli.err.notSignedIn">
       <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>

@@ -51,6 +51,10 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Il comando da eseguire; senza comando viene mostrato l’elenco dei comandi.</translation>
     </message>
+    <message id="cli.auth.browser">
+      <source>Continue in your browser. If no page opens, go to: %1</source>
+      <translation>Continua nel browser. Se non si apre alcuna pagina, vai a: %1</translation>
+    </message>
     <message id="cli.auth.confirm">
       <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
       <translation>Controlla la posta: conferma %1 con il link nel messaggio, poi accedi.</translation>
@@ -62,6 +66,10 @@
     <message id="cli.auth.option.name">
       <source>The name shown on your profile and to your team.</source>
       <translation>Il nome mostrato sul tuo profilo e al tuo team.</translation>
+    </message>
+    <message id="cli.auth.option.provider">
+      <source>Sign in through an outside provider in the browser instead of with a password.</source>
+      <translation>Accedi tramite un provider esterno nel browser invece che con una password.</translation>
     </message>
     <message id="cli.auth.password">
       <source>Password: </source>
@@ -80,8 +88,8 @@
       <translation>Nessun account memorizzato %1. Accedi prima a quell’account.</translation>
     </message>
     <message id="cli.auth.usage">
-      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
-      <translation>Uso: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>Uso: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
@@ -130,6 +138,10 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane registra il tempo di lavoro su progetti e attività e lo trasforma in fatture.</translation>
+    </message>
+    <message id="cli.err.noSignInWaiting">
+      <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
+      <translation>Nessun accesso attende questo indirizzo. Avvia di nuovo l’accesso in Morvane.</translation>
     </message>
     <message id="cli.err.notSignedIn">
       <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>

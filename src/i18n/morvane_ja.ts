@@ -51,6 +51,10 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>実行するコマンド。省略するとコマンド一覧を表示します。</translation>
     </message>
+    <message id="cli.auth.browser">
+      <source>Continue in your browser. If no page opens, go to: %1</source>
+      <translation>ブラウザーで続けてください。ページが開かない場合は次へ: %1</translation>
+    </message>
     <message id="cli.auth.confirm">
       <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
       <translation>受信トレイを確認してください。メールのリンクで %1 を確認してからサインインしてください。</translation>
@@ -62,6 +66,10 @@
     <message id="cli.auth.option.name">
       <source>The name shown on your profile and to your team.</source>
       <translation>プロフィールとチームに表示される名前です。</translation>
+    </message>
+    <message id="cli.auth.option.provider">
+      <source>Sign in through an outside provider in the browser instead of with a password.</source>
+      <translation>パスワードの代わりにブラウザーで外部プロバイダーからサインインします。</translation>
     </message>
     <message id="cli.auth.password">
       <source>Password: </source>
@@ -80,8 +88,8 @@
       <translation>記憶されたアカウント %1 はありません。先にサインインしてください。</translation>
     </message>
     <message id="cli.auth.usage">
-      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
-      <translation>使い方: morvane auth signup|signin &lt;メール&gt; | signout | status | switch &lt;メール&gt; | accounts [--json]</translation>
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>使い方: morvane auth signup|signin &lt;メール&gt; | signin --provider NAME | signout | status | switch &lt;メール&gt; | accounts [--json]</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
@@ -130,6 +138,10 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane はプロジェクトとタスクの作業時間を記録し、請求書にします。</translation>
+    </message>
+    <message id="cli.err.noSignInWaiting">
+      <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
+      <translation>このアドレスを待っているサインインはありません。Morvane でもう一度サインインを開始してください。</translation>
     </message>
     <message id="cli.err.notSignedIn">
       <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>

@@ -51,6 +51,10 @@
       <source>The command to run; without one, the command list is shown.</source>
       <translation>คำสั่งที่จะเรียกใช้ หากไม่ระบุจะแสดงรายการคำสั่ง</translation>
     </message>
+    <message id="cli.auth.browser">
+      <source>Continue in your browser. If no page opens, go to: %1</source>
+      <translation>ดำเนินการต่อในเบราว์เซอร์ หากไม่มีหน้าเปิดขึ้น ให้ไปที่: %1</translation>
+    </message>
     <message id="cli.auth.confirm">
       <source>Check your inbox: confirm %1 with the link in the mail, then sign in.</source>
       <translation>โปรดตรวจสอบกล่องจดหมาย ยืนยัน %1 ด้วยลิงก์ในอีเมล แล้วลงชื่อเข้าใช้</translation>
@@ -62,6 +66,10 @@
     <message id="cli.auth.option.name">
       <source>The name shown on your profile and to your team.</source>
       <translation>ชื่อที่แสดงในโปรไฟล์และต่อทีมของคุณ</translation>
+    </message>
+    <message id="cli.auth.option.provider">
+      <source>Sign in through an outside provider in the browser instead of with a password.</source>
+      <translation>ลงชื่อเข้าใช้ผ่านผู้ให้บริการภายนอกในเบราว์เซอร์แทนการใช้รหัสผ่าน</translation>
     </message>
     <message id="cli.auth.password">
       <source>Password: </source>
@@ -80,8 +88,8 @@
       <translation>ไม่มีบัญชีที่จำไว้ชื่อ %1 โปรดลงชื่อเข้าใช้บัญชีนั้นก่อน</translation>
     </message>
     <message id="cli.auth.usage">
-      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
-      <translation>วิธีใช้: morvane auth signup|signin &lt;อีเมล&gt; | signout | status | switch &lt;อีเมล&gt; | accounts [--json]</translation>
+      <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
+      <translation>วิธีใช้: morvane auth signup|signin &lt;อีเมล&gt; | signin --provider NAME | signout | status | switch &lt;อีเมล&gt; | accounts [--json]</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
@@ -130,6 +138,10 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane บันทึกเวลาทำงานของโปรเจกต์และงาน แล้วเปลี่ยนเป็นใบแจ้งหนี้</translation>
+    </message>
+    <message id="cli.err.noSignInWaiting">
+      <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
+      <translation>ไม่มีการลงชื่อเข้าใช้ที่รอที่อยู่นี้ เริ่มการลงชื่อเข้าใช้ใน Morvane อีกครั้ง</translation>
     </message>
     <message id="cli.err.notSignedIn">
       <source>Not signed in. Sign in with: morvane auth signin &lt;e-mail&gt;</source>

@@ -2,6 +2,7 @@
 #include "backend/runblocking.h"
 #include "i18n/language.h"
 #include "pg/pgconnection.h"
+#include "support/outsideprovider.h"
 #include "support/scriptedhttpserver.h"
 #include "support/testbackend.h"
 
@@ -30,24 +31,6 @@ struct TestClock
         return [this] { return now; };
     }
 };
-
-QByteArray get(const QUrl &url, QByteArray *location = nullptr)
-{
-    QNetworkAccessManager network;
-    QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    QNetworkReply *reply = network.get(request);
-    QEventLoop loop;
-    QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    QTimer::singleShot(15000, &loop, &QEventLoop::quit);
-    loop.exec();
-    if (location) {
-        *location = reply->rawHeader("Location");
-    }
-    const QByteArray body = reply->readAll();
-    delete reply;
-    return body;
-}
 
 } // namespace
 
@@ -309,27 +292,8 @@ private slots:
 
     void signInThroughAnOutsideProvider()
     {
-        ScriptedHttpServer provider([](const RecordedRequest &request) {
-            if (request.path() == "/authorize") {
-                const QString back =
-                    request.queryValue(u"redirect_uri"_s) + u"?code=c&state="_s + request.queryValue(u"state"_s);
-                return ScriptedResponse{302, {}, {{"Location", back.toUtf8()}}, false};
-            }
-            if (request.path() == "/token") {
-                return ScriptedHttpServer::json(200, "{\"access_token\":\"t\",\"token_type\":\"Bearer\"}");
-            }
-            return ScriptedHttpServer::json(200, "{\"sub\":\"p-7\",\"email\":\"pia@example.nl\",\"name\":\"Pia\"}");
-        });
-        QTemporaryFile config;
-        QVERIFY(config.open());
-        const QString base = provider.url().toString();
-        QJsonObject idp{{u"client_id"_s, u"morvane"_s}, {u"client_secret"_s, u"s"_s}};
-        idp.insert(u"authorization_endpoint"_s, QString(base + u"/authorize"_s));
-        idp.insert(u"token_endpoint"_s, QString(base + u"/token"_s));
-        idp.insert(u"userinfo_endpoint"_s, QString(base + u"/userinfo"_s));
-        config.write(QJsonDocument(QJsonObject{{u"idp"_s, idp}}).toJson());
-        config.flush();
-        TestBackend backend({u"--auth-providers"_s, config.fileName()});
+        OutsideProvider provider;
+        TestBackend backend(provider.backendArguments());
         QVERIFY(backend.isReady());
         auto secrets = SecretStore::file(m_dir.filePath(u"oauth-secrets.json"_s));
         auto settings = std::make_shared<QSettings>(m_dir.filePath(u"oauth.conf"_s), QSettings::IniFormat);
@@ -338,13 +302,7 @@ private slots:
         // The "browser": the server sends it to the provider, the provider back to the server,
         // the server on to the application's loopback address.
         auto browser = [](const QUrl &address) {
-            QTimer::singleShot(0, [address] {
-                QByteArray location;
-                get(address, &location);
-                get(QUrl::fromEncoded(location), &location);
-                get(QUrl::fromEncoded(location), &location);
-                get(QUrl::fromEncoded(location));
-            });
+            QTimer::singleShot(0, [address] { OutsideProvider::get(OutsideProvider::landingOf(address)); });
             return true;
         };
         QVERIFY2(runBlocking(auth.signInWithOAuth(u"idp"_s, browser)), qPrintable(auth.lastError()));

@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <memory>
+
 // The real `morvane` program run as one person on one machine: a home folder of its own (so the
 // session lives in that home's secrets, as between a person's invocations) pointed at a test
 // backend. Tests that need two people take two of these.
@@ -29,10 +31,10 @@ public:
     [[nodiscard]] QString home() const { return m_home.path(); }
     [[nodiscard]] QString homeFile(const QString &relative) const { return m_home.filePath(relative); }
 
-    Run operator()(const QStringList &arguments, const QByteArray &input = {}) const
+    // What the program sees of its machine: this home, the backend, English.
+    [[nodiscard]] QProcessEnvironment environment() const
     {
         using namespace Qt::StringLiterals;
-        QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"HOME"_s, m_home.path());
         environment.insert(u"XDG_CONFIG_HOME"_s, m_home.filePath(u"config"_s));
@@ -42,8 +44,27 @@ public:
         environment.insert(u"LANGUAGE"_s, u"en"_s);
         // No keyring session here: the secrets go to the private file.
         environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
-        process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(MORVANE_APP_PROGRAM), arguments);
+        return environment;
+    }
+
+    // Starts the program without waiting for it.
+    [[nodiscard]] std::unique_ptr<QProcess> start(const QStringList &arguments,
+                                                  const QProcessEnvironment &environment) const
+    {
+        auto process = std::make_unique<QProcess>();
+        process->setProcessEnvironment(environment);
+        process->start(QStringLiteral(MORVANE_APP_PROGRAM), arguments);
+        process->waitForStarted();
+        return process;
+    }
+
+    Run operator()(const QStringList &arguments, const QByteArray &input = {}) const
+    {
+        return finish(*start(arguments, environment()), input);
+    }
+
+    static Run finish(QProcess &process, const QByteArray &input = {})
+    {
         process.write(input);
         process.closeWriteChannel();
         process.waitForFinished(60000);
