@@ -419,6 +419,14 @@
       <source>application settings</source>
       <translation>Programmeinstellungen</translation>
     </message>
+    <message id="entry.err.notLogged">
+      <source>The time was not logged: you may not log time on this task, or it no longer exists.</source>
+      <translation>Die Zeit wurde nicht erfasst: Du darfst für diese Aufgabe keine Zeit erfassen, oder sie existiert nicht mehr.</translation>
+    </message>
+    <message id="entry.err.notSaved">
+      <source>The time entry was not saved: it is not yours or it no longer exists.</source>
+      <translation>Der Zeiteintrag wurde nicht gespeichert: Er gehört nicht dir oder existiert nicht mehr.</translation>
+    </message>
     <message id="errEmailNotConfirmed">
       <source>Confirm your e-mail address first: follow the link in the mail we sent you.</source>
       <translation>Bestätige zuerst deine E-Mail-Adresse: Folge dem Link in der Mail, die wir dir geschickt haben.</translation>
@@ -558,6 +566,10 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Deine Teams konnten nicht geladen werden.</translation>
+    </message>
+    <message id="timer.err.notStopped">
+      <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>
+      <translation>Die Zeit konnte nicht erfasst werden, daher läuft der Timer weiter. Versuche erneut, ihn zu stoppen.</translation>
     </message>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>

@@ -419,6 +419,14 @@
       <source>application settings</source>
       <translation>ajustes de la aplicación</translation>
     </message>
+    <message id="entry.err.notLogged">
+      <source>The time was not logged: you may not log time on this task, or it no longer exists.</source>
+      <translation>El tiempo no se registró: no puedes registrar tiempo en esta tarea o ya no existe.</translation>
+    </message>
+    <message id="entry.err.notSaved">
+      <source>The time entry was not saved: it is not yours or it no longer exists.</source>
+      <translation>La entrada de tiempo no se guardó: no es tuya o ya no existe.</translation>
+    </message>
     <message id="errEmailNotConfirmed">
       <source>Confirm your e-mail address first: follow the link in the mail we sent you.</source>
       <translation>Confirma primero tu dirección de correo: sigue el enlace del mensaje que te enviamos.</translation>
@@ -558,6 +566,10 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>No se pudieron cargar tus equipos.</translation>
+    </message>
+    <message id="timer.err.notStopped">
+      <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>
+      <translation>No se pudo registrar el tiempo, así que el temporizador sigue en marcha. Intenta detenerlo de nuevo.</translation>
     </message>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>

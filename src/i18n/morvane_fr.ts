@@ -419,6 +419,14 @@
       <source>application settings</source>
       <translation>réglages de l’application</translation>
     </message>
+    <message id="entry.err.notLogged">
+      <source>The time was not logged: you may not log time on this task, or it no longer exists.</source>
+      <translation>Le temps n’a pas été enregistré : vous ne pouvez pas saisir de temps sur cette tâche, ou elle n’existe plus.</translation>
+    </message>
+    <message id="entry.err.notSaved">
+      <source>The time entry was not saved: it is not yours or it no longer exists.</source>
+      <translation>L’entrée de temps n’a pas été enregistrée : elle ne vous appartient pas ou n’existe plus.</translation>
+    </message>
     <message id="errEmailNotConfirmed">
       <source>Confirm your e-mail address first: follow the link in the mail we sent you.</source>
       <translation>Confirmez d’abord votre adresse e-mail : suivez le lien du message que nous vous avons envoyé.</translation>
@@ -558,6 +566,10 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Vos équipes n’ont pas pu être chargées.</translation>
+    </message>
+    <message id="timer.err.notStopped">
+      <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>
+      <translation>Le temps n’a pas pu être enregistré, le minuteur continue donc de tourner. Essayez de l’arrêter à nouveau.</translation>
     </message>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>

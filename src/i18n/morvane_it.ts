@@ -419,6 +419,14 @@
       <source>application settings</source>
       <translation>impostazioni dell’applicazione</translation>
     </message>
+    <message id="entry.err.notLogged">
+      <source>The time was not logged: you may not log time on this task, or it no longer exists.</source>
+      <translation>Il tempo non è stato registrato: non puoi registrare tempo su questa attività, oppure non esiste più.</translation>
+    </message>
+    <message id="entry.err.notSaved">
+      <source>The time entry was not saved: it is not yours or it no longer exists.</source>
+      <translation>La voce di tempo non è stata salvata: non è tua o non esiste più.</translation>
+    </message>
     <message id="errEmailNotConfirmed">
       <source>Confirm your e-mail address first: follow the link in the mail we sent you.</source>
       <translation>Conferma prima il tuo indirizzo e-mail: segui il link nel messaggio che ti abbiamo inviato.</translation>
@@ -558,6 +566,10 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Non è stato possibile caricare i tuoi team.</translation>
+    </message>
+    <message id="timer.err.notStopped">
+      <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>
+      <translation>Non è stato possibile registrare il tempo, quindi il timer continua. Prova a fermarlo di nuovo.</translation>
     </message>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>

@@ -419,6 +419,14 @@
       <source>application settings</source>
       <translation>programma-instellingen</translation>
     </message>
+    <message id="entry.err.notLogged">
+      <source>The time was not logged: you may not log time on this task, or it no longer exists.</source>
+      <translation>De tijd is niet geregistreerd: je mag op deze taak geen tijd registreren, of ze bestaat niet meer.</translation>
+    </message>
+    <message id="entry.err.notSaved">
+      <source>The time entry was not saved: it is not yours or it no longer exists.</source>
+      <translation>De tijdregistratie is niet opgeslagen: ze is niet van jou of bestaat niet meer.</translation>
+    </message>
     <message id="errEmailNotConfirmed">
       <source>Confirm your e-mail address first: follow the link in the mail we sent you.</source>
       <translation>Bevestig eerst je e-mailadres: volg de link in de mail die we je stuurden.</translation>
@@ -558,6 +566,10 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Je teams konden niet worden geladen.</translation>
+    </message>
+    <message id="timer.err.notStopped">
+      <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>
+      <translation>De tijd kon niet worden geregistreerd, dus de timer loopt door. Probeer hem opnieuw te stoppen.</translation>
     </message>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>

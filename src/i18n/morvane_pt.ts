@@ -419,6 +419,14 @@
       <source>application settings</source>
       <translation>configurações do aplicativo</translation>
     </message>
+    <message id="entry.err.notLogged">
+      <source>The time was not logged: you may not log time on this task, or it no longer exists.</source>
+      <translation>O tempo não foi registrado: você não pode registrar tempo nesta tarefa, ou ela não existe mais.</translation>
+    </message>
+    <message id="entry.err.notSaved">
+      <source>The time entry was not saved: it is not yours or it no longer exists.</source>
+      <translation>O registro de tempo não foi salvo: ele não é seu ou não existe mais.</translation>
+    </message>
     <message id="errEmailNotConfirmed">
       <source>Confirm your e-mail address first: follow the link in the mail we sent you.</source>
       <translation>Confirme primeiro seu endereço de e-mail: siga o link da mensagem que enviamos.</translation>
@@ -558,6 +566,10 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Não foi possível carregar suas equipes.</translation>
+    </message>
+    <message id="timer.err.notStopped">
+      <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>
+      <translation>Não foi possível registrar o tempo, então o cronômetro continua. Tente pará-lo novamente.</translation>
     </message>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>

@@ -419,6 +419,14 @@
       <source>application settings</source>
       <translation>การตั้งค่าแอป</translation>
     </message>
+    <message id="entry.err.notLogged">
+      <source>The time was not logged: you may not log time on this task, or it no longer exists.</source>
+      <translation>ไม่ได้บันทึกเวลา: คุณไม่สามารถบันทึกเวลาในงานนี้ได้ หรืองานนี้ไม่มีอยู่แล้ว</translation>
+    </message>
+    <message id="entry.err.notSaved">
+      <source>The time entry was not saved: it is not yours or it no longer exists.</source>
+      <translation>ไม่ได้บันทึกรายการเวลา: ไม่ใช่ของคุณหรือไม่มีอยู่แล้ว</translation>
+    </message>
     <message id="errEmailNotConfirmed">
       <source>Confirm your e-mail address first: follow the link in the mail we sent you.</source>
       <translation>โปรดยืนยันอีเมลของคุณก่อน โดยคลิกลิงก์ในอีเมลที่เราส่งให้</translation>
@@ -558,6 +566,10 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>โหลดทีมของคุณไม่ได้</translation>
+    </message>
+    <message id="timer.err.notStopped">
+      <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>
+      <translation>บันทึกเวลาไม่ได้ ตัวจับเวลาจึงยังทำงานต่อ ลองหยุดอีกครั้ง</translation>
     </message>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>

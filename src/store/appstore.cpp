@@ -1,5 +1,6 @@
 #include "appstore.h"
 
+#include "appstore_p.h"
 #include "backend/authstore.h"
 #include "backend/supabase.h"
 #include "i18n/language.h"
@@ -17,49 +18,9 @@
 Q_LOGGING_CATEGORY(lcStore, "morvane.store")
 
 using namespace Qt::StringLiterals;
+using namespace StoreDetail;
 
 namespace {
-
-QueryItems idFilter(const QString &id)
-{
-    return {{u"id"_s, u"eq."_s + id}};
-}
-
-QString inList(const QStringList &ids)
-{
-    return u"in.("_s + Supabase::uuidList(ids).join(u',') + u')';
-}
-
-// deleteFrom() answers nothing, and a delete that row-level security keeps from a row is no error
-// either: only the deleted rows coming back tell a refusal from a success.
-template<Wire::WireRecord T>
-QCoro::Task<QList<T>> deleteReturning(Supabase client, QString table, QString accessToken, QueryItems query)
-{
-    BackendRequest request;
-    request.method = "DELETE";
-    request.path = u"rest/v1/"_s + table;
-    request.query = std::move(query);
-    request.headers = {
-        {"Accept", "application/json"},
-        {"apikey", client.anonKey().toUtf8()},
-        {"Authorization", QByteArray("Bearer " + accessToken.toUtf8())},
-        {"Prefer", "return=representation"},
-    };
-    const QByteArray body = co_await client.send(std::move(request), Supabase::Channel::Data);
-    co_return Supabase::decodeBody<QList<T>>(body);
-}
-
-// A refusal is the backend saying no to this user (a policy, a missing row the write refers to);
-// anything else (no answer, a server failure) is worth trying again.
-bool isRefusal(const MorvaneError &error)
-{
-    const auto *backend = dynamic_cast<const SupabaseError *>(&error);
-    if (!backend || backend->kind() != SupabaseError::Kind::HttpStatus) {
-        return false;
-    }
-    const std::optional<QString> code = backend->errorCode();
-    return backend->status() == 403 || backend->status() == 409 || code == u"42501" || code == u"23503";
-}
 
 qint64 instantKey(const std::optional<QString> &text)
 {
@@ -84,71 +45,12 @@ void sortMembers(QList<TeamMember> &members)
 
 } // namespace
 
-// isLoading is true while any refresh runs.
-class AppStore::LoadingScope
-{
-public:
-    explicit LoadingScope(AppStore &store)
-        : m_store(store)
-    {
-        m_store.setLoadingDepth(m_store.m_loadingDepth + 1);
-    }
-    ~LoadingScope() { m_store.setLoadingDepth(m_store.m_loadingDepth - 1); }
-    LoadingScope(const LoadingScope &) = delete;
-    LoadingScope &operator=(const LoadingScope &) = delete;
-
-private:
-    AppStore &m_store;
-};
-
-// Marks tasks as saving for as long as a write on them is in flight.
-class AppStore::SavingScope
-{
-public:
-    SavingScope(AppStore &store, QStringList taskIds)
-        : m_store(store)
-        , m_ids(std::move(taskIds))
-    {
-        for (const QString &id : std::as_const(m_ids)) {
-            ++m_store.m_savingCounts[id];
-        }
-        publish();
-    }
-    ~SavingScope()
-    {
-        for (const QString &id : std::as_const(m_ids)) {
-            auto it = m_store.m_savingCounts.find(id);
-            if (it != m_store.m_savingCounts.end() && --it.value() <= 0) {
-                m_store.m_savingCounts.erase(it);
-            }
-        }
-        publish();
-    }
-    SavingScope(const SavingScope &) = delete;
-    SavingScope &operator=(const SavingScope &) = delete;
-
-private:
-    void publish()
-    {
-        QSet<QString> ids;
-        for (auto it = m_store.m_savingCounts.cbegin(); it != m_store.m_savingCounts.cend(); ++it) {
-            ids.insert(it.key());
-        }
-        if (ids != m_store.m_savingTaskIds) {
-            m_store.m_savingTaskIds = std::move(ids);
-            emit m_store.savingTaskIdsChanged();
-        }
-    }
-
-    AppStore &m_store;
-    QStringList m_ids;
-};
-
 AppStore::AppStore(AuthStore &auth, std::shared_ptr<QSettings> settings, Clock clock, QObject *parent)
     : QObject(parent)
     , m_auth(auth)
     , m_settings(std::move(settings))
     , m_clock(std::move(clock))
+    , m_timer(m_clock)
 {
     m_pollTimer.setSingleShot(true);
     connect(&m_pollTimer, &QTimer::timeout, this, [this] { pollStep(m_pollRun); });
@@ -427,30 +329,6 @@ void AppStore::setClients(QList<Client> all)
 
 // ---- Sessions --------------------------------------------------------------------------------
 
-template<typename Call>
-auto AppStore::authorized(Session &session, Call call) -> decltype(call(QString()))
-{
-    // A handler may not await, so the refusal is kept and the retry happens after it.
-    std::exception_ptr refused;
-    const QString used = session.token;
-    try {
-        co_return co_await call(used);
-    } catch (const SupabaseError &error) {
-        if (error.kind() != SupabaseError::Kind::HttpStatus || error.status() != 401) {
-            throw;
-        }
-        refused = std::current_exception();
-    }
-    // Several reads that were under way together share one refresh: the auth store rotates a
-    // token once, and the others get the token that replaced it.
-    const std::optional<QString> fresh = co_await m_auth.tokenAfterUnauthorized(used);
-    if (!fresh || *fresh == used) {
-        std::rethrow_exception(refused);
-    }
-    session.token = *fresh;
-    co_return co_await call(*fresh);
-}
-
 QCoro::Task<std::optional<AppStore::Session>> AppStore::openSession(const char *logPrefix)
 {
     const std::optional<QString> token = co_await m_auth.validToken(30);
@@ -668,6 +546,7 @@ void AppStore::tasksDidChange()
     const QString key = running ? running->id + u'|' + running->startedAt.value_or(QString()) : QString();
     if (key != m_runningKey) {
         m_runningKey = key;
+        m_timer.bind(running);
         emit runningTaskChanged();
     }
 }

@@ -7,8 +7,11 @@
 #include "model/taskitem.h"
 #include "model/team.h"
 #include "model/timeentry.h"
+#include "backend/supabase.h"
 #include "store/inviteoutcome.h"
 #include "store/taskorder.h"
+#include "store/timerrecords.h"
+#include "store/timerstore.h"
 #include "store/writerecords.h"
 
 #include <QDateTime>
@@ -66,6 +69,7 @@ class AppStore : public QObject
     Q_PROPERTY(QString taskSort READ taskSortName WRITE setTaskSortName NOTIFY taskSortChanged)
     Q_PROPERTY(QString searchQuery READ searchQuery WRITE setSearchQuery NOTIFY searchQueryChanged)
     Q_PROPERTY(QString aiProgress READ aiProgress WRITE setAiProgress NOTIFY aiProgressChanged)
+    Q_PROPERTY(TimerStore *timer READ timerObject CONSTANT)
 
 public:
     enum class Neighbor { Previous, Next };
@@ -212,6 +216,32 @@ public:
     // answers were applied.
     QCoro::Task<bool> applyPendingOnboarding();
 
+    // The timer and time entries. A run is protected by the claim filter, not a lock: a stop
+    // changes the task only while it still runs the run this device saw, so two devices acting on
+    // one run never log it twice.
+    [[nodiscard]] TimerStore &timer() { return m_timer; }
+    [[nodiscard]] TimerStore *timerObject() { return &m_timer; }
+    // Stops the timer that runs on another task first. A task whose timer already runs (started
+    // on another device) keeps that run.
+    QCoro::Task<bool> startTimer(QString taskId);
+    // Writes the run as one entry and adds it to the task's total. A run that another device
+    // stopped meanwhile is left as that device wrote it.
+    QCoro::Task<bool> stopTimer(QString taskId);
+    // An entry of `minutes` (fractional) ending now.
+    QCoro::Task<bool> logManualMinutes(QString taskId, double minutes);
+    // Loads every entry of one task, older ones than the recent window included.
+    QCoro::Task<bool> fetchEntries(QString taskId);
+    QCoro::Task<bool> updateEntry(QString entryId, TimeEntryPatch patch);
+    QCoro::Task<bool> deleteEntry(QString entryId);
+    // Sets the task's total to the sum of its entries' durations as the backend has them.
+    QCoro::Task<bool> recomputeTaskTotal(QString taskId);
+    void appendEntryLocally(const TimeEntry &entry);
+    [[nodiscard]] std::optional<TimeEntry> entry(const QString &entryId) const;
+    // Matches the task only while it runs the timer started at `startedAt`.
+    [[nodiscard]] static QueryItems claimQuery(const QString &taskId, const std::optional<QString> &startedAt);
+    // A zero UTC offset written as "Z", the form the filter compares in.
+    [[nodiscard]] static QString timestampFilterValue(const QString &instant);
+
     // Teams.
     QCoro::Task<std::optional<Team>> createTeam(QString name);
     QCoro::Task<InviteOutcome> inviteMember(QString teamId, QString email, TeamRole role);
@@ -271,6 +301,10 @@ private:
     QCoro::Task<QStringList> writeStatus(Session session, QStringList taskIds, TaskStatus status,
                                          const char *logPrefix);
     QCoro::Task<> reloadMembers(Session session, QString teamId);
+    QCoro::Task<std::optional<TaskItem>> readTask(Session &session, QString taskId);
+    QCoro::Task<bool> stopRun(Session &session, TaskItem running);
+    void replaceEntry(const TimeEntry &entry);
+    void removeEntry(const QString &entryId);
     void armPoll();
     [[nodiscard]] bool refreshDue(const QDateTime &now) const;
     QCoro::Task<> pollStep(quint64 run);
@@ -326,6 +360,7 @@ private:
     QString m_searchQuery;
     QString m_aiProgress;
     QString m_runningKey;
+    TimerStore m_timer;
 
     quint64 m_generation = 0;
     bool m_syncing = false;

@@ -87,4 +87,22 @@ QString teamNotCreated()
     return qtTrId("team.err.notCreated");
 }
 
+QString timerNotStopped()
+{
+    //% "The time could not be logged, so the timer keeps running. Try stopping it again."
+    return qtTrId("timer.err.notStopped");
+}
+
+QString entryNotSaved()
+{
+    //% "The time entry was not saved: it is not yours or it no longer exists."
+    return qtTrId("entry.err.notSaved");
+}
+
+QString entryNotLogged()
+{
+    //% "The time was not logged: you may not log time on this task, or it no longer exists."
+    return qtTrId("entry.err.notLogged");
+}
+
 } // namespace StoreText
