@@ -84,9 +84,10 @@ const CurrencySymbols &currencySymbols()
             for (auto vote = it->cbegin(); vote != it->cend(); ++vote) {
                 // Ties go to the shorter, then the smaller symbol, so that the choice never
                 // depends on hash order.
-                const bool better = vote.value() > bestCount ||
-                                    (vote.value() == bestCount && (vote.key().size() < best.size() ||
-                                                                   (vote.key().size() == best.size() && vote.key() < best)));
+                const bool better =
+                    vote.value() > bestCount ||
+                    (vote.value() == bestCount &&
+                     (vote.key().size() < best.size() || (vote.key().size() == best.size() && vote.key() < best)));
                 if (better) {
                     best = vote.key();
                     bestCount = vote.value();

@@ -1,4 +1,5 @@
 #include "billing/billedchip.h"
+#include "billing/billingsamples.h"
 
 #include <QTest>
 
@@ -6,10 +7,9 @@
 
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(std::optional<double>)
 Q_DECLARE_METATYPE(BilledChip::Tone)
 
-using Opt = std::optional<double>;
+using BillingSamples::Opt;
 
 class TestBilledChip : public QObject
 {

@@ -1,4 +1,5 @@
 #include "billing/billingeditor.h"
+#include "billing/billingsamples.h"
 #include "i18n/language.h"
 
 #include <QLocale>
@@ -7,23 +8,9 @@
 
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(Billing)
-Q_DECLARE_METATYPE(std::optional<Billing>)
-Q_DECLARE_METATYPE(std::optional<double>)
+using namespace BillingSamples;
 
 namespace {
-
-using Opt = std::optional<double>;
-
-Project project(std::optional<Billing> billing, Opt rate = std::nullopt)
-{
-    Project p;
-    p.id = u"p1"_s;
-    p.name = u"Site"_s;
-    p.billing = std::move(billing);
-    p.hourlyRate = rate;
-    return p;
-}
 
 // Applies edits as a person would make them: "field=text" types into a money field,
 // "model=daily" picks a model, "unitLabel=…", "surchargeLabel=…" and "pct=1|0" set the others.
@@ -142,10 +129,11 @@ private slots:
         QTest::newRow("words around a rate are dropped") << QStringList{u"unitPrice=85 per hour?"_s} << false;
         QTest::newRow("letters only") << QStringList{u"unitPrice=abc"_s} << true;
         QTest::newRow("a bad extra in the folded section") << QStringList{u"materials=lots"_s} << true;
-        QTest::newRow("one of two corrected") << QStringList{u"surcharge=x"_s, u"discount=y"_s, u"surcharge=20"_s}
-                                              << true;
-        QTest::newRow("both corrected")
-            << QStringList{u"surcharge=x"_s, u"discount=y"_s, u"surcharge=20"_s, u"discount=5"_s} << false;
+        QTest::newRow("one of two corrected")
+            << QStringList{u"surcharge=x"_s, u"discount=y"_s, u"surcharge=20"_s} << true;
+        QTest::newRow("both corrected") << QStringList{u"surcharge=x"_s, u"discount=y"_s, u"surcharge=20"_s,
+                                                       u"discount=5"_s}
+                                        << false;
         QTest::newRow("a percentage with its sign") << QStringList{u"vatPercent=21%"_s} << false;
         QTest::newRow("emptied: no value, not invalid") << QStringList{u"unitPrice=85"_s, u"unitPrice="_s} << false;
         QTest::newRow("bad text in a model left behind is dropped")
@@ -159,7 +147,7 @@ private slots:
         QFETCH(QStringList, edits);
         QFETCH(bool, invalid);
         BillingEditor editor;
-        editor.loadProject(project(Billing{.model = BillingModel::Hourly, .unitPrice = 60}), 50.0);
+        editor.loadProject(project(std::nullopt, hourly(60)), 50.0);
         edit(editor, edits);
         QCOMPARE(editor.invalid(), invalid);
         QCOMPARE(editor.canSave(), !invalid);
@@ -168,7 +156,8 @@ private slots:
     void badTextNeverReachesTheRecord()
     {
         BillingEditor editor;
-        editor.loadProject(project(Billing{.model = BillingModel::Hourly, .unitPrice = 60, .surcharge = 10}), 50.0);
+        editor.loadProject(
+            project(std::nullopt, Billing{.model = BillingModel::Hourly, .unitPrice = 60, .surcharge = 10}), 50.0);
         const Billing before = editor.billing();
         edit(editor, {u"unitPrice=abc"_s, u"surcharge=--"_s});
         QVERIFY(editor.invalid());
@@ -197,13 +186,13 @@ private slots:
         QTest::addColumn<QString>("grossText");
         // Every row starts from a project billed hourly at the legacy rate of 60.
         QTest::newRow("legacy rate") << QStringList{} << qint64(7200) << 120.0 << 0.0 << u"€120.00"_s;
-        QTest::newRow("own rate and VAT") << QStringList{u"unitPrice=85"_s, u"vatPercent=21"_s} << qint64(7200)
-                                          << 170.0 << 35.7 << u"€205.70"_s;
+        QTest::newRow("own rate and VAT")
+            << QStringList{u"unitPrice=85"_s, u"vatPercent=21"_s} << qint64(7200) << 170.0 << 35.7 << u"€205.70"_s;
         QTest::newRow("fixed with extras") << QStringList{u"model=fixed"_s, u"amount=1.000"_s, u"surcharge=50"_s,
-                                                          u"discount=10"_s, u"pct=1"_s, u"vatPercent=9"_s}
+                                                          u"discount=10"_s, u"pct=1"_s,        u"vatPercent=9"_s}
                                            << qint64(0) << 945.0 << 85.05 << u"€1,030.05"_s;
-        QTest::newRow("daily, half a day") << QStringList{u"model=daily"_s, u"dayRate=600"_s} << qint64(4 * 3600)
-                                           << 300.0 << 0.0 << u"€300.00"_s;
+        QTest::newRow("daily, half a day")
+            << QStringList{u"model=daily"_s, u"dayRate=600"_s} << qint64(4 * 3600) << 300.0 << 0.0 << u"€300.00"_s;
         QTest::newRow("minimum charge") << QStringList{u"minCharge=100"_s} << qint64(600) << 100.0 << 0.0
                                         << u"€100.00"_s;
     }
@@ -229,7 +218,7 @@ private slots:
     {
         BillingEditor editor;
         editor.setCurrency(u"EUR"_s);
-        editor.setBilling(Billing{.model = BillingModel::Hourly, .unitPrice = 100});
+        editor.setBilling(hourly(100));
         QSignalSpy preview(&editor, &BillingEditor::previewChanged);
         editor.setTrackedSeconds(1800);
         QCOMPARE(preview.size(), 1);
@@ -271,20 +260,19 @@ private slots:
         QTest::addColumn<QStringList>("edits");
         QTest::addColumn<bool>("saves");
         QTest::addColumn<Opt>("hourlyRate");
-        const std::optional<Billing> hourly85 = Billing{.model = BillingModel::Hourly, .unitPrice = 85};
+        const std::optional<Billing> hourly85 = hourly(85);
         QTest::newRow("opened and saved") << hourly85 << Opt() << QStringList{} << false << Opt();
-        QTest::newRow("the same rate typed again") << hourly85 << Opt() << QStringList{u"unitPrice=85,00"_s} << false
-                                                   << Opt();
-        QTest::newRow("another model and back") << hourly85 << Opt()
-                                                << QStringList{u"model=fixed"_s, u"amount=900"_s, u"model=hourly"_s}
-                                                << false << Opt();
+        QTest::newRow("the same rate typed again")
+            << hourly85 << Opt() << QStringList{u"unitPrice=85,00"_s} << false << Opt();
+        QTest::newRow("another model and back")
+            << hourly85 << Opt() << QStringList{u"model=fixed"_s, u"amount=900"_s, u"model=hourly"_s} << false << Opt();
         QTest::newRow("an extra typed and removed")
             << hourly85 << Opt() << QStringList{u"surcharge=25"_s, u"surchargeLabel=Parking"_s, u"surcharge="_s}
             << false << Opt();
         QTest::newRow("rate 0 means no rate, like before")
             << std::optional<Billing>(Billing{}) << Opt() << QStringList{u"unitPrice=0"_s} << false << Opt();
-        QTest::newRow("bad text is not a change") << hourly85 << Opt() << QStringList{u"unitPrice=abc"_s} << false
-                                                  << Opt();
+        QTest::newRow("bad text is not a change")
+            << hourly85 << Opt() << QStringList{u"unitPrice=abc"_s} << false << Opt();
         QTest::newRow("a new rate") << hourly85 << Opt() << QStringList{u"unitPrice=95"_s} << true << Opt(95);
         QTest::newRow("rate cleared") << hourly85 << Opt() << QStringList{u"unitPrice="_s} << true << Opt();
         QTest::newRow("a legacy project is written on its first save")
@@ -300,7 +288,7 @@ private slots:
         QFETCH(QStringList, edits);
         QFETCH(bool, saves);
         BillingEditor editor;
-        editor.loadProject(project(loaded, projectRate), 50.0);
+        editor.loadProject(project(projectRate, loaded), 50.0);
         edit(editor, edits);
         const std::optional<Earnings::ProjectBillingWrite> write = editor.projectWrite();
         QCOMPARE(write.has_value(), saves);
@@ -313,8 +301,8 @@ private slots:
 
     void aTaskInheritsUntilItGetsItsOwnPrice()
     {
-        const Billing shared{.model = BillingModel::Daily, .dayRate = 600};
-        const Project p = project(shared);
+        const Billing shared = daily(600);
+        const Project p = project(std::nullopt, shared);
         TaskItem task;
         task.id = u"t1"_s;
         task.timeSpentSeconds = 4 * 3600;
@@ -347,22 +335,20 @@ private slots:
 
     void aTaskWithItsOwnPriceCanInheritAgain()
     {
-        const Project p = project(Billing{.model = BillingModel::Fixed, .amount = 1000});
+        const Project p = project(std::nullopt, fixedPrice(1000));
         TaskItem task;
         task.id = u"t1"_s;
         task.hourlyRate = 0;
-        task.billing = Billing{.model = BillingModel::Hourly, .unitPrice = 0};
+        task.billing = hourly(0);
 
         BillingEditor editor;
         editor.loadTask(task, &p, 50);
         QVERIFY(!editor.isInheriting());
         QVERIFY(!editor.hasChanges());
         // A custom hourly price without a rate of its own writes no rate column.
-        QCOMPARE(editor.taskPrice(),
-                 (Earnings::PriceColumns{Billing{.model = BillingModel::Hourly}, std::nullopt, std::nullopt}));
+        QCOMPARE(editor.taskPrice(), (Earnings::PriceColumns{hourly(), std::nullopt, std::nullopt}));
         edit(editor, {u"unitPrice=75"_s});
-        QCOMPARE(editor.taskPrice(),
-                 (Earnings::PriceColumns{Billing{.model = BillingModel::Hourly, .unitPrice = 75}, 75, std::nullopt}));
+        QCOMPARE(editor.taskPrice(), (Earnings::PriceColumns{hourly(75), 75, std::nullopt}));
 
         editor.useProjectPrice();
         QVERIFY(editor.hasChanges()); // the task's own setting is to be removed
@@ -374,7 +360,7 @@ private slots:
     void projectEditorNeverInherits()
     {
         BillingEditor editor;
-        editor.loadProject(project(std::nullopt, 70), std::nullopt);
+        editor.loadProject(project(70), std::nullopt);
         QVERIFY(!editor.allowInherit());
         editor.useProjectPrice();
         QVERIFY(!editor.isInheriting());

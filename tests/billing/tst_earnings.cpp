@@ -1,3 +1,4 @@
+#include "billing/billingsamples.h"
 #include "billing/earnings.h"
 #include "i18n/language.h"
 
@@ -9,68 +10,15 @@
 
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(Billing)
-Q_DECLARE_METATYPE(std::optional<Billing>)
-Q_DECLARE_METATYPE(std::optional<double>)
 Q_DECLARE_METATYPE(std::optional<Earnings::ProjectBillingWrite>)
+
+using namespace BillingSamples;
 
 namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr qint64 hour = 3600;
-
-using Opt = std::optional<double>;
-
-Billing hourly(Opt rate = std::nullopt)
-{
-    return Billing{.model = BillingModel::Hourly, .unitPrice = rate};
-}
-
-Billing fixedPrice(Opt total)
-{
-    return Billing{.model = BillingModel::Fixed, .amount = total};
-}
-
-Billing perUnit(Opt price, Opt quantity, std::optional<QString> label = std::nullopt)
-{
-    return Billing{.model = BillingModel::PerUnit, .unitLabel = label, .unitPrice = price, .unitQuantity = quantity};
-}
-
-Billing daily(Opt rate, Opt hoursPerDay = std::nullopt)
-{
-    return Billing{.model = BillingModel::Daily, .dayRate = rate, .dayHours = hoursPerDay};
-}
-
-Billing withExtras(Billing billing, Opt minCharge, Opt surcharge, Opt materials, Opt discount = std::nullopt,
-                   std::optional<bool> percent = std::nullopt)
-{
-    billing.minCharge = minCharge;
-    billing.surcharge = surcharge;
-    billing.materials = materials;
-    billing.discount = discount;
-    billing.discountIsPct = percent;
-    return billing;
-}
-
-TaskItem task(Opt rate, std::optional<Billing> billing = std::nullopt)
-{
-    TaskItem item;
-    item.id = u"t1"_s;
-    item.hourlyRate = rate;
-    item.billing = billing;
-    return item;
-}
-
-Project project(Opt rate, std::optional<Billing> billing = std::nullopt)
-{
-    Project item;
-    item.id = u"p1"_s;
-    item.name = u"Site"_s;
-    item.hourlyRate = rate;
-    item.billing = billing;
-    return item;
-}
 
 } // namespace
 
@@ -127,8 +75,8 @@ private slots:
         QTest::newRow("task's own, unchanged") << true << std::optional(own) << true << std::optional(shared) << own;
         QTest::newRow("inherited from the project")
             << true << std::optional<Billing>() << true << std::optional(shared) << shared;
-        QTest::newRow("project's without a task") << false << std::optional<Billing>() << true << std::optional(shared)
-                                                  << shared;
+        QTest::newRow("project's without a task")
+            << false << std::optional<Billing>() << true << std::optional(shared) << shared;
         QTest::newRow("task's own without a project")
             << true << std::optional(own) << false << std::optional<Billing>() << own;
         // Task rate 90 and project rate 70 below: the legacy chain picks 90, every other field absent.
@@ -161,7 +109,8 @@ private slots:
         QTest::newRow("hourly, seconds are fractions of hours") << hourly(85) << 90 * 60LL << 60.0 << 127.5 << 127.5;
         QTest::newRow("hourly rate 0 bills at the legacy rate") << hourly(0) << 2 * hour << 60.0 << 120.0 << 120.0;
         QTest::newRow("hourly without rate bills at the legacy rate") << hourly() << 2 * hour << 60.0 << 120.0 << 120.0;
-        QTest::newRow("hourly rate NaN bills at the legacy rate") << hourly(notANumber) << 2 * hour << 60.0 << 120.0 << 120.0;
+        QTest::newRow("hourly rate NaN bills at the legacy rate")
+            << hourly(notANumber) << 2 * hour << 60.0 << 120.0 << 120.0;
         QTest::newRow("a NaN legacy rate is 0") << hourly() << 2 * hour << notANumber << 0.0 << 0.0;
         QTest::newRow("nothing tracked") << hourly(85) << 0LL << 60.0 << 0.0 << 0.0;
 
@@ -176,7 +125,8 @@ private slots:
         QTest::newRow("daily, days are not rounded") << daily(600) << 7 * hour << 60.0 << 525.0 << 525.0;
         QTest::newRow("daily, own hours per day") << daily(600, 6) << 9 * hour << 60.0 << 900.0 << 900.0;
         QTest::newRow("daily, 0 hours per day gives no days") << daily(600, 0) << 4 * hour << 60.0 << 0.0 << 0.0;
-        QTest::newRow("daily, negative hours per day gives no days") << daily(600, -2) << 4 * hour << 60.0 << 0.0 << 0.0;
+        QTest::newRow("daily, negative hours per day gives no days")
+            << daily(600, -2) << 4 * hour << 60.0 << 0.0 << 0.0;
         QTest::newRow("daily without day rate") << daily(std::nullopt) << 8 * hour << 60.0 << 0.0 << 0.0;
 
         // Extras on a base of 60 (one hour at 60).
@@ -194,8 +144,8 @@ private slots:
             << withExtras(hourly(100), std::nullopt, 20, 30, 10, true) << hour << 0.0 << 100.0 << 135.0;
         QTest::newRow("percentage discount after the minimum")
             << withExtras(hourly(60), 100, 20, std::nullopt, 50, true) << hour << 0.0 << 60.0 << 60.0;
-        QTest::newRow("absolute discount") << withExtras(hourly(100), std::nullopt, std::nullopt, std::nullopt, 25)
-                                           << hour << 0.0 << 100.0 << 75.0;
+        QTest::newRow("absolute discount")
+            << withExtras(hourly(100), std::nullopt, std::nullopt, std::nullopt, 25) << hour << 0.0 << 100.0 << 75.0;
         QTest::newRow("absolute discount, switch set to false")
             << withExtras(hourly(100), std::nullopt, std::nullopt, std::nullopt, 25, false) << hour << 0.0 << 100.0
             << 75.0;
@@ -206,8 +156,8 @@ private slots:
             << 100.0;
         QTest::newRow("negative surcharge is clamped at 0")
             << withExtras(hourly(10), std::nullopt, -30, std::nullopt) << hour << 0.0 << 10.0 << 0.0;
-        QTest::newRow("extras on a fixed price") << withExtras(fixedPrice(1000), std::nullopt, 50, 200, 10, true)
-                                                 << 0LL << 0.0 << 1000.0 << 1125.0;
+        QTest::newRow("extras on a fixed price")
+            << withExtras(fixedPrice(1000), std::nullopt, 50, 200, 10, true) << 0LL << 0.0 << 1000.0 << 1125.0;
         QTest::newRow("NaN surcharge ends at 0")
             << withExtras(hourly(100), std::nullopt, notANumber, std::nullopt) << hour << 0.0 << 100.0 << 0.0;
         Billing withVat = hourly(100);
@@ -249,7 +199,8 @@ private slots:
         QTest::newRow("call-out fee 0") << withExtras(hourly(), std::nullopt, 0, std::nullopt) << false;
         QTest::newRow("negative call-out fee") << withExtras(hourly(), std::nullopt, -10, std::nullopt) << true;
         QTest::newRow("materials") << withExtras(hourly(), std::nullopt, std::nullopt, 5) << true;
-        QTest::newRow("absolute discount") << withExtras(hourly(), std::nullopt, std::nullopt, std::nullopt, 10) << true;
+        QTest::newRow("absolute discount")
+            << withExtras(hourly(), std::nullopt, std::nullopt, std::nullopt, 10) << true;
         QTest::newRow("absolute discount, switch false")
             << withExtras(hourly(), std::nullopt, std::nullopt, std::nullopt, 10, false) << true;
         QTest::newRow("percentage discount scales with time")
@@ -330,8 +281,8 @@ private slots:
             << loaded(hourly(85)) << fixedPrice(1200) << Result(Write{fixedPrice(1200), std::nullopt});
         Billing fixedStale = fixedPrice(1200);
         fixedStale.unitPrice = 85;
-        QTest::newRow("fields of another model left from switching") << loaded(fixedPrice(1200)) << fixedStale
-                                                                     << Result();
+        QTest::newRow("fields of another model left from switching")
+            << loaded(fixedPrice(1200)) << fixedStale << Result();
         Billing fixedStaleNew = fixedPrice(1500);
         fixedStaleNew.unitPrice = 85;
         QTest::newRow("a write keeps what the editor holds")
@@ -340,8 +291,8 @@ private slots:
                                            << Result(Write{perUnit(40, 4, u"visit"_s), std::nullopt});
         QTest::newRow("empty unit label is no label") << loaded(perUnit(40, 3)) << perUnit(40, 3, u"  "_s) << Result();
         QTest::newRow("8 hours per day is the default") << loaded(daily(600)) << daily(600, 8) << Result();
-        QTest::newRow("other hours per day") << loaded(daily(600)) << daily(600, 7)
-                                             << Result(Write{daily(600, 7), std::nullopt});
+        QTest::newRow("other hours per day")
+            << loaded(daily(600)) << daily(600, 7) << Result(Write{daily(600, 7), std::nullopt});
         QTest::newRow("zero extras are no extras")
             << loaded(hourly(85)) << withExtras(hourly(85), 0, 0, 0, 0, true) << Result();
         Billing labelOnly = hourly(85);
@@ -356,8 +307,7 @@ private slots:
             << Result(Write{withExtras(hourly(85), std::nullopt, std::nullopt, std::nullopt, 10, true), 85});
         Billing vatZero = hourly(85);
         vatZero.vatRate = 0;
-        QTest::newRow("VAT 0 is not the same as no VAT")
-            << loaded(hourly(85)) << vatZero << Result(Write{vatZero, 85});
+        QTest::newRow("VAT 0 is not the same as no VAT") << loaded(hourly(85)) << vatZero << Result(Write{vatZero, 85});
         Billing travel = hourly(85);
         travel.travel = JSONValue::fromJson(QJsonObject{{u"mode"_s, u"per_km"_s}});
         QTest::newRow("travel settings count") << loaded(hourly(85)) << travel << Result(Write{travel, 85});
@@ -392,8 +342,8 @@ private slots:
         QTest::newRow("per unit, no label, half units")
             << u"en"_s << perUnit(40, 2.5) << Opt() << u"2.5 unit × €40.00"_s;
         QTest::newRow("per unit, blank label") << u"en"_s << perUnit(40, 1, u" "_s) << Opt() << u"1 unit × €40.00"_s;
-        QTest::newRow("per unit, nothing set") << u"en"_s << perUnit(std::nullopt, std::nullopt) << Opt()
-                                               << u"0 unit × €0.00"_s;
+        QTest::newRow("per unit, nothing set")
+            << u"en"_s << perUnit(std::nullopt, std::nullopt) << Opt() << u"0 unit × €0.00"_s;
         QTest::newRow("daily") << u"en"_s << daily(600) << Opt() << u"€600.00/day"_s;
         QTest::newRow("daily in Dutch") << u"nl"_s << daily(600) << Opt() << u"€600.00/dag"_s;
         QTest::newRow("per unit in German") << u"de"_s << perUnit(40, 2) << Opt() << u"2 Einheit × €40.00"_s;
@@ -430,13 +380,13 @@ private slots:
         QTest::newRow("call-out fee 0") << withExtras(hourly(), none, 0, none) << QString();
         QTest::newRow("negative call-out fee") << withExtras(hourly(), none, -5, none) << QString();
         QTest::newRow("materials") << withExtras(hourly(), none, none, 10) << u"+ materiaal"_s;
-        QTest::newRow("percentage discount") << withExtras(hourly(), none, none, none, 10, true)
-                                             << u"\u2212 10% korting"_s;
-        QTest::newRow("fractional percentage") << withExtras(hourly(), none, none, none, 12.5, true)
-                                               << u"\u2212 12.5% korting"_s;
+        QTest::newRow("percentage discount")
+            << withExtras(hourly(), none, none, none, 10, true) << u"\u2212 10% korting"_s;
+        QTest::newRow("fractional percentage")
+            << withExtras(hourly(), none, none, none, 12.5, true) << u"\u2212 12.5% korting"_s;
         QTest::newRow("absolute discount") << withExtras(hourly(), none, none, none, 20) << u"\u2212 korting"_s;
-        QTest::newRow("negative absolute discount") << withExtras(hourly(), none, none, none, -5)
-                                                    << u"\u2212 korting"_s;
+        QTest::newRow("negative absolute discount")
+            << withExtras(hourly(), none, none, none, -5) << u"\u2212 korting"_s;
         QTest::newRow("discount 0") << withExtras(hourly(), none, none, none, 0, true) << QString();
         QTest::newRow("minimum charge") << withExtras(hourly(), 100, none, none) << u"min. €100.00"_s;
         QTest::newRow("VAT") << vat(0.21) << u"21% BTW"_s;
@@ -445,8 +395,8 @@ private slots:
         QTest::newRow("VAT 0") << vat(0) << QString();
         Billing all = withExtras(hourly(85), 100, 25, 10, 10, true);
         all.vatRate = 0.21;
-        QTest::newRow("all, in order") << all
-                                       << u"+ Voorrijkosten · + materiaal · \u2212 10% korting · min. €100.00 · 21% BTW"_s;
+        QTest::newRow("all, in order")
+            << all << u"+ Voorrijkosten · + materiaal · \u2212 10% korting · min. €100.00 · 21% BTW"_s;
     }
 
     void describesTheExtras()

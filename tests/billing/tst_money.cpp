@@ -95,7 +95,8 @@ private slots:
         QTest::newRow("negative, letters for a symbol") << u"en_US"_s << -12.0 << u"XYZ"_s << u"-XYZ" + nbsp + u"12.00";
         QTest::newRow("a code in lower case") << u"en_US"_s << 12.0 << u"eur"_s << u"€12.00"_s;
         QTest::newRow("pounds") << u"en_GB"_s << 12.0 << u"GBP"_s << u"£12.00"_s;
-        QTest::newRow("another dollar is not the user's own") << u"en_US"_s << 12.0 << u"AUD"_s << u"AUD" + nbsp + u"12.00";
+        QTest::newRow("another dollar is not the user's own")
+            << u"en_US"_s << 12.0 << u"AUD"_s << u"AUD" + nbsp + u"12.00";
         QTest::newRow("the dollar at home") << u"en_AU"_s << 12.0 << u"AUD"_s << u"$12.00"_s;
         QTest::newRow("yen have no cents") << u"en_US"_s << 1234.5 << u"JPY"_s << u"￥1,235"_s;
         QTest::newRow("unknown code is written as is") << u"en_US"_s << 12.0 << u"XYZ"_s << u"XYZ" + nbsp + u"12.00";

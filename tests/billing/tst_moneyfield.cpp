@@ -1,3 +1,4 @@
+#include "billing/billingsamples.h"
 #include "billing/moneyfield.h"
 
 #include <QSignalSpy>
@@ -5,9 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(std::optional<double>)
-
-using Opt = std::optional<double>;
+using BillingSamples::Opt;
 
 class TestMoneyField : public QObject
 {

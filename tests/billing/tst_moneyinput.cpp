@@ -1,3 +1,4 @@
+#include "billing/billingsamples.h"
 #include "billing/moneyinput.h"
 
 #include <QTest>
@@ -6,9 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(std::optional<double>)
-
-using Opt = std::optional<double>;
+using BillingSamples::Opt;
 
 class TestMoneyInput : public QObject
 {
@@ -117,8 +116,8 @@ private slots:
         QTest::newRow("percentage with binary noise") << Opt(0.07 * 100) << u"en"_s << K::Number << u"7"_s;
         QTest::newRow("three decimals would read as a group") << Opt(1.125) << u"en"_s << K::Number << u"1.1250"_s;
         QTest::newRow("three decimals, comma") << Opt(12.125) << u"de"_s << K::Number << u"12,1250"_s;
-        QTest::newRow("three decimals that cannot be a group") << Opt(1234.125) << u"en"_s << K::Number
-                                                               << u"1234.125"_s;
+        QTest::newRow("three decimals that cannot be a group")
+            << Opt(1234.125) << u"en"_s << K::Number << u"1234.125"_s;
     }
 
     void writesPerLanguage()
