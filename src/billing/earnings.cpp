@@ -268,6 +268,13 @@ std::optional<QString> describeExtras(const Billing &billing, const QString &cur
     return parts.join(u" \u00B7 "_s);
 }
 
+QString inheritedFrom(const QString &projectName)
+{
+    //: On a task without a price of its own; %1 is the project's name
+    //% "Inherited from %1"
+    return qtTrId("task.inheritedFrom").arg(projectName);
+}
+
 QString formatQty(double x)
 {
     if (x == std::round(x) && fitsInt64(x)) {

@@ -104,6 +104,9 @@ struct ProjectBillingWrite
 // extras. These words are Dutch in every language.
 [[nodiscard]] std::optional<QString> describeExtras(const Billing &billing, const QString &currency);
 
+// The note on a task that follows its project's price: "Inherited from Website".
+[[nodiscard]] QString inheritedFrom(const QString &projectName);
+
 // A quantity: whole numbers without decimals, others with one.
 [[nodiscard]] QString formatQty(double x);
 

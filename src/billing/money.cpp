@@ -8,17 +8,24 @@
 
 using namespace Qt::StringLiterals;
 
-double round2(double x)
+namespace {
+
+// Rounds to `decimals` places, halves away from zero, after removing the binary noise of the
+// multiplication. The same rule serves invoice cents and the display of currencies whose minor
+// unit is not the cent.
+double roundHalfAway(double x, int decimals)
 {
     if (!std::isfinite(x)) {
         return 0;
     }
-    const double cents = std::fabs(x) * 100;
+    const double scale = std::pow(10.0, decimals);
+    const double scaled = std::fabs(x) * scale;
     // Printing with 15 significant digits and reading back snaps 100.49999999999999 to 100.5; the
     // charconv pair is used because printf and strtod would follow the process's numeric locale.
-    double snapped = cents;
+    double snapped = scaled;
     char text[64];
-    const std::to_chars_result printed = std::to_chars(text, text + sizeof text, cents, std::chars_format::general, 15);
+    const std::to_chars_result printed =
+        std::to_chars(text, text + sizeof text, scaled, std::chars_format::general, 15);
     if (printed.ec == std::errc()) {
         double read = 0;
         const std::from_chars_result parsed = std::from_chars(text, printed.ptr, read);
@@ -27,11 +34,18 @@ double round2(double x)
         }
     }
     // The largest double below one half: adding 0.5 itself would carry 0.49999999999999994 up to 1.
-    const double rounded = std::trunc(snapped + 0.49999999999999994) / 100;
+    const double rounded = std::trunc(snapped + 0.49999999999999994) / scale;
     if (rounded == 0) {
         return 0;
     }
     return std::copysign(rounded, x);
+}
+
+} // namespace
+
+double round2(double x)
+{
+    return roundHalfAway(x, 2);
 }
 
 namespace {
@@ -148,11 +162,14 @@ QString formatMoney(double amount, const QString &currency)
         const QLocale locale;
         const QString symbol = currencySymbol(locale, code);
         const int decimals = currencyDecimals(code);
-        QString text = locale.toCurrencyString(amount, symbol, decimals);
+        // Rounded here as invoices round, so that a preview never shows a cent the invoice lacks;
+        // the formatter itself would print 1.005 (binary 1.00499…) as 1.00.
+        const double shown = roundHalfAway(amount, decimals);
+        QString text = locale.toCurrencyString(shown, symbol, decimals);
         // Some locales (American English among them) bracket negative money as accountants do;
         // a discount line reads better with a minus sign.
-        if (amount < 0 && text.startsWith(u'(')) {
-            text = locale.negativeSign() + locale.toCurrencyString(-amount, symbol, decimals);
+        if (shown < 0 && text.startsWith(u'(')) {
+            text = locale.negativeSign() + locale.toCurrencyString(-shown, symbol, decimals);
         }
         if (!text.isEmpty()) {
             return spaceLetterSymbol(text, symbol);

@@ -439,6 +439,10 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>Die Aufgabe wurde nicht geändert: Du darfst sie nicht bearbeiten, oder sie existiert nicht mehr.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Übernommen von %1</translation>
+    </message>
     <message id="task.savePrice">
       <source>Save task price</source>
       <translation>Aufgabenpreis speichern</translation>

@@ -439,6 +439,10 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>The task was not changed: you may not edit it, or it no longer exists.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Inherited from %1</translation>
+    </message>
     <message id="task.savePrice">
       <source>Save task price</source>
       <translation>Save task price</translation>

@@ -439,6 +439,10 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>La tarea no se modificó: no puedes editarla o ya no existe.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Heredado de %1</translation>
+    </message>
     <message id="task.savePrice">
       <source>Save task price</source>
       <translation>Guardar el precio de la tarea</translation>

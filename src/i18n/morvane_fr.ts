@@ -439,6 +439,10 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>La tâche n’a pas été modifiée : vous n’avez pas le droit de la modifier, ou elle n’existe plus.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Hérité de %1</translation>
+    </message>
     <message id="task.savePrice">
       <source>Save task price</source>
       <translation>Enregistrer le prix de la tâche</translation>

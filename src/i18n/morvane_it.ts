@@ -439,6 +439,10 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>L’attività non è stata modificata: non puoi modificarla, oppure non esiste più.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Ereditato da %1</translation>
+    </message>
     <message id="task.savePrice">
       <source>Save task price</source>
       <translation>Salva il prezzo dell’attività</translation>

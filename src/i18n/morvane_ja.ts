@@ -439,6 +439,10 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>タスクは変更されませんでした。編集する権限がないか、タスクがすでに存在しません。</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>%1 から継承</translation>
+    </message>
     <message id="task.savePrice">
       <source>Save task price</source>
       <translation>タスクの価格を保存</translation>

@@ -439,6 +439,10 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>De taak is niet gewijzigd: je mag deze niet bewerken, of ze bestaat niet meer.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Overgenomen van %1</translation>
+    </message>
     <message id="task.savePrice">
       <source>Save task price</source>
       <translation>Taakprijs opslaan</translation>

@@ -439,6 +439,10 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>A tarefa não foi alterada: você não pode editá-la ou ela não existe mais.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Herdado de %1</translation>
+    </message>
     <message id="task.savePrice">
       <source>Save task price</source>
       <translation>Salvar o preço da tarefa</translation>

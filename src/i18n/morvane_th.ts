@@ -439,6 +439,10 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>ไม่ได้เปลี่ยนงาน: คุณไม่มีสิทธิ์แก้ไข หรืองานนี้ไม่มีอยู่แล้ว</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>ใช้ตาม %1</translation>
+    </message>
     <message id="task.savePrice">
       <source>Save task price</source>
       <translation>บันทึกราคางาน</translation>

@@ -100,6 +100,9 @@ private slots:
         QTest::newRow("the dollar at home") << u"en_AU"_s << 12.0 << u"AUD"_s << u"$12.00"_s;
         QTest::newRow("yen have no cents") << u"en_US"_s << 1234.5 << u"JPY"_s << u"￥1,235"_s;
         QTest::newRow("unknown code is written as is") << u"en_US"_s << 12.0 << u"XYZ"_s << u"XYZ" + nbsp + u"12.00";
+        QTest::newRow("cents round as invoices round") << u"en_US"_s << 1.005 << u"EUR"_s << u"€1.01"_s;
+        QTest::newRow("exact half cent") << u"nl_NL"_s << -0.125 << u"EUR"_s << u"-€" + nbsp + u"0,13";
+        QTest::newRow("less than half a cent below zero") << u"en_US"_s << -0.001 << u"EUR"_s << u"€0.00"_s;
         QTest::newRow("no currency: plain two decimals") << u"nl_NL"_s << 12.0 << QString() << u"12.00"_s;
     }
 
