@@ -156,21 +156,32 @@ void BillingEditor::setModel(BillingModel model)
     billingEdited();
 }
 
+QString BillingEditor::modelLabel(BillingModel model)
+{
+    switch (model) {
+    case BillingModel::Hourly:
+        //% "Per hour"
+        return qtTrId("billing.model.hour");
+    case BillingModel::Fixed:
+        //% "Fixed price"
+        return qtTrId("billing.model.fixed");
+    case BillingModel::PerUnit:
+        //% "Per unit"
+        return qtTrId("billing.model.unit");
+    case BillingModel::Daily:
+        //% "Per day"
+        return qtTrId("billing.model.day");
+    }
+    return {};
+}
+
 QVariantList BillingEditor::modelOptions() const
 {
-    const auto option = [](BillingModel model, const QString &label) {
-        return QVariantMap{{u"value"_s, Wire::enumName(model)}, {u"label"_s, label}};
-    };
-    return {
-        //% "Per hour"
-        option(BillingModel::Hourly, qtTrId("billing.model.hour")),
-        //% "Fixed price"
-        option(BillingModel::Fixed, qtTrId("billing.model.fixed")),
-        //% "Per unit"
-        option(BillingModel::PerUnit, qtTrId("billing.model.unit")),
-        //% "Per day"
-        option(BillingModel::Daily, qtTrId("billing.model.day")),
-    };
+    QVariantList options;
+    for (const BillingModel model : Wire::allCases<BillingModel>()) {
+        options.append(QVariantMap{{u"value"_s, Wire::enumName(model)}, {u"label"_s, modelLabel(model)}});
+    }
+    return options;
 }
 
 QVariantList BillingEditor::shownFields() const

@@ -80,7 +80,10 @@ public:
     [[nodiscard]] QString modelName() const;
     void setModelName(const QString &name);
     void setModel(BillingModel model);
+    // The picker's choices in their order: {value: wire name, label}.
     [[nodiscard]] QVariantList modelOptions() const;
+    // "Per hour", "Fixed price", "Per unit", "Per day".
+    [[nodiscard]] static QString modelLabel(BillingModel model);
     [[nodiscard]] QVariantList shownFields() const;
     [[nodiscard]] bool showsDayNote() const { return m_billing.model == BillingModel::Daily; }
 
