@@ -47,6 +47,122 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Du bist bei Morvane angemeldet. Du kannst dieses Fenster schließen.</translation>
     </message>
+    <message id="billing.dayNote">
+      <source>Tracked time ÷ hours-per-day = billable days.</source>
+      <translation>Erfasste Zeit ÷ Stunden pro Tag = abrechenbare Tage.</translation>
+    </message>
+    <message id="billing.dayRate">
+      <source>Day rate</source>
+      <translation>Tagessatz</translation>
+    </message>
+    <message id="billing.discount">
+      <source>Discount</source>
+      <translation>Rabatt</translation>
+    </message>
+    <message id="billing.extras">
+      <source>Extras · call-out · materials · discount · VAT</source>
+      <translation>Extras · Anfahrt · Material · Rabatt · MwSt.</translation>
+    </message>
+    <message id="billing.fixedTotal">
+      <source>Fixed total</source>
+      <translation>Fester Gesamtbetrag</translation>
+    </message>
+    <message id="billing.gross">
+      <source>Gross (incl.)</source>
+      <translation>Brutto (inkl.)</translation>
+    </message>
+    <message id="billing.hourlyRate">
+      <source>Hourly rate</source>
+      <translation>Stundensatz</translation>
+    </message>
+    <message id="billing.hoursPerDay">
+      <source>Hours per day</source>
+      <translation>Stunden pro Tag</translation>
+    </message>
+    <message id="billing.inheriting">
+      <source>Inheriting from project</source>
+      <translation>Vom Projekt übernommen</translation>
+    </message>
+    <message id="billing.materials">
+      <source>Materials</source>
+      <translation>Material</translation>
+    </message>
+    <message id="billing.minCharge">
+      <source>Minimum charge</source>
+      <translation>Mindestbetrag</translation>
+    </message>
+    <message id="billing.model.day">
+      <source>Per day</source>
+      <translation>Pro Tag</translation>
+    </message>
+    <message id="billing.model.fixed">
+      <source>Fixed price</source>
+      <translation>Festpreis</translation>
+    </message>
+    <message id="billing.model.hour">
+      <source>Per hour</source>
+      <translation>Pro Stunde</translation>
+    </message>
+    <message id="billing.model.unit">
+      <source>Per unit</source>
+      <translation>Pro Einheit</translation>
+    </message>
+    <message id="billing.net">
+      <source>Net (excl. VAT)</source>
+      <translation>Netto (ohne MwSt.)</translation>
+    </message>
+    <message id="billing.netNote">
+      <source>Net per tracked time, plus the extras above.</source>
+      <translation>Netto nach erfasster Zeit, zuzüglich der Extras oben.</translation>
+    </message>
+    <message id="billing.pricePerUnit">
+      <source>Price / unit</source>
+      <translation>Preis / Einheit</translation>
+    </message>
+    <message id="billing.quantity">
+      <source>Quantity</source>
+      <translation>Menge</translation>
+    </message>
+    <message id="billing.resetProject">
+      <source>Reset to project default</source>
+      <translation>Auf Projektpreis zurücksetzen</translation>
+    </message>
+    <message id="billing.suffix.day">
+      <source>/day</source>
+      <translation>/Tag</translation>
+    </message>
+    <message id="billing.suffix.hour">
+      <source>/h</source>
+      <translation>/Std.</translation>
+    </message>
+    <message id="billing.surcharge">
+      <source>Call-out fee</source>
+      <translation>Anfahrtspauschale</translation>
+    </message>
+    <message id="billing.title">
+      <source>Billing</source>
+      <translation>Abrechnung</translation>
+    </message>
+    <message id="billing.unit">
+      <source>Unit</source>
+      <translation>Einheit</translation>
+    </message>
+    <message id="billing.unitDefault">
+      <source>unit</source>
+      <translation>Einheit</translation>
+    </message>
+    <message id="billing.vat">
+      <source>VAT</source>
+      <translation>MwSt.</translation>
+    </message>
+    <message id="billing.vatAmount">
+      <source>VAT</source>
+      <translation>MwSt.</translation>
+    </message>
+    <message id="billing.vatNone">
+      <source>No VAT</source>
+      <translation>Keine MwSt.</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Der auszuführende Befehl; ohne Befehl wird die Befehlsliste angezeigt.</translation>
@@ -551,6 +667,10 @@
       <source>Not signed in.</source>
       <translation>Nicht angemeldet.</translation>
     </message>
+    <message id="task.custom">
+      <source>Custom for this task</source>
+      <translation>Eigener Preis für diese Aufgabe</translation>
+    </message>
     <message id="task.err.notCreated">
       <source>The task was not created: you may not add tasks to this project.</source>
       <translation>Die Aufgabe wurde nicht angelegt: Du darfst diesem Projekt keine Aufgaben hinzufügen.</translation>
@@ -559,6 +679,18 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>Die Aufgabe wurde nicht geändert: Du darfst sie nicht bearbeiten, oder sie existiert nicht mehr.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Übernommen von %1</translation>
+    </message>
+    <message id="task.savePrice">
+      <source>Save task price</source>
+      <translation>Aufgabenpreis speichern</translation>
+    </message>
+    <message id="task.useProject">
+      <source>Use project price</source>
+      <translation>Projektpreis verwenden</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>Das Team wurde nicht angelegt. Versuche es erneut.</translation>
@@ -566,6 +698,14 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Deine Teams konnten nicht geladen werden.</translation>
+    </message>
+    <message id="time.hoursMinutes">
+      <source>%1h %2m</source>
+      <translation>%1 Std. %2 Min.</translation>
+    </message>
+    <message id="time.minutes">
+      <source>%1m</source>
+      <translation>%1 Min.</translation>
     </message>
     <message id="timer.err.notStopped">
       <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>

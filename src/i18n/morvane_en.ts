@@ -47,6 +47,122 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>You are signed in to Morvane. You can close this window.</translation>
     </message>
+    <message id="billing.dayNote">
+      <source>Tracked time ÷ hours-per-day = billable days.</source>
+      <translation>Tracked time ÷ hours-per-day = billable days.</translation>
+    </message>
+    <message id="billing.dayRate">
+      <source>Day rate</source>
+      <translation>Day rate</translation>
+    </message>
+    <message id="billing.discount">
+      <source>Discount</source>
+      <translation>Discount</translation>
+    </message>
+    <message id="billing.extras">
+      <source>Extras · call-out · materials · discount · VAT</source>
+      <translation>Extras · call-out · materials · discount · VAT</translation>
+    </message>
+    <message id="billing.fixedTotal">
+      <source>Fixed total</source>
+      <translation>Fixed total</translation>
+    </message>
+    <message id="billing.gross">
+      <source>Gross (incl.)</source>
+      <translation>Gross (incl.)</translation>
+    </message>
+    <message id="billing.hourlyRate">
+      <source>Hourly rate</source>
+      <translation>Hourly rate</translation>
+    </message>
+    <message id="billing.hoursPerDay">
+      <source>Hours per day</source>
+      <translation>Hours per day</translation>
+    </message>
+    <message id="billing.inheriting">
+      <source>Inheriting from project</source>
+      <translation>Inheriting from project</translation>
+    </message>
+    <message id="billing.materials">
+      <source>Materials</source>
+      <translation>Materials</translation>
+    </message>
+    <message id="billing.minCharge">
+      <source>Minimum charge</source>
+      <translation>Minimum charge</translation>
+    </message>
+    <message id="billing.model.day">
+      <source>Per day</source>
+      <translation>Per day</translation>
+    </message>
+    <message id="billing.model.fixed">
+      <source>Fixed price</source>
+      <translation>Fixed price</translation>
+    </message>
+    <message id="billing.model.hour">
+      <source>Per hour</source>
+      <translation>Per hour</translation>
+    </message>
+    <message id="billing.model.unit">
+      <source>Per unit</source>
+      <translation>Per unit</translation>
+    </message>
+    <message id="billing.net">
+      <source>Net (excl. VAT)</source>
+      <translation>Net (excl. VAT)</translation>
+    </message>
+    <message id="billing.netNote">
+      <source>Net per tracked time, plus the extras above.</source>
+      <translation>Net per tracked time, plus the extras above.</translation>
+    </message>
+    <message id="billing.pricePerUnit">
+      <source>Price / unit</source>
+      <translation>Price / unit</translation>
+    </message>
+    <message id="billing.quantity">
+      <source>Quantity</source>
+      <translation>Quantity</translation>
+    </message>
+    <message id="billing.resetProject">
+      <source>Reset to project default</source>
+      <translation>Reset to project default</translation>
+    </message>
+    <message id="billing.suffix.day">
+      <source>/day</source>
+      <translation>/day</translation>
+    </message>
+    <message id="billing.suffix.hour">
+      <source>/h</source>
+      <translation>/h</translation>
+    </message>
+    <message id="billing.surcharge">
+      <source>Call-out fee</source>
+      <translation>Call-out fee</translation>
+    </message>
+    <message id="billing.title">
+      <source>Billing</source>
+      <translation>Billing</translation>
+    </message>
+    <message id="billing.unit">
+      <source>Unit</source>
+      <translation>Unit</translation>
+    </message>
+    <message id="billing.unitDefault">
+      <source>unit</source>
+      <translation>unit</translation>
+    </message>
+    <message id="billing.vat">
+      <source>VAT</source>
+      <translation>VAT</translation>
+    </message>
+    <message id="billing.vatAmount">
+      <source>VAT</source>
+      <translation>VAT</translation>
+    </message>
+    <message id="billing.vatNone">
+      <source>No VAT</source>
+      <translation>No VAT</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>The command to run; without one, the command list is shown.</translation>
@@ -551,6 +667,10 @@
       <source>Not signed in.</source>
       <translation>Not signed in.</translation>
     </message>
+    <message id="task.custom">
+      <source>Custom for this task</source>
+      <translation>Custom for this task</translation>
+    </message>
     <message id="task.err.notCreated">
       <source>The task was not created: you may not add tasks to this project.</source>
       <translation>The task was not created: you may not add tasks to this project.</translation>
@@ -559,6 +679,18 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>The task was not changed: you may not edit it, or it no longer exists.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Inherited from %1</translation>
+    </message>
+    <message id="task.savePrice">
+      <source>Save task price</source>
+      <translation>Save task price</translation>
+    </message>
+    <message id="task.useProject">
+      <source>Use project price</source>
+      <translation>Use project price</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>The team was not created. Try again.</translation>
@@ -566,6 +698,14 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Your teams could not be loaded.</translation>
+    </message>
+    <message id="time.hoursMinutes">
+      <source>%1h %2m</source>
+      <translation>%1h %2m</translation>
+    </message>
+    <message id="time.minutes">
+      <source>%1m</source>
+      <translation>%1m</translation>
     </message>
     <message id="timer.err.notStopped">
       <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>

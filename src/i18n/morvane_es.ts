@@ -47,6 +47,122 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Has iniciado sesión en Morvane. Puedes cerrar esta ventana.</translation>
     </message>
+    <message id="billing.dayNote">
+      <source>Tracked time ÷ hours-per-day = billable days.</source>
+      <translation>Tiempo registrado ÷ horas por día = días facturables.</translation>
+    </message>
+    <message id="billing.dayRate">
+      <source>Day rate</source>
+      <translation>Tarifa diaria</translation>
+    </message>
+    <message id="billing.discount">
+      <source>Discount</source>
+      <translation>Descuento</translation>
+    </message>
+    <message id="billing.extras">
+      <source>Extras · call-out · materials · discount · VAT</source>
+      <translation>Extras · desplazamiento · materiales · descuento · IVA</translation>
+    </message>
+    <message id="billing.fixedTotal">
+      <source>Fixed total</source>
+      <translation>Total fijo</translation>
+    </message>
+    <message id="billing.gross">
+      <source>Gross (incl.)</source>
+      <translation>Bruto (incl.)</translation>
+    </message>
+    <message id="billing.hourlyRate">
+      <source>Hourly rate</source>
+      <translation>Tarifa por hora</translation>
+    </message>
+    <message id="billing.hoursPerDay">
+      <source>Hours per day</source>
+      <translation>Horas por día</translation>
+    </message>
+    <message id="billing.inheriting">
+      <source>Inheriting from project</source>
+      <translation>Heredado del proyecto</translation>
+    </message>
+    <message id="billing.materials">
+      <source>Materials</source>
+      <translation>Materiales</translation>
+    </message>
+    <message id="billing.minCharge">
+      <source>Minimum charge</source>
+      <translation>Importe mínimo</translation>
+    </message>
+    <message id="billing.model.day">
+      <source>Per day</source>
+      <translation>Por día</translation>
+    </message>
+    <message id="billing.model.fixed">
+      <source>Fixed price</source>
+      <translation>Precio fijo</translation>
+    </message>
+    <message id="billing.model.hour">
+      <source>Per hour</source>
+      <translation>Por hora</translation>
+    </message>
+    <message id="billing.model.unit">
+      <source>Per unit</source>
+      <translation>Por unidad</translation>
+    </message>
+    <message id="billing.net">
+      <source>Net (excl. VAT)</source>
+      <translation>Neto (sin IVA)</translation>
+    </message>
+    <message id="billing.netNote">
+      <source>Net per tracked time, plus the extras above.</source>
+      <translation>Neto según el tiempo registrado, más los extras de arriba.</translation>
+    </message>
+    <message id="billing.pricePerUnit">
+      <source>Price / unit</source>
+      <translation>Precio / unidad</translation>
+    </message>
+    <message id="billing.quantity">
+      <source>Quantity</source>
+      <translation>Cantidad</translation>
+    </message>
+    <message id="billing.resetProject">
+      <source>Reset to project default</source>
+      <translation>Volver al precio del proyecto</translation>
+    </message>
+    <message id="billing.suffix.day">
+      <source>/day</source>
+      <translation>/día</translation>
+    </message>
+    <message id="billing.suffix.hour">
+      <source>/h</source>
+      <translation>/h</translation>
+    </message>
+    <message id="billing.surcharge">
+      <source>Call-out fee</source>
+      <translation>Gastos de desplazamiento</translation>
+    </message>
+    <message id="billing.title">
+      <source>Billing</source>
+      <translation>Facturación</translation>
+    </message>
+    <message id="billing.unit">
+      <source>Unit</source>
+      <translation>Unidad</translation>
+    </message>
+    <message id="billing.unitDefault">
+      <source>unit</source>
+      <translation>unidad</translation>
+    </message>
+    <message id="billing.vat">
+      <source>VAT</source>
+      <translation>IVA</translation>
+    </message>
+    <message id="billing.vatAmount">
+      <source>VAT</source>
+      <translation>IVA</translation>
+    </message>
+    <message id="billing.vatNone">
+      <source>No VAT</source>
+      <translation>Sin IVA</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>El comando que se ejecutará; sin él, se muestra la lista de comandos.</translation>
@@ -551,6 +667,10 @@
       <source>Not signed in.</source>
       <translation>No has iniciado sesión.</translation>
     </message>
+    <message id="task.custom">
+      <source>Custom for this task</source>
+      <translation>Precio propio para esta tarea</translation>
+    </message>
     <message id="task.err.notCreated">
       <source>The task was not created: you may not add tasks to this project.</source>
       <translation>La tarea no se creó: no puedes añadir tareas a este proyecto.</translation>
@@ -559,6 +679,18 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>La tarea no se modificó: no puedes editarla o ya no existe.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Heredado de %1</translation>
+    </message>
+    <message id="task.savePrice">
+      <source>Save task price</source>
+      <translation>Guardar el precio de la tarea</translation>
+    </message>
+    <message id="task.useProject">
+      <source>Use project price</source>
+      <translation>Usar el precio del proyecto</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>El equipo no se creó. Vuelve a intentarlo.</translation>
@@ -566,6 +698,14 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>No se pudieron cargar tus equipos.</translation>
+    </message>
+    <message id="time.hoursMinutes">
+      <source>%1h %2m</source>
+      <translation>%1 h %2 min</translation>
+    </message>
+    <message id="time.minutes">
+      <source>%1m</source>
+      <translation>%1 min</translation>
     </message>
     <message id="timer.err.notStopped">
       <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>

@@ -47,6 +47,122 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Vous êtes connecté à Morvane. Vous pouvez fermer cette fenêtre.</translation>
     </message>
+    <message id="billing.dayNote">
+      <source>Tracked time ÷ hours-per-day = billable days.</source>
+      <translation>Temps suivi ÷ heures par jour = jours facturables.</translation>
+    </message>
+    <message id="billing.dayRate">
+      <source>Day rate</source>
+      <translation>Taux journalier</translation>
+    </message>
+    <message id="billing.discount">
+      <source>Discount</source>
+      <translation>Remise</translation>
+    </message>
+    <message id="billing.extras">
+      <source>Extras · call-out · materials · discount · VAT</source>
+      <translation>Suppléments · déplacement · matériel · remise · TVA</translation>
+    </message>
+    <message id="billing.fixedTotal">
+      <source>Fixed total</source>
+      <translation>Total fixe</translation>
+    </message>
+    <message id="billing.gross">
+      <source>Gross (incl.)</source>
+      <translation>Brut (TTC)</translation>
+    </message>
+    <message id="billing.hourlyRate">
+      <source>Hourly rate</source>
+      <translation>Taux horaire</translation>
+    </message>
+    <message id="billing.hoursPerDay">
+      <source>Hours per day</source>
+      <translation>Heures par jour</translation>
+    </message>
+    <message id="billing.inheriting">
+      <source>Inheriting from project</source>
+      <translation>Hérité du projet</translation>
+    </message>
+    <message id="billing.materials">
+      <source>Materials</source>
+      <translation>Matériel</translation>
+    </message>
+    <message id="billing.minCharge">
+      <source>Minimum charge</source>
+      <translation>Montant minimum</translation>
+    </message>
+    <message id="billing.model.day">
+      <source>Per day</source>
+      <translation>À la journée</translation>
+    </message>
+    <message id="billing.model.fixed">
+      <source>Fixed price</source>
+      <translation>Prix fixe</translation>
+    </message>
+    <message id="billing.model.hour">
+      <source>Per hour</source>
+      <translation>À l’heure</translation>
+    </message>
+    <message id="billing.model.unit">
+      <source>Per unit</source>
+      <translation>À l’unité</translation>
+    </message>
+    <message id="billing.net">
+      <source>Net (excl. VAT)</source>
+      <translation>Net (HT)</translation>
+    </message>
+    <message id="billing.netNote">
+      <source>Net per tracked time, plus the extras above.</source>
+      <translation>Net selon le temps suivi, plus les suppléments ci-dessus.</translation>
+    </message>
+    <message id="billing.pricePerUnit">
+      <source>Price / unit</source>
+      <translation>Prix / unité</translation>
+    </message>
+    <message id="billing.quantity">
+      <source>Quantity</source>
+      <translation>Quantité</translation>
+    </message>
+    <message id="billing.resetProject">
+      <source>Reset to project default</source>
+      <translation>Revenir au prix du projet</translation>
+    </message>
+    <message id="billing.suffix.day">
+      <source>/day</source>
+      <translation>/jour</translation>
+    </message>
+    <message id="billing.suffix.hour">
+      <source>/h</source>
+      <translation>/h</translation>
+    </message>
+    <message id="billing.surcharge">
+      <source>Call-out fee</source>
+      <translation>Frais de déplacement</translation>
+    </message>
+    <message id="billing.title">
+      <source>Billing</source>
+      <translation>Facturation</translation>
+    </message>
+    <message id="billing.unit">
+      <source>Unit</source>
+      <translation>Unité</translation>
+    </message>
+    <message id="billing.unitDefault">
+      <source>unit</source>
+      <translation>unité</translation>
+    </message>
+    <message id="billing.vat">
+      <source>VAT</source>
+      <translation>TVA</translation>
+    </message>
+    <message id="billing.vatAmount">
+      <source>VAT</source>
+      <translation>TVA</translation>
+    </message>
+    <message id="billing.vatNone">
+      <source>No VAT</source>
+      <translation>Pas de TVA</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>La commande à exécuter ; sans commande, la liste des commandes s’affiche.</translation>
@@ -551,6 +667,10 @@
       <source>Not signed in.</source>
       <translation>Non connecté.</translation>
     </message>
+    <message id="task.custom">
+      <source>Custom for this task</source>
+      <translation>Prix propre à cette tâche</translation>
+    </message>
     <message id="task.err.notCreated">
       <source>The task was not created: you may not add tasks to this project.</source>
       <translation>La tâche n’a pas été créée : vous ne pouvez pas ajouter de tâches à ce projet.</translation>
@@ -559,6 +679,18 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>La tâche n’a pas été modifiée : vous n’avez pas le droit de la modifier, ou elle n’existe plus.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Hérité de %1</translation>
+    </message>
+    <message id="task.savePrice">
+      <source>Save task price</source>
+      <translation>Enregistrer le prix de la tâche</translation>
+    </message>
+    <message id="task.useProject">
+      <source>Use project price</source>
+      <translation>Utiliser le prix du projet</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>L’équipe n’a pas été créée. Réessayez.</translation>
@@ -566,6 +698,14 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Vos équipes n’ont pas pu être chargées.</translation>
+    </message>
+    <message id="time.hoursMinutes">
+      <source>%1h %2m</source>
+      <translation>%1 h %2 min</translation>
+    </message>
+    <message id="time.minutes">
+      <source>%1m</source>
+      <translation>%1 min</translation>
     </message>
     <message id="timer.err.notStopped">
       <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>

@@ -47,6 +47,122 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Hai effettuato l’accesso a Morvane. Puoi chiudere questa finestra.</translation>
     </message>
+    <message id="billing.dayNote">
+      <source>Tracked time ÷ hours-per-day = billable days.</source>
+      <translation>Tempo registrato ÷ ore al giorno = giorni fatturabili.</translation>
+    </message>
+    <message id="billing.dayRate">
+      <source>Day rate</source>
+      <translation>Tariffa giornaliera</translation>
+    </message>
+    <message id="billing.discount">
+      <source>Discount</source>
+      <translation>Sconto</translation>
+    </message>
+    <message id="billing.extras">
+      <source>Extras · call-out · materials · discount · VAT</source>
+      <translation>Extra · uscita · materiali · sconto · IVA</translation>
+    </message>
+    <message id="billing.fixedTotal">
+      <source>Fixed total</source>
+      <translation>Totale fisso</translation>
+    </message>
+    <message id="billing.gross">
+      <source>Gross (incl.)</source>
+      <translation>Lordo (IVA incl.)</translation>
+    </message>
+    <message id="billing.hourlyRate">
+      <source>Hourly rate</source>
+      <translation>Tariffa oraria</translation>
+    </message>
+    <message id="billing.hoursPerDay">
+      <source>Hours per day</source>
+      <translation>Ore al giorno</translation>
+    </message>
+    <message id="billing.inheriting">
+      <source>Inheriting from project</source>
+      <translation>Ereditato dal progetto</translation>
+    </message>
+    <message id="billing.materials">
+      <source>Materials</source>
+      <translation>Materiali</translation>
+    </message>
+    <message id="billing.minCharge">
+      <source>Minimum charge</source>
+      <translation>Importo minimo</translation>
+    </message>
+    <message id="billing.model.day">
+      <source>Per day</source>
+      <translation>A giornata</translation>
+    </message>
+    <message id="billing.model.fixed">
+      <source>Fixed price</source>
+      <translation>Prezzo fisso</translation>
+    </message>
+    <message id="billing.model.hour">
+      <source>Per hour</source>
+      <translation>All’ora</translation>
+    </message>
+    <message id="billing.model.unit">
+      <source>Per unit</source>
+      <translation>A unità</translation>
+    </message>
+    <message id="billing.net">
+      <source>Net (excl. VAT)</source>
+      <translation>Netto (IVA escl.)</translation>
+    </message>
+    <message id="billing.netNote">
+      <source>Net per tracked time, plus the extras above.</source>
+      <translation>Netto in base al tempo registrato, più gli extra sopra.</translation>
+    </message>
+    <message id="billing.pricePerUnit">
+      <source>Price / unit</source>
+      <translation>Prezzo / unità</translation>
+    </message>
+    <message id="billing.quantity">
+      <source>Quantity</source>
+      <translation>Quantità</translation>
+    </message>
+    <message id="billing.resetProject">
+      <source>Reset to project default</source>
+      <translation>Ripristina il prezzo del progetto</translation>
+    </message>
+    <message id="billing.suffix.day">
+      <source>/day</source>
+      <translation>/giorno</translation>
+    </message>
+    <message id="billing.suffix.hour">
+      <source>/h</source>
+      <translation>/h</translation>
+    </message>
+    <message id="billing.surcharge">
+      <source>Call-out fee</source>
+      <translation>Diritto di chiamata</translation>
+    </message>
+    <message id="billing.title">
+      <source>Billing</source>
+      <translation>Fatturazione</translation>
+    </message>
+    <message id="billing.unit">
+      <source>Unit</source>
+      <translation>Unità</translation>
+    </message>
+    <message id="billing.unitDefault">
+      <source>unit</source>
+      <translation>unità</translation>
+    </message>
+    <message id="billing.vat">
+      <source>VAT</source>
+      <translation>IVA</translation>
+    </message>
+    <message id="billing.vatAmount">
+      <source>VAT</source>
+      <translation>IVA</translation>
+    </message>
+    <message id="billing.vatNone">
+      <source>No VAT</source>
+      <translation>Senza IVA</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Il comando da eseguire; senza comando viene mostrato l’elenco dei comandi.</translation>
@@ -551,6 +667,10 @@
       <source>Not signed in.</source>
       <translation>Accesso non effettuato.</translation>
     </message>
+    <message id="task.custom">
+      <source>Custom for this task</source>
+      <translation>Prezzo proprio per questa attività</translation>
+    </message>
     <message id="task.err.notCreated">
       <source>The task was not created: you may not add tasks to this project.</source>
       <translation>L’attività non è stata creata: non puoi aggiungere attività a questo progetto.</translation>
@@ -559,6 +679,18 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>L’attività non è stata modificata: non puoi modificarla, oppure non esiste più.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Ereditato da %1</translation>
+    </message>
+    <message id="task.savePrice">
+      <source>Save task price</source>
+      <translation>Salva il prezzo dell’attività</translation>
+    </message>
+    <message id="task.useProject">
+      <source>Use project price</source>
+      <translation>Usa il prezzo del progetto</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>Il team non è stato creato. Riprova.</translation>
@@ -566,6 +698,14 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Non è stato possibile caricare i tuoi team.</translation>
+    </message>
+    <message id="time.hoursMinutes">
+      <source>%1h %2m</source>
+      <translation>%1 h %2 min</translation>
+    </message>
+    <message id="time.minutes">
+      <source>%1m</source>
+      <translation>%1 min</translation>
     </message>
     <message id="timer.err.notStopped">
       <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>

@@ -47,6 +47,122 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Morvane にサインインしました。このウィンドウは閉じてかまいません。</translation>
     </message>
+    <message id="billing.dayNote">
+      <source>Tracked time ÷ hours-per-day = billable days.</source>
+      <translation>記録時間 ÷ 1日の時間数 = 請求日数。</translation>
+    </message>
+    <message id="billing.dayRate">
+      <source>Day rate</source>
+      <translation>日額</translation>
+    </message>
+    <message id="billing.discount">
+      <source>Discount</source>
+      <translation>割引</translation>
+    </message>
+    <message id="billing.extras">
+      <source>Extras · call-out · materials · discount · VAT</source>
+      <translation>追加 · 出張費 · 材料費 · 割引 · 消費税</translation>
+    </message>
+    <message id="billing.fixedTotal">
+      <source>Fixed total</source>
+      <translation>固定合計</translation>
+    </message>
+    <message id="billing.gross">
+      <source>Gross (incl.)</source>
+      <translation>税込</translation>
+    </message>
+    <message id="billing.hourlyRate">
+      <source>Hourly rate</source>
+      <translation>時間単価</translation>
+    </message>
+    <message id="billing.hoursPerDay">
+      <source>Hours per day</source>
+      <translation>1日の時間数</translation>
+    </message>
+    <message id="billing.inheriting">
+      <source>Inheriting from project</source>
+      <translation>プロジェクトから継承</translation>
+    </message>
+    <message id="billing.materials">
+      <source>Materials</source>
+      <translation>材料費</translation>
+    </message>
+    <message id="billing.minCharge">
+      <source>Minimum charge</source>
+      <translation>最低料金</translation>
+    </message>
+    <message id="billing.model.day">
+      <source>Per day</source>
+      <translation>日単位</translation>
+    </message>
+    <message id="billing.model.fixed">
+      <source>Fixed price</source>
+      <translation>固定価格</translation>
+    </message>
+    <message id="billing.model.hour">
+      <source>Per hour</source>
+      <translation>時間単位</translation>
+    </message>
+    <message id="billing.model.unit">
+      <source>Per unit</source>
+      <translation>単位ごと</translation>
+    </message>
+    <message id="billing.net">
+      <source>Net (excl. VAT)</source>
+      <translation>税抜</translation>
+    </message>
+    <message id="billing.netNote">
+      <source>Net per tracked time, plus the extras above.</source>
+      <translation>記録時間に基づく税抜額に、上記の追加分を加えたもの。</translation>
+    </message>
+    <message id="billing.pricePerUnit">
+      <source>Price / unit</source>
+      <translation>単価</translation>
+    </message>
+    <message id="billing.quantity">
+      <source>Quantity</source>
+      <translation>数量</translation>
+    </message>
+    <message id="billing.resetProject">
+      <source>Reset to project default</source>
+      <translation>プロジェクトの既定に戻す</translation>
+    </message>
+    <message id="billing.suffix.day">
+      <source>/day</source>
+      <translation>/日</translation>
+    </message>
+    <message id="billing.suffix.hour">
+      <source>/h</source>
+      <translation>/時間</translation>
+    </message>
+    <message id="billing.surcharge">
+      <source>Call-out fee</source>
+      <translation>出張費</translation>
+    </message>
+    <message id="billing.title">
+      <source>Billing</source>
+      <translation>請求</translation>
+    </message>
+    <message id="billing.unit">
+      <source>Unit</source>
+      <translation>単位</translation>
+    </message>
+    <message id="billing.unitDefault">
+      <source>unit</source>
+      <translation>単位</translation>
+    </message>
+    <message id="billing.vat">
+      <source>VAT</source>
+      <translation>消費税</translation>
+    </message>
+    <message id="billing.vatAmount">
+      <source>VAT</source>
+      <translation>消費税</translation>
+    </message>
+    <message id="billing.vatNone">
+      <source>No VAT</source>
+      <translation>消費税なし</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>実行するコマンド。省略するとコマンド一覧を表示します。</translation>
@@ -551,6 +667,10 @@
       <source>Not signed in.</source>
       <translation>サインインしていません。</translation>
     </message>
+    <message id="task.custom">
+      <source>Custom for this task</source>
+      <translation>このタスク専用</translation>
+    </message>
     <message id="task.err.notCreated">
       <source>The task was not created: you may not add tasks to this project.</source>
       <translation>タスクは作成されませんでした。このプロジェクトにタスクを追加する権限がありません。</translation>
@@ -559,6 +679,18 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>タスクは変更されませんでした。編集する権限がないか、タスクがすでに存在しません。</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>%1 から継承</translation>
+    </message>
+    <message id="task.savePrice">
+      <source>Save task price</source>
+      <translation>タスクの価格を保存</translation>
+    </message>
+    <message id="task.useProject">
+      <source>Use project price</source>
+      <translation>プロジェクトの価格を使う</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>チームを作成できませんでした。もう一度お試しください。</translation>
@@ -566,6 +698,14 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>チームを読み込めませんでした。</translation>
+    </message>
+    <message id="time.hoursMinutes">
+      <source>%1h %2m</source>
+      <translation>%1時間%2分</translation>
+    </message>
+    <message id="time.minutes">
+      <source>%1m</source>
+      <translation>%1分</translation>
     </message>
     <message id="timer.err.notStopped">
       <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>

@@ -47,6 +47,122 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Je bent ingelogd bij Morvane. Je kunt dit venster sluiten.</translation>
     </message>
+    <message id="billing.dayNote">
+      <source>Tracked time ÷ hours-per-day = billable days.</source>
+      <translation>Geregistreerde tijd ÷ uren per dag = factureerbare dagen.</translation>
+    </message>
+    <message id="billing.dayRate">
+      <source>Day rate</source>
+      <translation>Dagtarief</translation>
+    </message>
+    <message id="billing.discount">
+      <source>Discount</source>
+      <translation>Korting</translation>
+    </message>
+    <message id="billing.extras">
+      <source>Extras · call-out · materials · discount · VAT</source>
+      <translation>Extra’s · voorrijkosten · materiaal · korting · btw</translation>
+    </message>
+    <message id="billing.fixedTotal">
+      <source>Fixed total</source>
+      <translation>Vast totaal</translation>
+    </message>
+    <message id="billing.gross">
+      <source>Gross (incl.)</source>
+      <translation>Bruto (incl.)</translation>
+    </message>
+    <message id="billing.hourlyRate">
+      <source>Hourly rate</source>
+      <translation>Uurtarief</translation>
+    </message>
+    <message id="billing.hoursPerDay">
+      <source>Hours per day</source>
+      <translation>Uren per dag</translation>
+    </message>
+    <message id="billing.inheriting">
+      <source>Inheriting from project</source>
+      <translation>Overgenomen van project</translation>
+    </message>
+    <message id="billing.materials">
+      <source>Materials</source>
+      <translation>Materiaal</translation>
+    </message>
+    <message id="billing.minCharge">
+      <source>Minimum charge</source>
+      <translation>Minimumbedrag</translation>
+    </message>
+    <message id="billing.model.day">
+      <source>Per day</source>
+      <translation>Per dag</translation>
+    </message>
+    <message id="billing.model.fixed">
+      <source>Fixed price</source>
+      <translation>Vaste prijs</translation>
+    </message>
+    <message id="billing.model.hour">
+      <source>Per hour</source>
+      <translation>Per uur</translation>
+    </message>
+    <message id="billing.model.unit">
+      <source>Per unit</source>
+      <translation>Per eenheid</translation>
+    </message>
+    <message id="billing.net">
+      <source>Net (excl. VAT)</source>
+      <translation>Netto (excl. btw)</translation>
+    </message>
+    <message id="billing.netNote">
+      <source>Net per tracked time, plus the extras above.</source>
+      <translation>Netto volgens geregistreerde tijd, plus de extra’s hierboven.</translation>
+    </message>
+    <message id="billing.pricePerUnit">
+      <source>Price / unit</source>
+      <translation>Prijs / eenheid</translation>
+    </message>
+    <message id="billing.quantity">
+      <source>Quantity</source>
+      <translation>Aantal</translation>
+    </message>
+    <message id="billing.resetProject">
+      <source>Reset to project default</source>
+      <translation>Terug naar projectprijs</translation>
+    </message>
+    <message id="billing.suffix.day">
+      <source>/day</source>
+      <translation>/dag</translation>
+    </message>
+    <message id="billing.suffix.hour">
+      <source>/h</source>
+      <translation>/u</translation>
+    </message>
+    <message id="billing.surcharge">
+      <source>Call-out fee</source>
+      <translation>Voorrijkosten</translation>
+    </message>
+    <message id="billing.title">
+      <source>Billing</source>
+      <translation>Facturering</translation>
+    </message>
+    <message id="billing.unit">
+      <source>Unit</source>
+      <translation>Eenheid</translation>
+    </message>
+    <message id="billing.unitDefault">
+      <source>unit</source>
+      <translation>eenheid</translation>
+    </message>
+    <message id="billing.vat">
+      <source>VAT</source>
+      <translation>Btw</translation>
+    </message>
+    <message id="billing.vatAmount">
+      <source>VAT</source>
+      <translation>Btw</translation>
+    </message>
+    <message id="billing.vatNone">
+      <source>No VAT</source>
+      <translation>Geen btw</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>De uit te voeren opdracht; zonder opdracht verschijnt de lijst met opdrachten.</translation>
@@ -551,6 +667,10 @@
       <source>Not signed in.</source>
       <translation>Niet ingelogd.</translation>
     </message>
+    <message id="task.custom">
+      <source>Custom for this task</source>
+      <translation>Eigen prijs voor deze taak</translation>
+    </message>
     <message id="task.err.notCreated">
       <source>The task was not created: you may not add tasks to this project.</source>
       <translation>De taak is niet aangemaakt: je mag geen taken aan dit project toevoegen.</translation>
@@ -559,6 +679,18 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>De taak is niet gewijzigd: je mag deze niet bewerken, of ze bestaat niet meer.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Overgenomen van %1</translation>
+    </message>
+    <message id="task.savePrice">
+      <source>Save task price</source>
+      <translation>Taakprijs opslaan</translation>
+    </message>
+    <message id="task.useProject">
+      <source>Use project price</source>
+      <translation>Projectprijs gebruiken</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>Het team is niet aangemaakt. Probeer het opnieuw.</translation>
@@ -566,6 +698,14 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Je teams konden niet worden geladen.</translation>
+    </message>
+    <message id="time.hoursMinutes">
+      <source>%1h %2m</source>
+      <translation>%1u %2m</translation>
+    </message>
+    <message id="time.minutes">
+      <source>%1m</source>
+      <translation>%1m</translation>
     </message>
     <message id="timer.err.notStopped">
       <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>

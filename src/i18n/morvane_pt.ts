@@ -47,6 +47,122 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Você entrou no Morvane. Pode fechar esta janela.</translation>
     </message>
+    <message id="billing.dayNote">
+      <source>Tracked time ÷ hours-per-day = billable days.</source>
+      <translation>Tempo registrado ÷ horas por dia = dias faturáveis.</translation>
+    </message>
+    <message id="billing.dayRate">
+      <source>Day rate</source>
+      <translation>Valor da diária</translation>
+    </message>
+    <message id="billing.discount">
+      <source>Discount</source>
+      <translation>Desconto</translation>
+    </message>
+    <message id="billing.extras">
+      <source>Extras · call-out · materials · discount · VAT</source>
+      <translation>Extras · deslocamento · materiais · desconto · impostos</translation>
+    </message>
+    <message id="billing.fixedTotal">
+      <source>Fixed total</source>
+      <translation>Total fixo</translation>
+    </message>
+    <message id="billing.gross">
+      <source>Gross (incl.)</source>
+      <translation>Bruto (com impostos)</translation>
+    </message>
+    <message id="billing.hourlyRate">
+      <source>Hourly rate</source>
+      <translation>Valor por hora</translation>
+    </message>
+    <message id="billing.hoursPerDay">
+      <source>Hours per day</source>
+      <translation>Horas por dia</translation>
+    </message>
+    <message id="billing.inheriting">
+      <source>Inheriting from project</source>
+      <translation>Herdado do projeto</translation>
+    </message>
+    <message id="billing.materials">
+      <source>Materials</source>
+      <translation>Materiais</translation>
+    </message>
+    <message id="billing.minCharge">
+      <source>Minimum charge</source>
+      <translation>Valor mínimo</translation>
+    </message>
+    <message id="billing.model.day">
+      <source>Per day</source>
+      <translation>Por dia</translation>
+    </message>
+    <message id="billing.model.fixed">
+      <source>Fixed price</source>
+      <translation>Preço fixo</translation>
+    </message>
+    <message id="billing.model.hour">
+      <source>Per hour</source>
+      <translation>Por hora</translation>
+    </message>
+    <message id="billing.model.unit">
+      <source>Per unit</source>
+      <translation>Por unidade</translation>
+    </message>
+    <message id="billing.net">
+      <source>Net (excl. VAT)</source>
+      <translation>Líquido (sem impostos)</translation>
+    </message>
+    <message id="billing.netNote">
+      <source>Net per tracked time, plus the extras above.</source>
+      <translation>Líquido pelo tempo registrado, mais os extras acima.</translation>
+    </message>
+    <message id="billing.pricePerUnit">
+      <source>Price / unit</source>
+      <translation>Preço / unidade</translation>
+    </message>
+    <message id="billing.quantity">
+      <source>Quantity</source>
+      <translation>Quantidade</translation>
+    </message>
+    <message id="billing.resetProject">
+      <source>Reset to project default</source>
+      <translation>Voltar ao preço do projeto</translation>
+    </message>
+    <message id="billing.suffix.day">
+      <source>/day</source>
+      <translation>/dia</translation>
+    </message>
+    <message id="billing.suffix.hour">
+      <source>/h</source>
+      <translation>/h</translation>
+    </message>
+    <message id="billing.surcharge">
+      <source>Call-out fee</source>
+      <translation>Taxa de deslocamento</translation>
+    </message>
+    <message id="billing.title">
+      <source>Billing</source>
+      <translation>Cobrança</translation>
+    </message>
+    <message id="billing.unit">
+      <source>Unit</source>
+      <translation>Unidade</translation>
+    </message>
+    <message id="billing.unitDefault">
+      <source>unit</source>
+      <translation>unidade</translation>
+    </message>
+    <message id="billing.vat">
+      <source>VAT</source>
+      <translation>Impostos</translation>
+    </message>
+    <message id="billing.vatAmount">
+      <source>VAT</source>
+      <translation>Impostos</translation>
+    </message>
+    <message id="billing.vatNone">
+      <source>No VAT</source>
+      <translation>Sem impostos</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>O comando a executar; sem ele, a lista de comandos é mostrada.</translation>
@@ -551,6 +667,10 @@
       <source>Not signed in.</source>
       <translation>Sessão não iniciada.</translation>
     </message>
+    <message id="task.custom">
+      <source>Custom for this task</source>
+      <translation>Preço próprio para esta tarefa</translation>
+    </message>
     <message id="task.err.notCreated">
       <source>The task was not created: you may not add tasks to this project.</source>
       <translation>A tarefa não foi criada: você não pode adicionar tarefas a este projeto.</translation>
@@ -559,6 +679,18 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>A tarefa não foi alterada: você não pode editá-la ou ela não existe mais.</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>Herdado de %1</translation>
+    </message>
+    <message id="task.savePrice">
+      <source>Save task price</source>
+      <translation>Salvar o preço da tarefa</translation>
+    </message>
+    <message id="task.useProject">
+      <source>Use project price</source>
+      <translation>Usar o preço do projeto</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>A equipe não foi criada. Tente de novo.</translation>
@@ -566,6 +698,14 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>Não foi possível carregar suas equipes.</translation>
+    </message>
+    <message id="time.hoursMinutes">
+      <source>%1h %2m</source>
+      <translation>%1 h %2 min</translation>
+    </message>
+    <message id="time.minutes">
+      <source>%1m</source>
+      <translation>%1 min</translation>
     </message>
     <message id="timer.err.notStopped">
       <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>

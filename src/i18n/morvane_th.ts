@@ -47,6 +47,122 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>คุณลงชื่อเข้าใช้ Morvane แล้ว ปิดหน้าต่างนี้ได้เลย</translation>
     </message>
+    <message id="billing.dayNote">
+      <source>Tracked time ÷ hours-per-day = billable days.</source>
+      <translation>เวลาที่บันทึก ÷ ชั่วโมงต่อวัน = จำนวนวันที่เรียกเก็บได้</translation>
+    </message>
+    <message id="billing.dayRate">
+      <source>Day rate</source>
+      <translation>อัตรารายวัน</translation>
+    </message>
+    <message id="billing.discount">
+      <source>Discount</source>
+      <translation>ส่วนลด</translation>
+    </message>
+    <message id="billing.extras">
+      <source>Extras · call-out · materials · discount · VAT</source>
+      <translation>รายการเพิ่มเติม · ค่าเดินทาง · ค่าวัสดุ · ส่วนลด · VAT</translation>
+    </message>
+    <message id="billing.fixedTotal">
+      <source>Fixed total</source>
+      <translation>ยอดรวมคงที่</translation>
+    </message>
+    <message id="billing.gross">
+      <source>Gross (incl.)</source>
+      <translation>รวม (รวม VAT)</translation>
+    </message>
+    <message id="billing.hourlyRate">
+      <source>Hourly rate</source>
+      <translation>อัตรารายชั่วโมง</translation>
+    </message>
+    <message id="billing.hoursPerDay">
+      <source>Hours per day</source>
+      <translation>ชั่วโมงต่อวัน</translation>
+    </message>
+    <message id="billing.inheriting">
+      <source>Inheriting from project</source>
+      <translation>ใช้ตามโปรเจกต์</translation>
+    </message>
+    <message id="billing.materials">
+      <source>Materials</source>
+      <translation>ค่าวัสดุ</translation>
+    </message>
+    <message id="billing.minCharge">
+      <source>Minimum charge</source>
+      <translation>ค่าบริการขั้นต่ำ</translation>
+    </message>
+    <message id="billing.model.day">
+      <source>Per day</source>
+      <translation>รายวัน</translation>
+    </message>
+    <message id="billing.model.fixed">
+      <source>Fixed price</source>
+      <translation>ราคาเหมา</translation>
+    </message>
+    <message id="billing.model.hour">
+      <source>Per hour</source>
+      <translation>รายชั่วโมง</translation>
+    </message>
+    <message id="billing.model.unit">
+      <source>Per unit</source>
+      <translation>ต่อหน่วย</translation>
+    </message>
+    <message id="billing.net">
+      <source>Net (excl. VAT)</source>
+      <translation>สุทธิ (ไม่รวม VAT)</translation>
+    </message>
+    <message id="billing.netNote">
+      <source>Net per tracked time, plus the extras above.</source>
+      <translation>ยอดสุทธิตามเวลาที่บันทึก รวมรายการเพิ่มเติมด้านบน</translation>
+    </message>
+    <message id="billing.pricePerUnit">
+      <source>Price / unit</source>
+      <translation>ราคา / หน่วย</translation>
+    </message>
+    <message id="billing.quantity">
+      <source>Quantity</source>
+      <translation>จำนวน</translation>
+    </message>
+    <message id="billing.resetProject">
+      <source>Reset to project default</source>
+      <translation>กลับไปใช้ค่าเริ่มต้นของโปรเจกต์</translation>
+    </message>
+    <message id="billing.suffix.day">
+      <source>/day</source>
+      <translation>/วัน</translation>
+    </message>
+    <message id="billing.suffix.hour">
+      <source>/h</source>
+      <translation>/ชม.</translation>
+    </message>
+    <message id="billing.surcharge">
+      <source>Call-out fee</source>
+      <translation>ค่าเดินทาง</translation>
+    </message>
+    <message id="billing.title">
+      <source>Billing</source>
+      <translation>การเรียกเก็บเงิน</translation>
+    </message>
+    <message id="billing.unit">
+      <source>Unit</source>
+      <translation>หน่วย</translation>
+    </message>
+    <message id="billing.unitDefault">
+      <source>unit</source>
+      <translation>หน่วย</translation>
+    </message>
+    <message id="billing.vat">
+      <source>VAT</source>
+      <translation>VAT</translation>
+    </message>
+    <message id="billing.vatAmount">
+      <source>VAT</source>
+      <translation>VAT</translation>
+    </message>
+    <message id="billing.vatNone">
+      <source>No VAT</source>
+      <translation>ไม่มี VAT</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>คำสั่งที่จะเรียกใช้ หากไม่ระบุจะแสดงรายการคำสั่ง</translation>
@@ -551,6 +667,10 @@
       <source>Not signed in.</source>
       <translation>ยังไม่ได้ลงชื่อเข้าใช้</translation>
     </message>
+    <message id="task.custom">
+      <source>Custom for this task</source>
+      <translation>กำหนดเองสำหรับงานนี้</translation>
+    </message>
     <message id="task.err.notCreated">
       <source>The task was not created: you may not add tasks to this project.</source>
       <translation>ไม่ได้สร้างงาน: คุณไม่มีสิทธิ์เพิ่มงานในโปรเจกต์นี้</translation>
@@ -559,6 +679,18 @@
       <source>The task was not changed: you may not edit it, or it no longer exists.</source>
       <translation>ไม่ได้เปลี่ยนงาน: คุณไม่มีสิทธิ์แก้ไข หรืองานนี้ไม่มีอยู่แล้ว</translation>
     </message>
+    <message id="task.inheritedFrom">
+      <source>Inherited from %1</source>
+      <translation>ใช้ตาม %1</translation>
+    </message>
+    <message id="task.savePrice">
+      <source>Save task price</source>
+      <translation>บันทึกราคางาน</translation>
+    </message>
+    <message id="task.useProject">
+      <source>Use project price</source>
+      <translation>ใช้ราคาของโปรเจกต์</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>สร้างทีมไม่ได้ โปรดลองอีกครั้ง</translation>
@@ -566,6 +698,14 @@
     <message id="team.err.notLoaded">
       <source>Your teams could not be loaded.</source>
       <translation>โหลดทีมของคุณไม่ได้</translation>
+    </message>
+    <message id="time.hoursMinutes">
+      <source>%1h %2m</source>
+      <translation>%1 ชม. %2 นาที</translation>
+    </message>
+    <message id="time.minutes">
+      <source>%1m</source>
+      <translation>%1 นาที</translation>
     </message>
     <message id="timer.err.notStopped">
       <source>The time could not be logged, so the timer keeps running. Try stopping it again.</source>
