@@ -67,6 +67,10 @@ private slots:
         QVERIFY(m_laptop);
         m_desktop = StoreDevice::signIn(m_backend, u"tim@example.nl"_s);
         QVERIFY(m_desktop);
+        // One whole-second instant on both: a start is written to the second.
+        const QDateTime now = QDateTime::fromSecsSinceEpoch(QDateTime::currentSecsSinceEpoch(), Qt::UTC);
+        m_laptop->now = now;
+        m_desktop->now = now;
         QVERIFY(m_laptop->refresh());
         ProjectInsert draft;
         draft.name = u"Timekeeping"_s;
@@ -211,6 +215,8 @@ private slots:
         QCOMPARE(entryCount(task), "1");
         const QByteArray total = sql("SELECT time_spent_seconds || '|' || status FROM tasks WHERE id = $1", task.toUtf8());
         QVERIFY2(total == "300|not_started" || total == "301|not_started", total.constData());
+        QCOMPARE(sql("SELECT sum(duration_seconds)::text FROM time_entries WHERE task_id = $1", task.toUtf8()),
+                 total.left(3));
         m_laptop->now = m_desktop->now;
     }
 
