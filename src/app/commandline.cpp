@@ -103,6 +103,14 @@ QList<Command> commands()
         {u"tasks"_s, [] { return qtTrId("cli.command.tasks"); }, runTasksCommand},
         //% "Teams and their members: teams list|create|invite|assign"
         {u"teams"_s, [] { return qtTrId("cli.command.teams"); }, runTeamsCommand},
+        //% "Start, stop or show the timer: timer start|stop|status"
+        {u"timer"_s, [] { return qtTrId("cli.command.timer"); }, runTimerCommand},
+        //% "Log minutes of work on a task: log <task> <minutes>"
+        {u"log"_s, [] { return qtTrId("cli.command.log"); }, runLogCommand},
+        //% "List, edit or delete time entries: entries [--task T] | edit | rm"
+        {u"entries"_s, [] { return qtTrId("cli.command.entries"); }, runEntriesCommand},
+        //% "Show or set the price of a project or task: price show|set"
+        {u"price"_s, [] { return qtTrId("cli.command.price"); }, runPriceCommand},
     };
 }
 

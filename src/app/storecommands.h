@@ -9,3 +9,7 @@ class QTextStream;
 int runProjectsCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
 int runTasksCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
 int runTeamsCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
+int runTimerCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
+int runLogCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
+int runEntriesCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
+int runPriceCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);

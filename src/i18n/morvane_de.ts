@@ -215,6 +215,18 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Zeigt, welches Backend Morvane nutzt und woher jede Einstellung stammt</translation>
     </message>
+    <message id="cli.command.entries">
+      <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
+      <translation>Zeiteinträge anzeigen, bearbeiten oder löschen: entries [--task T] | edit | rm</translation>
+    </message>
+    <message id="cli.command.log">
+      <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
+      <translation>Arbeitsminuten für eine Aufgabe erfassen: log &lt;task&gt; &lt;minutes&gt;</translation>
+    </message>
+    <message id="cli.command.price">
+      <source>Show or set the price of a project or task: price show|set</source>
+      <translation>Preis eines Projekts oder einer Aufgabe anzeigen oder festlegen: price show|set</translation>
+    </message>
     <message id="cli.command.projects">
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>Projekte anzeigen, anlegen, umbenennen, archivieren oder löschen: projects list|add|rename|archive|rm</translation>
@@ -230,6 +242,10 @@
     <message id="cli.command.teams">
       <source>Teams and their members: teams list|create|invite|assign</source>
       <translation>Teams und ihre Mitglieder: teams list|create|invite|assign</translation>
+    </message>
+    <message id="cli.command.timer">
+      <source>Start, stop or show the timer: timer start|stop|status</source>
+      <translation>Timer starten, stoppen oder anzeigen: timer start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -255,6 +271,46 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane erfasst Arbeitszeit für Projekte und Aufgaben und macht daraus Rechnungen.</translation>
     </message>
+    <message id="cli.entries.badRange">
+      <source>An entry must end after it starts.</source>
+      <translation>Ein Eintrag muss nach seinem Beginn enden.</translation>
+    </message>
+    <message id="cli.entries.deleted">
+      <source>Deleted the entry of %1.</source>
+      <translation>Der Eintrag über %1 wurde gelöscht.</translation>
+    </message>
+    <message id="cli.entries.noMatch">
+      <source>No single time entry matches "%1". List them with: morvane entries --task &lt;task&gt;</source>
+      <translation>Kein einzelner Zeiteintrag passt auf "%1". Zeige sie mit: morvane entries --task &lt;task&gt;</translation>
+    </message>
+    <message id="cli.entries.none">
+      <source>No time entries.</source>
+      <translation>Keine Zeiteinträge.</translation>
+    </message>
+    <message id="cli.entries.option.end">
+      <source>The new end (ISO 8601, local time without an offset).</source>
+      <translation>Das neue Ende (ISO 8601, Ortszeit ohne Versatz).</translation>
+    </message>
+    <message id="cli.entries.option.minutes">
+      <source>The new length in minutes.</source>
+      <translation>Die neue Dauer in Minuten.</translation>
+    </message>
+    <message id="cli.entries.option.start">
+      <source>The new start (ISO 8601, local time without an offset).</source>
+      <translation>Der neue Beginn (ISO 8601, Ortszeit ohne Versatz).</translation>
+    </message>
+    <message id="cli.entries.option.task">
+      <source>Only the entries of this task, older ones included.</source>
+      <translation>Nur die Einträge dieser Aufgabe, ältere eingeschlossen.</translation>
+    </message>
+    <message id="cli.entries.total">
+      <source>In all: %1</source>
+      <translation>Insgesamt: %1</translation>
+    </message>
+    <message id="cli.entries.usage">
+      <source>Usage: morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</source>
+      <translation>Aufruf: morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</translation>
+    </message>
     <message id="cli.err.noSignInWaiting">
       <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
       <translation>Keine Anmeldung wartet auf diese Adresse. Starte die Anmeldung in Morvane erneut.</translation>
@@ -267,6 +323,14 @@
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Unbekannter Befehl: %1. Mit morvane --help wird die Befehlsliste angezeigt.</translation>
     </message>
+    <message id="cli.log.logged">
+      <source>Logged %1 on %2, %3 in all.</source>
+      <translation>%1 für %2 erfasst, %3 insgesamt.</translation>
+    </message>
+    <message id="cli.log.usage">
+      <source>Usage: morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</source>
+      <translation>Aufruf: morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</translation>
+    </message>
     <message id="cli.option.help">
       <source>Show this help.</source>
       <translation>Diese Hilfe anzeigen.</translation>
@@ -278,6 +342,54 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Die Version anzeigen.</translation>
+    </message>
+    <message id="cli.price.invalid">
+      <source>Not a valid amount, or a required one is missing: %1</source>
+      <translation>Kein gültiger Betrag, oder ein nötiger Betrag fehlt: %1</translation>
+    </message>
+    <message id="cli.price.option.amount">
+      <source>A number as you write it (1250, 1.250,50, 12.5); empty clears it.</source>
+      <translation>Eine Zahl, wie du sie schreibst (1250, 1.250,50, 12.5); leer löscht sie.</translation>
+    </message>
+    <message id="cli.price.option.discountAmount">
+      <source>The discount is an amount.</source>
+      <translation>Der Rabatt ist ein Betrag.</translation>
+    </message>
+    <message id="cli.price.option.discountPct">
+      <source>The discount is a percentage.</source>
+      <translation>Der Rabatt ist ein Prozentsatz.</translation>
+    </message>
+    <message id="cli.price.option.inherit">
+      <source>The task bills at its project's price again.</source>
+      <translation>Die Aufgabe wird wieder zum Preis ihres Projekts abgerechnet.</translation>
+    </message>
+    <message id="cli.price.option.model">
+      <source>The billing model: hourly, fixed, per_unit or daily.</source>
+      <translation>Das Abrechnungsmodell: hourly, fixed, per_unit oder daily.</translation>
+    </message>
+    <message id="cli.price.option.surchargeLabel">
+      <source>Label of the surcharge.</source>
+      <translation>Bezeichnung des Zuschlags.</translation>
+    </message>
+    <message id="cli.price.option.task">
+      <source>The task whose own price to show or set, instead of a project's.</source>
+      <translation>Die Aufgabe, deren eigener Preis angezeigt oder festgelegt wird, statt eines Projekts.</translation>
+    </message>
+    <message id="cli.price.option.unitLabel">
+      <source>Name of the unit of a per-unit price.</source>
+      <translation>Name der Einheit eines Preises pro Einheit.</translation>
+    </message>
+    <message id="cli.price.unchanged">
+      <source>Nothing changed.</source>
+      <translation>Nichts geändert.</translation>
+    </message>
+    <message id="cli.price.usage">
+      <source>Usage: morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</source>
+      <translation>Aufruf: morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</translation>
+    </message>
+    <message id="cli.price.worth">
+      <source>Tracked %1, worth %2.</source>
+      <translation>Erfasst %1, Wert %2.</translation>
     </message>
     <message id="cli.projects.active">
       <source>active</source>
@@ -518,6 +630,26 @@
     <message id="cli.teams.you">
       <source>you: %1</source>
       <translation>du: %1</translation>
+    </message>
+    <message id="cli.timer.idle">
+      <source>No timer runs.</source>
+      <translation>Kein Timer läuft.</translation>
+    </message>
+    <message id="cli.timer.running">
+      <source>%1 (%2): %3 running, %4 in all</source>
+      <translation>%1 (%2): %3 läuft, %4 insgesamt</translation>
+    </message>
+    <message id="cli.timer.started">
+      <source>Timer started on %1.</source>
+      <translation>Timer für %1 gestartet.</translation>
+    </message>
+    <message id="cli.timer.stopped">
+      <source>Stopped %1: %2 logged, %3 in all.</source>
+      <translation>%1 gestoppt: %2 erfasst, %3 insgesamt.</translation>
+    </message>
+    <message id="cli.timer.usage">
+      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</source>
+      <translation>Aufruf: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

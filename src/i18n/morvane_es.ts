@@ -215,6 +215,18 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostrar qué servidor usa Morvane y de dónde viene cada ajuste</translation>
     </message>
+    <message id="cli.command.entries">
+      <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
+      <translation>Listar, editar o eliminar entradas de tiempo: entries [--task T] | edit | rm</translation>
+    </message>
+    <message id="cli.command.log">
+      <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
+      <translation>Registrar minutos de trabajo en una tarea: log &lt;task&gt; &lt;minutes&gt;</translation>
+    </message>
+    <message id="cli.command.price">
+      <source>Show or set the price of a project or task: price show|set</source>
+      <translation>Mostrar o fijar el precio de un proyecto o tarea: price show|set</translation>
+    </message>
     <message id="cli.command.projects">
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>Listar, añadir, renombrar, archivar o eliminar proyectos: projects list|add|rename|archive|rm</translation>
@@ -230,6 +242,10 @@
     <message id="cli.command.teams">
       <source>Teams and their members: teams list|create|invite|assign</source>
       <translation>Equipos y sus miembros: teams list|create|invite|assign</translation>
+    </message>
+    <message id="cli.command.timer">
+      <source>Start, stop or show the timer: timer start|stop|status</source>
+      <translation>Iniciar, detener o mostrar el temporizador: timer start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -255,6 +271,46 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane registra el tiempo de trabajo en proyectos y tareas y lo convierte en facturas.</translation>
     </message>
+    <message id="cli.entries.badRange">
+      <source>An entry must end after it starts.</source>
+      <translation>Una entrada debe terminar después de empezar.</translation>
+    </message>
+    <message id="cli.entries.deleted">
+      <source>Deleted the entry of %1.</source>
+      <translation>Se eliminó la entrada de %1.</translation>
+    </message>
+    <message id="cli.entries.noMatch">
+      <source>No single time entry matches "%1". List them with: morvane entries --task &lt;task&gt;</source>
+      <translation>Ninguna entrada única coincide con "%1". Lístalas con: morvane entries --task &lt;task&gt;</translation>
+    </message>
+    <message id="cli.entries.none">
+      <source>No time entries.</source>
+      <translation>No hay entradas de tiempo.</translation>
+    </message>
+    <message id="cli.entries.option.end">
+      <source>The new end (ISO 8601, local time without an offset).</source>
+      <translation>El nuevo final (ISO 8601, hora local sin desfase).</translation>
+    </message>
+    <message id="cli.entries.option.minutes">
+      <source>The new length in minutes.</source>
+      <translation>La nueva duración en minutos.</translation>
+    </message>
+    <message id="cli.entries.option.start">
+      <source>The new start (ISO 8601, local time without an offset).</source>
+      <translation>El nuevo inicio (ISO 8601, hora local sin desfase).</translation>
+    </message>
+    <message id="cli.entries.option.task">
+      <source>Only the entries of this task, older ones included.</source>
+      <translation>Solo las entradas de esta tarea, incluidas las antiguas.</translation>
+    </message>
+    <message id="cli.entries.total">
+      <source>In all: %1</source>
+      <translation>En total: %1</translation>
+    </message>
+    <message id="cli.entries.usage">
+      <source>Usage: morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</source>
+      <translation>Uso: morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</translation>
+    </message>
     <message id="cli.err.noSignInWaiting">
       <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
       <translation>Ningún inicio de sesión espera esta dirección. Vuelve a iniciar sesión en Morvane.</translation>
@@ -267,6 +323,14 @@
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Comando desconocido: %1. Ejecuta morvane --help para ver la lista de comandos.</translation>
     </message>
+    <message id="cli.log.logged">
+      <source>Logged %1 on %2, %3 in all.</source>
+      <translation>%1 registrado en %2, %3 en total.</translation>
+    </message>
+    <message id="cli.log.usage">
+      <source>Usage: morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</source>
+      <translation>Uso: morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</translation>
+    </message>
     <message id="cli.option.help">
       <source>Show this help.</source>
       <translation>Mostrar esta ayuda.</translation>
@@ -278,6 +342,54 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Mostrar la versión.</translation>
+    </message>
+    <message id="cli.price.invalid">
+      <source>Not a valid amount, or a required one is missing: %1</source>
+      <translation>No es un importe válido, o falta uno obligatorio: %1</translation>
+    </message>
+    <message id="cli.price.option.amount">
+      <source>A number as you write it (1250, 1.250,50, 12.5); empty clears it.</source>
+      <translation>Un número como lo escribes (1250, 1.250,50, 12.5); vacío lo borra.</translation>
+    </message>
+    <message id="cli.price.option.discountAmount">
+      <source>The discount is an amount.</source>
+      <translation>El descuento es un importe.</translation>
+    </message>
+    <message id="cli.price.option.discountPct">
+      <source>The discount is a percentage.</source>
+      <translation>El descuento es un porcentaje.</translation>
+    </message>
+    <message id="cli.price.option.inherit">
+      <source>The task bills at its project's price again.</source>
+      <translation>La tarea vuelve a facturarse al precio de su proyecto.</translation>
+    </message>
+    <message id="cli.price.option.model">
+      <source>The billing model: hourly, fixed, per_unit or daily.</source>
+      <translation>El modelo de facturación: hourly, fixed, per_unit o daily.</translation>
+    </message>
+    <message id="cli.price.option.surchargeLabel">
+      <source>Label of the surcharge.</source>
+      <translation>Etiqueta del recargo.</translation>
+    </message>
+    <message id="cli.price.option.task">
+      <source>The task whose own price to show or set, instead of a project's.</source>
+      <translation>La tarea cuyo precio propio mostrar o fijar, en lugar del de un proyecto.</translation>
+    </message>
+    <message id="cli.price.option.unitLabel">
+      <source>Name of the unit of a per-unit price.</source>
+      <translation>Nombre de la unidad de un precio por unidad.</translation>
+    </message>
+    <message id="cli.price.unchanged">
+      <source>Nothing changed.</source>
+      <translation>No cambió nada.</translation>
+    </message>
+    <message id="cli.price.usage">
+      <source>Usage: morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</source>
+      <translation>Uso: morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</translation>
+    </message>
+    <message id="cli.price.worth">
+      <source>Tracked %1, worth %2.</source>
+      <translation>Registrado %1, valor %2.</translation>
     </message>
     <message id="cli.projects.active">
       <source>active</source>
@@ -518,6 +630,26 @@
     <message id="cli.teams.you">
       <source>you: %1</source>
       <translation>tú: %1</translation>
+    </message>
+    <message id="cli.timer.idle">
+      <source>No timer runs.</source>
+      <translation>No hay ningún temporizador en marcha.</translation>
+    </message>
+    <message id="cli.timer.running">
+      <source>%1 (%2): %3 running, %4 in all</source>
+      <translation>%1 (%2): %3 en marcha, %4 en total</translation>
+    </message>
+    <message id="cli.timer.started">
+      <source>Timer started on %1.</source>
+      <translation>Temporizador iniciado en %1.</translation>
+    </message>
+    <message id="cli.timer.stopped">
+      <source>Stopped %1: %2 logged, %3 in all.</source>
+      <translation>%1 detenido: %2 registrado, %3 en total.</translation>
+    </message>
+    <message id="cli.timer.usage">
+      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</source>
+      <translation>Uso: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -215,6 +215,18 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Afficher le serveur utilisé par Morvane et l’origine de chaque réglage</translation>
     </message>
+    <message id="cli.command.entries">
+      <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
+      <translation>Lister, modifier ou supprimer des entrées de temps : entries [--task T] | edit | rm</translation>
+    </message>
+    <message id="cli.command.log">
+      <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
+      <translation>Saisir des minutes de travail sur une tâche : log &lt;task&gt; &lt;minutes&gt;</translation>
+    </message>
+    <message id="cli.command.price">
+      <source>Show or set the price of a project or task: price show|set</source>
+      <translation>Afficher ou définir le prix d’un projet ou d’une tâche : price show|set</translation>
+    </message>
     <message id="cli.command.projects">
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>Lister, ajouter, renommer, archiver ou supprimer des projets : projects list|add|rename|archive|rm</translation>
@@ -230,6 +242,10 @@
     <message id="cli.command.teams">
       <source>Teams and their members: teams list|create|invite|assign</source>
       <translation>Les équipes et leurs membres : teams list|create|invite|assign</translation>
+    </message>
+    <message id="cli.command.timer">
+      <source>Start, stop or show the timer: timer start|stop|status</source>
+      <translation>Démarrer, arrêter ou afficher le minuteur : timer start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -255,6 +271,46 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane suit le temps de travail sur les projets et les tâches et le transforme en factures.</translation>
     </message>
+    <message id="cli.entries.badRange">
+      <source>An entry must end after it starts.</source>
+      <translation>Une entrée doit se terminer après son début.</translation>
+    </message>
+    <message id="cli.entries.deleted">
+      <source>Deleted the entry of %1.</source>
+      <translation>L’entrée de %1 a été supprimée.</translation>
+    </message>
+    <message id="cli.entries.noMatch">
+      <source>No single time entry matches "%1". List them with: morvane entries --task &lt;task&gt;</source>
+      <translation>Aucune entrée unique ne correspond à « %1 ». Listez-les avec : morvane entries --task &lt;task&gt;</translation>
+    </message>
+    <message id="cli.entries.none">
+      <source>No time entries.</source>
+      <translation>Aucune entrée de temps.</translation>
+    </message>
+    <message id="cli.entries.option.end">
+      <source>The new end (ISO 8601, local time without an offset).</source>
+      <translation>La nouvelle fin (ISO 8601, heure locale sans décalage).</translation>
+    </message>
+    <message id="cli.entries.option.minutes">
+      <source>The new length in minutes.</source>
+      <translation>La nouvelle durée en minutes.</translation>
+    </message>
+    <message id="cli.entries.option.start">
+      <source>The new start (ISO 8601, local time without an offset).</source>
+      <translation>Le nouveau début (ISO 8601, heure locale sans décalage).</translation>
+    </message>
+    <message id="cli.entries.option.task">
+      <source>Only the entries of this task, older ones included.</source>
+      <translation>Seulement les entrées de cette tâche, y compris les plus anciennes.</translation>
+    </message>
+    <message id="cli.entries.total">
+      <source>In all: %1</source>
+      <translation>Au total : %1</translation>
+    </message>
+    <message id="cli.entries.usage">
+      <source>Usage: morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</source>
+      <translation>Utilisation : morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</translation>
+    </message>
     <message id="cli.err.noSignInWaiting">
       <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
       <translation>Aucune connexion n’attend cette adresse. Relancez la connexion dans Morvane.</translation>
@@ -267,6 +323,14 @@
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Commande inconnue : %1. Lancez morvane --help pour la liste des commandes.</translation>
     </message>
+    <message id="cli.log.logged">
+      <source>Logged %1 on %2, %3 in all.</source>
+      <translation>%1 enregistré sur %2, %3 au total.</translation>
+    </message>
+    <message id="cli.log.usage">
+      <source>Usage: morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</source>
+      <translation>Utilisation : morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</translation>
+    </message>
     <message id="cli.option.help">
       <source>Show this help.</source>
       <translation>Afficher cette aide.</translation>
@@ -278,6 +342,54 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Afficher la version.</translation>
+    </message>
+    <message id="cli.price.invalid">
+      <source>Not a valid amount, or a required one is missing: %1</source>
+      <translation>Montant non valide, ou un montant obligatoire manque : %1</translation>
+    </message>
+    <message id="cli.price.option.amount">
+      <source>A number as you write it (1250, 1.250,50, 12.5); empty clears it.</source>
+      <translation>Un nombre tel que vous l’écrivez (1250, 1.250,50, 12.5) ; vide l’efface.</translation>
+    </message>
+    <message id="cli.price.option.discountAmount">
+      <source>The discount is an amount.</source>
+      <translation>La remise est un montant.</translation>
+    </message>
+    <message id="cli.price.option.discountPct">
+      <source>The discount is a percentage.</source>
+      <translation>La remise est un pourcentage.</translation>
+    </message>
+    <message id="cli.price.option.inherit">
+      <source>The task bills at its project's price again.</source>
+      <translation>La tâche est de nouveau facturée au prix de son projet.</translation>
+    </message>
+    <message id="cli.price.option.model">
+      <source>The billing model: hourly, fixed, per_unit or daily.</source>
+      <translation>Le mode de facturation : hourly, fixed, per_unit ou daily.</translation>
+    </message>
+    <message id="cli.price.option.surchargeLabel">
+      <source>Label of the surcharge.</source>
+      <translation>Libellé du supplément.</translation>
+    </message>
+    <message id="cli.price.option.task">
+      <source>The task whose own price to show or set, instead of a project's.</source>
+      <translation>La tâche dont afficher ou définir le prix propre, au lieu de celui d’un projet.</translation>
+    </message>
+    <message id="cli.price.option.unitLabel">
+      <source>Name of the unit of a per-unit price.</source>
+      <translation>Nom de l’unité d’un prix à l’unité.</translation>
+    </message>
+    <message id="cli.price.unchanged">
+      <source>Nothing changed.</source>
+      <translation>Rien n’a changé.</translation>
+    </message>
+    <message id="cli.price.usage">
+      <source>Usage: morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</source>
+      <translation>Utilisation : morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</translation>
+    </message>
+    <message id="cli.price.worth">
+      <source>Tracked %1, worth %2.</source>
+      <translation>Temps suivi %1, valeur %2.</translation>
     </message>
     <message id="cli.projects.active">
       <source>active</source>
@@ -518,6 +630,26 @@
     <message id="cli.teams.you">
       <source>you: %1</source>
       <translation>vous : %1</translation>
+    </message>
+    <message id="cli.timer.idle">
+      <source>No timer runs.</source>
+      <translation>Aucun minuteur en cours.</translation>
+    </message>
+    <message id="cli.timer.running">
+      <source>%1 (%2): %3 running, %4 in all</source>
+      <translation>%1 (%2) : %3 en cours, %4 au total</translation>
+    </message>
+    <message id="cli.timer.started">
+      <source>Timer started on %1.</source>
+      <translation>Minuteur démarré sur %1.</translation>
+    </message>
+    <message id="cli.timer.stopped">
+      <source>Stopped %1: %2 logged, %3 in all.</source>
+      <translation>%1 arrêté : %2 enregistré, %3 au total.</translation>
+    </message>
+    <message id="cli.timer.usage">
+      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</source>
+      <translation>Utilisation : morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -215,6 +215,18 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostra quale server usa Morvane e da dove proviene ogni impostazione</translation>
     </message>
+    <message id="cli.command.entries">
+      <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
+      <translation>Elencare, modificare o eliminare voci di tempo: entries [--task T] | edit | rm</translation>
+    </message>
+    <message id="cli.command.log">
+      <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
+      <translation>Registrare minuti di lavoro su un’attività: log &lt;task&gt; &lt;minutes&gt;</translation>
+    </message>
+    <message id="cli.command.price">
+      <source>Show or set the price of a project or task: price show|set</source>
+      <translation>Mostrare o impostare il prezzo di un progetto o di un’attività: price show|set</translation>
+    </message>
     <message id="cli.command.projects">
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>Elencare, aggiungere, rinominare, archiviare o eliminare progetti: projects list|add|rename|archive|rm</translation>
@@ -230,6 +242,10 @@
     <message id="cli.command.teams">
       <source>Teams and their members: teams list|create|invite|assign</source>
       <translation>I team e i loro membri: teams list|create|invite|assign</translation>
+    </message>
+    <message id="cli.command.timer">
+      <source>Start, stop or show the timer: timer start|stop|status</source>
+      <translation>Avviare, fermare o mostrare il timer: timer start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -255,6 +271,46 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane registra il tempo di lavoro su progetti e attività e lo trasforma in fatture.</translation>
     </message>
+    <message id="cli.entries.badRange">
+      <source>An entry must end after it starts.</source>
+      <translation>Una voce deve terminare dopo l’inizio.</translation>
+    </message>
+    <message id="cli.entries.deleted">
+      <source>Deleted the entry of %1.</source>
+      <translation>La voce di %1 è stata eliminata.</translation>
+    </message>
+    <message id="cli.entries.noMatch">
+      <source>No single time entry matches "%1". List them with: morvane entries --task &lt;task&gt;</source>
+      <translation>Nessuna voce unica corrisponde a "%1". Elencale con: morvane entries --task &lt;task&gt;</translation>
+    </message>
+    <message id="cli.entries.none">
+      <source>No time entries.</source>
+      <translation>Nessuna voce di tempo.</translation>
+    </message>
+    <message id="cli.entries.option.end">
+      <source>The new end (ISO 8601, local time without an offset).</source>
+      <translation>La nuova fine (ISO 8601, ora locale senza offset).</translation>
+    </message>
+    <message id="cli.entries.option.minutes">
+      <source>The new length in minutes.</source>
+      <translation>La nuova durata in minuti.</translation>
+    </message>
+    <message id="cli.entries.option.start">
+      <source>The new start (ISO 8601, local time without an offset).</source>
+      <translation>Il nuovo inizio (ISO 8601, ora locale senza offset).</translation>
+    </message>
+    <message id="cli.entries.option.task">
+      <source>Only the entries of this task, older ones included.</source>
+      <translation>Solo le voci di questa attività, incluse le più vecchie.</translation>
+    </message>
+    <message id="cli.entries.total">
+      <source>In all: %1</source>
+      <translation>In totale: %1</translation>
+    </message>
+    <message id="cli.entries.usage">
+      <source>Usage: morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</source>
+      <translation>Uso: morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</translation>
+    </message>
     <message id="cli.err.noSignInWaiting">
       <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
       <translation>Nessun accesso attende questo indirizzo. Avvia di nuovo l’accesso in Morvane.</translation>
@@ -267,6 +323,14 @@
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Comando sconosciuto: %1. Esegui morvane --help per l’elenco dei comandi.</translation>
     </message>
+    <message id="cli.log.logged">
+      <source>Logged %1 on %2, %3 in all.</source>
+      <translation>%1 registrato su %2, %3 in totale.</translation>
+    </message>
+    <message id="cli.log.usage">
+      <source>Usage: morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</source>
+      <translation>Uso: morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</translation>
+    </message>
     <message id="cli.option.help">
       <source>Show this help.</source>
       <translation>Mostra questo aiuto.</translation>
@@ -278,6 +342,54 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>Mostra la versione.</translation>
+    </message>
+    <message id="cli.price.invalid">
+      <source>Not a valid amount, or a required one is missing: %1</source>
+      <translation>Importo non valido, oppure ne manca uno obbligatorio: %1</translation>
+    </message>
+    <message id="cli.price.option.amount">
+      <source>A number as you write it (1250, 1.250,50, 12.5); empty clears it.</source>
+      <translation>Un numero come lo scrivi (1250, 1.250,50, 12.5); vuoto lo cancella.</translation>
+    </message>
+    <message id="cli.price.option.discountAmount">
+      <source>The discount is an amount.</source>
+      <translation>Lo sconto è un importo.</translation>
+    </message>
+    <message id="cli.price.option.discountPct">
+      <source>The discount is a percentage.</source>
+      <translation>Lo sconto è una percentuale.</translation>
+    </message>
+    <message id="cli.price.option.inherit">
+      <source>The task bills at its project's price again.</source>
+      <translation>L’attività torna a essere fatturata al prezzo del progetto.</translation>
+    </message>
+    <message id="cli.price.option.model">
+      <source>The billing model: hourly, fixed, per_unit or daily.</source>
+      <translation>Il modello di fatturazione: hourly, fixed, per_unit o daily.</translation>
+    </message>
+    <message id="cli.price.option.surchargeLabel">
+      <source>Label of the surcharge.</source>
+      <translation>Etichetta del supplemento.</translation>
+    </message>
+    <message id="cli.price.option.task">
+      <source>The task whose own price to show or set, instead of a project's.</source>
+      <translation>L’attività di cui mostrare o impostare il prezzo proprio, invece di quello di un progetto.</translation>
+    </message>
+    <message id="cli.price.option.unitLabel">
+      <source>Name of the unit of a per-unit price.</source>
+      <translation>Nome dell’unità di un prezzo unitario.</translation>
+    </message>
+    <message id="cli.price.unchanged">
+      <source>Nothing changed.</source>
+      <translation>Non è cambiato nulla.</translation>
+    </message>
+    <message id="cli.price.usage">
+      <source>Usage: morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</source>
+      <translation>Uso: morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</translation>
+    </message>
+    <message id="cli.price.worth">
+      <source>Tracked %1, worth %2.</source>
+      <translation>Registrato %1, valore %2.</translation>
     </message>
     <message id="cli.projects.active">
       <source>active</source>
@@ -518,6 +630,26 @@
     <message id="cli.teams.you">
       <source>you: %1</source>
       <translation>tu: %1</translation>
+    </message>
+    <message id="cli.timer.idle">
+      <source>No timer runs.</source>
+      <translation>Nessun timer in corso.</translation>
+    </message>
+    <message id="cli.timer.running">
+      <source>%1 (%2): %3 running, %4 in all</source>
+      <translation>%1 (%2): %3 in corso, %4 in totale</translation>
+    </message>
+    <message id="cli.timer.started">
+      <source>Timer started on %1.</source>
+      <translation>Timer avviato su %1.</translation>
+    </message>
+    <message id="cli.timer.stopped">
+      <source>Stopped %1: %2 logged, %3 in all.</source>
+      <translation>%1 fermato: %2 registrato, %3 in totale.</translation>
+    </message>
+    <message id="cli.timer.usage">
+      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</source>
+      <translation>Uso: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -215,6 +215,18 @@
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Morvane が使うバックエンドと各設定の出どころを表示します</translation>
     </message>
+    <message id="cli.command.entries">
+      <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
+      <translation>時間エントリーの一覧・編集・削除: entries [--task T] | edit | rm</translation>
+    </message>
+    <message id="cli.command.log">
+      <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
+      <translation>タスクに作業時間 (分) を記録: log &lt;task&gt; &lt;minutes&gt;</translation>
+    </message>
+    <message id="cli.command.price">
+      <source>Show or set the price of a project or task: price show|set</source>
+      <translation>プロジェクトやタスクの価格を表示・設定: price show|set</translation>
+    </message>
     <message id="cli.command.projects">
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>プロジェクトの一覧・追加・名前変更・アーカイブ・削除: projects list|add|rename|archive|rm</translation>
@@ -230,6 +242,10 @@
     <message id="cli.command.teams">
       <source>Teams and their members: teams list|create|invite|assign</source>
       <translation>チームとメンバー: teams list|create|invite|assign</translation>
+    </message>
+    <message id="cli.command.timer">
+      <source>Start, stop or show the timer: timer start|stop|status</source>
+      <translation>タイマーの開始・停止・表示: timer start|stop|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -255,6 +271,46 @@
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane はプロジェクトとタスクの作業時間を記録し、請求書にします。</translation>
     </message>
+    <message id="cli.entries.badRange">
+      <source>An entry must end after it starts.</source>
+      <translation>エントリーは開始より後に終了する必要があります。</translation>
+    </message>
+    <message id="cli.entries.deleted">
+      <source>Deleted the entry of %1.</source>
+      <translation>%1 のエントリーを削除しました。</translation>
+    </message>
+    <message id="cli.entries.noMatch">
+      <source>No single time entry matches "%1". List them with: morvane entries --task &lt;task&gt;</source>
+      <translation>「%1」に一致するエントリーが一つに定まりません。次で一覧表示: morvane entries --task &lt;task&gt;</translation>
+    </message>
+    <message id="cli.entries.none">
+      <source>No time entries.</source>
+      <translation>時間エントリーはありません。</translation>
+    </message>
+    <message id="cli.entries.option.end">
+      <source>The new end (ISO 8601, local time without an offset).</source>
+      <translation>新しい終了 (ISO 8601、オフセットなしはローカル時刻)。</translation>
+    </message>
+    <message id="cli.entries.option.minutes">
+      <source>The new length in minutes.</source>
+      <translation>新しい長さ (分)。</translation>
+    </message>
+    <message id="cli.entries.option.start">
+      <source>The new start (ISO 8601, local time without an offset).</source>
+      <translation>新しい開始 (ISO 8601、オフセットなしはローカル時刻)。</translation>
+    </message>
+    <message id="cli.entries.option.task">
+      <source>Only the entries of this task, older ones included.</source>
+      <translation>このタスクのエントリーのみ (古いものも含む)。</translation>
+    </message>
+    <message id="cli.entries.total">
+      <source>In all: %1</source>
+      <translation>合計: %1</translation>
+    </message>
+    <message id="cli.entries.usage">
+      <source>Usage: morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</source>
+      <translation>使い方: morvane entries [--task T] [--json] | entries edit &lt;entry&gt; [--start T] [--end T] [--minutes N] | entries rm &lt;entry&gt;</translation>
+    </message>
     <message id="cli.err.noSignInWaiting">
       <source>No sign-in is waiting for this address. Start the sign-in in Morvane again.</source>
       <translation>このアドレスを待っているサインインはありません。Morvane でもう一度サインインを開始してください。</translation>
@@ -267,6 +323,14 @@
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>不明なコマンドです: %1。コマンド一覧は morvane --help で表示できます。</translation>
     </message>
+    <message id="cli.log.logged">
+      <source>Logged %1 on %2, %3 in all.</source>
+      <translation>%2 に %1 を記録しました。合計 %3。</translation>
+    </message>
+    <message id="cli.log.usage">
+      <source>Usage: morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</source>
+      <translation>使い方: morvane log &lt;task&gt; &lt;minutes&gt; (&gt; 0; 1.5 = 1:30)</translation>
+    </message>
     <message id="cli.option.help">
       <source>Show this help.</source>
       <translation>このヘルプを表示します。</translation>
@@ -278,6 +342,54 @@
     <message id="cli.option.version">
       <source>Show the version.</source>
       <translation>バージョンを表示します。</translation>
+    </message>
+    <message id="cli.price.invalid">
+      <source>Not a valid amount, or a required one is missing: %1</source>
+      <translation>有効な金額ではないか、必須の金額がありません: %1</translation>
+    </message>
+    <message id="cli.price.option.amount">
+      <source>A number as you write it (1250, 1.250,50, 12.5); empty clears it.</source>
+      <translation>書いたままの数値 (1250、1.250,50、12.5)。空にすると消去します。</translation>
+    </message>
+    <message id="cli.price.option.discountAmount">
+      <source>The discount is an amount.</source>
+      <translation>割引は金額です。</translation>
+    </message>
+    <message id="cli.price.option.discountPct">
+      <source>The discount is a percentage.</source>
+      <translation>割引は割合です。</translation>
+    </message>
+    <message id="cli.price.option.inherit">
+      <source>The task bills at its project's price again.</source>
+      <translation>タスクを再びプロジェクトの価格で請求します。</translation>
+    </message>
+    <message id="cli.price.option.model">
+      <source>The billing model: hourly, fixed, per_unit or daily.</source>
+      <translation>請求モデル: hourly、fixed、per_unit、daily。</translation>
+    </message>
+    <message id="cli.price.option.surchargeLabel">
+      <source>Label of the surcharge.</source>
+      <translation>追加料金のラベル。</translation>
+    </message>
+    <message id="cli.price.option.task">
+      <source>The task whose own price to show or set, instead of a project's.</source>
+      <translation>プロジェクトではなく、独自の価格を表示・設定するタスク。</translation>
+    </message>
+    <message id="cli.price.option.unitLabel">
+      <source>Name of the unit of a per-unit price.</source>
+      <translation>単価のときの単位名。</translation>
+    </message>
+    <message id="cli.price.unchanged">
+      <source>Nothing changed.</source>
+      <translation>変更はありません。</translation>
+    </message>
+    <message id="cli.price.usage">
+      <source>Usage: morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</source>
+      <translation>使い方: morvane price show|set &lt;project&gt; | price show|set --task &lt;task&gt; [--model M] [--rate X] [--amount X] [--quantity N] [--unit-label L] [--day-rate X] [--day-hours H] [--min-charge X] [--surcharge X] [--surcharge-label L] [--materials X] [--discount X] [--discount-pct|--discount-amount] [--vat P] [--inherit] [--json]</translation>
+    </message>
+    <message id="cli.price.worth">
+      <source>Tracked %1, worth %2.</source>
+      <translation>記録 %1、金額 %2。</translation>
     </message>
     <message id="cli.projects.active">
       <source>active</source>
@@ -518,6 +630,26 @@
     <message id="cli.teams.you">
       <source>you: %1</source>
       <translation>あなた: %1</translation>
+    </message>
+    <message id="cli.timer.idle">
+      <source>No timer runs.</source>
+      <translation>動作中のタイマーはありません。</translation>
+    </message>
+    <message id="cli.timer.running">
+      <source>%1 (%2): %3 running, %4 in all</source>
+      <translation>%1 (%2): 計測中 %3、合計 %4</translation>
+    </message>
+    <message id="cli.timer.started">
+      <source>Timer started on %1.</source>
+      <translation>%1 のタイマーを開始しました。</translation>
+    </message>
+    <message id="cli.timer.stopped">
+      <source>Stopped %1: %2 logged, %3 in all.</source>
+      <translation>%1 を停止しました: 記録 %2、合計 %3。</translation>
+    </message>
+    <message id="cli.timer.usage">
+      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</source>
+      <translation>使い方: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

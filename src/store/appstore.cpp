@@ -983,6 +983,18 @@ QCoro::Task<bool> AppStore::updateProject(QString projectId, ProjectPatch patch)
     co_return co_await patchProject(projectId, patch, "Update project failed: ", StoreText::projectNotSaved());
 }
 
+QCoro::Task<bool> AppStore::updateProjectBilling(QString projectId, Earnings::ProjectBillingWrite write)
+{
+    const ProjectBillingPatch patch{write.billing, write.hourlyRate, std::nullopt};
+    co_return co_await patchProject(projectId, patch, "Update project billing failed: ", StoreText::projectNotSaved());
+}
+
+QCoro::Task<bool> AppStore::updateTaskPrice(QString taskId, Earnings::PriceColumns price)
+{
+    const TaskPricePatch patch{price.billing, price.hourlyRate, price.totalPrice};
+    co_return co_await patchTask(taskId, patch, "Update task price failed: ");
+}
+
 QCoro::Task<bool> AppStore::setProjectStatus(QString projectId, ProjectStatus status)
 {
     const ProjectStatusPatch patch{status};

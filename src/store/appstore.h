@@ -8,6 +8,7 @@
 #include "model/team.h"
 #include "model/timeentry.h"
 #include "backend/supabase.h"
+#include "billing/earnings.h"
 #include "store/inviteoutcome.h"
 #include "store/taskorder.h"
 #include "store/timerrecords.h"
@@ -181,6 +182,7 @@ public:
     // projects are left to their creators. Answers how many it archived, or -1 on failure.
     QCoro::Task<int> archiveIdleProjects(int olderThanDays);
     QCoro::Task<bool> assignProjectToTeam(QString projectId, std::optional<QString> teamId);
+    QCoro::Task<bool> updateProjectBilling(QString projectId, Earnings::ProjectBillingWrite write);
 
     // Tasks.
     QCoro::Task<std::optional<TaskItem>> createTask(TaskInsert draft);
@@ -194,6 +196,8 @@ public:
     QCoro::Task<bool> updateTaskSubtasks(QString taskId, QList<Subtask> subtasks);
     QCoro::Task<bool> updateTaskAssignees(QString taskId, QList<TaskAssignee> assignees);
     QCoro::Task<bool> updateTaskNotes(QString taskId, QList<TaskNote> notes);
+    // No setting in `price` makes the task inherit its project's again.
+    QCoro::Task<bool> updateTaskPrice(QString taskId, Earnings::PriceColumns price);
     // Over `selectedTaskIds`; each answers how many tasks it changed. Deleted tasks leave the
     // selection; after a status change or a move the selection stays for a further action.
     QCoro::Task<int> bulkUpdateStatus(TaskStatus status);

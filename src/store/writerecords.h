@@ -298,3 +298,46 @@ struct ProjectRef
     static constexpr auto wireFields() { return std::tuple{Wire::field("project_id", &ProjectRef::projectId)}; }
     friend bool operator==(const ProjectRef &, const ProjectRef &) = default;
 };
+
+// A project's price setting. The legacy fixed total is always cleared: once a setting exists it
+// is the one price of the project.
+struct ProjectBillingPatch
+{
+    Billing billing;
+    std::optional<double> hourlyRate;
+    std::optional<double> totalPrice;
+
+    static constexpr std::string_view wireName = "ProjectBillingPatch";
+    static constexpr auto wireFields()
+    {
+        using Wire::field;
+        using Wire::FieldFlag;
+        return std::tuple{
+            field("billing", &ProjectBillingPatch::billing),
+            field("hourly_rate", &ProjectBillingPatch::hourlyRate, FieldFlag::NullWhenAbsent),
+            field("total_price", &ProjectBillingPatch::totalPrice, FieldFlag::NullWhenAbsent),
+        };
+    }
+    friend bool operator==(const ProjectBillingPatch &, const ProjectBillingPatch &) = default;
+};
+
+// A task's own price; no setting (null) lets the task inherit its project's again.
+struct TaskPricePatch
+{
+    std::optional<Billing> billing;
+    std::optional<double> hourlyRate;
+    std::optional<double> totalPrice;
+
+    static constexpr std::string_view wireName = "TaskPricePatch";
+    static constexpr auto wireFields()
+    {
+        using Wire::field;
+        using Wire::FieldFlag;
+        return std::tuple{
+            field("billing", &TaskPricePatch::billing, FieldFlag::NullWhenAbsent),
+            field("hourly_rate", &TaskPricePatch::hourlyRate, FieldFlag::NullWhenAbsent),
+            field("total_price", &TaskPricePatch::totalPrice, FieldFlag::NullWhenAbsent),
+        };
+    }
+    friend bool operator==(const TaskPricePatch &, const TaskPricePatch &) = default;
+};
