@@ -307,6 +307,8 @@ private:
     QCoro::Task<> reloadMembers(Session session, QString teamId);
     QCoro::Task<std::optional<TaskItem>> readTask(Session &session, QString taskId);
     QCoro::Task<bool> stopRun(Session &session, TaskItem running);
+    // Updates one entry with `patch`, or deletes it without one; then the task's total follows.
+    QCoro::Task<bool> writeEntry(QString entryId, std::optional<TimeEntryPatch> patch, const char *logPrefix);
     void replaceEntry(const TimeEntry &entry);
     void removeEntry(const QString &entryId);
     void armPoll();

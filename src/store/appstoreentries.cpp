@@ -348,7 +348,16 @@ QCoro::Task<bool> AppStore::fetchEntries(QString taskId)
 
 QCoro::Task<bool> AppStore::updateEntry(QString entryId, TimeEntryPatch patch)
 {
-    const char *const logPrefix = "Update entry failed: ";
+    co_return co_await writeEntry(entryId, patch, "Update entry failed: ");
+}
+
+QCoro::Task<bool> AppStore::deleteEntry(QString entryId)
+{
+    co_return co_await writeEntry(entryId, std::nullopt, "Delete entry failed: ");
+}
+
+QCoro::Task<bool> AppStore::writeEntry(QString entryId, std::optional<TimeEntryPatch> patch, const char *logPrefix)
+{
     std::optional<Session> session = co_await openSession(logPrefix);
     if (!session) {
         co_return false;
@@ -358,7 +367,8 @@ QCoro::Task<bool> AppStore::updateEntry(QString entryId, TimeEntryPatch patch)
         const Supabase client = m_auth.client();
         const QueryItems query = idFilter(entryId);
         const auto rowsRequest = [&](const QString &token) {
-            return client.update<TimeEntry>(u"time_entries"_s, token, query, patch);
+            return patch ? client.update<TimeEntry>(u"time_entries"_s, token, query, *patch)
+                         : deleteReturning<TimeEntry>(client, u"time_entries"_s, token, query);
         };
         const QList<TimeEntry> rows = co_await authorized(*session, rowsRequest);
         if (!isCurrent(*session)) {
@@ -368,37 +378,11 @@ QCoro::Task<bool> AppStore::updateEntry(QString entryId, TimeEntryPatch patch)
             failed(logPrefix, u"no row matched "_s + entryId, StoreText::entryNotSaved());
             co_return false;
         }
-        replaceEntry(rows.first());
-        taskId = rows.first().taskId;
-    } catch (const MorvaneError &error) {
-        writeFailed(logPrefix, error, StoreText::entryNotSaved());
-        co_return false;
-    }
-    co_return co_await recomputeTaskTotal(taskId);
-}
-
-QCoro::Task<bool> AppStore::deleteEntry(QString entryId)
-{
-    const char *const logPrefix = "Delete entry failed: ";
-    std::optional<Session> session = co_await openSession(logPrefix);
-    if (!session) {
-        co_return false;
-    }
-    QString taskId;
-    try {
-        const QueryItems query = idFilter(entryId);
-        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
-            return deleteReturning<TimeEntry>(client, u"time_entries"_s, token, query);
-        };
-        const QList<TimeEntry> rows = co_await authorized(*session, rowsRequest);
-        if (!isCurrent(*session)) {
-            co_return false;
+        if (patch) {
+            replaceEntry(rows.first());
+        } else {
+            removeEntry(entryId);
         }
-        if (rows.isEmpty()) {
-            failed(logPrefix, u"no row matched "_s + entryId, StoreText::entryNotSaved());
-            co_return false;
-        }
-        removeEntry(entryId);
         taskId = rows.first().taskId;
     } catch (const MorvaneError &error) {
         writeFailed(logPrefix, error, StoreText::entryNotSaved());
@@ -414,7 +398,7 @@ QCoro::Task<bool> AppStore::recomputeTaskTotal(QString taskId)
     if (!session) {
         co_return false;
     }
-    SavingScope saving(*this, {taskId});
+    qint64 total = 0;
     try {
         const Supabase client = m_auth.client();
         const QueryItems query{
@@ -423,27 +407,13 @@ QCoro::Task<bool> AppStore::recomputeTaskTotal(QString taskId)
             return client.selectAll<EntryDuration>(u"time_entries"_s, token, query);
         };
         const QList<EntryDuration> durations = co_await authorized(*session, durationsRequest);
-        qint64 total = 0;
         for (const EntryDuration &duration : durations) {
             total += duration.durationSeconds;
         }
-        const TaskTotalPatch patch{total};
-        const QueryItems byId = idFilter(taskId);
-        const auto rowsRequest = [&](const QString &token) {
-            return client.update<TaskItem>(u"tasks"_s, token, byId, patch);
-        };
-        const QList<TaskItem> rows = co_await authorized(*session, rowsRequest);
-        if (!isCurrent(*session)) {
-            co_return false;
-        }
-        if (rows.isEmpty()) {
-            failed(logPrefix, u"no row matched "_s + taskId, StoreText::taskNotSaved());
-            co_return false;
-        }
-        replaceTask(rows.first());
-        co_return true;
     } catch (const MorvaneError &error) {
-        writeFailed(logPrefix, error, StoreText::taskNotSaved());
+        failed(logPrefix, error.message(), StoreText::loadFailed());
         co_return false;
     }
+    const TaskTotalPatch patch{total};
+    co_return co_await patchTask(taskId, patch, logPrefix);
 }
