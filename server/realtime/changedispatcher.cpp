@@ -71,6 +71,12 @@ void ChangeDispatcher::wake()
     m_wakeup.notify_one();
 }
 
+void ChangeDispatcher::forgetTables()
+{
+    m_tablesStale = true;
+    wake();
+}
+
 void ChangeDispatcher::run()
 {
     std::unique_ptr<PgConnection> connection;
@@ -89,6 +95,9 @@ void ChangeDispatcher::run()
         try {
             if (!connection || !connection->isHealthy()) {
                 connection = PgConnection::open(m_conninfo);
+                m_tables.clear();
+            }
+            if (m_tablesStale.exchange(false)) {
                 m_tables.clear();
             }
             while (drainOnce(*connection)) {

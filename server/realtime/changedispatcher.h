@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QString>
 
+#include <atomic>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -38,6 +39,8 @@ public:
 
     // Something may be waiting in the queue. Any thread.
     void wake();
+    // Tables, columns or policies changed: read them again before the next routing. Any thread.
+    void forgetTables();
 
 private:
     struct Change;
@@ -64,6 +67,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_wakeup;
     bool m_pending = true;
+    std::atomic<bool> m_tablesStale{false};
     bool m_stop = false;
     std::thread m_thread;
 };

@@ -46,6 +46,7 @@ RealtimeService::RealtimeService(QByteArray conninfo, QByteArray jwtSecret, Opti
 
 RealtimeService::~RealtimeService()
 {
+    m_schemaListener.reset();
     m_listener.reset();
     m_dispatcher.reset();
     m_connections.clear();
@@ -83,6 +84,10 @@ void RealtimeService::start(QAbstractHttpServer &server)
     ChangeDispatcher *dispatcher = m_dispatcher.get();
     m_listener = std::make_unique<PgListener>(m_conninfo, "morvane_realtime",
                                               [dispatcher](const QByteArray &) { dispatcher->wake(); });
+    // The read policies of a table are taken from the catalogue once; a migration applied while
+    // the server runs announces itself as it does to the REST layer.
+    m_schemaListener = std::make_unique<PgListener>(m_conninfo, "pgrst",
+                                                    [dispatcher](const QByteArray &) { dispatcher->forgetTables(); });
     m_silence.start();
 }
 
@@ -275,7 +280,12 @@ void RealtimeService::join(Connection &connection, const PhoenixMessage &message
     channel->role = role;
     channel->claims = claims;
     channel->expiresAt = expiresAt;
-    // A second join of a topic replaces the first, as a client does after it lost track of it.
+    // A second join of a topic replaces the first, as a client does after it lost track of it
+    // or when it changes its bindings; the first is closed under its own join reference, which a
+    // client recognises as the old channel's.
+    if (const auto previous = connection.channels.find(message.topic); previous != connection.channels.end()) {
+        push(connection, message.topic, u"phx_close"_s, {}, previous->second->joinRef);
+    }
     Channel &joined = *connection.channels.insert_or_assign(message.topic, std::move(channel)).first->second;
     armExpiry(connection, message.topic, joined);
     publish();

@@ -101,4 +101,5 @@ private:
     SubscriptionSnapshot m_snapshot;
     std::unique_ptr<ChangeDispatcher> m_dispatcher;
     std::unique_ptr<PgListener> m_listener;
+    std::unique_ptr<PgListener> m_schemaListener;
 };

@@ -269,6 +269,12 @@ void RealtimeClient::receive(quint64 generation, const QString &text)
     const QString event = message.value(u"event").toString();
     const QJsonObject payload = message.value(u"payload").toObject();
     const QString ref = message.value(u"ref").toString();
+    // A message of an earlier join of the topic (the server closes that one when a topic is joined
+    // again) is not about the channel as it is now.
+    const QJsonValue joinRef = message.value(u"join_ref");
+    if (joinRef.isString() && m_joinRefs.contains(topic) && joinRef.toString() != m_joinRefs.value(topic)) {
+        return;
+    }
 
     if (event == u"phx_reply") {
         if (!ref.isEmpty() && ref == m_pendingHeartbeatRef) {

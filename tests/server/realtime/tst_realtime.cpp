@@ -342,6 +342,29 @@ private slots:
         QVERIFY(!client->has(PhoenixClient::change(topic, u"INSERT"_s, another)));
     }
 
+    void policiesChangedWhileRunningApply()
+    {
+        auto client = connected();
+        QVERIFY(client);
+        const QString topic = nextTopic();
+        QCOMPARE(client->join(topic, {changesOf(u"tasks"_s)}, m_backend.tokenFor(m_anna)).value(u"status").toString(),
+                 u"ok"_s);
+        // A restrictive policy narrows what the permissive ones allow; a migration announces itself
+        // as it does to the REST layer.
+        db().execScript("CREATE POLICY \"no drafts\" ON public.tasks AS RESTRICTIVE FOR SELECT TO authenticated"
+                        " USING (title NOT LIKE 'Draft%'); NOTIFY pgrst, 'reload schema'");
+        QTest::qWait(500);
+        const QString draft = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"Draft plan"_s));
+        const QString final = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"Final plan"_s));
+        QVERIFY(client->take(PhoenixClient::change(topic, u"INSERT"_s, final)));
+        QVERIFY(!client->has(PhoenixClient::change(topic, u"INSERT"_s, draft)));
+
+        db().execScript("DROP POLICY \"no drafts\" ON public.tasks; NOTIFY pgrst, 'reload schema'");
+        QTest::qWait(500);
+        const QString again = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"Draft again"_s));
+        QVERIFY(client->take(PhoenixClient::change(topic, u"INSERT"_s, again)));
+    }
+
     void everyTableOfTheFeedArrives_data()
     {
         QTest::addColumn<QString>("table");
@@ -427,6 +450,33 @@ private slots:
         const QString task = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"After leaving"_s));
         QVERIFY(client->take(PhoenixClient::change(stays, u"INSERT"_s, task)));
         QVERIFY(!client->has(PhoenixClient::change(left, u"INSERT"_s, task)));
+    }
+
+    void aSecondJoinReplacesTheFirst()
+    {
+        auto client = connected();
+        QVERIFY(client);
+        const QString topic = nextTopic();
+        const QByteArray token = m_backend.tokenFor(m_anna);
+        const QJsonObject first =
+            client->join(topic, {changesOf(u"tasks"_s, u"status=eq.completed"_s, u"INSERT"_s)}, token);
+        QCOMPARE(first.value(u"status").toString(), u"ok"_s);
+        const QJsonObject second =
+            client->join(topic, {changesOf(u"tasks"_s, u"status=eq.in_progress"_s, u"INSERT"_s)}, token);
+        QCOMPARE(second.value(u"status").toString(), u"ok"_s);
+        const int secondId = bindingsOf(second).at(0).toObject().value(u"id").toInt();
+        QVERIFY(secondId != bindingsOf(first).at(0).toObject().value(u"id").toInt());
+        // The first join (this client's first message, ref "1") is closed under its own reference.
+        const auto closed = client->take(PhoenixClient::event(topic, u"phx_close"_s));
+        QVERIFY(closed);
+        QCOMPARE(closed->joinRef.toString(), u"1"_s);
+
+        const QString old = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"Old filter"_s, "completed"));
+        const QString current = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"New filter"_s, "in_progress"));
+        const auto change = client->take(PhoenixClient::change(topic, u"INSERT"_s, current));
+        QVERIFY(change);
+        QCOMPARE(change->payload.value(u"ids").toArray(), QJsonArray{secondId});
+        QVERIFY(!client->has(PhoenixClient::change(topic, u"INSERT"_s, old)));
     }
 
     void slowReaderIsDroppedOthersKeepUp()
