@@ -195,7 +195,9 @@ bool ServerApp::start()
     realtime.maxBacklogBytes = m_options.realtimeMaxBacklog;
     m_realtime = std::make_unique<RealtimeService>(conninfo, secret, realtime);
     try {
-        m_realtime->start(*m_http);
+        if (!m_realtime->start(*m_http)) {
+            say(u"realtime: the schema has no change queue (app.realtime_changes); the feed carries no changes"_s);
+        }
     } catch (const PgException &error) {
         say(u"realtime: "_s + QString::fromUtf8(error.what()));
         return false;

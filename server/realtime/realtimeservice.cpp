@@ -50,6 +50,9 @@ RealtimeService::~RealtimeService()
     m_listener.reset();
     m_dispatcher.reset();
     m_connections.clear();
+    if (!m_capturing) {
+        return;
+    }
     try {
         auto connection = PgConnection::open(m_conninfo);
         connection->exec("UPDATE app.realtime_feed SET active = false");
@@ -58,16 +61,26 @@ RealtimeService::~RealtimeService()
     }
 }
 
-void RealtimeService::start(QAbstractHttpServer &server)
+bool RealtimeService::start(QAbstractHttpServer &server)
 {
+    m_server = &server;
+    connect(&server, &QAbstractHttpServer::newWebSocketConnection, this, &RealtimeService::accept);
+    m_silence.start();
     {
         auto connection = PgConnection::open(m_conninfo);
+        // A schema of other migrations than ours may lack the queue: channels still join, but
+        // no change ever comes.
+        if (connection
+                ->exec("SELECT to_regclass('app.realtime_changes') IS NOT NULL AND"
+                       " to_regclass('app.realtime_feed') IS NOT NULL")
+                .value(0, 0) != "t") {
+            return false;
+        }
         // What a previous run left behind had nobody to go to; those subscribers resync anyway.
         connection->execScript(
             "BEGIN; DELETE FROM app.realtime_changes; UPDATE app.realtime_feed SET active = true; COMMIT");
     }
-    m_server = &server;
-    connect(&server, &QAbstractHttpServer::newWebSocketConnection, this, &RealtimeService::accept);
+    m_capturing = true;
 
     ChangeDispatcher::Hooks hooks;
     hooks.subscriptions = [this] { return snapshot(); };
@@ -88,7 +101,7 @@ void RealtimeService::start(QAbstractHttpServer &server)
     // the server runs announces itself as it does to the REST layer.
     m_schemaListener = std::make_unique<PgListener>(m_conninfo, "pgrst",
                                                     [dispatcher](const QByteArray &) { dispatcher->forgetTables(); });
-    m_silence.start();
+    return true;
 }
 
 SubscriptionSnapshot RealtimeService::snapshot() const

@@ -38,9 +38,10 @@ public:
     RealtimeService(QByteArray conninfo, QByteArray jwtSecret, Options options, QObject *parent = nullptr);
     ~RealtimeService() override;
 
-    // Switches the capture of changes on and serves the WebSockets that `server` accepts.
-    // Throws PgException when the database cannot be reached.
-    void start(QAbstractHttpServer &server);
+    // Serves the WebSockets that `server` accepts and switches the capture of changes on; false
+    // when the database has no change queue (the feed then carries no changes). Throws
+    // PgException when the database cannot be reached.
+    bool start(QAbstractHttpServer &server);
 
 private:
     struct Channel
@@ -91,6 +92,7 @@ private:
     QByteArray m_conninfo;
     QByteArray m_secret;
     Options m_options;
+    bool m_capturing = false;
     quint64 m_nextConnection = 1;
     quint64 m_nextSerial = 1;
     int m_nextBindingId = 1;
