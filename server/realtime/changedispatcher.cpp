@@ -95,6 +95,8 @@ void ChangeDispatcher::run()
         try {
             if (!connection || !connection->isHealthy()) {
                 connection = PgConnection::open(m_conninfo);
+                // Named, so that an administrator can tell it from the request connections.
+                connection->execScript("SET application_name = 'morvane realtime'");
                 m_tables.clear();
             }
             if (m_tablesStale.exchange(false)) {

@@ -479,6 +479,25 @@ private slots:
         QVERIFY(!client->has(PhoenixClient::change(topic, u"INSERT"_s, old)));
     }
 
+    void aLostChangeQueueErrsTheChannels()
+    {
+        auto client = connected();
+        QVERIFY(client);
+        const QString topic = nextTopic();
+        const QByteArray token = m_backend.tokenFor(m_anna);
+        QCOMPARE(client->join(topic, {changesOf(u"tasks"_s)}, token).value(u"status").toString(), u"ok"_s);
+        // Changes may be missed while the server cannot read its queue: the channel errs, so that
+        // the client joins again and reloads.
+        db().exec("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE application_name = 'morvane realtime'");
+        QVERIFY(client->take(PhoenixClient::event(topic, u"phx_error"_s), 10000));
+        const QString ref = client->send(topic, u"access_token"_s, {{u"access_token"_s, QString::fromLatin1(token)}});
+        QVERIFY(client->take(PhoenixClient::reply(ref))); // no longer joined: "unmatched topic"
+
+        QCOMPARE(client->join(topic, {changesOf(u"tasks"_s)}, token).value(u"status").toString(), u"ok"_s);
+        const QString task = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"After the loss"_s));
+        QVERIFY(client->take(PhoenixClient::change(topic, u"INSERT"_s, task), 10000));
+    }
+
     void slowReaderIsDroppedOthersKeepUp()
     {
         // A server of its own with a small backlog allowance, and an idle limit the sockets must
