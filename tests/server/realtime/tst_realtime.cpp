@@ -404,17 +404,17 @@ private slots:
         QVERIFY(client);
         const QString renewed = nextTopic();
         const QString lapsing = nextTopic();
-        const QByteArray shortToken = m_backend.tokenFor(m_anna, u"authenticated"_s, 2);
+        const QByteArray shortToken = m_backend.tokenFor(m_anna, u"authenticated"_s, 3);
         QCOMPARE(client->join(renewed, {changesOf(u"tasks"_s)}, shortToken).value(u"status").toString(), u"ok"_s);
         QCOMPARE(client->join(lapsing, {changesOf(u"tasks"_s)}, shortToken).value(u"status").toString(), u"ok"_s);
         client->send(renewed, u"access_token"_s,
                      {{u"access_token"_s, QString::fromLatin1(m_backend.tokenFor(m_anna))}});
 
-        const auto system = client->take(PhoenixClient::event(lapsing, u"system"_s), 6000);
+        const auto system = client->take(PhoenixClient::event(lapsing, u"system"_s), 7000);
         // The first system message of the topic is the subscription's; the error follows.
         std::optional<PhoenixClient::Message> error = system;
         if (error && error->payload.value(u"status").toString() == u"ok") {
-            error = client->take(PhoenixClient::event(lapsing, u"system"_s), 6000);
+            error = client->take(PhoenixClient::event(lapsing, u"system"_s), 7000);
         }
         QVERIFY(error);
         QCOMPARE(error->payload.value(u"status").toString(), u"error"_s);
