@@ -3,10 +3,14 @@
 #include "pg/pgconnection.h"
 #include "support/testbackend.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QProcess>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTest>
 
 #include <csignal>
@@ -30,6 +34,9 @@ private:
     QByteArray m_bobProject;
     QByteArray m_team;
     QByteArray m_teamProject;
+    // A private message bus standing in for the system bus, where a test plays logind.
+    QProcess m_bus;
+    QString m_busAddress;
 
     PgConnection &db() { return m_backend.database(); }
 
@@ -117,6 +124,15 @@ private slots:
     void initTestCase()
     {
         QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
+        // Before any client asks for the system bus: the connection is made once per process.
+        const QString daemon = QStandardPaths::findExecutable(u"dbus-daemon"_s);
+        if (!daemon.isEmpty()) {
+            m_bus.start(daemon, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
+            if (m_bus.waitForReadyRead(5000)) {
+                m_busAddress = QString::fromLatin1(m_bus.readLine()).trimmed();
+                qputenv("DBUS_SYSTEM_BUS_ADDRESS", m_busAddress.toLatin1());
+            }
+        }
         m_anna = m_backend.createUser(u"anna@example.nl"_s, u"Anna"_s);
         m_bob = m_backend.createUser(u"bob@example.nl"_s, u"Bob"_s);
         m_annaProject =
@@ -416,6 +432,49 @@ private slots:
         QVERIFY(scheduler.fire("reconnect"));
         QTRY_VERIFY_WITH_TIMEOUT(device->client->isConnected(), 10000);
         QCOMPARE(device->resyncs->size(), 1);
+    }
+
+    void wakeFromSleepReconnects()
+    {
+        if (m_busAddress.isEmpty()) {
+            QSKIP("dbus-daemon is not installed, so there is no bus to announce sleep on");
+        }
+        auto device = startDevice(m_anna);
+        QVERIFY(device);
+        const quint64 generation = device->client->generation();
+
+        QDBusConnection logind = QDBusConnection::connectToBus(m_busAddress, u"logind"_s);
+        QVERIFY(logind.isConnected());
+        QVERIFY(logind.registerService(u"org.freedesktop.login1"_s));
+        auto announce = [&](bool sleeping) {
+            QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s,
+                                                             u"org.freedesktop.login1.Manager"_s, u"PrepareForSleep"_s);
+            signal << sleeping;
+            QVERIFY(logind.send(signal));
+        };
+        announce(true); // going to sleep: nothing to do yet
+        QTest::qWait(300);
+        QCOMPARE(device->client->generation(), generation);
+        announce(false);
+        QTRY_VERIFY_WITH_TIMEOUT(device->client->isConnected() && device->client->generation() == generation + 1, 5000);
+        QCOMPARE(device->resyncs->size(), 1);
+
+        // Stopped, the client no longer listens.
+        device->client->stop();
+        announce(false);
+        QTest::qWait(300);
+        QCOMPARE(device->client->generation(), generation + 1);
+        QVERIFY(!device->client->isConnected());
+        logind.unregisterService(u"org.freedesktop.login1"_s);
+        QDBusConnection::disconnectFromBus(u"logind"_s);
+    }
+
+    void cleanupTestCase()
+    {
+        if (m_bus.state() != QProcess::NotRunning) {
+            m_bus.terminate();
+            m_bus.waitForFinished(5000);
+        }
     }
 
     // Last: it restarts the server.
