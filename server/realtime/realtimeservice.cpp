@@ -46,6 +46,8 @@ RealtimeService::RealtimeService(QByteArray conninfo, QByteArray jwtSecret, Opti
 
 RealtimeService::~RealtimeService()
 {
+    // Batches still queued are dropped with this object; the reader must not wait for them.
+    m_batchSlots.release(1000);
     m_schemaListener.reset();
     m_listener.reset();
     m_dispatcher.reset();
@@ -84,9 +86,17 @@ bool RealtimeService::start(QAbstractHttpServer &server)
 
     ChangeDispatcher::Hooks hooks;
     hooks.subscriptions = [this] { return snapshot(); };
+    // The reader waits while a few batches are still queued for the sockets, so that a busy main
+    // thread slows the reading down instead of piling up batches in memory.
     hooks.deliver = [this](QList<ChangeDelivery> deliveries) {
+        m_batchSlots.acquire();
         QMetaObject::invokeMethod(
-            this, [this, deliveries = std::move(deliveries)] { deliver(deliveries); }, Qt::QueuedConnection);
+            this,
+            [this, deliveries = std::move(deliveries)] {
+                deliver(deliveries);
+                m_batchSlots.release();
+            },
+            Qt::QueuedConnection);
     };
     hooks.failed = [this](const QString &reason) {
         QMetaObject::invokeMethod(

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QObject>
+#include <QSemaphore>
 #include <QTimer>
 
 #include <map>
@@ -99,6 +100,7 @@ private:
     QAbstractHttpServer *m_server = nullptr;
     std::unordered_map<quint64, std::unique_ptr<Connection>> m_connections;
     QTimer m_silence;
+    QSemaphore m_batchSlots{4};
     mutable std::mutex m_snapshotMutex;
     SubscriptionSnapshot m_snapshot;
     std::unique_ptr<ChangeDispatcher> m_dispatcher;
