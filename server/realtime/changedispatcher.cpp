@@ -18,6 +18,7 @@ namespace {
 // Read in slices, so that a burst of many thousand changes neither sits in memory at once nor
 // holds back the first deliveries.
 constexpr int batchSize = 500;
+constexpr qint64 batchBytes = 8 * 1024 * 1024;
 
 QByteArray quoteIdentifier(const QString &name)
 {
@@ -126,11 +127,20 @@ void ChangeDispatcher::run()
 
 bool ChangeDispatcher::drainOnce(PgConnection &connection)
 {
-    const PgResult rows =
-        connection.exec("SELECT id, schema_name, table_name, type, record::text, old_record::text,"
-                        " to_char(committed_at AT TIME ZONE 'UTC', 'YYYY-MM-DD\"T\"HH24:MI:SS.MS\"Z\"')"
-                        " FROM app.realtime_changes ORDER BY id LIMIT " +
-                        QByteArray::number(batchSize));
+    // A slice holds at most batchSize changes and about batchBytes of rows (always one, however
+    // large), so that a burst of big rows never sits in memory whole.
+    const PgResult rows = connection.exec(
+        "SELECT id, schema_name, table_name, type, record_text, old_text, committed FROM ("
+        "  SELECT r.*, sum(coalesce(octet_length(r.record_text), 0) + coalesce(octet_length(r.old_text), 0))"
+        "    OVER (ORDER BY r.id ROWS BETWEEN UNBOUNDED PRECEDING AND 1 PRECEDING) AS before"
+        "  FROM (SELECT c.id, c.schema_name, c.table_name, c.type, c.record::text AS record_text,"
+        "          c.old_record::text AS old_text,"
+        "          to_char(c.committed_at AT TIME ZONE 'UTC', 'YYYY-MM-DD\"T\"HH24:MI:SS.MS\"Z\"') AS committed"
+        "        FROM app.realtime_changes c ORDER BY c.id LIMIT " +
+            QByteArray::number(batchSize) +
+            ") r) q"
+            " WHERE coalesce(q.before, 0) < $1 ORDER BY id",
+        {QByteArray::number(batchBytes)});
     if (rows.rows() == 0) {
         return false;
     }
@@ -159,7 +169,8 @@ bool ChangeDispatcher::drainOnce(PgConnection &connection)
     }
     // By id, not by range: a transaction that took a lower id may commit after this read.
     connection.exec("DELETE FROM app.realtime_changes WHERE id = ANY($1::bigint[])", {ids});
-    return rows.rows() == batchSize;
+    // A slice cut short by its size leaves more behind; an empty read ends the draining.
+    return true;
 }
 
 ChangeDispatcher::TableInfo &ChangeDispatcher::tableInfo(PgConnection &connection, const QString &schema,

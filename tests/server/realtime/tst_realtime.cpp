@@ -252,6 +252,38 @@ private slots:
                                   5000);
     }
 
+    void aLargeTransactionArrivesWholeAndInOrder()
+    {
+        auto client = connected();
+        QVERIFY(client);
+        const QString topic = nextTopic();
+        QCOMPARE(client->join(topic, {changesOf(u"tasks"_s)}, m_backend.tokenFor(m_anna)).value(u"status").toString(),
+                 u"ok"_s);
+        // Thirty rows of a megabyte each in one commit: more than one slice of the queue.
+        const int rows = 30;
+        db().exec("INSERT INTO tasks (user_id, project_id, title, description)"
+                  " SELECT $1, $2, 'Bulk ' || n, repeat(chr(97 + n % 26), 1024 * 1024)"
+                  " FROM generate_series(1, $3) AS n",
+                  {m_anna.toUtf8(), m_annaProject, QByteArray::number(rows)});
+        QStringList titles;
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                while (const auto change = client->take(PhoenixClient::event(topic, u"postgres_changes"_s), 0)) {
+                    const QJsonObject record = change->payload.value(u"data").toObject().value(u"record").toObject();
+                    if (record.value(u"description").toString().size() == 1024 * 1024) {
+                        titles.append(record.value(u"title").toString());
+                    }
+                }
+                return titles.size() >= rows;
+            },
+            30000));
+        QStringList expected;
+        for (int n = 1; n <= rows; ++n) {
+            expected.append(u"Bulk %1"_s.arg(n));
+        }
+        QCOMPARE(titles, expected);
+    }
+
     void filtersDecideWhatArrives_data()
     {
         QTest::addColumn<QString>("filter");
