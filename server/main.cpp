@@ -49,7 +49,11 @@ int main(int argc, char *argv[])
     const QCommandLineOption providers(
         u"auth-providers"_s, u"OpenID Connect providers for sign-in (default: <data-dir>/auth-providers.json)."_s,
         u"file"_s);
-    parser.addOptions({dataDir, port, listen, databaseUrl, migrations, idle, confirmEmail, providers});
+    const QCommandLineOption realtimeBacklog(
+        u"realtime-max-backlog"_s,
+        u"Drop a realtime subscriber that leaves more than this many bytes unread (default 16 MiB)."_s, u"bytes"_s,
+        QString::number(16 * 1024 * 1024));
+    parser.addOptions({dataDir, port, listen, databaseUrl, migrations, idle, confirmEmail, providers, realtimeBacklog});
     parser.process(app);
 
     bool portOk = false;
@@ -65,8 +69,15 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "morvane-server: --idle-timeout needs a number of seconds, 1 or more\n");
         return 2;
     }
+    bool backlogOk = false;
+    const qint64 backlogBytes = parser.value(realtimeBacklog).toLongLong(&backlogOk);
+    if (!backlogOk || backlogBytes < 1024) {
+        std::fprintf(stderr, "morvane-server: --realtime-max-backlog needs a number of bytes, 1024 or more\n");
+        return 2;
+    }
     ServerApp server({parser.value(dataDir), quint16(portNumber), parser.value(listen), parser.value(databaseUrl),
-                      parser.value(migrations), idleSeconds, parser.isSet(confirmEmail), parser.value(providers)});
+                      parser.value(migrations), idleSeconds, parser.isSet(confirmEmail), parser.value(providers),
+                      backlogBytes});
 
     // Signals arrive on any thread; a pipe turns them into an event of the main loop, where the
     // database can be stopped cleanly.

@@ -8,6 +8,7 @@
 #include "pg/pgcluster.h"
 #include "pg/pglistener.h"
 #include "pg/pgpool.h"
+#include "realtime/realtimeservice.h"
 #include "rest/catalog.h"
 #include "rest/restservice.h"
 #include "storage/storageservice.h"
@@ -190,6 +191,17 @@ bool ServerApp::start()
     // Links in e-mails and the token issuer name the address the server answers on, known only
     // now that it listens.
     m_http->addService(std::make_shared<AuthService>(*m_pool, secret, QUrl(url), auth));
+    RealtimeService::Options realtime;
+    realtime.maxBacklogBytes = m_options.realtimeMaxBacklog;
+    m_realtime = std::make_unique<RealtimeService>(conninfo, secret, realtime);
+    try {
+        if (!m_realtime->start(*m_http)) {
+            say(u"realtime: the schema has no change queue (app.realtime_changes); the feed carries no changes"_s);
+        }
+    } catch (const PgException &error) {
+        say(u"realtime: "_s + QString::fromUtf8(error.what()));
+        return false;
+    }
     const qint64 now = QDateTime::currentSecsSinceEpoch();
     const QByteArray anonKey = Jwt::sign(
         {{u"iss"_s, u"morvane"_s}, {u"role"_s, u"anon"_s}, {u"iat"_s, now}, {u"exp"_s, now + 10LL * 365 * 24 * 3600}},
@@ -206,6 +218,8 @@ bool ServerApp::start()
 void ServerApp::stop()
 {
     m_schemaListener.reset();
+    // Before the HTTP front, which owns nothing of the sockets but accepted them.
+    m_realtime.reset();
     m_http.reset();
     m_pool.reset();
     if (m_cluster) {

@@ -9,6 +9,7 @@ class HttpServer;
 class PgCluster;
 class PgListener;
 class PgPool;
+class RealtimeService;
 
 // morvane-server: owns the data folder, the database (a private cluster or a given one), the
 // migrations and the HTTP services.
@@ -27,6 +28,7 @@ public:
         int idleSeconds = 60;
         bool confirmEmail = false; // send confirmation mails instead of confirming at once
         QString authProvidersFile; // empty: <data-dir>/auth-providers.json
+        qint64 realtimeMaxBacklog = 16 * 1024 * 1024;
     };
 
     explicit ServerApp(Options options, QObject *parent = nullptr);
@@ -48,4 +50,5 @@ private:
     std::unique_ptr<PgPool> m_pool;
     std::unique_ptr<HttpServer> m_http;
     std::unique_ptr<PgListener> m_schemaListener;
+    std::unique_ptr<RealtimeService> m_realtime;
 };

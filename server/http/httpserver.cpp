@@ -4,6 +4,7 @@
 
 #include <QHttpServerRequest>
 #include <QLoggingCategory>
+#include <QMetaMethod>
 #include <QTcpSocket>
 
 Q_LOGGING_CATEGORY(lcHttp, "morvane.server.http")
@@ -71,6 +72,16 @@ const HttpHeaders corsHeaders{
     {"Access-Control-Expose-Headers", "Content-Range, Content-Location, Location, Preference-Applied, x-sb-error-code"},
 };
 
+bool isWebSocketUpgrade(const QHttpServerRequest &request)
+{
+    for (const auto &[name, value] : request.headers()) {
+        if (name.compare("upgrade", Qt::CaseInsensitive) == 0 && value.compare("websocket", Qt::CaseInsensitive) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 HttpServer::HttpServer(Limits limits, QObject *parent)
@@ -114,6 +125,12 @@ void HttpServer::addService(std::shared_ptr<HttpService> service)
 
 bool HttpServer::handleRequest(const QHttpServerRequest &request, QTcpSocket *socket)
 {
+    // QAbstractHttpServer hands a WebSocket upgrade to its WebSocket server only when the request
+    // counts as handled and nothing was written on the socket.
+    if (isWebSocketUpgrade(request) &&
+        isSignalConnected(QMetaMethod::fromSignal(&QAbstractHttpServer::newWebSocketConnection))) {
+        return true;
+    }
     if (!m_connections.contains(socket)) {
         m_connections.insert(socket, {});
         connect(socket, &QObject::destroyed, this, [this, socket] { m_connections.remove(socket); });

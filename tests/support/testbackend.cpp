@@ -57,12 +57,39 @@ QString TestBackend::serverProgram()
 }
 
 TestBackend::TestBackend(const QStringList &extraArguments)
+    : m_extraArguments(extraArguments)
 {
     // The cluster runs as 'postgres' when the tests run as root; it must reach the folder.
     QFile::setPermissions(m_dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
                                             QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+    launch(QStringList{u"--data-dir"_s, dataDir(), u"--port"_s, u"0"_s} + extraArguments);
+}
+
+void TestBackend::stop()
+{
+    m_database.reset();
+    if (m_process.state() != QProcess::NotRunning) {
+        m_process.terminate();
+        if (!m_process.waitForFinished(60000)) {
+            m_process.kill();
+            m_process.waitForFinished();
+        }
+    }
+}
+
+bool TestBackend::restart()
+{
+    stop();
+    const QUrl previous = m_url;
+    m_url.clear();
+    launch(QStringList{u"--data-dir"_s, dataDir(), u"--port"_s, QString::number(previous.port())} + m_extraArguments);
+    return m_url == previous;
+}
+
+void TestBackend::launch(const QStringList &arguments)
+{
     m_process.setProcessChannelMode(QProcess::SeparateChannels);
-    m_process.start(serverProgram(), QStringList{u"--data-dir"_s, dataDir(), u"--port"_s, u"0"_s} + extraArguments);
+    m_process.start(serverProgram(), arguments);
     QByteArray out;
     const qint64 deadline = QDateTime::currentMSecsSinceEpoch() + 120000;
     while (QDateTime::currentMSecsSinceEpoch() < deadline && m_process.state() != QProcess::NotRunning) {
@@ -91,14 +118,7 @@ TestBackend::TestBackend(const QStringList &extraArguments)
 
 TestBackend::~TestBackend()
 {
-    m_database.reset();
-    if (m_process.state() != QProcess::NotRunning) {
-        m_process.terminate();
-        if (!m_process.waitForFinished(60000)) {
-            m_process.kill();
-            m_process.waitForFinished();
-        }
-    }
+    stop();
 }
 
 PgConnection &TestBackend::database()

@@ -56,8 +56,17 @@ public:
 
     static QString serverProgram();
 
+    // Stops the server (and so its database) and starts it again on the same data and port, as
+    // after a restart of the machine it runs on.
+    void stop();
+    bool restart();
+    [[nodiscard]] qint64 processId() const { return m_process.processId(); }
+
 private:
+    void launch(const QStringList &arguments);
+
     QTemporaryDir m_dir;
+    QStringList m_extraArguments;
     QProcess m_process;
     QUrl m_url;
     QByteArray m_anonKey;
