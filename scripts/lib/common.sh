@@ -26,6 +26,7 @@ MORVANE_PACKAGES=(
     postgresql-contrib
     clang
     libclang-rt-14-dev
+    libsimdjson-dev
 )
 
 morvane_missing_packages() {

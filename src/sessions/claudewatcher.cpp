@@ -1,0 +1,344 @@
+#include "claudewatcher.h"
+
+#include "sessions/sessionlogreader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QSet>
+#include <QSettings>
+#include <QThreadPool>
+
+#include <qcoro/qcorofuture.h>
+
+#include <QtConcurrent/QtConcurrentRun>
+#include <algorithm>
+#include <cstring>
+#include <dirent.h>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 secondsPerDay = 86400;
+
+// A parsed file as it was when read. A file counts as unchanged while its identity, size and
+// modification time (to the nanosecond) and the idle gap stay the same.
+struct CacheEntry
+{
+    timespec mod{};
+    qint64 size = 0;
+    dev_t device = 0;
+    ino_t inode = 0;
+    int idleGap = 0;
+    SessionLogState state;
+    std::optional<ParsedSession> session;
+};
+
+struct ParseCache
+{
+    QMutex lock;
+    QHash<QByteArray, std::shared_ptr<const CacheEntry>> entries;
+};
+
+ParseCache &parseCache()
+{
+    static ParseCache cache;
+    return cache;
+}
+
+QDateTime instant(LogInstant at)
+{
+    return QDateTime::fromMSecsSinceEpoch(at, Qt::UTC);
+}
+
+// The session of a read: its complete lines plus, when the file does not end in a line feed, the
+// line being written.
+std::optional<ParsedSession> finish(const SessionLogRead &read, const QString &sessionId, int idleGap)
+{
+    const SessionLogState &state = read.state;
+    const SessionLogLine *tail = read.tail ? &*read.tail : nullptr;
+    if (state.invalidUtf8 || (tail && tail->invalidUtf8)) {
+        return std::nullopt;
+    }
+    const QString cwd = !state.cwd.isEmpty() ? state.cwd : tail ? tail->cwd : QString();
+    const bool tailTimestamp = tail && tail->timestamp;
+    if (cwd.isEmpty() || (state.timestamps.empty() && !tailTimestamp)) {
+        return std::nullopt;
+    }
+
+    QList<LogInstant> timestamps(state.timestamps.begin(), state.timestamps.end());
+    QList<UserPrompt> prompts(state.prompts.begin(), state.prompts.end());
+    if (tailTimestamp) {
+        const LogInstant at = *tail->timestamp;
+        timestamps.insert(std::upper_bound(timestamps.begin(), timestamps.end(), at) - timestamps.begin(), at);
+        if (tail->prompt) {
+            // The last line in the file goes after every prompt of the same date.
+            const auto place = std::upper_bound(prompts.begin(), prompts.end(), at,
+                                                [](LogInstant value, const UserPrompt &p) { return value < p.at; });
+            prompts.insert(place - prompts.begin(), UserPrompt{at, tail->prompt});
+        }
+    }
+
+    ParsedSession session;
+    session.sessionId = sessionId;
+    session.cwd = cwd;
+    session.startedAt = instant(timestamps.first());
+    session.endedAt = instant(timestamps.last());
+    session.activeSeconds = ClaudeWatcher::computeActive(timestamps, idleGap);
+    session.promptCount = int(prompts.size());
+    if (!prompts.isEmpty()) {
+        session.firstUserMessage = prompts.first().text;
+    }
+    session.segments = ClaudeWatcher::segment(sessionId, prompts, timestamps, idleGap);
+    return session;
+}
+
+bool sameTime(const timespec &a, const timespec &b)
+{
+    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+bool endsWithLogSuffix(const char *name, size_t length)
+{
+    return length >= 6 && std::memcmp(name + length - 6, ".jsonl", 6) == 0;
+}
+
+QThreadPool &backgroundPool()
+{
+    static QThreadPool *pool = [] {
+        auto *created = new QThreadPool;
+        created->setMaxThreadCount(1);
+        created->setThreadPriority(QThread::LowPriority);
+        return created;
+    }();
+    return *pool;
+}
+
+} // namespace
+
+ClaudeWatcher::ClaudeWatcher(std::shared_ptr<QSettings> settings, QString projectsDir, QObject *parent)
+    : QObject(parent)
+    , m_settings(std::move(settings))
+    , m_projectsDir(std::move(projectsDir))
+{}
+
+ClaudeWatcher::ClaudeWatcher(std::shared_ptr<QSettings> settings, QObject *parent)
+    : ClaudeWatcher(std::move(settings), defaultProjectsDir(), parent)
+{}
+
+ClaudeWatcher::~ClaudeWatcher() = default;
+
+QString ClaudeWatcher::defaultProjectsDir()
+{
+    return QDir::homePath() + u"/.claude/projects";
+}
+
+int ClaudeWatcher::idleGapSeconds(const QSettings &settings)
+{
+    bool ok = false;
+    const int value = settings.value(u"claude_idle_gap_seconds"_s).toInt(&ok);
+    return ok && value > 0 ? value : defaultIdleGapSeconds;
+}
+
+std::optional<ParsedSession> ClaudeWatcher::parse(const QString &path, const QString &sessionId, int idleGap)
+{
+    const std::optional<SessionLogRead> read = SessionLogReader::readWhole(QFile::encodeName(path));
+    if (!read) {
+        return std::nullopt;
+    }
+    return finish(*read, sessionId, idleGap);
+}
+
+qint64 ClaudeWatcher::computeActive(const LogInstant *begin, const LogInstant *end, int idleGap)
+{
+    qint64 total = 0;
+    for (const LogInstant *at = begin; at + 1 < end; ++at) {
+        // Whole seconds, truncated toward zero.
+        const qint64 gap = (at[1] - at[0]) / 1000;
+        if (gap > 0 && gap <= idleGap) {
+            total += gap;
+        }
+    }
+    return total;
+}
+
+qint64 ClaudeWatcher::computeActive(const QList<LogInstant> &instants, int idleGap)
+{
+    return computeActive(instants.constData(), instants.constData() + instants.size(), idleGap);
+}
+
+QList<SessionSegment> ClaudeWatcher::segment(const QString &sessionId, const QList<UserPrompt> &prompts,
+                                             const QList<LogInstant> &timestamps, int idleGap)
+{
+    QList<SessionSegment> segments;
+    if (prompts.isEmpty()) {
+        return segments;
+    }
+    const auto close = [&](qsizetype first, qsizetype last) {
+        const UserPrompt &opening = prompts[first];
+        const LogInstant start = opening.at;
+        const LogInstant stop = prompts[last].at;
+        const LogInstant *begin = timestamps.constData();
+        const LogInstant *end = begin + timestamps.size();
+        const LogInstant *from = std::lower_bound(begin, end, start);
+        const LogInstant *to = std::upper_bound(begin, end, stop);
+        SessionSegment burst;
+        burst.sessionId = sessionId;
+        burst.index = int(segments.size());
+        burst.title = opening.text.value_or(u"Claude segment "_s + QString::number(burst.index + 1));
+        burst.startedAt = instant(start);
+        burst.endedAt = instant(stop);
+        // One minute at least: a single prompt is still a piece of work.
+        burst.activeSeconds = std::max<qint64>(computeActive(from, to, idleGap), 60);
+        burst.promptCount = int(last - first + 1);
+        segments.append(std::move(burst));
+    };
+    qsizetype first = 0;
+    for (qsizetype i = 1; i < prompts.size(); ++i) {
+        if ((prompts[i].at - prompts[i - 1].at) / 1000 > idleGap) {
+            close(first, i - 1);
+            first = i;
+        }
+    }
+    close(first, prompts.size() - 1);
+    return segments;
+}
+
+QList<SessionSegment> ClaudeWatcher::fallbackSingleSegment(const ParsedSession &session)
+{
+    SessionSegment whole;
+    whole.sessionId = session.sessionId;
+    whole.index = 0;
+    whole.title = session.firstUserMessage.value_or(u"Claude session"_s);
+    whole.startedAt = session.startedAt;
+    whole.endedAt = session.endedAt;
+    whole.activeSeconds = session.activeSeconds;
+    whole.promptCount = session.promptCount;
+    return {whole};
+}
+
+QList<ParsedSession> ClaudeWatcher::enumerateSessions(const QString &projectsDir, int idleGap, int recentDays,
+                                                      const QDateTime &now, ScanStats *stats)
+{
+    ScanStats counted;
+    QList<ParsedSession> sessions;
+    const qint64 cutoff = now.toSecsSinceEpoch() - qint64(recentDays) * secondsPerDay;
+    ParseCache &cache = parseCache();
+    QSet<QByteArray> seen;
+
+    const QByteArray root = QFile::encodeName(projectsDir);
+    DIR *top = ::opendir(root.constData());
+    if (!top) {
+        return sessions;
+    }
+    while (const dirent *project = ::readdir(top)) {
+        const size_t nameLength = std::strlen(project->d_name);
+        if (project->d_type == DT_REG || std::strcmp(project->d_name, ".") == 0 ||
+            std::strcmp(project->d_name, "..") == 0) {
+            continue;
+        }
+        const QByteArray folder = root + '/' + QByteArray(project->d_name, qsizetype(nameLength));
+        DIR *inner = ::opendir(folder.constData());
+        if (!inner) {
+            continue;
+        }
+        while (const dirent *file = ::readdir(inner)) {
+            const size_t length = std::strlen(file->d_name);
+            if (!endsWithLogSuffix(file->d_name, length)) {
+                continue;
+            }
+            struct stat info
+            {};
+            if (::fstatat(::dirfd(inner), file->d_name, &info, 0) != 0 || !S_ISREG(info.st_mode) ||
+                info.st_mtim.tv_sec < cutoff) {
+                continue;
+            }
+            const QByteArray path = folder + '/' + QByteArray(file->d_name, qsizetype(length));
+            seen.insert(path);
+            ++counted.filesSeen;
+
+            std::shared_ptr<const CacheEntry> cached;
+            {
+                const QMutexLocker locker(&cache.lock);
+                cached = cache.entries.value(path);
+            }
+            const bool sameFile =
+                cached && cached->device == info.st_dev && cached->inode == info.st_ino && cached->idleGap == idleGap;
+            if (sameFile && sameTime(cached->mod, info.st_mtim) && cached->size == info.st_size) {
+                ++counted.filesFromCache;
+                if (cached->session) {
+                    sessions.append(*cached->session);
+                }
+                continue;
+            }
+
+            std::optional<SessionLogRead> read;
+            if (sameFile && info.st_size >= cached->state.parsedBytes) {
+                read = SessionLogReader::readAppended(path, cached->state);
+                if (read) {
+                    ++counted.filesExtended;
+                }
+            }
+            if (!read) {
+                read = SessionLogReader::readWhole(path);
+                if (!read) {
+                    continue;
+                }
+                ++counted.filesReadWhole;
+            }
+            counted.bytesRead += read->bytesRead;
+            const QString sessionId = QFile::decodeName(QByteArray(file->d_name, qsizetype(length - 6)));
+            auto entry = std::make_shared<CacheEntry>();
+            entry->mod = info.st_mtim;
+            entry->size = info.st_size;
+            entry->device = info.st_dev;
+            entry->inode = info.st_ino;
+            entry->idleGap = idleGap;
+            entry->session = finish(*read, sessionId, idleGap);
+            entry->state = std::move(read->state);
+            if (entry->session) {
+                sessions.append(*entry->session);
+            }
+            // Files without a session are kept too: unchanged, they would give none again, and
+            // a growing one is extended like any other.
+            const QMutexLocker locker(&cache.lock);
+            cache.entries.insert(path, std::move(entry));
+        }
+        ::closedir(inner);
+    }
+    ::closedir(top);
+
+    {
+        const QMutexLocker locker(&cache.lock);
+        for (auto it = cache.entries.begin(); it != cache.entries.end();) {
+            it = seen.contains(it.key()) ? std::next(it) : cache.entries.erase(it);
+        }
+    }
+    if (stats) {
+        *stats = counted;
+    }
+    return sessions;
+}
+
+void ClaudeWatcher::clearParseCache()
+{
+    ParseCache &cache = parseCache();
+    const QMutexLocker locker(&cache.lock);
+    cache.entries.clear();
+}
+
+QCoro::Task<> ClaudeWatcher::loadLiveSessions()
+{
+    const int idleGap = idleGapSeconds(*m_settings);
+    const QString dir = m_projectsDir;
+    QList<ParsedSession> sessions = co_await QtConcurrent::run(
+        &backgroundPool(), [dir, idleGap] { return enumerateSessions(dir, idleGap, listRecentDays); });
+    std::stable_sort(sessions.begin(), sessions.end(),
+                     [](const ParsedSession &a, const ParsedSession &b) { return a.endedAt > b.endedAt; });
+    m_liveSessions = std::move(sessions);
+    Q_EMIT liveSessionsChanged();
+}
