@@ -2,6 +2,7 @@
 
 #include "app/authcommands.h"
 #include "app/servercommand.h"
+#include "app/sessionscommands.h"
 #include "app/startup.h"
 #include "backend/config.h"
 #include "backend/runblocking.h"
@@ -94,6 +95,8 @@ QList<Command> commands()
         {u"config"_s, [] { return qtTrId("cli.command.config"); }, showConfig, false},
         //% "Start, stop or show the local backend: server start|stop|status"
         {u"server"_s, [] { return qtTrId("cli.command.server"); }, runServerCommand, false},
+        //% "Coding-agent sessions found in the local logs: sessions list [--days N] [--json]"
+        {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
     };
 }
 

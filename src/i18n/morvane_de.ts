@@ -95,6 +95,10 @@
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Das lokale Backend starten, beenden oder anzeigen: server start|stop|status</translation>
     </message>
+    <message id="cli.command.sessions">
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
+      <translation>Sitzungen des Coding-Agenten aus den lokalen Logs: sessions list [--days N] [--json]</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Befehle:</translation>
@@ -170,6 +174,38 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Aufruf: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.sessions.burst">
+      <source>%1. %2 to %3 · active %4 · prompts: %5 · %6</source>
+      <translation>%1. %2 bis %3 · aktiv %4 · Prompts: %5 · %6</translation>
+    </message>
+    <message id="cli.sessions.err.days">
+      <source>--days takes a whole number of days from 1 to 36500.</source>
+      <translation>--days erwartet eine ganze Zahl von Tagen von 1 bis 36500.</translation>
+    </message>
+    <message id="cli.sessions.group">
+      <source>%1 · sessions: %2 · active %3</source>
+      <translation>%1 · Sitzungen: %2 · aktiv %3</translation>
+    </message>
+    <message id="cli.sessions.none">
+      <source>No Claude sessions parsed yet</source>
+      <translation>Noch keine Claude-Sitzungen eingelesen</translation>
+    </message>
+    <message id="cli.sessions.option.days">
+      <source>Sessions whose log changed in the last N days (30 when not given).</source>
+      <translation>Sitzungen, deren Log sich in den letzten N Tagen geändert hat (ohne Angabe 30).</translation>
+    </message>
+    <message id="cli.sessions.session">
+      <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
+      <translation>%1 · %2 bis %3 · aktiv %4 · Prompts: %5</translation>
+    </message>
+    <message id="cli.sessions.usage">
+      <source>Usage: morvane sessions list [--days N] [--json]</source>
+      <translation>Aufruf: morvane sessions list [--days N] [--json]</translation>
+    </message>
+    <message id="cli.sessions.where">
+      <source>Looked for logs changed in the last %1 days in %2.</source>
+      <translation>Gesucht wurde nach Logs, die sich in den letzten %1 Tagen geändert haben, in %2.</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -95,6 +95,10 @@
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Start, stop or show the local backend: server start|stop|status</translation>
     </message>
+    <message id="cli.command.sessions">
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
+      <translation>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Commands:</translation>
@@ -170,6 +174,38 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Usage: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.sessions.burst">
+      <source>%1. %2 to %3 · active %4 · prompts: %5 · %6</source>
+      <translation>%1. %2 to %3 · active %4 · prompts: %5 · %6</translation>
+    </message>
+    <message id="cli.sessions.err.days">
+      <source>--days takes a whole number of days from 1 to 36500.</source>
+      <translation>--days takes a whole number of days from 1 to 36500.</translation>
+    </message>
+    <message id="cli.sessions.group">
+      <source>%1 · sessions: %2 · active %3</source>
+      <translation>%1 · sessions: %2 · active %3</translation>
+    </message>
+    <message id="cli.sessions.none">
+      <source>No Claude sessions parsed yet</source>
+      <translation>No Claude sessions parsed yet</translation>
+    </message>
+    <message id="cli.sessions.option.days">
+      <source>Sessions whose log changed in the last N days (30 when not given).</source>
+      <translation>Sessions whose log changed in the last N days (30 when not given).</translation>
+    </message>
+    <message id="cli.sessions.session">
+      <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
+      <translation>%1 · %2 to %3 · active %4 · prompts: %5</translation>
+    </message>
+    <message id="cli.sessions.usage">
+      <source>Usage: morvane sessions list [--days N] [--json]</source>
+      <translation>Usage: morvane sessions list [--days N] [--json]</translation>
+    </message>
+    <message id="cli.sessions.where">
+      <source>Looked for logs changed in the last %1 days in %2.</source>
+      <translation>Looked for logs changed in the last %1 days in %2.</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

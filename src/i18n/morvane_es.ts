@@ -95,6 +95,10 @@
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Iniciar, detener o mostrar el servidor local: server start|stop|status</translation>
     </message>
+    <message id="cli.command.sessions">
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
+      <translation>Sesiones del agente de código halladas en los registros locales: sessions list [--days N] [--json]</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Comandos:</translation>
@@ -170,6 +174,38 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Uso: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.sessions.burst">
+      <source>%1. %2 to %3 · active %4 · prompts: %5 · %6</source>
+      <translation>%1. %2 a %3 · activo %4 · instrucciones: %5 · %6</translation>
+    </message>
+    <message id="cli.sessions.err.days">
+      <source>--days takes a whole number of days from 1 to 36500.</source>
+      <translation>--days espera un número entero de días de 1 a 36500.</translation>
+    </message>
+    <message id="cli.sessions.group">
+      <source>%1 · sessions: %2 · active %3</source>
+      <translation>%1 · sesiones: %2 · activo %3</translation>
+    </message>
+    <message id="cli.sessions.none">
+      <source>No Claude sessions parsed yet</source>
+      <translation>Aún no se ha analizado ninguna sesión de Claude</translation>
+    </message>
+    <message id="cli.sessions.option.days">
+      <source>Sessions whose log changed in the last N days (30 when not given).</source>
+      <translation>Sesiones cuyo registro cambió en los últimos N días (30 si no se indica).</translation>
+    </message>
+    <message id="cli.sessions.session">
+      <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
+      <translation>%1 · %2 a %3 · activo %4 · instrucciones: %5</translation>
+    </message>
+    <message id="cli.sessions.usage">
+      <source>Usage: morvane sessions list [--days N] [--json]</source>
+      <translation>Uso: morvane sessions list [--days N] [--json]</translation>
+    </message>
+    <message id="cli.sessions.where">
+      <source>Looked for logs changed in the last %1 days in %2.</source>
+      <translation>Se buscaron registros cambiados en los últimos %1 días en %2.</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

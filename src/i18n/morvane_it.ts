@@ -95,6 +95,10 @@
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Avvia, ferma o mostra il server locale: server start|stop|status</translation>
     </message>
+    <message id="cli.command.sessions">
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
+      <translation>Sessioni dell'agente di codice trovate nei log locali: sessions list [--days N] [--json]</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Comandi:</translation>
@@ -170,6 +174,38 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Uso: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.sessions.burst">
+      <source>%1. %2 to %3 · active %4 · prompts: %5 · %6</source>
+      <translation>%1. da %2 a %3 · attivo %4 · prompt: %5 · %6</translation>
+    </message>
+    <message id="cli.sessions.err.days">
+      <source>--days takes a whole number of days from 1 to 36500.</source>
+      <translation>--days richiede un numero intero di giorni da 1 a 36500.</translation>
+    </message>
+    <message id="cli.sessions.group">
+      <source>%1 · sessions: %2 · active %3</source>
+      <translation>%1 · sessioni: %2 · attivo %3</translation>
+    </message>
+    <message id="cli.sessions.none">
+      <source>No Claude sessions parsed yet</source>
+      <translation>Nessuna sessione Claude ancora analizzata</translation>
+    </message>
+    <message id="cli.sessions.option.days">
+      <source>Sessions whose log changed in the last N days (30 when not given).</source>
+      <translation>Sessioni il cui log è cambiato negli ultimi N giorni (30 se non indicato).</translation>
+    </message>
+    <message id="cli.sessions.session">
+      <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
+      <translation>%1 · da %2 a %3 · attivo %4 · prompt: %5</translation>
+    </message>
+    <message id="cli.sessions.usage">
+      <source>Usage: morvane sessions list [--days N] [--json]</source>
+      <translation>Uso: morvane sessions list [--days N] [--json]</translation>
+    </message>
+    <message id="cli.sessions.where">
+      <source>Looked for logs changed in the last %1 days in %2.</source>
+      <translation>Cercati i log cambiati negli ultimi %1 giorni in %2.</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -95,6 +95,10 @@
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>ローカルバックエンドを起動・停止・表示します: server start|stop|status</translation>
     </message>
+    <message id="cli.command.sessions">
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
+      <translation>ローカルログにあるコーディングエージェントのセッション: sessions list [--days N] [--json]</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>コマンド:</translation>
@@ -170,6 +174,38 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>使い方: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.sessions.burst">
+      <source>%1. %2 to %3 · active %4 · prompts: %5 · %6</source>
+      <translation>%1. %2 から %3 · 稼働 %4 · プロンプト: %5 · %6</translation>
+    </message>
+    <message id="cli.sessions.err.days">
+      <source>--days takes a whole number of days from 1 to 36500.</source>
+      <translation>--days には 1 から 36500 までの整数の日数を指定してください。</translation>
+    </message>
+    <message id="cli.sessions.group">
+      <source>%1 · sessions: %2 · active %3</source>
+      <translation>%1 · セッション: %2 · 稼働 %3</translation>
+    </message>
+    <message id="cli.sessions.none">
+      <source>No Claude sessions parsed yet</source>
+      <translation>まだ Claude のセッションは読み込まれていません</translation>
+    </message>
+    <message id="cli.sessions.option.days">
+      <source>Sessions whose log changed in the last N days (30 when not given).</source>
+      <translation>過去 N 日間にログが変更されたセッション (省略時は 30)。</translation>
+    </message>
+    <message id="cli.sessions.session">
+      <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
+      <translation>%1 · %2 から %3 · 稼働 %4 · プロンプト: %5</translation>
+    </message>
+    <message id="cli.sessions.usage">
+      <source>Usage: morvane sessions list [--days N] [--json]</source>
+      <translation>使い方: morvane sessions list [--days N] [--json]</translation>
+    </message>
+    <message id="cli.sessions.where">
+      <source>Looked for logs changed in the last %1 days in %2.</source>
+      <translation>%2 で過去 %1 日間に変更されたログを探しました。</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>
