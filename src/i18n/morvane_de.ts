@@ -47,6 +47,50 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Du bist bei Morvane angemeldet. Du kannst dieses Fenster schließen.</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>KI-Funktionen brauchen die Claude CLI auf diesem Mac (für Sprach- und Prompteingabe, Briefings und die Rechnungsnotiz). Alles andere funktioniert ohne sie. Setze CLAUDE_CLI_PATH oder installiere sie und versuche es erneut.</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude hat nichts ausgegeben</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>Start fehlgeschlagen: %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>Ungültiges JSON von Claude (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>kein JSON-Objekt gefunden</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude wurde mit Status %1 beendet: %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude ist fertig, hat %1 aber nicht geschrieben</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude meldete is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 ist in dieser Version von Morvane nicht verfügbar. Wähle die Claude CLI in den KI-Einstellungen.</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>Claude-Anfrage nach %1 s abgebrochen</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>Claude-Arbeitsordneraufgabe nach %1 s abgebrochen</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Der auszuführende Befehl; ohne Befehl wird die Befehlsliste angezeigt.</translation>

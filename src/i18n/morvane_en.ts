@@ -47,6 +47,50 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>You are signed in to Morvane. You can close this window.</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude produced no output</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>Launch failed: %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>Bad JSON from Claude (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>no JSON object detected</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude exited %1: %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude finished but did not write %1</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude returned is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>Claude request timed out after %1 s</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>Claude workspace task timed out after %1 s</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>The command to run; without one, the command list is shown.</translation>

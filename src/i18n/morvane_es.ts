@@ -47,6 +47,50 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Has iniciado sesión en Morvane. Puedes cerrar esta ventana.</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>Las funciones de IA necesitan la CLI de Claude en este Mac (captura por voz o texto, resúmenes y la nota de factura). Todo lo demás funciona sin ella. Define CLAUDE_CLI_PATH o instálala y vuelve a intentarlo.</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude no devolvió nada</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>No se pudo iniciar: %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>JSON no válido de Claude (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>no se detectó ningún objeto JSON</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude terminó con el estado %1: %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude terminó pero no escribió %1</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude devolvió is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 no está disponible en esta versión de Morvane. Elige la CLI de Claude en los ajustes de IA.</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>La solicitud a Claude caducó tras %1 s</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>La tarea de Claude en la carpeta de trabajo caducó tras %1 s</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>El comando que se ejecutará; sin él, se muestra la lista de comandos.</translation>

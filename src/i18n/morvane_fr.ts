@@ -47,6 +47,50 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Vous êtes connecté à Morvane. Vous pouvez fermer cette fenêtre.</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>Les fonctions d'IA ont besoin de la CLI Claude sur ce Mac (saisie vocale et par invite, briefs et note de facture). Tout le reste fonctionne sans elle. Définissez CLAUDE_CLI_PATH ou installez-la, puis réessayez.</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude n'a rien renvoyé</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>Échec du lancement : %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>JSON invalide de Claude (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>aucun objet JSON détecté</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude s'est arrêté avec le statut %1 : %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude a terminé mais n'a pas écrit %1</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude a renvoyé is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 n'est pas disponible dans cette version de Morvane. Choisissez la CLI Claude dans les réglages d'IA.</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>La requête Claude a expiré après %1 s</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>La tâche Claude dans l'espace de travail a expiré après %1 s</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>La commande à exécuter ; sans commande, la liste des commandes s’affiche.</translation>

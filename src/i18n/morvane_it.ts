@@ -47,6 +47,50 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>Hai effettuato l’accesso a Morvane. Puoi chiudere questa finestra.</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>Le funzioni di IA richiedono la CLI di Claude su questo Mac (acquisizione vocale e testuale, briefing e nota in fattura). Tutto il resto funziona anche senza. Imposta CLAUDE_CLI_PATH o installala, poi riprova.</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude non ha prodotto alcun output</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>Avvio non riuscito: %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>JSON non valido da Claude (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>nessun oggetto JSON rilevato</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude è terminato con lo stato %1: %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude ha finito ma non ha scritto %1</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude ha restituito is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 non è disponibile in questa versione di Morvane. Scegli la CLI di Claude nelle impostazioni IA.</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>La richiesta a Claude è scaduta dopo %1 s</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>L'attività di Claude nella cartella di lavoro è scaduta dopo %1 s</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Il comando da eseguire; senza comando viene mostrato l’elenco dei comandi.</translation>

@@ -47,6 +47,50 @@
       <source>You are signed in to Morvane. You can close this window.</source>
       <translation>คุณลงชื่อเข้าใช้ Morvane แล้ว ปิดหน้าต่างนี้ได้เลย</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>ฟีเจอร์ AI ต้องใช้ Claude CLI บน Mac เครื่องนี้ (ใช้กับการป้อนด้วยเสียง/พรอมต์ บทสรุป และหมายเหตุในใบแจ้งหนี้) ส่วนอื่นทำงานได้โดยไม่ต้องมี ตั้งค่า CLAUDE_CLI_PATH หรือติดตั้ง แล้วลองอีกครั้ง</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude ไม่ได้ให้ผลลัพธ์ใดเลย</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>เริ่มทำงานไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>JSON จาก Claude ไม่ถูกต้อง (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>ไม่พบออบเจ็กต์ JSON</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude จบการทำงานด้วยสถานะ %1: %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude ทำงานเสร็จแต่ไม่ได้เขียน %1</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude ส่งกลับ is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 ยังใช้ไม่ได้ใน Morvane รุ่นนี้ เลือก Claude CLI ในการตั้งค่า AI</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>คำขอไปยัง Claude หมดเวลาหลัง %1 วินาที</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>งานของ Claude ในโฟลเดอร์งานหมดเวลาหลัง %1 วินาที</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>คำสั่งที่จะเรียกใช้ หากไม่ระบุจะแสดงรายการคำสั่ง</translation>
