@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <cstring>
 #include <dirent.h>
+#include <span>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -38,10 +39,19 @@ struct CacheEntry
     std::optional<ParsedSession> session;
 };
 
+struct CacheSlot
+{
+    std::shared_ptr<const CacheEntry> entry;
+    // The latest walk that saw the file. Walks are numbered as they start, so a walk that prunes
+    // what it did not see keeps what a later walk running beside it has seen.
+    quint64 seenByWalk = 0;
+};
+
 struct ParseCache
 {
     QMutex lock;
-    QHash<QByteArray, std::shared_ptr<const CacheEntry>> entries;
+    QHash<QByteArray, CacheSlot> entries;
+    quint64 walks = 0;
 };
 
 ParseCache &parseCache()
@@ -53,6 +63,62 @@ ParseCache &parseCache()
 QDateTime instant(LogInstant at)
 {
     return QDateTime::fromMSecsSinceEpoch(at, Qt::UTC);
+}
+
+QList<SessionSegment> bursts(const QString &sessionId, std::span<const UserPrompt> prompts,
+                             std::span<const LogInstant> timestamps, int idleGap)
+{
+    QList<SessionSegment> segments;
+    if (prompts.empty()) {
+        return segments;
+    }
+    const auto close = [&](size_t first, size_t last) {
+        const UserPrompt &opening = prompts[first];
+        const LogInstant start = opening.at;
+        const LogInstant stop = prompts[last].at;
+        const auto from = std::lower_bound(timestamps.begin(), timestamps.end(), start);
+        const auto to = std::upper_bound(timestamps.begin(), timestamps.end(), stop);
+        SessionSegment burst;
+        burst.sessionId = sessionId;
+        burst.index = int(segments.size());
+        burst.title = opening.text.value_or(u"Claude segment "_s + QString::number(burst.index + 1));
+        burst.startedAt = instant(start);
+        burst.endedAt = instant(stop);
+        // One minute at least: a single prompt is still a piece of work.
+        const LogInstant *base = timestamps.data();
+        burst.activeSeconds = std::max<qint64>(
+            ClaudeWatcher::computeActive(base + (from - timestamps.begin()), base + (to - timestamps.begin()), idleGap),
+            60);
+        burst.promptCount = int(last - first + 1);
+        segments.append(std::move(burst));
+    };
+    size_t first = 0;
+    for (size_t i = 1; i < prompts.size(); ++i) {
+        if ((prompts[i].at - prompts[i - 1].at) / 1000 > idleGap) {
+            close(first, i - 1);
+            first = i;
+        }
+    }
+    close(first, prompts.size() - 1);
+    return segments;
+}
+
+ParsedSession session(const QString &sessionId, const QString &cwd, std::span<const LogInstant> timestamps,
+                      std::span<const UserPrompt> prompts, int idleGap)
+{
+    ParsedSession session;
+    session.sessionId = sessionId;
+    session.cwd = cwd;
+    session.startedAt = instant(timestamps.front());
+    session.endedAt = instant(timestamps.back());
+    session.activeSeconds =
+        ClaudeWatcher::computeActive(timestamps.data(), timestamps.data() + timestamps.size(), idleGap);
+    session.promptCount = int(prompts.size());
+    if (!prompts.empty()) {
+        session.firstUserMessage = prompts.front().text;
+    }
+    session.segments = bursts(sessionId, prompts, timestamps, idleGap);
+    return session;
 }
 
 // The session of a read: its complete lines plus, when the file does not end in a line feed, the
@@ -69,32 +135,22 @@ std::optional<ParsedSession> finish(const SessionLogRead &read, const QString &s
     if (cwd.isEmpty() || (state.timestamps.empty() && !tailTimestamp)) {
         return std::nullopt;
     }
-
-    QList<LogInstant> timestamps(state.timestamps.begin(), state.timestamps.end());
-    QList<UserPrompt> prompts(state.prompts.begin(), state.prompts.end());
-    if (tailTimestamp) {
-        const LogInstant at = *tail->timestamp;
-        timestamps.insert(std::upper_bound(timestamps.begin(), timestamps.end(), at) - timestamps.begin(), at);
-        if (tail->prompt) {
-            // The last line in the file goes after every prompt of the same date.
-            const auto place = std::upper_bound(prompts.begin(), prompts.end(), at,
-                                                [](LogInstant value, const UserPrompt &p) { return value < p.at; });
-            prompts.insert(place - prompts.begin(), UserPrompt{at, tail->prompt});
-        }
+    if (!tailTimestamp) {
+        return session(sessionId, cwd, state.timestamps, state.prompts, idleGap);
     }
 
-    ParsedSession session;
-    session.sessionId = sessionId;
-    session.cwd = cwd;
-    session.startedAt = instant(timestamps.first());
-    session.endedAt = instant(timestamps.last());
-    session.activeSeconds = ClaudeWatcher::computeActive(timestamps, idleGap);
-    session.promptCount = int(prompts.size());
-    if (!prompts.isEmpty()) {
-        session.firstUserMessage = prompts.first().text;
+    // Only a file that ends inside a line pays for copies.
+    std::vector<LogInstant> timestamps = state.timestamps;
+    std::vector<UserPrompt> prompts = state.prompts;
+    const LogInstant at = *tail->timestamp;
+    timestamps.insert(std::upper_bound(timestamps.begin(), timestamps.end(), at), at);
+    if (tail->prompt) {
+        // The last line in the file goes after every prompt of the same date.
+        const auto place = std::upper_bound(prompts.begin(), prompts.end(), at,
+                                            [](LogInstant value, const UserPrompt &p) { return value < p.at; });
+        prompts.insert(place, UserPrompt{at, tail->prompt});
     }
-    session.segments = ClaudeWatcher::segment(sessionId, prompts, timestamps, idleGap);
-    return session;
+    return session(sessionId, cwd, timestamps, prompts, idleGap);
 }
 
 bool sameTime(const timespec &a, const timespec &b)
@@ -174,38 +230,7 @@ qint64 ClaudeWatcher::computeActive(const QList<LogInstant> &instants, int idleG
 QList<SessionSegment> ClaudeWatcher::segment(const QString &sessionId, const QList<UserPrompt> &prompts,
                                              const QList<LogInstant> &timestamps, int idleGap)
 {
-    QList<SessionSegment> segments;
-    if (prompts.isEmpty()) {
-        return segments;
-    }
-    const auto close = [&](qsizetype first, qsizetype last) {
-        const UserPrompt &opening = prompts[first];
-        const LogInstant start = opening.at;
-        const LogInstant stop = prompts[last].at;
-        const LogInstant *begin = timestamps.constData();
-        const LogInstant *end = begin + timestamps.size();
-        const LogInstant *from = std::lower_bound(begin, end, start);
-        const LogInstant *to = std::upper_bound(begin, end, stop);
-        SessionSegment burst;
-        burst.sessionId = sessionId;
-        burst.index = int(segments.size());
-        burst.title = opening.text.value_or(u"Claude segment "_s + QString::number(burst.index + 1));
-        burst.startedAt = instant(start);
-        burst.endedAt = instant(stop);
-        // One minute at least: a single prompt is still a piece of work.
-        burst.activeSeconds = std::max<qint64>(computeActive(from, to, idleGap), 60);
-        burst.promptCount = int(last - first + 1);
-        segments.append(std::move(burst));
-    };
-    qsizetype first = 0;
-    for (qsizetype i = 1; i < prompts.size(); ++i) {
-        if ((prompts[i].at - prompts[i - 1].at) / 1000 > idleGap) {
-            close(first, i - 1);
-            first = i;
-        }
-    }
-    close(first, prompts.size() - 1);
-    return segments;
+    return bursts(sessionId, prompts, timestamps, idleGap);
 }
 
 QList<SessionSegment> ClaudeWatcher::fallbackSingleSegment(const ParsedSession &session)
@@ -228,21 +253,39 @@ QList<ParsedSession> ClaudeWatcher::enumerateSessions(const QString &projectsDir
     QList<ParsedSession> sessions;
     const qint64 cutoff = now.toSecsSinceEpoch() - qint64(recentDays) * secondsPerDay;
     ParseCache &cache = parseCache();
-    QSet<QByteArray> seen;
+    quint64 walk = 0;
+    {
+        const QMutexLocker locker(&cache.lock);
+        walk = ++cache.walks;
+    }
+    const auto prune = [&] {
+        const QMutexLocker locker(&cache.lock);
+        for (auto it = cache.entries.begin(); it != cache.entries.end();) {
+            it = it->seenByWalk >= walk ? std::next(it) : cache.entries.erase(it);
+        }
+    };
 
     const QByteArray root = QFile::encodeName(projectsDir);
     DIR *top = ::opendir(root.constData());
     if (!top) {
+        prune();
         return sessions;
     }
+    // One buffer for every path: an unchanged file costs no allocation.
+    QByteArray path;
+    path.reserve(4096);
     while (const dirent *project = ::readdir(top)) {
         const size_t nameLength = std::strlen(project->d_name);
         if (project->d_type == DT_REG || std::strcmp(project->d_name, ".") == 0 ||
             std::strcmp(project->d_name, "..") == 0) {
             continue;
         }
-        const QByteArray folder = root + '/' + QByteArray(project->d_name, qsizetype(nameLength));
-        DIR *inner = ::opendir(folder.constData());
+        path = root;
+        path += '/';
+        path.append(project->d_name, qsizetype(nameLength));
+        path += '/';
+        const qsizetype folderLength = path.size();
+        DIR *inner = ::opendir(path.constData());
         if (!inner) {
             continue;
         }
@@ -257,14 +300,18 @@ QList<ParsedSession> ClaudeWatcher::enumerateSessions(const QString &projectsDir
                 info.st_mtim.tv_sec < cutoff) {
                 continue;
             }
-            const QByteArray path = folder + '/' + QByteArray(file->d_name, qsizetype(length));
-            seen.insert(path);
+            path.truncate(folderLength);
+            path.append(file->d_name, qsizetype(length));
             ++counted.filesSeen;
 
             std::shared_ptr<const CacheEntry> cached;
             {
                 const QMutexLocker locker(&cache.lock);
-                cached = cache.entries.value(path);
+                const auto slot = cache.entries.find(path);
+                if (slot != cache.entries.end()) {
+                    slot->seenByWalk = std::max(slot->seenByWalk, walk);
+                    cached = slot->entry;
+                }
             }
             const bool sameFile =
                 cached && cached->device == info.st_dev && cached->inode == info.st_ino && cached->idleGap == idleGap;
@@ -306,18 +353,14 @@ QList<ParsedSession> ClaudeWatcher::enumerateSessions(const QString &projectsDir
             // Files without a session are kept too: unchanged, they would give none again, and
             // a growing one is extended like any other.
             const QMutexLocker locker(&cache.lock);
-            cache.entries.insert(path, std::move(entry));
+            CacheSlot &slot = cache.entries[QByteArray(path.constData(), path.size())];
+            slot.entry = std::move(entry);
+            slot.seenByWalk = std::max(slot.seenByWalk, walk);
         }
         ::closedir(inner);
     }
     ::closedir(top);
-
-    {
-        const QMutexLocker locker(&cache.lock);
-        for (auto it = cache.entries.begin(); it != cache.entries.end();) {
-            it = seen.contains(it.key()) ? std::next(it) : cache.entries.erase(it);
-        }
-    }
+    prune();
     if (stats) {
         *stats = counted;
     }

@@ -199,12 +199,11 @@ std::optional<std::string_view> messageText(ondemand::value message)
 SessionLogLine readLine(ondemand::parser &parser, const char *data, size_t size, size_t capacity, bool wantCwd)
 {
     SessionLogLine line;
-    if (!simdjson::validate_utf8(data, size)) {
-        line.invalidUtf8 = true;
-        return line;
-    }
     ondemand::document document;
-    if (parser.iterate(padded_string_view(data, size, capacity)).get(document)) {
+    if (const error_code error = parser.iterate(padded_string_view(data, size, capacity)).get(document)) {
+        // The parser checks UTF-8 while it indexes the line, but may report another fault first;
+        // only then is the line checked on its own.
+        line.invalidUtf8 = error == UTF8_ERROR || !simdjson::validate_utf8(data, size);
         return line;
     }
     ondemand::object object;
