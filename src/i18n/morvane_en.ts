@@ -51,6 +51,10 @@
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</translation>
     </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>Create task failed: %1</translation>
+    </message>
     <message id="claude.err.emptyOutput">
       <source>Claude produced no output</source>
       <translation>Claude produced no output</translation>

@@ -51,6 +51,10 @@
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>Las funciones de IA necesitan la CLI de Claude en este Mac (captura por voz o texto, resúmenes y la nota de factura). Todo lo demás funciona sin ella. Define CLAUDE_CLI_PATH o instálala y vuelve a intentarlo.</translation>
     </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>No se pudo crear la tarea: %1</translation>
+    </message>
     <message id="claude.err.emptyOutput">
       <source>Claude produced no output</source>
       <translation>Claude no devolvió nada</translation>

@@ -51,6 +51,10 @@
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>Les fonctions d'IA ont besoin de la CLI Claude sur ce Mac (saisie vocale et par invite, briefs et note de facture). Tout le reste fonctionne sans elle. Définissez CLAUDE_CLI_PATH ou installez-la, puis réessayez.</translation>
     </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>Échec de la création de la tâche : %1</translation>
+    </message>
     <message id="claude.err.emptyOutput">
       <source>Claude produced no output</source>
       <translation>Claude n'a rien renvoyé</translation>

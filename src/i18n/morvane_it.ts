@@ -51,6 +51,10 @@
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>Le funzioni di IA richiedono la CLI di Claude su questo Mac (acquisizione vocale e testuale, briefing e nota in fattura). Tutto il resto funziona anche senza. Imposta CLAUDE_CLI_PATH o installala, poi riprova.</translation>
     </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>Creazione dell'attività non riuscita: %1</translation>
+    </message>
     <message id="claude.err.emptyOutput">
       <source>Claude produced no output</source>
       <translation>Claude non ha prodotto alcun output</translation>

@@ -51,6 +51,10 @@
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>AI 機能にはこの Mac の Claude CLI が必要です (音声・プロンプト入力、ブリーフ、請求書メモに使います)。それ以外はなくても動きます。CLAUDE_CLI_PATH を設定するかインストールしてから、もう一度お試しください。</translation>
     </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>タスクを作成できませんでした: %1</translation>
+    </message>
     <message id="claude.err.emptyOutput">
       <source>Claude produced no output</source>
       <translation>Claude から出力がありませんでした</translation>

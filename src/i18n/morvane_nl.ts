@@ -51,6 +51,10 @@
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>AI-functies hebben de Claude CLI op deze Mac nodig (voor spraak- en promptinvoer, briefings en de factuurnotitie). Al het andere werkt zonder. Stel CLAUDE_CLI_PATH in of installeer hem en probeer het opnieuw.</translation>
     </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>Taak aanmaken mislukt: %1</translation>
+    </message>
     <message id="claude.err.emptyOutput">
       <source>Claude produced no output</source>
       <translation>Claude gaf geen uitvoer</translation>

@@ -51,6 +51,10 @@
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>Os recursos de IA precisam da CLI do Claude neste Mac (captura por voz ou texto, resumos e a nota da fatura). Todo o resto funciona sem ela. Defina CLAUDE_CLI_PATH ou instale-a e tente novamente.</translation>
     </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>Falha ao criar a tarefa: %1</translation>
+    </message>
     <message id="claude.err.emptyOutput">
       <source>Claude produced no output</source>
       <translation>O Claude não produziu nenhuma saída</translation>

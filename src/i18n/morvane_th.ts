@@ -51,6 +51,10 @@
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>ฟีเจอร์ AI ต้องใช้ Claude CLI บน Mac เครื่องนี้ (ใช้กับการป้อนด้วยเสียง/พรอมต์ บทสรุป และหมายเหตุในใบแจ้งหนี้) ส่วนอื่นทำงานได้โดยไม่ต้องมี ตั้งค่า CLAUDE_CLI_PATH หรือติดตั้ง แล้วลองอีกครั้ง</translation>
     </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>สร้างงานไม่สำเร็จ: %1</translation>
+    </message>
     <message id="claude.err.emptyOutput">
       <source>Claude produced no output</source>
       <translation>Claude ไม่ได้ให้ผลลัพธ์ใดเลย</translation>

@@ -1,12 +1,11 @@
+// The main-thread half of ClaudeWatcher: settings, polling and logging bursts through the sink.
 #include "claudewatcher.h"
 
-#include "sessions/sessionlogreader.h"
+#include "model/error.h"
 
 #include <QDir>
-#include <QFile>
-#include <QHash>
-#include <QMutex>
-#include <QMutexLocker>
+#include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSettings>
 #include <QThreadPool>
@@ -15,154 +14,19 @@
 
 #include <QtConcurrent/QtConcurrentRun>
 #include <algorithm>
-#include <cstring>
-#include <dirent.h>
-#include <span>
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
+Q_LOGGING_CATEGORY(lcSessions, "morvane.sessions")
+
+const QString ClaudeWatcher::enabledKey = u"claude_tracking_enabled"_s;
+const QString ClaudeWatcher::idleGapKey = u"claude_idle_gap_seconds"_s;
+const QString ClaudeWatcher::mappingsKey = u"claude_path_mappings"_s;
+const QString ClaudeWatcher::processedKey = u"claude_processed_sessions"_s;
+
 namespace {
 
-constexpr qint64 secondsPerDay = 86400;
-
-// A parsed file as it was when read. A file counts as unchanged while its identity, size and
-// modification time (to the nanosecond) and the idle gap stay the same.
-struct CacheEntry
-{
-    timespec mod{};
-    qint64 size = 0;
-    dev_t device = 0;
-    ino_t inode = 0;
-    int idleGap = 0;
-    SessionLogState state;
-    std::optional<ParsedSession> session;
-};
-
-struct CacheSlot
-{
-    std::shared_ptr<const CacheEntry> entry;
-    // The latest walk that saw the file. Walks are numbered as they start, so a walk that prunes
-    // what it did not see keeps what a later walk running beside it has seen.
-    quint64 seenByWalk = 0;
-};
-
-struct ParseCache
-{
-    QMutex lock;
-    QHash<QByteArray, CacheSlot> entries;
-    quint64 walks = 0;
-};
-
-ParseCache &parseCache()
-{
-    static ParseCache cache;
-    return cache;
-}
-
-QDateTime instant(LogInstant at)
-{
-    return QDateTime::fromMSecsSinceEpoch(at, Qt::UTC);
-}
-
-QList<SessionSegment> bursts(const QString &sessionId, std::span<const UserPrompt> prompts,
-                             std::span<const LogInstant> timestamps, int idleGap)
-{
-    QList<SessionSegment> segments;
-    if (prompts.empty()) {
-        return segments;
-    }
-    const auto close = [&](size_t first, size_t last) {
-        const UserPrompt &opening = prompts[first];
-        const LogInstant start = opening.at;
-        const LogInstant stop = prompts[last].at;
-        const auto from = std::lower_bound(timestamps.begin(), timestamps.end(), start);
-        const auto to = std::upper_bound(timestamps.begin(), timestamps.end(), stop);
-        SessionSegment burst;
-        burst.sessionId = sessionId;
-        burst.index = int(segments.size());
-        burst.title = opening.text.value_or(u"Claude segment "_s + QString::number(burst.index + 1));
-        burst.startedAt = instant(start);
-        burst.endedAt = instant(stop);
-        // One minute at least: a single prompt is still a piece of work.
-        const LogInstant *base = timestamps.data();
-        burst.activeSeconds = std::max<qint64>(
-            ClaudeWatcher::computeActive(base + (from - timestamps.begin()), base + (to - timestamps.begin()), idleGap),
-            60);
-        burst.promptCount = int(last - first + 1);
-        segments.append(std::move(burst));
-    };
-    size_t first = 0;
-    for (size_t i = 1; i < prompts.size(); ++i) {
-        if ((prompts[i].at - prompts[i - 1].at) / 1000 > idleGap) {
-            close(first, i - 1);
-            first = i;
-        }
-    }
-    close(first, prompts.size() - 1);
-    return segments;
-}
-
-ParsedSession session(const QString &sessionId, const QString &cwd, std::span<const LogInstant> timestamps,
-                      std::span<const UserPrompt> prompts, int idleGap)
-{
-    ParsedSession session;
-    session.sessionId = sessionId;
-    session.cwd = cwd;
-    session.startedAt = instant(timestamps.front());
-    session.endedAt = instant(timestamps.back());
-    session.activeSeconds =
-        ClaudeWatcher::computeActive(timestamps.data(), timestamps.data() + timestamps.size(), idleGap);
-    session.promptCount = int(prompts.size());
-    if (!prompts.empty()) {
-        session.firstUserMessage = prompts.front().text;
-    }
-    session.segments = bursts(sessionId, prompts, timestamps, idleGap);
-    return session;
-}
-
-// The session of a read: its complete lines plus, when the file does not end in a line feed, the
-// line being written.
-std::optional<ParsedSession> finish(const SessionLogRead &read, const QString &sessionId, int idleGap)
-{
-    const SessionLogState &state = read.state;
-    const SessionLogLine *tail = read.tail ? &*read.tail : nullptr;
-    if (state.invalidUtf8 || (tail && tail->invalidUtf8)) {
-        return std::nullopt;
-    }
-    const QString cwd = !state.cwd.isEmpty() ? state.cwd : tail ? tail->cwd : QString();
-    const bool tailTimestamp = tail && tail->timestamp;
-    if (cwd.isEmpty() || (state.timestamps.empty() && !tailTimestamp)) {
-        return std::nullopt;
-    }
-    if (!tailTimestamp) {
-        return session(sessionId, cwd, state.timestamps, state.prompts, idleGap);
-    }
-
-    // Only a file that ends inside a line pays for copies.
-    std::vector<LogInstant> timestamps = state.timestamps;
-    std::vector<UserPrompt> prompts = state.prompts;
-    const LogInstant at = *tail->timestamp;
-    timestamps.insert(std::upper_bound(timestamps.begin(), timestamps.end(), at), at);
-    if (tail->prompt) {
-        // The last line in the file goes after every prompt of the same date.
-        const auto place = std::upper_bound(prompts.begin(), prompts.end(), at,
-                                            [](LogInstant value, const UserPrompt &p) { return value < p.at; });
-        prompts.insert(place, UserPrompt{at, tail->prompt});
-    }
-    return session(sessionId, cwd, timestamps, prompts, idleGap);
-}
-
-bool sameTime(const timespec &a, const timespec &b)
-{
-    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
-}
-
-bool endsWithLogSuffix(const char *name, size_t length)
-{
-    return length >= 6 && std::memcmp(name + length - 6, ".jsonl", 6) == 0;
-}
-
+// Walks run one at a time at low priority: they read files, and the user's work comes first.
 QThreadPool &backgroundPool()
 {
     static QThreadPool *pool = [] {
@@ -174,13 +38,46 @@ QThreadPool &backgroundPool()
     return *pool;
 }
 
+// The locale's long date without the weekday and with short month names: what is called a
+// medium date elsewhere ("Mar 1, 2025", "1 mrt 2025").
+QString mediumDateFormat(const QLocale &locale)
+{
+    QString format = locale.dateFormat(QLocale::LongFormat);
+    format.remove(QRegularExpression(u"dddd[,.]?\\s*"_s));
+    format.replace(u"MMMM"_s, u"MMM"_s);
+    return format.trimmed();
+}
+
+// Built outside the coroutines: GCC 12 mishandles initializer lists inside them.
+BurstTask burstTask(const QString &userId, const QString &projectId, const ParsedSession &session,
+                    const SessionSegment &burst, int burstCount)
+{
+    BurstTask task;
+    task.userId = userId;
+    task.projectId = projectId;
+    task.title = u"[AI] "_s + burst.title;
+    const QStringList lines{
+        u"Claude Code session "_s + session.sessionId + u", segment "_s + QString::number(burst.index + 1) + u" of "_s +
+            QString::number(burstCount),
+        u"Working dir: "_s + session.cwd,
+        u"Prompts in this segment: "_s + QString::number(burst.promptCount),
+        u"Window: "_s + ClaudeWatcher::formatDateRange(burst.startedAt, burst.endedAt),
+    };
+    task.description = lines.join(u'\n');
+    return task;
+}
+
 } // namespace
 
 ClaudeWatcher::ClaudeWatcher(std::shared_ptr<QSettings> settings, QString projectsDir, QObject *parent)
     : QObject(parent)
     , m_settings(std::move(settings))
     , m_projectsDir(std::move(projectsDir))
-{}
+{
+    m_enabled = m_settings->value(enabledKey, false).toBool();
+    m_pollTimer.setSingleShot(true);
+    connect(&m_pollTimer, &QTimer::timeout, this, [this] { pollStep(m_pollRun); });
+}
 
 ClaudeWatcher::ClaudeWatcher(std::shared_ptr<QSettings> settings, QObject *parent)
     : ClaudeWatcher(std::move(settings), defaultProjectsDir(), parent)
@@ -196,192 +93,281 @@ QString ClaudeWatcher::defaultProjectsDir()
 int ClaudeWatcher::idleGapSeconds(const QSettings &settings)
 {
     bool ok = false;
-    const int value = settings.value(u"claude_idle_gap_seconds"_s).toInt(&ok);
+    const int value = settings.value(idleGapKey).toInt(&ok);
     return ok && value > 0 ? value : defaultIdleGapSeconds;
 }
 
-std::optional<ParsedSession> ClaudeWatcher::parse(const QString &path, const QString &sessionId, int idleGap)
+QString ClaudeWatcher::burstKey(const QString &sessionId, int index)
 {
-    const std::optional<SessionLogRead> read = SessionLogReader::readWhole(QFile::encodeName(path));
-    if (!read) {
-        return std::nullopt;
-    }
-    return finish(*read, sessionId, idleGap);
+    return sessionId + u":seg" + QString::number(index);
 }
 
-qint64 ClaudeWatcher::computeActive(const LogInstant *begin, const LogInstant *end, int idleGap)
+QString ClaudeWatcher::formatDateRange(const QDateTime &from, const QDateTime &to, const QLocale &locale)
 {
-    qint64 total = 0;
-    for (const LogInstant *at = begin; at + 1 < end; ++at) {
-        // Whole seconds, truncated toward zero.
-        const qint64 gap = (at[1] - at[0]) / 1000;
-        if (gap > 0 && gap <= idleGap) {
-            total += gap;
-        }
-    }
-    return total;
-}
-
-qint64 ClaudeWatcher::computeActive(const QList<LogInstant> &instants, int idleGap)
-{
-    return computeActive(instants.constData(), instants.constData() + instants.size(), idleGap);
-}
-
-QList<SessionSegment> ClaudeWatcher::segment(const QString &sessionId, const QList<UserPrompt> &prompts,
-                                             const QList<LogInstant> &timestamps, int idleGap)
-{
-    return bursts(sessionId, prompts, timestamps, idleGap);
-}
-
-QList<SessionSegment> ClaudeWatcher::fallbackSingleSegment(const ParsedSession &session)
-{
-    SessionSegment whole;
-    whole.sessionId = session.sessionId;
-    whole.index = 0;
-    whole.title = session.firstUserMessage.value_or(u"Claude session"_s);
-    whole.startedAt = session.startedAt;
-    whole.endedAt = session.endedAt;
-    whole.activeSeconds = session.activeSeconds;
-    whole.promptCount = session.promptCount;
-    return {whole};
-}
-
-QList<ParsedSession> ClaudeWatcher::enumerateSessions(const QString &projectsDir, int idleGap, int recentDays,
-                                                      const QDateTime &now, ScanStats *stats)
-{
-    ScanStats counted;
-    QList<ParsedSession> sessions;
-    const qint64 cutoff = now.toSecsSinceEpoch() - qint64(recentDays) * secondsPerDay;
-    ParseCache &cache = parseCache();
-    quint64 walk = 0;
-    {
-        const QMutexLocker locker(&cache.lock);
-        walk = ++cache.walks;
-    }
-    const auto prune = [&] {
-        const QMutexLocker locker(&cache.lock);
-        for (auto it = cache.entries.begin(); it != cache.entries.end();) {
-            it = it->seenByWalk >= walk ? std::next(it) : cache.entries.erase(it);
-        }
+    const auto format = [&](const QDateTime &at) -> QString {
+        const QDateTime local = at.toLocalTime();
+        return locale.toString(local.date(), mediumDateFormat(locale)) + u' ' +
+               locale.toString(local.time(), QLocale::ShortFormat);
     };
-
-    const QByteArray root = QFile::encodeName(projectsDir);
-    DIR *top = ::opendir(root.constData());
-    if (!top) {
-        prune();
-        return sessions;
-    }
-    // One buffer for every path: an unchanged file costs no allocation.
-    QByteArray path;
-    path.reserve(4096);
-    while (const dirent *project = ::readdir(top)) {
-        const size_t nameLength = std::strlen(project->d_name);
-        if (project->d_type == DT_REG || std::strcmp(project->d_name, ".") == 0 ||
-            std::strcmp(project->d_name, "..") == 0) {
-            continue;
-        }
-        path = root;
-        path += '/';
-        path.append(project->d_name, qsizetype(nameLength));
-        path += '/';
-        const qsizetype folderLength = path.size();
-        DIR *inner = ::opendir(path.constData());
-        if (!inner) {
-            continue;
-        }
-        while (const dirent *file = ::readdir(inner)) {
-            const size_t length = std::strlen(file->d_name);
-            if (!endsWithLogSuffix(file->d_name, length)) {
-                continue;
-            }
-            struct stat info
-            {};
-            if (::fstatat(::dirfd(inner), file->d_name, &info, 0) != 0 || !S_ISREG(info.st_mode) ||
-                info.st_mtim.tv_sec < cutoff) {
-                continue;
-            }
-            path.truncate(folderLength);
-            path.append(file->d_name, qsizetype(length));
-            ++counted.filesSeen;
-
-            std::shared_ptr<const CacheEntry> cached;
-            {
-                const QMutexLocker locker(&cache.lock);
-                const auto slot = cache.entries.find(path);
-                if (slot != cache.entries.end()) {
-                    slot->seenByWalk = std::max(slot->seenByWalk, walk);
-                    cached = slot->entry;
-                }
-            }
-            const bool sameFile =
-                cached && cached->device == info.st_dev && cached->inode == info.st_ino && cached->idleGap == idleGap;
-            if (sameFile && sameTime(cached->mod, info.st_mtim) && cached->size == info.st_size) {
-                ++counted.filesFromCache;
-                if (cached->session) {
-                    sessions.append(*cached->session);
-                }
-                continue;
-            }
-
-            std::optional<SessionLogRead> read;
-            if (sameFile && info.st_size >= cached->state.parsedBytes) {
-                read = SessionLogReader::readAppended(path, cached->state);
-                if (read) {
-                    ++counted.filesExtended;
-                }
-            }
-            if (!read) {
-                read = SessionLogReader::readWhole(path);
-                if (!read) {
-                    continue;
-                }
-                ++counted.filesReadWhole;
-            }
-            counted.bytesRead += read->bytesRead;
-            const QString sessionId = QFile::decodeName(QByteArray(file->d_name, qsizetype(length - 6)));
-            auto entry = std::make_shared<CacheEntry>();
-            entry->mod = info.st_mtim;
-            entry->size = info.st_size;
-            entry->device = info.st_dev;
-            entry->inode = info.st_ino;
-            entry->idleGap = idleGap;
-            entry->session = finish(*read, sessionId, idleGap);
-            entry->state = std::move(read->state);
-            if (entry->session) {
-                sessions.append(*entry->session);
-            }
-            // Files without a session are kept too: unchanged, they would give none again, and
-            // a growing one is extended like any other.
-            const QMutexLocker locker(&cache.lock);
-            CacheSlot &slot = cache.entries[QByteArray(path.constData(), path.size())];
-            slot.entry = std::move(entry);
-            slot.seenByWalk = std::max(slot.seenByWalk, walk);
-        }
-        ::closedir(inner);
-    }
-    ::closedir(top);
-    prune();
-    if (stats) {
-        *stats = counted;
-    }
-    return sessions;
+    return format(from) + u" > " + format(to);
 }
 
-void ClaudeWatcher::clearParseCache()
+void ClaudeWatcher::setSink(const std::shared_ptr<SessionLogSink> &sink)
 {
-    ParseCache &cache = parseCache();
-    const QMutexLocker locker(&cache.lock);
-    cache.entries.clear();
+    m_sink = sink;
+    if (m_enabled) {
+        resumePolling();
+    }
+}
+
+QHash<QString, QString> ClaudeWatcher::pathMappings() const
+{
+    QHash<QString, QString> mappings;
+    const QVariantMap stored = m_settings->value(mappingsKey).toMap();
+    for (auto it = stored.cbegin(); it != stored.cend(); ++it) {
+        mappings.insert(it.key(), it.value().toString());
+    }
+    return mappings;
+}
+
+QStringList ClaudeWatcher::processedKeys() const
+{
+    return m_settings->value(processedKey).toStringList();
+}
+
+void ClaudeWatcher::storeProcessed(const QStringList &keys)
+{
+    m_settings->setValue(processedKey, keys);
+}
+
+void ClaudeWatcher::setScanError(const QString &error)
+{
+    if (m_scanError != error) {
+        m_scanError = error;
+        Q_EMIT scanErrorChanged();
+    }
+}
+
+QCoro::Task<QList<ParsedSession>> ClaudeWatcher::walk(int recentDays) const
+{
+    const int idleGap = idleGapSeconds(*m_settings);
+    const QString dir = m_projectsDir;
+    const QDateTime now = m_clock();
+    // The future is made in a statement of its own: GCC 12 mishandles temporaries (here the
+    // lambda) made inside a co_await expression.
+    QFuture<QList<ParsedSession>> future = QtConcurrent::run(&backgroundPool(), [dir, idleGap, recentDays, now] {
+        return enumerateSessions(dir, idleGap, recentDays, now);
+    });
+    QList<ParsedSession> sessions = co_await future;
+    co_return sessions;
 }
 
 QCoro::Task<> ClaudeWatcher::loadLiveSessions()
 {
-    const int idleGap = idleGapSeconds(*m_settings);
-    const QString dir = m_projectsDir;
-    QList<ParsedSession> sessions = co_await QtConcurrent::run(
-        &backgroundPool(), [dir, idleGap] { return enumerateSessions(dir, idleGap, listRecentDays); });
+    QList<ParsedSession> sessions = co_await walk(listRecentDays);
     std::stable_sort(sessions.begin(), sessions.end(),
                      [](const ParsedSession &a, const ParsedSession &b) { return a.endedAt > b.endedAt; });
     m_liveSessions = std::move(sessions);
     Q_EMIT liveSessionsChanged();
+}
+
+void ClaudeWatcher::setEnabled(bool enabled)
+{
+    if (m_enabled == enabled) {
+        return;
+    }
+    m_enabled = enabled;
+    m_settings->setValue(enabledKey, enabled);
+    Q_EMIT enabledChanged();
+    if (enabled) {
+        resumePolling();
+    } else {
+        // A scan under way finishes; no other follows.
+        ++m_pollRun;
+        m_polling = false;
+        m_pollTimer.stop();
+    }
+}
+
+void ClaudeWatcher::mapPath(const QString &cwd, const std::optional<QString> &projectId)
+{
+    QVariantMap mappings = m_settings->value(mappingsKey).toMap();
+    if (projectId) {
+        mappings.insert(cwd, *projectId);
+    } else {
+        mappings.remove(cwd);
+    }
+    m_settings->setValue(mappingsKey, mappings);
+    Q_EMIT pathMappingsChanged();
+}
+
+QCoro::Task<> ClaudeWatcher::dismissPath(QString cwd)
+{
+    const QList<ParsedSession> sessions = co_await walk(scanRecentDays);
+    QStringList processed = processedKeys();
+    for (const ParsedSession &session : sessions) {
+        if (session.cwd == cwd && !processed.contains(session.sessionId)) {
+            processed.append(session.sessionId);
+        }
+    }
+    storeProcessed(processed);
+    const qsizetype removed = m_pendingPaths.removeIf([&](const PendingPath &pending) { return pending.cwd == cwd; });
+    if (removed > 0) {
+        Q_EMIT pendingPathsChanged();
+    }
+}
+
+void ClaudeWatcher::resumePolling()
+{
+    if (!m_enabled || m_polling || m_sink.expired()) {
+        return;
+    }
+    m_polling = true;
+    pollStep(++m_pollRun);
+}
+
+QCoro::Task<> ClaudeWatcher::pollStep(quint64 run)
+{
+    co_await scanNow();
+    if (run == m_pollRun && m_polling) {
+        m_pollTimer.start(m_pollInterval);
+    }
+}
+
+QCoro::Task<ClaudeWatcher::Logged> ClaudeWatcher::logBurst(const ParsedSession &session, const SessionSegment &burst,
+                                                           int burstCount, const QString &projectId)
+{
+    const std::shared_ptr<SessionLogSink> sink = m_sink.lock();
+    if (!sink) {
+        co_return Logged::NoUser;
+    }
+    const std::optional<QString> userId = co_await sink->signedInUserId();
+    if (!userId) {
+        co_return Logged::NoUser;
+    }
+    const QString key = burstKey(session.sessionId, burst.index);
+    try {
+        QString taskId = m_createdTasks.value(key);
+        if (taskId.isEmpty()) {
+            const BurstTask task = burstTask(*userId, projectId, session, burst, burstCount);
+            taskId = co_await sink->createTask(task);
+            m_createdTasks.insert(key, taskId);
+        }
+        co_await sink->logMinutes(taskId, double(burst.activeSeconds) / 60.0);
+        m_createdTasks.remove(key);
+    } catch (const MorvaneError &error) {
+        qCWarning(lcSessions) << "Create task failed:" << error.message();
+        //% "Create task failed: %1"
+        setScanError(qtTrId("claude.err.createTask").arg(error.message()));
+        co_return Logged::Failed;
+    }
+    co_return Logged::Yes;
+}
+
+QCoro::Task<ScanResult> ClaudeWatcher::scanNow()
+{
+    if (!m_scanning) {
+        m_scanning = true;
+        Q_EMIT scanningChanged();
+    }
+    setScanError({});
+    const QList<ParsedSession> sessions = co_await walk(scanRecentDays);
+    const QHash<QString, QString> mappings = pathMappings();
+    QStringList processed = processedKeys();
+    QSet<QString> done(processed.cbegin(), processed.cend());
+
+    ScanResult result;
+    result.foundSessions = int(sessions.size());
+    QList<PendingPath> pending;
+    bool signedIn = true;
+    for (const ParsedSession &session : sessions) {
+        if (done.contains(session.sessionId)) {
+            continue;
+        }
+        const auto mapping = mappings.constFind(session.cwd);
+        if (mapping == mappings.cend()) {
+            auto found = std::find_if(pending.begin(), pending.end(),
+                                      [&](const PendingPath &path) { return path.cwd == session.cwd; });
+            if (found == pending.end()) {
+                pending.append(PendingPath{session.cwd, 0, 0});
+                found = pending.end() - 1;
+            }
+            ++found->sessionCount;
+            found->totalActiveSeconds += session.activeSeconds;
+            ++result.pendingSessions;
+            continue;
+        }
+        const QList<SessionSegment> bursts =
+            session.segments.isEmpty() ? fallbackSingleSegment(session) : session.segments;
+        for (const SessionSegment &burst : bursts) {
+            const QString key = burstKey(session.sessionId, burst.index);
+            if (!signedIn || done.contains(key)) {
+                continue;
+            }
+            const Logged logged = co_await logBurst(session, burst, int(bursts.size()), *mapping);
+            if (logged == Logged::NoUser) {
+                // Nobody to log for: every burst stays for a later scan.
+                signedIn = false;
+            } else if (logged == Logged::Yes) {
+                done.insert(key);
+                processed.append(key);
+                ++result.loggedSessions;
+                result.loggedSeconds += burst.activeSeconds;
+            }
+        }
+    }
+    storeProcessed(processed);
+
+    std::stable_sort(pending.begin(), pending.end(), [](const PendingPath &a, const PendingPath &b) {
+        return a.totalActiveSeconds > b.totalActiveSeconds;
+    });
+    result.scannedAt = m_clock();
+    m_pendingPaths = pending;
+    m_lastResult = result;
+    m_scanning = false;
+    Q_EMIT pendingPathsChanged();
+    Q_EMIT lastResultChanged();
+    Q_EMIT scanningChanged();
+    co_return result;
+}
+
+QCoro::Task<int> ClaudeWatcher::logSession(ParsedSession session, QString projectId)
+{
+    const QList<SessionSegment> bursts = session.segments.isEmpty() ? fallbackSingleSegment(session) : session.segments;
+    QStringList processed = processedKeys();
+    int logged = 0;
+    for (const SessionSegment &burst : bursts) {
+        const QString key = burstKey(session.sessionId, burst.index);
+        if (processed.contains(key)) {
+            continue;
+        }
+        const Logged outcome = co_await logBurst(session, burst, int(bursts.size()), projectId);
+        if (outcome == Logged::NoUser) {
+            break;
+        }
+        if (outcome == Logged::Yes) {
+            processed.append(key);
+            ++logged;
+        }
+    }
+    storeProcessed(processed);
+    co_return logged;
+}
+
+QCoro::Task<> ClaudeWatcher::reimportSession(ParsedSession session)
+{
+    QStringList processed = processedKeys();
+    processed.removeAll(session.sessionId);
+    const qsizetype bursts = std::max<qsizetype>(session.segments.size(), 1);
+    for (qsizetype i = 0; i < bursts; ++i) {
+        processed.removeAll(burstKey(session.sessionId, int(i)));
+    }
+    storeProcessed(processed);
+    co_await loadLiveSessions();
+}
+
+QCoro::Task<ScanResult> ClaudeWatcher::reimportAll()
+{
+    storeProcessed({});
+    co_return co_await scanNow();
 }
