@@ -31,11 +31,11 @@ constexpr double warmTargetMillis = 30.0;
 constexpr double appendTargetMillis = 20.0;
 constexpr qint64 megabyte = 1 << 20;
 
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 
-double millisSince(Clock::time_point start)
+double millisSince(SteadyClock::time_point start)
 {
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    return std::chrono::duration<double, std::milli>(SteadyClock::now() - start).count();
 }
 
 double median(std::vector<double> values)
@@ -205,7 +205,7 @@ qint64 folderBytes(const QString &root)
 // Listing and one attribute read per file: the least any scan must do.
 double statWalkMillis(const QByteArray &root)
 {
-    const auto start = Clock::now();
+    const auto start = SteadyClock::now();
     DIR *top = ::opendir(root.constData());
     while (const dirent *folder = ::readdir(top)) {
         if (folder->d_name[0] == '.') {
@@ -231,7 +231,7 @@ double statWalkMillis(const QByteArray &root)
 
 double catMillis(const QString &root)
 {
-    const auto start = Clock::now();
+    const auto start = SteadyClock::now();
     QProcess::execute(u"/bin/sh"_s,
                       {u"-c"_s, u"find '%1' -name '*.jsonl' -print0 | xargs -0 cat > /dev/null"_s.arg(root)});
     return millisSince(start);
@@ -258,7 +258,7 @@ int main(int argc, char **argv)
     std::printf("generating %d logs, about %lld MB, in %s\n", files, (long long)(totalBytes / megabyte),
                 qPrintable(dir.path()));
     std::fflush(stdout);
-    const auto generation = Clock::now();
+    const auto generation = SteadyClock::now();
     LogWriter writer(7);
     std::mt19937_64 sizes(11);
     // Sizes spread like real folders: most sessions small, a few large.
@@ -295,7 +295,7 @@ int main(int argc, char **argv)
     QList<ParsedSession> sessions;
     for (int i = 0; i < 3; ++i) {
         ClaudeWatcher::clearParseCache();
-        const auto start = Clock::now();
+        const auto start = SteadyClock::now();
         sessions = ClaudeWatcher::enumerateSessions(root, 900, 3650, QDateTime::currentDateTimeUtc(), &stats);
         colds.push_back(millisSince(start));
     }
@@ -310,7 +310,7 @@ int main(int argc, char **argv)
     std::vector<double> warms;
     std::vector<double> walks;
     for (int i = 0; i < 9; ++i) {
-        const auto start = Clock::now();
+        const auto start = SteadyClock::now();
         ClaudeWatcher::enumerateSessions(root, 900, 3650, QDateTime::currentDateTimeUtc(), &stats);
         warms.push_back(millisSince(start));
         walks.push_back(statWalkMillis(QFile::encodeName(root)));
@@ -325,7 +325,7 @@ int main(int argc, char **argv)
     LogWriter appender(13);
     for (int i = 0; i < 5; ++i) {
         appender.write(largest.toStdString(), "/home/dev/code/project-0", megabyte, false);
-        const auto start = Clock::now();
+        const auto start = SteadyClock::now();
         ClaudeWatcher::enumerateSessions(root, 900, 3650, QDateTime::currentDateTimeUtc(), &stats);
         appends.push_back(millisSince(start));
     }

@@ -231,25 +231,57 @@
       <source>--days takes a whole number of days from 1 to 36500.</source>
       <translation>--days erwartet eine ganze Zahl von Tagen von 1 bis 36500.</translation>
     </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>Keine Sitzung %1 in den Logs der letzten 60 Tage.</translation>
+    </message>
     <message id="cli.sessions.group">
       <source>%1 · sessions: %2 · active %3</source>
       <translation>%1 · Sitzungen: %2 · aktiv %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>%1 ignoriert: %2 Sitzungen dort werden nicht gebucht.</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>%1 ist dem Projekt %2 zugeordnet.</translation>
     </message>
     <message id="cli.sessions.none">
       <source>No Claude sessions parsed yet</source>
       <translation>Noch keine Claude-Sitzungen eingelesen</translation>
     </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>Alle Sitzungen (mit reimport).</translation>
+    </message>
     <message id="cli.sessions.option.days">
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>Sitzungen, deren Log sich in den letzten N Tagen geändert hat (ohne Angabe 30).</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>Alle Sitzungen werden beim nächsten Durchlauf erneut gebucht.</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>Sitzung %1 wird beim nächsten Durchlauf erneut gebucht.</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
       <translation>%1 · %2 bis %3 · aktiv %4 · Prompts: %5</translation>
     </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>Claude-Sitzungen werden nicht mehr erfasst.</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>Claude-Sitzungen werden erfasst: jede Minute werden die neuen Arbeitsblöcke zugeordneter Ordner gebucht.</translation>
+    </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json]</source>
-      <translation>Aufruf: morvane sessions list [--days N] [--json]</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Aufruf: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

@@ -231,25 +231,57 @@
       <source>--days takes a whole number of days from 1 to 36500.</source>
       <translation>--days takes a whole number of days from 1 to 36500.</translation>
     </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>No session %1 among the logs of the last 60 days.</translation>
+    </message>
     <message id="cli.sessions.group">
       <source>%1 · sessions: %2 · active %3</source>
       <translation>%1 · sessions: %2 · active %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>Ignored %1: %2 sessions there will not be logged.</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>%1 is mapped to project %2.</translation>
     </message>
     <message id="cli.sessions.none">
       <source>No Claude sessions parsed yet</source>
       <translation>No Claude sessions parsed yet</translation>
     </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>Every session (with reimport).</translation>
+    </message>
     <message id="cli.sessions.option.days">
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>Sessions whose log changed in the last N days (30 when not given).</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>Every session will be logged again by the next scan.</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>Session %1 will be logged again by the next scan.</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
       <translation>%1 · %2 to %3 · active %4 · prompts: %5</translation>
     </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>Claude sessions are no longer tracked.</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</translation>
+    </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json]</source>
-      <translation>Usage: morvane sessions list [--days N] [--json]</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

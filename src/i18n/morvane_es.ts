@@ -231,25 +231,57 @@
       <source>--days takes a whole number of days from 1 to 36500.</source>
       <translation>--days espera un número entero de días de 1 a 36500.</translation>
     </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>No hay ninguna sesión %1 en los registros de los últimos 60 días.</translation>
+    </message>
     <message id="cli.sessions.group">
       <source>%1 · sessions: %2 · active %3</source>
       <translation>%1 · sesiones: %2 · activo %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>%1 ignorado: %2 sesiones de allí no se registrarán.</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>%1 está asignado al proyecto %2.</translation>
     </message>
     <message id="cli.sessions.none">
       <source>No Claude sessions parsed yet</source>
       <translation>Aún no se ha analizado ninguna sesión de Claude</translation>
     </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>Todas las sesiones (con reimport).</translation>
+    </message>
     <message id="cli.sessions.option.days">
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>Sesiones cuyo registro cambió en los últimos N días (30 si no se indica).</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>Todas las sesiones se volverán a registrar en la próxima exploración.</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>La sesión %1 se volverá a registrar en la próxima exploración.</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
       <translation>%1 · %2 a %3 · activo %4 · instrucciones: %5</translation>
     </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>Las sesiones de Claude ya no se registran.</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>Las sesiones de Claude se registran: cada minuto se anotan los nuevos bloques de trabajo de las carpetas asignadas.</translation>
+    </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json]</source>
-      <translation>Uso: morvane sessions list [--days N] [--json]</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Uso: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

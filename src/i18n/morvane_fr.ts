@@ -231,25 +231,57 @@
       <source>--days takes a whole number of days from 1 to 36500.</source>
       <translation>--days attend un nombre entier de jours de 1 à 36500.</translation>
     </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>Aucune session %1 dans les journaux des 60 derniers jours.</translation>
+    </message>
     <message id="cli.sessions.group">
       <source>%1 · sessions: %2 · active %3</source>
       <translation>%1 · sessions : %2 · actif %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>%1 ignoré : %2 sessions n'y seront pas enregistrées.</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>%1 est associé au projet %2.</translation>
     </message>
     <message id="cli.sessions.none">
       <source>No Claude sessions parsed yet</source>
       <translation>Aucune session Claude analysée pour l'instant</translation>
     </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>Toutes les sessions (avec reimport).</translation>
+    </message>
     <message id="cli.sessions.option.days">
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>Sessions dont le journal a changé ces N derniers jours (30 par défaut).</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>Toutes les sessions seront de nouveau enregistrées au prochain passage.</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>La session %1 sera de nouveau enregistrée au prochain passage.</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
       <translation>%1 · %2 à %3 · actif %4 · invites : %5</translation>
     </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>Les sessions Claude ne sont plus suivies.</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>Les sessions Claude sont suivies : chaque minute, les nouveaux blocs de travail des dossiers associés sont enregistrés.</translation>
+    </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json]</source>
-      <translation>Utilisation : morvane sessions list [--days N] [--json]</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Utilisation : morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

@@ -231,25 +231,57 @@
       <source>--days takes a whole number of days from 1 to 36500.</source>
       <translation>--days richiede un numero intero di giorni da 1 a 36500.</translation>
     </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>Nessuna sessione %1 nei log degli ultimi 60 giorni.</translation>
+    </message>
     <message id="cli.sessions.group">
       <source>%1 · sessions: %2 · active %3</source>
       <translation>%1 · sessioni: %2 · attivo %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>%1 ignorato: %2 sessioni lì non saranno registrate.</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>%1 è associato al progetto %2.</translation>
     </message>
     <message id="cli.sessions.none">
       <source>No Claude sessions parsed yet</source>
       <translation>Nessuna sessione Claude ancora analizzata</translation>
     </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>Tutte le sessioni (con reimport).</translation>
+    </message>
     <message id="cli.sessions.option.days">
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>Sessioni il cui log è cambiato negli ultimi N giorni (30 se non indicato).</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>Tutte le sessioni saranno registrate di nuovo alla prossima scansione.</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>La sessione %1 sarà registrata di nuovo alla prossima scansione.</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
       <translation>%1 · da %2 a %3 · attivo %4 · prompt: %5</translation>
     </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>Le sessioni Claude non sono più tracciate.</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>Le sessioni Claude sono tracciate: ogni minuto vengono registrati i nuovi blocchi di lavoro delle cartelle associate.</translation>
+    </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json]</source>
-      <translation>Uso: morvane sessions list [--days N] [--json]</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Uso: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

@@ -231,25 +231,57 @@
       <source>--days takes a whole number of days from 1 to 36500.</source>
       <translation>--days ต้องเป็นจำนวนวันเต็มตั้งแต่ 1 ถึง 36500</translation>
     </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>ไม่พบเซสชัน %1 ในล็อกช่วง 60 วันที่ผ่านมา</translation>
+    </message>
     <message id="cli.sessions.group">
       <source>%1 · sessions: %2 · active %3</source>
       <translation>%1 · เซสชัน: %2 · ทำงาน %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>ละเว้น %1 แล้ว: %2 เซสชันในนั้นจะไม่ถูกบันทึก</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>ผูก %1 กับโปรเจกต์ %2 แล้ว</translation>
     </message>
     <message id="cli.sessions.none">
       <source>No Claude sessions parsed yet</source>
       <translation>ยังไม่มีเซสชัน Claude ที่อ่านแล้ว</translation>
     </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>ทุกเซสชัน (ใช้กับ reimport)</translation>
+    </message>
     <message id="cli.sessions.option.days">
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>เซสชันที่ล็อกเปลี่ยนในช่วง N วันที่ผ่านมา (ไม่ระบุคือ 30)</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>ทุกเซสชันจะถูกบันทึกอีกครั้งในการสแกนครั้งถัดไป</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>เซสชัน %1 จะถูกบันทึกอีกครั้งในการสแกนครั้งถัดไป</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
       <translation>%1 · %2 ถึง %3 · ทำงาน %4 · พรอมต์: %5</translation>
     </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>เลิกติดตามเซสชัน Claude แล้ว</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>ติดตามเซสชัน Claude แล้ว: ทุกนาทีช่วงงานใหม่ของโฟลเดอร์ที่ผูกไว้จะถูกบันทึก</translation>
+    </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json]</source>
-      <translation>วิธีใช้: morvane sessions list [--days N] [--json]</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>วิธีใช้: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

@@ -159,13 +159,21 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("message");
-        const QString usage = u"Usage: morvane sessions list [--days N] [--json]"_s;
+        const QString usage = u"Usage: morvane sessions list [--days N] [--json] | map <dir> <project-id> | "
+                              u"ignore <dir> | reimport <session>|--all | track on|off"_s;
         const QString days = u"--days takes a whole number of days from 1 to 36500."_s;
         QTest::newRow("no action") << QStringList{u"sessions"_s} << usage;
         QTest::newRow("unknown action") << QStringList{u"sessions"_s, u"lsit"_s} << usage;
         QTest::newRow("extra argument") << QStringList{u"sessions"_s, u"list"_s, u"now"_s} << usage;
         QTest::newRow("unknown option") << QStringList{u"sessions"_s, u"list"_s, u"--all"_s} << usage;
         QTest::newRow("--days without value") << QStringList{u"sessions"_s, u"list"_s, u"--days"_s} << usage;
+        QTest::newRow("--json outside list") << QStringList{u"sessions"_s, u"track"_s, u"on"_s, u"--json"_s} << usage;
+        QTest::newRow("track what") << QStringList{u"sessions"_s, u"track"_s, u"maybe"_s} << usage;
+        QTest::newRow("map without project") << QStringList{u"sessions"_s, u"map"_s, u"/w"_s} << usage;
+        QTest::newRow("ignore without folder") << QStringList{u"sessions"_s, u"ignore"_s} << usage;
+        QTest::newRow("reimport of nothing") << QStringList{u"sessions"_s, u"reimport"_s} << usage;
+        QTest::newRow("reimport of one and all")
+            << QStringList{u"sessions"_s, u"reimport"_s, u"a1"_s, u"--all"_s} << usage;
         QTest::newRow("zero days") << QStringList{u"sessions"_s, u"list"_s, u"--days"_s, u"0"_s} << days;
         QTest::newRow("negative days") << QStringList{u"sessions"_s, u"list"_s, u"--days=-3"_s} << days;
         QTest::newRow("not a number") << QStringList{u"sessions"_s, u"list"_s, u"--days"_s, u"week"_s} << days;
@@ -218,6 +226,40 @@ private Q_SLOTS:
         QCOMPARE(none.out, u"No Claude sessions parsed yet\nLooked for logs changed in the last 30 days in "_s +
                                empty.path() + u"/.claude/projects.\n"_s);
         QCOMPARE(QJsonDocument::fromJson(json.out.toUtf8()).array(), QJsonArray());
+    }
+
+    void changesTheTrackingSettings()
+    {
+        const auto value = [](const QString &key) { return QSettings().value(key); };
+        QCOMPARE(run({u"sessions"_s, u"track"_s, u"on"_s}).code, 0);
+        QCOMPARE(value(u"claude_tracking_enabled"_s).toBool(), true);
+        const Run off = run({u"sessions"_s, u"track"_s, u"off"_s});
+        QCOMPARE(off.out, u"Claude sessions are no longer tracked.\n"_s);
+        QCOMPARE(value(u"claude_tracking_enabled"_s).toBool(), false);
+
+        QCOMPARE(run({u"sessions"_s, u"map"_s, u"/home/ana/code/webshop"_s, u"project-7"_s}).out,
+                 u"/home/ana/code/webshop is mapped to project project-7.\n"_s);
+        QCOMPARE(value(u"claude_path_mappings"_s).toMap().value(u"/home/ana/code/webshop"_s).toString(),
+                 u"project-7"_s);
+
+        QSettings().setValue(u"claude_processed_sessions"_s, QStringList{u"zz"_s});
+        QCOMPARE(run({u"sessions"_s, u"ignore"_s, u"/home/ana/code/webshop"_s}).out,
+                 u"Ignored /home/ana/code/webshop: 2 sessions there will not be logged.\n"_s);
+        QStringList processed = value(u"claude_processed_sessions"_s).toStringList();
+        QCOMPARE(QSet<QString>(processed.cbegin(), processed.cend()),
+                 (QSet<QString>{u"zz"_s, checkout, u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s}));
+
+        QSettings().setValue(u"claude_processed_sessions"_s,
+                             QStringList{checkout + u":seg0"_s, u"zz"_s, checkout + u":seg1"_s, checkout});
+        QCOMPARE(run({u"sessions"_s, u"reimport"_s, checkout}).code, 0);
+        QCOMPARE(value(u"claude_processed_sessions"_s).toStringList(), QStringList{u"zz"_s});
+        const Run unknown = run({u"sessions"_s, u"reimport"_s, u"nope"_s});
+        QCOMPARE(unknown.code, 1);
+        QCOMPARE(unknown.err, u"No session nope among the logs of the last 60 days.\n"_s);
+        QCOMPARE(run({u"sessions"_s, u"reimport"_s, u"--all"_s}).out,
+                 u"Every session will be logged again by the next scan.\n"_s);
+        QVERIFY(value(u"claude_processed_sessions"_s).toStringList().isEmpty());
+        QSettings().remove(u"claude_path_mappings"_s);
     }
 
     void isListedInTheHelp()
