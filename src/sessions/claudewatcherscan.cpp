@@ -23,7 +23,8 @@ constexpr qint64 secondsPerDay = 86400;
 // modification time (to the nanosecond) and the idle gap stay the same.
 struct CacheEntry
 {
-    timespec mod{};
+    qint64 modSeconds = 0;
+    qint64 modNanoseconds = 0;
     qint64 size = 0;
     dev_t device = 0;
     ino_t inode = 0;
@@ -144,11 +145,6 @@ std::optional<ParsedSession> finish(const SessionLogRead &read, const QString &s
         prompts.insert(place, UserPrompt{at, tail->prompt});
     }
     return session(sessionId, cwd, timestamps, prompts, idleGap);
-}
-
-bool sameTime(const timespec &a, const timespec &b)
-{
-    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
 }
 
 bool endsWithLogSuffix(const char *name, size_t length)
@@ -273,7 +269,8 @@ QList<ParsedSession> ClaudeWatcher::enumerateSessions(const QString &projectsDir
             }
             const bool sameFile =
                 cached && cached->device == info.st_dev && cached->inode == info.st_ino && cached->idleGap == idleGap;
-            if (sameFile && sameTime(cached->mod, info.st_mtim) && cached->size == info.st_size) {
+            if (sameFile && cached->modSeconds == info.st_mtim.tv_sec &&
+                cached->modNanoseconds == info.st_mtim.tv_nsec && cached->size == info.st_size) {
                 ++counted.filesFromCache;
                 if (cached->session) {
                     sessions.append(*cached->session);
@@ -298,7 +295,8 @@ QList<ParsedSession> ClaudeWatcher::enumerateSessions(const QString &projectsDir
             counted.bytesRead += read->bytesRead;
             const QString sessionId = QFile::decodeName(QByteArray(file->d_name, qsizetype(length - 6)));
             auto entry = std::make_shared<CacheEntry>();
-            entry->mod = info.st_mtim;
+            entry->modSeconds = info.st_mtim.tv_sec;
+            entry->modNanoseconds = info.st_mtim.tv_nsec;
             entry->size = info.st_size;
             entry->device = info.st_dev;
             entry->inode = info.st_ino;
