@@ -27,6 +27,7 @@ MORVANE_PACKAGES=(
     clang
     libclang-rt-14-dev
     dbus-daemon
+    libsimdjson-dev
 )
 
 morvane_missing_packages() {

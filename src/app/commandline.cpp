@@ -2,6 +2,7 @@
 
 #include "app/authcommands.h"
 #include "app/servercommand.h"
+#include "app/sessionscommands.h"
 #include "app/startup.h"
 #include "app/storecommands.h"
 #include "backend/config.h"
@@ -111,6 +112,8 @@ QList<Command> commands()
         {u"entries"_s, [] { return qtTrId("cli.command.entries"); }, runEntriesCommand},
         //% "Show or set the price of a project or task: price show|set"
         {u"price"_s, [] { return qtTrId("cli.command.price"); }, runPriceCommand},
+        //% "Coding-agent sessions found in the local logs: sessions list [--days N] [--json]"
+        {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
     };
 }
 

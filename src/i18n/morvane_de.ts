@@ -163,6 +163,54 @@
       <source>No VAT</source>
       <translation>Keine MwSt.</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>KI-Funktionen brauchen die Claude CLI auf diesem Mac (für Sprach- und Prompteingabe, Briefings und die Rechnungsnotiz). Alles andere funktioniert ohne sie. Setze CLAUDE_CLI_PATH oder installiere sie und versuche es erneut.</translation>
+    </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>Aufgabe anlegen fehlgeschlagen: %1</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude hat nichts ausgegeben</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>Start fehlgeschlagen: %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>Ungültiges JSON von Claude (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>kein JSON-Objekt gefunden</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude wurde mit Status %1 beendet: %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude ist fertig, hat %1 aber nicht geschrieben</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude meldete is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 ist in dieser Version von Morvane nicht verfügbar. Wähle die Claude CLI in den KI-Einstellungen.</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>Claude-Anfrage nach %1 s abgebrochen</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>Claude-Arbeitsordneraufgabe nach %1 s abgebrochen</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Der auszuführende Befehl; ohne Befehl wird die Befehlsliste angezeigt.</translation>
@@ -234,6 +282,10 @@
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Das lokale Backend starten, beenden oder anzeigen: server start|stop|status</translation>
+    </message>
+    <message id="cli.command.sessions">
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
+      <translation>Sitzungen des Coding-Agenten aus den lokalen Logs: sessions list [--days N] [--json]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -502,6 +554,70 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Aufruf: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.sessions.burst">
+      <source>%1. %2 to %3 · active %4 · prompts: %5 · %6</source>
+      <translation>%1. %2 bis %3 · aktiv %4 · Prompts: %5 · %6</translation>
+    </message>
+    <message id="cli.sessions.err.days">
+      <source>--days takes a whole number of days from 1 to 36500.</source>
+      <translation>--days erwartet eine ganze Zahl von Tagen von 1 bis 36500.</translation>
+    </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>Keine Sitzung %1 in den Logs der letzten 60 Tage.</translation>
+    </message>
+    <message id="cli.sessions.group">
+      <source>%1 · sessions: %2 · active %3</source>
+      <translation>%1 · Sitzungen: %2 · aktiv %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>%1 ignoriert: %2 Sitzungen dort werden nicht gebucht.</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>%1 ist dem Projekt %2 zugeordnet.</translation>
+    </message>
+    <message id="cli.sessions.none">
+      <source>No Claude sessions parsed yet</source>
+      <translation>Noch keine Claude-Sitzungen eingelesen</translation>
+    </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>Alle Sitzungen (mit reimport).</translation>
+    </message>
+    <message id="cli.sessions.option.days">
+      <source>Sessions whose log changed in the last N days (30 when not given).</source>
+      <translation>Sitzungen, deren Log sich in den letzten N Tagen geändert hat (ohne Angabe 30).</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>Alle Sitzungen werden beim nächsten Durchlauf erneut gebucht.</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>Sitzung %1 wird beim nächsten Durchlauf erneut gebucht.</translation>
+    </message>
+    <message id="cli.sessions.session">
+      <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
+      <translation>%1 · %2 bis %3 · aktiv %4 · Prompts: %5</translation>
+    </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>Claude-Sitzungen werden nicht mehr erfasst.</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>Claude-Sitzungen werden erfasst: jede Minute werden die neuen Arbeitsblöcke zugeordneter Ordner gebucht.</translation>
+    </message>
+    <message id="cli.sessions.usage">
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Aufruf: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
+    </message>
+    <message id="cli.sessions.where">
+      <source>Looked for logs changed in the last %1 days in %2.</source>
+      <translation>Gesucht wurde nach Logs, die sich in den letzten %1 Tagen geändert haben, in %2.</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>

@@ -163,6 +163,54 @@
       <source>No VAT</source>
       <translation>No VAT</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</translation>
+    </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>Create task failed: %1</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude produced no output</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>Launch failed: %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>Bad JSON from Claude (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>no JSON object detected</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude exited %1: %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude finished but did not write %1</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude returned is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>Claude request timed out after %1 s</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>Claude workspace task timed out after %1 s</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>The command to run; without one, the command list is shown.</translation>
@@ -234,6 +282,10 @@
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Start, stop or show the local backend: server start|stop|status</translation>
+    </message>
+    <message id="cli.command.sessions">
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
+      <translation>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -502,6 +554,70 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Usage: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.sessions.burst">
+      <source>%1. %2 to %3 · active %4 · prompts: %5 · %6</source>
+      <translation>%1. %2 to %3 · active %4 · prompts: %5 · %6</translation>
+    </message>
+    <message id="cli.sessions.err.days">
+      <source>--days takes a whole number of days from 1 to 36500.</source>
+      <translation>--days takes a whole number of days from 1 to 36500.</translation>
+    </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>No session %1 among the logs of the last 60 days.</translation>
+    </message>
+    <message id="cli.sessions.group">
+      <source>%1 · sessions: %2 · active %3</source>
+      <translation>%1 · sessions: %2 · active %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>Ignored %1: %2 sessions there will not be logged.</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>%1 is mapped to project %2.</translation>
+    </message>
+    <message id="cli.sessions.none">
+      <source>No Claude sessions parsed yet</source>
+      <translation>No Claude sessions parsed yet</translation>
+    </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>Every session (with reimport).</translation>
+    </message>
+    <message id="cli.sessions.option.days">
+      <source>Sessions whose log changed in the last N days (30 when not given).</source>
+      <translation>Sessions whose log changed in the last N days (30 when not given).</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>Every session will be logged again by the next scan.</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>Session %1 will be logged again by the next scan.</translation>
+    </message>
+    <message id="cli.sessions.session">
+      <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
+      <translation>%1 · %2 to %3 · active %4 · prompts: %5</translation>
+    </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>Claude sessions are no longer tracked.</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</translation>
+    </message>
+    <message id="cli.sessions.usage">
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
+    </message>
+    <message id="cli.sessions.where">
+      <source>Looked for logs changed in the last %1 days in %2.</source>
+      <translation>Looked for logs changed in the last %1 days in %2.</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>

@@ -163,6 +163,54 @@
       <source>No VAT</source>
       <translation>Sin IVA</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>Las funciones de IA necesitan la CLI de Claude en este Mac (captura por voz o texto, resúmenes y la nota de factura). Todo lo demás funciona sin ella. Define CLAUDE_CLI_PATH o instálala y vuelve a intentarlo.</translation>
+    </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>No se pudo crear la tarea: %1</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude no devolvió nada</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>No se pudo iniciar: %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>JSON no válido de Claude (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>no se detectó ningún objeto JSON</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude terminó con el estado %1: %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude terminó pero no escribió %1</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude devolvió is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 no está disponible en esta versión de Morvane. Elige la CLI de Claude en los ajustes de IA.</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>La solicitud a Claude caducó tras %1 s</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>La tarea de Claude en la carpeta de trabajo caducó tras %1 s</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>El comando que se ejecutará; sin él, se muestra la lista de comandos.</translation>
@@ -234,6 +282,10 @@
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Iniciar, detener o mostrar el servidor local: server start|stop|status</translation>
+    </message>
+    <message id="cli.command.sessions">
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
+      <translation>Sesiones del agente de código halladas en los registros locales: sessions list [--days N] [--json]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -502,6 +554,70 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>Uso: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.sessions.burst">
+      <source>%1. %2 to %3 · active %4 · prompts: %5 · %6</source>
+      <translation>%1. %2 a %3 · activo %4 · instrucciones: %5 · %6</translation>
+    </message>
+    <message id="cli.sessions.err.days">
+      <source>--days takes a whole number of days from 1 to 36500.</source>
+      <translation>--days espera un número entero de días de 1 a 36500.</translation>
+    </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>No hay ninguna sesión %1 en los registros de los últimos 60 días.</translation>
+    </message>
+    <message id="cli.sessions.group">
+      <source>%1 · sessions: %2 · active %3</source>
+      <translation>%1 · sesiones: %2 · activo %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>%1 ignorado: %2 sesiones de allí no se registrarán.</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>%1 está asignado al proyecto %2.</translation>
+    </message>
+    <message id="cli.sessions.none">
+      <source>No Claude sessions parsed yet</source>
+      <translation>Aún no se ha analizado ninguna sesión de Claude</translation>
+    </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>Todas las sesiones (con reimport).</translation>
+    </message>
+    <message id="cli.sessions.option.days">
+      <source>Sessions whose log changed in the last N days (30 when not given).</source>
+      <translation>Sesiones cuyo registro cambió en los últimos N días (30 si no se indica).</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>Todas las sesiones se volverán a registrar en la próxima exploración.</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>La sesión %1 se volverá a registrar en la próxima exploración.</translation>
+    </message>
+    <message id="cli.sessions.session">
+      <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
+      <translation>%1 · %2 a %3 · activo %4 · instrucciones: %5</translation>
+    </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>Las sesiones de Claude ya no se registran.</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>Las sesiones de Claude se registran: cada minuto se anotan los nuevos bloques de trabajo de las carpetas asignadas.</translation>
+    </message>
+    <message id="cli.sessions.usage">
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Uso: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
+    </message>
+    <message id="cli.sessions.where">
+      <source>Looked for logs changed in the last %1 days in %2.</source>
+      <translation>Se buscaron registros cambiados en los últimos %1 días en %2.</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>

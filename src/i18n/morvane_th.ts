@@ -163,6 +163,54 @@
       <source>No VAT</source>
       <translation>ไม่มี VAT</translation>
     </message>
+    <message id="claude.err.binaryMissing">
+      <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
+      <translation>ฟีเจอร์ AI ต้องใช้ Claude CLI บน Mac เครื่องนี้ (ใช้กับการป้อนด้วยเสียง/พรอมต์ บทสรุป และหมายเหตุในใบแจ้งหนี้) ส่วนอื่นทำงานได้โดยไม่ต้องมี ตั้งค่า CLAUDE_CLI_PATH หรือติดตั้ง แล้วลองอีกครั้ง</translation>
+    </message>
+    <message id="claude.err.createTask">
+      <source>Create task failed: %1</source>
+      <translation>สร้างงานไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="claude.err.emptyOutput">
+      <source>Claude produced no output</source>
+      <translation>Claude ไม่ได้ให้ผลลัพธ์ใดเลย</translation>
+    </message>
+    <message id="claude.err.launchFailed">
+      <source>Launch failed: %1</source>
+      <translation>เริ่มทำงานไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="claude.err.malformedJSON">
+      <source>Bad JSON from Claude (%1) %2</source>
+      <translation>JSON จาก Claude ไม่ถูกต้อง (%1) %2</translation>
+    </message>
+    <message id="claude.err.noJSONObject">
+      <source>no JSON object detected</source>
+      <translation>ไม่พบออบเจ็กต์ JSON</translation>
+    </message>
+    <message id="claude.err.nonZeroExit">
+      <source>Claude exited %1: %2</source>
+      <translation>Claude จบการทำงานด้วยสถานะ %1: %2</translation>
+    </message>
+    <message id="claude.err.outputNotWritten">
+      <source>Claude finished but did not write %1</source>
+      <translation>Claude ทำงานเสร็จแต่ไม่ได้เขียน %1</translation>
+    </message>
+    <message id="claude.err.resultIsError">
+      <source>claude returned is_error=true</source>
+      <translation>claude ส่งกลับ is_error=true</translation>
+    </message>
+    <message id="claude.err.routeNotConfigured">
+      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
+      <translation>%1 ยังใช้ไม่ได้ใน Morvane รุ่นนี้ เลือก Claude CLI ในการตั้งค่า AI</translation>
+    </message>
+    <message id="claude.err.timedOut">
+      <source>Claude request timed out after %1 s</source>
+      <translation>คำขอไปยัง Claude หมดเวลาหลัง %1 วินาที</translation>
+    </message>
+    <message id="claude.err.workspaceTimedOut">
+      <source>Claude workspace task timed out after %1 s</source>
+      <translation>งานของ Claude ในโฟลเดอร์งานหมดเวลาหลัง %1 วินาที</translation>
+    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>คำสั่งที่จะเรียกใช้ หากไม่ระบุจะแสดงรายการคำสั่ง</translation>
@@ -234,6 +282,10 @@
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>เริ่ม หยุด หรือแสดงแบ็กเอนด์ในเครื่อง: server start|stop|status</translation>
+    </message>
+    <message id="cli.command.sessions">
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
+      <translation>เซสชันของเอเจนต์เขียนโค้ดที่พบในล็อกบนเครื่อง: sessions list [--days N] [--json]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -502,6 +554,70 @@
     <message id="cli.server.usage">
       <source>Usage: morvane server start|stop|status [--json]</source>
       <translation>วิธีใช้: morvane server start|stop|status [--json]</translation>
+    </message>
+    <message id="cli.sessions.burst">
+      <source>%1. %2 to %3 · active %4 · prompts: %5 · %6</source>
+      <translation>%1. %2 ถึง %3 · ทำงาน %4 · พรอมต์: %5 · %6</translation>
+    </message>
+    <message id="cli.sessions.err.days">
+      <source>--days takes a whole number of days from 1 to 36500.</source>
+      <translation>--days ต้องเป็นจำนวนวันเต็มตั้งแต่ 1 ถึง 36500</translation>
+    </message>
+    <message id="cli.sessions.err.unknownSession">
+      <source>No session %1 among the logs of the last 60 days.</source>
+      <translation>ไม่พบเซสชัน %1 ในล็อกช่วง 60 วันที่ผ่านมา</translation>
+    </message>
+    <message id="cli.sessions.group">
+      <source>%1 · sessions: %2 · active %3</source>
+      <translation>%1 · เซสชัน: %2 · ทำงาน %3</translation>
+    </message>
+    <message id="cli.sessions.ignored">
+      <source>Ignored %1: %2 sessions there will not be logged.</source>
+      <translation>ละเว้น %1 แล้ว: %2 เซสชันในนั้นจะไม่ถูกบันทึก</translation>
+    </message>
+    <message id="cli.sessions.mapped">
+      <source>%1 is mapped to project %2.</source>
+      <translation>ผูก %1 กับโปรเจกต์ %2 แล้ว</translation>
+    </message>
+    <message id="cli.sessions.none">
+      <source>No Claude sessions parsed yet</source>
+      <translation>ยังไม่มีเซสชัน Claude ที่อ่านแล้ว</translation>
+    </message>
+    <message id="cli.sessions.option.all">
+      <source>Every session (with reimport).</source>
+      <translation>ทุกเซสชัน (ใช้กับ reimport)</translation>
+    </message>
+    <message id="cli.sessions.option.days">
+      <source>Sessions whose log changed in the last N days (30 when not given).</source>
+      <translation>เซสชันที่ล็อกเปลี่ยนในช่วง N วันที่ผ่านมา (ไม่ระบุคือ 30)</translation>
+    </message>
+    <message id="cli.sessions.reimportAll">
+      <source>Every session will be logged again by the next scan.</source>
+      <translation>ทุกเซสชันจะถูกบันทึกอีกครั้งในการสแกนครั้งถัดไป</translation>
+    </message>
+    <message id="cli.sessions.reimportOne">
+      <source>Session %1 will be logged again by the next scan.</source>
+      <translation>เซสชัน %1 จะถูกบันทึกอีกครั้งในการสแกนครั้งถัดไป</translation>
+    </message>
+    <message id="cli.sessions.session">
+      <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
+      <translation>%1 · %2 ถึง %3 · ทำงาน %4 · พรอมต์: %5</translation>
+    </message>
+    <message id="cli.sessions.trackOff">
+      <source>Claude sessions are no longer tracked.</source>
+      <translation>เลิกติดตามเซสชัน Claude แล้ว</translation>
+    </message>
+    <message id="cli.sessions.trackOn">
+      <source>Claude sessions are tracked: every minute the new work bursts of mapped folders are logged.</source>
+      <translation>ติดตามเซสชัน Claude แล้ว: ทุกนาทีช่วงงานใหม่ของโฟลเดอร์ที่ผูกไว้จะถูกบันทึก</translation>
+    </message>
+    <message id="cli.sessions.usage">
+      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>วิธีใช้: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
+    </message>
+    <message id="cli.sessions.where">
+      <source>Looked for logs changed in the last %1 days in %2.</source>
+      <translation>ค้นหาล็อกที่เปลี่ยนในช่วง %1 วันที่ผ่านมาใน %2</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>

@@ -60,7 +60,7 @@ private slots:
         QCOMPARE(result.code, 0);
         QVERIFY(result.out.contains(u"Commands:"_s));
         // Each command on a line of its own, its summary in one column with the others.
-        for (const QString &command : {u"auth"_s, u"config"_s, u"projects"_s, u"server"_s, u"tasks"_s, u"teams"_s}) {
+        for (const QString &command : {u"auth"_s, u"config"_s, u"projects"_s, u"server"_s, u"sessions"_s, u"tasks"_s, u"teams"_s}) {
             QVERIFY2(result.out.contains(QRegularExpression(u"\\n  "_s + command + u" +\\S"_s)), qPrintable(command));
         }
         QVERIFY(result.out.contains(QRegularExpression(u"\\n  config +Show which backend Morvane uses"_s)));

@@ -1,0 +1,468 @@
+#include "backend/runblocking.h"
+#include "i18n/language.h"
+#include "sessions/claudebridge.h"
+#include "sessions/claudebridgeerror.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonDocument>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <qcoro/qcorotask.h>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString &path, const QByteArray &bytes, QFileDevice::Permissions permissions)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(bytes);
+    file.close();
+    QVERIFY(file.setPermissions(permissions));
+}
+
+constexpr auto executable = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+constexpr auto plain = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+
+template<typename T>
+QString failureOf(QCoro::Task<T> task)
+{
+    try {
+        runBlocking(std::move(task));
+    } catch (const MorvaneError &error) {
+        return error.message();
+    }
+    return u"(no failure)"_s;
+}
+
+} // namespace
+
+class TestClaudeBridge : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_dir;
+    QString m_record;
+    std::shared_ptr<QSettings> m_settings;
+
+    // A bridge that finds the fake program through CLAUDE_CLI_PATH and runs it in `mode`.
+    ClaudeBridge bridge(const QString &mode, const QString &text = {}) const
+    {
+        QProcessEnvironment environment;
+        environment.insert(u"CLAUDE_CLI_PATH"_s, QStringLiteral(FAKE_CLAUDE_PROGRAM));
+        environment.insert(u"FAKE_CLAUDE_MODE"_s, mode);
+        environment.insert(u"FAKE_CLAUDE_RECORD"_s, m_record);
+        environment.insert(u"FAKE_CLAUDE_OUTPUT"_s, u"template.html"_s);
+        if (!text.isEmpty()) {
+            environment.insert(u"FAKE_CLAUDE_TEXT"_s, text);
+        }
+        return ClaudeBridge(m_settings, environment, m_dir.path());
+    }
+
+    QStringList recordedArguments() const
+    {
+        QStringList arguments = QString::fromUtf8(readFile(m_record + u"/args"_s)).split(QChar(u'\0'));
+        arguments.removeLast();
+        return arguments;
+    }
+
+    QString recorded(const char *name) const
+    {
+        return QString::fromUtf8(readFile(m_record + u'/' + QLatin1String(name)));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        Language::apply(u"en"_s);
+        m_record = m_dir.filePath(u"record"_s);
+        m_settings = std::make_shared<QSettings>(m_dir.filePath(u"settings.ini"_s), QSettings::IniFormat);
+    }
+
+    void init()
+    {
+        m_settings->clear();
+        QDir(m_record).removeRecursively();
+        QDir().mkpath(m_record);
+    }
+
+    void locatesTheProgram_data()
+    {
+        QTest::addColumn<QString>("override"); // file name in the test folder; "" for none
+        QTest::addColumn<QString>("variable"); // CLAUDE_CLI_PATH
+        QTest::addColumn<QStringList>("candidates");
+        QTest::addColumn<QString>("expected");
+
+        const QStringList none{u"a/claude"_s, u"b/claude"_s};
+        QTest::newRow("override that runs")
+            << u"override-exec"_s << u"/elsewhere/claude"_s << none << u"override-exec"_s;
+        QTest::newRow("override not executable: variable, unchecked")
+            << u"override-plain"_s << u"/elsewhere/claude"_s << none << u"/elsewhere/claude"_s;
+        QTest::newRow("override missing: variable")
+            << u"override-missing"_s << u"/elsewhere/claude"_s << none << u"/elsewhere/claude"_s;
+        QTest::newRow("first executable candidate")
+            << QString() << QString() << QStringList{u"a/claude"_s, u"plain/claude"_s, u"exec/claude"_s}
+            << u"exec/claude"_s;
+        QTest::newRow("none anywhere: the first candidate") << QString() << QString() << none << u"a/claude"_s;
+    }
+
+    void locatesTheProgram()
+    {
+        QFETCH(QString, override);
+        QFETCH(QString, variable);
+        QFETCH(QStringList, candidates);
+        QFETCH(QString, expected);
+        QTemporaryDir dir;
+        QDir().mkpath(dir.filePath(u"plain"_s));
+        QDir().mkpath(dir.filePath(u"exec"_s));
+        writeFile(dir.filePath(u"override-exec"_s), "#!/bin/sh\n", executable);
+        writeFile(dir.filePath(u"override-plain"_s), "#!/bin/sh\n", plain);
+        writeFile(dir.filePath(u"plain/claude"_s), "#!/bin/sh\n", plain);
+        writeFile(dir.filePath(u"exec/claude"_s), "#!/bin/sh\n", executable);
+        const auto inDir = [&](const QString &name) { return name.startsWith(u'/') ? name : dir.filePath(name); };
+
+        QSettings settings(dir.filePath(u"s.ini"_s), QSettings::IniFormat);
+        if (!override.isEmpty()) {
+            settings.setValue(u"ai.cliPath"_s, inDir(override));
+        }
+        QProcessEnvironment environment;
+        if (!variable.isEmpty()) {
+            environment.insert(u"CLAUDE_CLI_PATH"_s, variable);
+        }
+        QStringList paths;
+        for (const QString &candidate : candidates) {
+            paths.append(inDir(candidate));
+        }
+        QCOMPARE(ClaudeBridge::claudeCLIPath(settings, environment, paths), inDir(expected));
+    }
+
+    void defaultPlacesInOrder()
+    {
+        QCOMPARE(ClaudeBridge::defaultCandidates(u"/home/ana"_s),
+                 (QStringList{u"/opt/homebrew/bin/claude"_s, u"/usr/local/bin/claude"_s, u"/usr/bin/claude"_s,
+                              u"/home/ana/.local/bin/claude"_s}));
+    }
+
+    void commandLineOfParse()
+    {
+        const QJsonObject answer =
+            runBlocking(bridge(u"structured"_s)
+                            .parse({u"2 uur aan de webshop gisteren"_s, {u"Webshop"_s, u"Invoicer"_s}, u"2025-03-05"_s},
+                                   QTimeZone("Europe/Amsterdam")));
+        QCOMPARE(answer[u"intent"].toString(), u"create_task"_s);
+        const QStringList arguments = recordedArguments();
+        QCOMPARE(arguments.mid(0, 8),
+                 (QStringList{u"--print"_s, u"--model"_s, u"sonnet"_s, u"--output-format"_s, u"json"_s,
+                              u"--disable-slash-commands"_s, u"--input-format"_s, u"text"_s}));
+        QCOMPARE(arguments.value(8), u"--system-prompt"_s);
+        QCOMPARE(arguments.value(9), ClaudeBridge::parseSystemPrompt({u"Webshop"_s, u"Invoicer"_s}, u"2025-03-05"_s,
+                                                                     QTimeZone("Europe/Amsterdam")));
+        QCOMPARE(arguments.mid(10),
+                 (QStringList{u"--json-schema"_s, ClaudeBridge::jsonSchema(), u"--no-session-persistence"_s}));
+        QCOMPARE(recorded("stdin"), u"User input: 2 uur aan de webshop gisteren"_s);
+        QCOMPARE(recorded("no_color"), u"1"_s);
+        QVERIFY(QJsonDocument::fromJson(ClaudeBridge::jsonSchema().toUtf8()).isObject());
+    }
+
+    void commandLineOfPlainText()
+    {
+        const QString answer =
+            runBlocking(bridge(u"result"_s, u"Vandaag: 3 taken af."_s)
+                            .parsePlain(u"FACTS: 3 tasks done"_s, u"haiku"_s, 30, u"Write the stand-up."_s, u"low"_s));
+        QCOMPARE(answer, u"Vandaag: 3 taken af."_s);
+        QCOMPARE(recordedArguments(),
+                 (QStringList{u"--print"_s, u"--model"_s, u"haiku"_s, u"--output-format"_s, u"json"_s,
+                              u"--disable-slash-commands"_s, u"--input-format"_s, u"text"_s, u"--system-prompt"_s,
+                              u"Write the stand-up."_s, u"--no-session-persistence"_s}));
+        QCOMPARE(recorded("stdin"), u"FACTS: 3 tasks done"_s);
+        QCOMPARE(recorded("no_color"), u"1"_s);
+    }
+
+    void commandLineOfWorkspaceRun()
+    {
+        QTemporaryDir workspace;
+        const QString html = runBlocking(bridge(u"write"_s)
+                                             .parseWithWorkspace(u"Design the invoice from brand.json"_s,
+                                                                 workspace.path(), u"template.html"_s, u"opus"_s, 30));
+        QCOMPARE(html, u"<!doctype html><html><body>Invoice</body></html>\n"_s);
+        QCOMPARE(recordedArguments(),
+                 (QStringList{u"--print"_s, u"--model"_s, u"opus"_s, u"--add-dir"_s, workspace.path(),
+                              u"--allowedTools"_s, u"Read,Write,Edit,Glob,Grep"_s, u"--permission-mode"_s,
+                              u"bypassPermissions"_s, u"--disable-slash-commands"_s, u"--input-format"_s, u"text"_s,
+                              u"--no-session-persistence"_s}));
+        QCOMPARE(recorded("cwd"), workspace.path());
+        QCOMPARE(recorded("stdin"), u"Design the invoice from brand.json"_s);
+        QCOMPARE(recorded("no_color"), u"1"_s);
+    }
+
+    void readsTheAnswerOfParse_data()
+    {
+        QTest::addColumn<QString>("mode");
+        QTest::addColumn<QString>("failure"); // empty: success
+        QTest::addColumn<QString>("intent");
+
+        QTest::newRow("structured output") << u"structured"_s << QString() << u"create_task"_s;
+        QTest::newRow("prose around the object") << u"prose"_s << QString() << u"log_time"_s;
+        QTest::newRow("prose without an object") << u"noobject"_s << u"no JSON object detected"_s << QString();
+        QTest::newRow("is_error with status 0") << u"error"_s << u"claude returned is_error=true"_s << QString();
+        QTest::newRow("no output") << u"empty"_s << u"Claude produced no output"_s << QString();
+        QTest::newRow("non-zero exit") << u"fail"_s
+                                       << u"Claude exited 2: Error: the API is overloaded, try again later"_s
+                                       << QString();
+        QTest::newRow("non-zero exit, nothing on standard output")
+            << u"failquiet"_s << u"Claude produced no output"_s << QString();
+        QTest::newRow("not JSON") << u"notjson"_s
+                                  << u"Bad JSON from Claude (illegal value) Welcome to Claude Code! Run claude "
+                                     u"--help for usage.\n"_s
+                                  << QString();
+        QTest::newRow("JSON but no object") << u"array"_s << u"Bad JSON from Claude (not an object) "_s << QString();
+    }
+
+    void readsTheAnswerOfParse()
+    {
+        QFETCH(QString, mode);
+        QFETCH(QString, failure);
+        QFETCH(QString, intent);
+        ClaudeBridge::ParseInput input{u"log 90 minutes"_s, {}, u"2025-03-05"_s};
+        if (failure.isEmpty()) {
+            QCOMPARE(runBlocking(bridge(mode).parse(input))[u"intent"].toString(), intent);
+        } else if (failure.endsWith(u' ')) {
+            QVERIFY(failureOf(bridge(mode).parse(input)).startsWith(failure));
+        } else {
+            QCOMPARE(failureOf(bridge(mode).parse(input)), failure);
+        }
+    }
+
+    void readsTheAnswerOfPlainText_data()
+    {
+        QTest::addColumn<QString>("mode");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("result") << u"result"_s << u"Done: 4 tasks"_s;
+        QTest::newRow("response where result is missing") << u"response"_s << u"Done: 4 tasks"_s;
+        QTest::newRow("is_error") << u"error"_s << u"claude returned is_error=true"_s;
+        QTest::newRow("no output") << u"empty"_s << u"Claude produced no output"_s;
+    }
+
+    void readsTheAnswerOfPlainText()
+    {
+        QFETCH(QString, mode);
+        QFETCH(QString, expected);
+        auto task = bridge(mode, u"Done: 4 tasks"_s).parsePlain(u"x"_s, u"sonnet"_s, 30, u"sys"_s, u"low"_s);
+        try {
+            QCOMPARE(runBlocking(std::move(task)), expected);
+        } catch (const MorvaneError &error) {
+            QCOMPARE(error.message(), expected);
+        }
+    }
+
+    void timeOutTerminatesTheChild_data()
+    {
+        QTest::addColumn<QString>("mode");
+        QTest::addColumn<bool>("workspace");
+        QTest::addColumn<QString>("failure");
+        QTest::newRow("request") << u"sleep"_s << false << u"Claude request timed out after 1 s"_s;
+        QTest::newRow("workspace task") << u"sleep"_s << true << u"Claude workspace task timed out after 1 s"_s;
+        // Ignores the polite signal and is killed a little later.
+        QTest::newRow("deaf to SIGTERM") << u"stubborn"_s << false << u"Claude request timed out after 1 s"_s;
+    }
+
+    void timeOutTerminatesTheChild()
+    {
+        QFETCH(QString, mode);
+        QFETCH(bool, workspace);
+        QFETCH(QString, failure);
+        QTemporaryDir folder;
+        QElapsedTimer clock;
+        clock.start();
+        const QString message =
+            workspace ? failureOf(bridge(mode).parseWithWorkspace(u"p"_s, folder.path(), u"t.html"_s, u"m"_s, 1))
+                      : failureOf(bridge(mode).parsePlain(u"x"_s, u"sonnet"_s, 1, u"s"_s, u"low"_s));
+        QCOMPARE(message, failure);
+        QVERIFY2(clock.elapsed() < 10'000, "the bridge waited for the child instead of ending it");
+        const pid_t child = recorded("pid").toInt();
+        QVERIFY(child > 0);
+        QVERIFY2(::kill(child, 0) != 0, "the child is still running");
+    }
+
+    void workspaceRunMustWriteItsFile()
+    {
+        QTemporaryDir workspace;
+        QCOMPARE(failureOf(
+                     bridge(u"nowrite"_s).parseWithWorkspace(u"p"_s, workspace.path(), u"template.html"_s, u"m"_s, 30)),
+                 u"Claude finished but did not write template.html"_s);
+        // A file left by an earlier run is not this run's answer.
+        QFile stale(workspace.filePath(u"template.html"_s));
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        stale.write("<html>old</html>");
+        stale.close();
+        QCOMPARE(failureOf(
+                     bridge(u"nowrite"_s).parseWithWorkspace(u"p"_s, workspace.path(), u"template.html"_s, u"m"_s, 30)),
+                 u"Claude finished but did not write template.html"_s);
+        // Written, but the run failed: the exit status wins.
+        QCOMPARE(
+            failureOf(bridge(u"fail"_s).parseWithWorkspace(u"p"_s, workspace.path(), u"template.html"_s, u"m"_s, 30)),
+            u"Claude exited 2: Error: the API is overloaded, try again later"_s);
+    }
+
+    void missingOrBrokenProgram()
+    {
+        // Nothing anywhere: the first place is tried, and starting it fails.
+        ClaudeBridge nowhere(m_settings, QProcessEnvironment(), m_dir.path());
+        nowhere.setCandidates({m_dir.filePath(u"no/claude"_s), m_dir.filePath(u"nor/claude"_s)});
+        QCOMPARE(nowhere.claudeCLIPath(), m_dir.filePath(u"no/claude"_s));
+        m_settings->setValue(u"ai.provider"_s, u"cliOnly"_s);
+        QCOMPARE(failureOf(nowhere.parsePlain(u"x"_s, u"sonnet"_s, 5, u"s"_s, u"low"_s)),
+                 u"AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the "
+                 u"invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try "
+                 u"again."_s);
+
+        // There, but not a program.
+        writeFile(m_dir.filePath(u"not-a-program"_s), "plain text", plain);
+        QProcessEnvironment environment;
+        environment.insert(u"CLAUDE_CLI_PATH"_s, m_dir.filePath(u"not-a-program"_s));
+        ClaudeBridge broken(m_settings, environment, m_dir.path());
+        QVERIFY(
+            failureOf(broken.parsePlain(u"x"_s, u"sonnet"_s, 5, u"s"_s, u"low"_s)).startsWith(u"Launch failed: "_s));
+    }
+
+    void routeFollowsTheProvider_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("cliAvailable");
+        QTest::addColumn<int>("route");
+        using R = ClaudeBridge::Route;
+        QTest::newRow("auto with the program") << u"auto"_s << true << int(R::ClaudeCLI);
+        QTest::newRow("auto without it: the relay") << u"auto"_s << false << int(R::MorvaneAI);
+        QTest::newRow("nothing stored is auto") << QString() << false << int(R::MorvaneAI);
+        QTest::newRow("unknown name is auto") << u"skynet"_s << true << int(R::ClaudeCLI);
+        QTest::newRow("CLI only, even without it") << u"cliOnly"_s << false << int(R::ClaudeCLI);
+        QTest::newRow("relay only ignores the program") << u"morvaneAIOnly"_s << true << int(R::MorvaneAI);
+        QTest::newRow("own Anthropic key") << u"anthropicCustom"_s << true << int(R::Anthropic);
+        QTest::newRow("own OpenAI key") << u"openAICustom"_s << true << int(R::OpenAI);
+        QTest::newRow("own Gemini key") << u"geminiCustom"_s << true << int(R::Gemini);
+    }
+
+    void routeFollowsTheProvider()
+    {
+        QFETCH(QString, stored);
+        QFETCH(bool, cliAvailable);
+        QFETCH(int, route);
+        const AIProvider provider = AIProviders::fromStoredName(stored);
+        QCOMPARE(int(ClaudeBridge::route(provider, cliAvailable)), route);
+        if (!stored.isEmpty() && provider != AIProvider::Auto) {
+            QCOMPARE(AIProviders::storedName(provider), stored);
+        }
+    }
+
+    void httpRoutesAreNotConfiguredYet_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("failure");
+        QTest::newRow("relay") << u"morvaneAIOnly"_s
+                               << u"Morvane AI is not available in this version of Morvane. Choose the Claude CLI "
+                                  u"in the AI settings."_s;
+        QTest::newRow("Anthropic") << u"anthropicCustom"_s
+                                   << u"The Anthropic API is not available in this version of Morvane. Choose the "
+                                      u"Claude CLI in the AI settings."_s;
+        QTest::newRow("OpenAI") << u"openAICustom"_s
+                                << u"The OpenAI API is not available in this version of Morvane. Choose the Claude "
+                                   u"CLI in the AI settings."_s;
+        QTest::newRow("Gemini") << u"geminiCustom"_s
+                                << u"The Google Gemini API is not available in this version of Morvane. Choose the "
+                                   u"Claude CLI in the AI settings."_s;
+    }
+
+    void httpRoutesAreNotConfiguredYet()
+    {
+        QFETCH(QString, stored);
+        QFETCH(QString, failure);
+        m_settings->setValue(u"ai.provider"_s, stored);
+        QCOMPARE(failureOf(bridge(u"result"_s).parsePlain(u"x"_s, u"sonnet"_s, 5, u"s"_s, u"low"_s)), failure);
+        QCOMPARE(failureOf(bridge(u"structured"_s).parse({u"x"_s, {}, u"2025-03-05"_s})), failure);
+        QTemporaryDir workspace;
+        QCOMPARE(failureOf(bridge(u"write"_s).parseWithWorkspace(u"p"_s, workspace.path(), u"t.html"_s, u"m"_s, 5)),
+                 failure);
+        QVERIFY2(!QFile::exists(m_record + u"/args"_s), "the program ran on another route");
+    }
+
+    void extractsAnHTMLDocument_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected"); // empty: none
+        QTest::newRow("inline between prose") << u"Here you go:\n<!DOCTYPE html>\n<html><body>A</body></html>\nEnjoy."_s
+                                              << u"<!DOCTYPE html>\n<html><body>A</body></html>"_s;
+        QTest::newRow("closing tag in capitals")
+            << u"<!doctype html><html>B</HTML>"_s << u"<!doctype html><html>B</HTML>"_s;
+        QTest::newRow("up to the last closing tag") << u"<!doctype html><html><script>s='</html>'</script></html> bye"_s
+                                                    << u"<!doctype html><html><script>s='</html>'</script></html>"_s;
+        QTest::newRow("no doctype") << u"<html><body>C</body></html>"_s << QString();
+        QTest::newRow("not closed") << u"<!doctype html><html><body>cut off"_s << QString();
+        QTest::newRow("closing tag only before the doctype") << u"</html> then <!doctype html><p>"_s << QString();
+    }
+
+    void extractsAnHTMLDocument()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        QCOMPARE(ClaudeBridge::extractHTMLDocument(text).value_or(QString()), expected);
+    }
+
+    void findsTheFirstJSONObject_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected"); // compact JSON; empty: none
+        QTest::newRow("bare") << u"{\"a\":1}"_s << u"{\"a\":1}"_s;
+        QTest::newRow("fenced, braces inside strings") << u"```json\n{\"a\": \"}{\", \"b\": {\"c\": \"\\\"}\"}}\n```"_s
+                                                       << u"{\"a\":\"}{\",\"b\":{\"c\":\"\\\"}\"}}"_s;
+        QTest::newRow("a brace in prose first") << u"Use {curly} braces: {\"ok\": true}"_s << u"{\"ok\":true}"_s;
+        QTest::newRow("the first of two") << u"{\"n\":1} and {\"n\":2}"_s << u"{\"n\":1}"_s;
+        QTest::newRow("unbalanced") << u"{\"a\": 1"_s << QString();
+        QTest::newRow("none") << u"nothing here"_s << QString();
+    }
+
+    void findsTheFirstJSONObject()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        const std::optional<QJsonObject> found = ClaudeBridge::firstJSONObject(text);
+        QCOMPARE(found ? QString::fromUtf8(QJsonDocument(*found).toJson(QJsonDocument::Compact)) : QString(), expected);
+    }
+
+    void capturePromptStatesTheDateRules()
+    {
+        const QString prompt =
+            ClaudeBridge::parseSystemPrompt({u"Webshop"_s}, u"2025-12-29"_s, QTimeZone("Europe/Amsterdam"));
+        QVERIFY(prompt.startsWith(u"You are a strict JSON extractor for a time-tracking app called Morvane. Convert "
+                                  u"the user's freeform input (Dutch or English) into ONE JSON object matching the "
+                                  u"schema. No markdown fences. No commentary."_s));
+        for (const QString &part :
+             {u"Return EXACTLY one JSON object with these top-level keys (use null when missing):"_s,
+              u"create_project|create_projects|create_task|start_timer|stop_timer|log_time|unknown"_s,
+              u"Dates: use the TODAY and CALENDAR lines below. Write every date as YYYY-MM-DD from that calendar; "
+              u"never use another year or a date before today."_s,
+              u"\"morgen\"/\"tomorrow\" = the day after today"_s, u"\n  - Webshop"_s, u"TODAY: 2025-12-29 (Monday)"_s,
+              u"TIME ZONE: Europe/Amsterdam"_s,
+              // The calendar runs into the next year, which is what the year rule needs.
+              u"\n  2026-01-01 Thursday"_s, u"\n  2026-01-11 Sunday\n"_s}) {
+            QVERIFY2(prompt.contains(part), qPrintable(part));
+        }
+        QVERIFY(!prompt.contains(u"2026-01-12"_s));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestClaudeBridge)
+#include "tst_claudebridge.moc"

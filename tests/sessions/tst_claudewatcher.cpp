@@ -1,0 +1,652 @@
+#include "sessions/claudewatcher.h"
+#include "sessions/sessionjson.h"
+#include "support/testdata.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QJsonDocument>
+#include <QRandomGenerator>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <qcoro/qcorotask.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString webshop = u"/home/ana/code/webshop"_s;
+const QString invoicer = u"/home/ana/code/invoicer"_s;
+
+QDateTime at(const QString &iso)
+{
+    return QDateTime::fromString(iso, Qt::ISODateWithMs).toUTC();
+}
+
+LogInstant ms(const QString &iso)
+{
+    return at(iso).toMSecsSinceEpoch();
+}
+
+QByteArray describe(const std::optional<ParsedSession> &session)
+{
+    return session ? QJsonDocument(SessionJson::toJson(*session)).toJson(QJsonDocument::Indented) : "no session";
+}
+
+#define COMPARE_SESSION(actual, expected)                                                                              \
+    QVERIFY2((actual) == (expected), QByteArray(describe(actual) + "\n  expected:\n" + describe(expected)).constData())
+
+SessionSegment burst(const QString &sessionId, int index, const QString &title, const QString &from, const QString &to,
+                     qint64 active, int prompts)
+{
+    return SessionSegment{sessionId, index, title, at(from), at(to), active, prompts};
+}
+
+void setModified(const QString &path, const QDateTime &when)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(when, QFileDevice::FileModificationTime));
+}
+
+// A copy of the fixture folder whose files all changed an hour ago.
+QString copyFixtures(const QTemporaryDir &dir)
+{
+    const QString source = QStringLiteral(MORVANE_TEST_DATA "/sessions/projects");
+    const QString target = dir.filePath(u"projects"_s);
+    QDirIterator it(source, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    const QDateTime anHourAgo = QDateTime::currentDateTimeUtc().addSecs(-3600);
+    while (it.hasNext()) {
+        const QString from = it.next();
+        const QString to = target + from.mid(source.size());
+        QDir().mkpath(QFileInfo(to).absolutePath());
+        QFile::copy(from, to);
+        setModified(to, anHourAgo);
+    }
+    return target;
+}
+
+void append(const QString &path, const QByteArray &bytes, qint64 shiftSeconds = 1)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::Append));
+    file.write(bytes);
+    file.close();
+    // Modification times can be coarse; move them on so that the change is always seen.
+    setModified(path, QFileInfo(path).lastModified().toUTC().addSecs(shiftSeconds));
+}
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(bytes);
+}
+
+QByteArray userLine(const QString &timestamp, const QString &text, const QString &cwd = u"/w"_s)
+{
+    return QJsonDocument(QJsonObject{{u"type"_s, u"user"_s},
+                                     {u"cwd"_s, cwd},
+                                     {u"timestamp"_s, timestamp},
+                                     {u"message"_s, QJsonObject{{u"role"_s, u"user"_s}, {u"content"_s, text}}}})
+               .toJson(QJsonDocument::Compact) +
+           '\n';
+}
+
+QByteArray agentLine(const QString &timestamp, const QByteArray &padding = {})
+{
+    return QJsonDocument(
+               QJsonObject{{u"type"_s, u"assistant"_s},
+                           {u"cwd"_s, u"/w"_s},
+                           {u"timestamp"_s, timestamp},
+                           {u"message"_s, QJsonObject{{u"content"_s, QJsonArray{QJsonObject{
+                                                                         {u"type"_s, u"text"_s},
+                                                                         {u"text"_s, QString::fromLatin1(padding)},
+                                                                     }}}}}})
+               .toJson(QJsonDocument::Compact) +
+           '\n';
+}
+
+QList<ParsedSession> byId(QList<ParsedSession> sessions)
+{
+    std::sort(sessions.begin(), sessions.end(),
+              [](const ParsedSession &a, const ParsedSession &b) { return a.sessionId < b.sessionId; });
+    return sessions;
+}
+
+QStringList ids(const QList<ParsedSession> &sessions)
+{
+    QStringList list;
+    for (const ParsedSession &session : sessions) {
+        list.append(session.sessionId);
+    }
+    list.sort();
+    return list;
+}
+
+} // namespace
+
+class TestClaudeWatcher : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { ClaudeWatcher::clearParseCache(); }
+
+    void parsesFixtureLogs_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<std::optional<ParsedSession>>("expected");
+
+        const QString checkout = u"4f1c2a9e-7b3d-4e2a-9c1f-0a5b6c7d8e9f"_s;
+        // Prompts at 10:00, 10:10 and 10:25 are one burst (the last gap is exactly the idle gap);
+        // 10:41:01 is 961 s later and starts another. The 901 s before it count nowhere, and the
+        // agent's answers after the last prompt count for the session only.
+        QTest::newRow("two bursts, mixed time stamp forms")
+            << u"-home-ana-code-webshop/"_s + checkout
+            << std::optional(
+                   ParsedSession{checkout,
+                                 webshop,
+                                 u"Refactor the checkout so that VAT is computed per line"_s,
+                                 at(u"2025-03-01T10:00:00.000Z"_s),
+                                 at(u"2025-03-01T10:42:00.000Z"_s),
+                                 1615,
+                                 4,
+                                 {burst(checkout, 0, u"Refactor the checkout so that VAT is computed per line"_s,
+                                        u"2025-03-01T10:00:00Z"_s, u"2025-03-01T10:25:00Z"_s, 1497, 3),
+                                  burst(checkout, 1, u"Commit with a clear message"_s, u"2025-03-01T10:41:01Z"_s,
+                                        u"2025-03-01T10:41:01Z"_s, 60, 1)}});
+
+        const QString tools = u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s;
+        // Tool results are no prompt, and a blank first text part is not replaced by a later one.
+        QTest::newRow("no prompts, a 30 minute pause dropped whole")
+            << u"-home-ana-code-webshop/"_s + tools
+            << std::optional(ParsedSession{tools,
+                                           webshop,
+                                           std::nullopt,
+                                           at(u"2025-03-02T09:00:00Z"_s),
+                                           at(u"2025-03-02T09:36:30Z"_s),
+                                           390,
+                                           0,
+                                           {}});
+
+        const QString numbering = u"c0ffee00-1234-4abc-9def-000000000003"_s;
+        const QString cut141 = u"Rename every invoice number column so that the yearly sequence, the prefix and the "
+                               u"padding live in one place and the old migration still app"_s;
+        QCOMPARE(cut141.size(), 140);
+        QTest::newRow("prompt rules and undecodable lines")
+            << u"-home-ana-code-invoicer/"_s + numbering
+            << std::optional(ParsedSession{numbering,
+                                           invoicer,
+                                           cut141 + u"..."_s,
+                                           at(u"2025-03-03T14:00:00Z"_s),
+                                           at(u"2025-03-03T14:01:10Z"_s),
+                                           70,
+                                           7,
+                                           {burst(numbering, 0, cut141 + u"..."_s, u"2025-03-03T14:00:10Z"_s,
+                                                  u"2025-03-03T14:01:10Z"_s, 60, 7)}});
+
+        const QString truncated = u"7e57a11e-0000-4000-8000-000000000006"_s;
+        QTest::newRow("last line still being written")
+            << u"-home-ana-code-invoicer/"_s + truncated
+            << std::optional(ParsedSession{truncated,
+                                           invoicer,
+                                           u"Export the ledger as CSV"_s,
+                                           at(u"2025-03-04T08:00:00Z"_s),
+                                           at(u"2025-03-04T08:00:20Z"_s),
+                                           20,
+                                           1,
+                                           {burst(truncated, 0, u"Export the ledger as CSV"_s,
+                                                  u"2025-03-04T08:00:00Z"_s, u"2025-03-04T08:00:00Z"_s, 60, 1)}});
+
+        QTest::newRow("no working directory, even with prompts")
+            << u"-home-ana-code-invoicer/d00d0000-0000-4000-8000-000000000004"_s << std::optional<ParsedSession>();
+        QTest::newRow("one byte that is not UTF-8")
+            << u"-home-ana-code-invoicer/bad0bad0-0000-4000-8000-000000000005"_s << std::optional<ParsedSession>();
+    }
+
+    void parsesFixtureLogs()
+    {
+        QFETCH(QString, file);
+        QFETCH(std::optional<ParsedSession>, expected);
+        const QString path = QStringLiteral(MORVANE_TEST_DATA "/sessions/projects/") + file + u".jsonl"_s;
+        const QString sessionId = QFileInfo(path).completeBaseName();
+        COMPARE_SESSION(ClaudeWatcher::parse(path, sessionId, 900), expected);
+    }
+
+    void promptsFollowTheTextRules()
+    {
+        const QString path = QStringLiteral(MORVANE_TEST_DATA "/sessions/projects/-home-ana-code-invoicer/"
+                                                              "c0ffee00-1234-4abc-9def-000000000003.jsonl");
+        // Each burst's title is its first prompt: with an idle gap of 1 s every prompt but the two
+        // of the same second is a burst of its own, in date order.
+        const std::optional<ParsedSession> session = ClaudeWatcher::parse(path, u"s"_s, 1);
+        QVERIFY(session);
+        QStringList titles;
+        for (const SessionSegment &segment : session->segments) {
+            titles.append(segment.title);
+        }
+        const QString exactly140 = u"Rename every invoice number column so that the yearly sequence, the prefix and "
+                                   u"the padding live in one place and the old migration still ap!"_s;
+        QCOMPARE(exactly140.size(), 140);
+        // 139 letters, a person at a computer (one character of five code units) and one more.
+        const QString emoji = QString(139, u'x') + QString::fromUtf8("\U0001F469\u200D\U0001F4BB") + u"..."_s;
+        QCOMPARE(titles, (QStringList{
+                             session->firstUserMessage.value(),
+                             exactly140,
+                             u"Why did numbering skip 2025-004?"_s,
+                             emoji,
+                             u"First of two at the same second"_s,
+                             u"Message before type"_s,
+                         }));
+        QCOMPARE(session->segments[4].promptCount, 2);
+        // The first working directory wins; a later different one is not looked at.
+        QCOMPARE(session->cwd, invoicer);
+    }
+
+    void computeActive_data()
+    {
+        QTest::addColumn<QList<LogInstant>>("instants");
+        QTest::addColumn<int>("idleGap");
+        QTest::addColumn<qint64>("expected");
+
+        const auto t = [](const char *time) { return ms(u"2025-03-01T"_s + QLatin1String(time) + u"Z"_s); };
+        QTest::newRow("none") << QList<LogInstant>{} << 900 << qint64(0);
+        QTest::newRow("one") << QList<LogInstant>{t("10:00:00")} << 900 << qint64(0);
+        QTest::newRow("30 minute gap dropped whole")
+            << QList<LogInstant>{t("10:00:00"), t("10:10:00"), t("10:40:00")} << 900 << qint64(600);
+        QTest::newRow("gap of exactly the idle gap counts")
+            << QList<LogInstant>{t("10:00:00"), t("10:15:00")} << 900 << qint64(900);
+        QTest::newRow("one second more counts nothing")
+            << QList<LogInstant>{t("10:00:00"), t("10:15:01")} << 900 << qint64(0);
+        QTest::newRow("fractions truncated per gap")
+            << QList<LogInstant>{t("10:00:00.000"), t("10:00:00.999"), t("10:00:02.998")} << 900 << qint64(1);
+        QTest::newRow("900.999 s is 900 whole seconds")
+            << QList<LogInstant>{t("10:00:00.000"), t("10:15:00.999")} << 900 << qint64(900);
+        QTest::newRow("equal instants") << QList<LogInstant>{t("10:00:00"), t("10:00:00")} << 900 << qint64(0);
+        QTest::newRow("another idle gap")
+            << QList<LogInstant>{t("10:00:00"), t("10:01:00"), t("10:03:00")} << 60 << qint64(60);
+    }
+
+    void computeActive()
+    {
+        QFETCH(QList<LogInstant>, instants);
+        QFETCH(int, idleGap);
+        QFETCH(qint64, expected);
+        QCOMPARE(ClaudeWatcher::computeActive(instants, idleGap), expected);
+    }
+
+    void segment_data()
+    {
+        QTest::addColumn<QList<UserPrompt>>("prompts");
+        QTest::addColumn<QList<LogInstant>>("others");
+        QTest::addColumn<QList<SessionSegment>>("expected");
+
+        const auto t = [](const char *time) -> QString { return u"2025-03-01T"_s + QLatin1String(time) + u"Z"_s; };
+        const auto p = [&](const char *time, const char *text) {
+            return UserPrompt{ms(t(time)), text ? std::optional(QString::fromUtf8(text)) : std::nullopt};
+        };
+        QTest::newRow("no prompts") << QList<UserPrompt>{} << QList<LogInstant>{ms(t("10:00:00"))}
+                                    << QList<SessionSegment>{};
+        QTest::newRow("15:00 apart: one burst")
+            << QList<UserPrompt>{p("10:00:00", "a"), p("10:15:00", "b")} << QList<LogInstant>{}
+            << QList<SessionSegment>{burst(u"s"_s, 0, u"a"_s, t("10:00:00"), t("10:15:00"), 900, 2)};
+        QTest::newRow("15:01 apart: two bursts of a minute each")
+            << QList<UserPrompt>{p("10:00:00", "a"), p("10:15:01", "b")} << QList<LogInstant>{ms(t("10:05:00"))}
+            << QList<SessionSegment>{burst(u"s"_s, 0, u"a"_s, t("10:00:00"), t("10:00:00"), 60, 1),
+                                     burst(u"s"_s, 1, u"b"_s, t("10:15:01"), t("10:15:01"), 60, 1)};
+        QTest::newRow("61 s stay 61; lines after the last prompt are not the burst's")
+            << QList<UserPrompt>{p("10:00:00", "a"), p("10:01:01", "b")}
+            << QList<LogInstant>{ms(t("10:00:30")), ms(t("10:05:00"))}
+            << QList<SessionSegment>{burst(u"s"_s, 0, u"a"_s, t("10:00:00"), t("10:01:01"), 61, 2)};
+        QTest::newRow("a prompt without text is named by position")
+            << QList<UserPrompt>{p("10:00:00", "a"), p("11:00:00", nullptr)} << QList<LogInstant>{}
+            << QList<SessionSegment>{burst(u"s"_s, 0, u"a"_s, t("10:00:00"), t("10:00:00"), 60, 1),
+                                     burst(u"s"_s, 1, u"Claude segment 2"_s, t("11:00:00"), t("11:00:00"), 60, 1)};
+    }
+
+    void segment()
+    {
+        QFETCH(QList<UserPrompt>, prompts);
+        QFETCH(QList<LogInstant>, others);
+        QFETCH(QList<SessionSegment>, expected);
+        QList<LogInstant> all = others;
+        for (const UserPrompt &prompt : prompts) {
+            all.append(prompt.at);
+        }
+        std::sort(all.begin(), all.end());
+        const QList<SessionSegment> segments = ClaudeWatcher::segment(u"s"_s, prompts, all, 900);
+        QCOMPARE(segments.size(), expected.size());
+        for (qsizetype i = 0; i < segments.size(); ++i) {
+            QVERIFY2(segments[i] == expected[i], QJsonDocument(SessionJson::toJson(segments[i])).toJson().constData());
+        }
+    }
+
+    void fallbackCoversTheWholeSession()
+    {
+        ParsedSession session{
+            u"abc"_s, u"/w"_s, std::nullopt, at(u"2025-03-01T10:00:00Z"_s), at(u"2025-03-01T11:00:00Z"_s), 1234, 0, {}};
+        QList<SessionSegment> expected{
+            burst(u"abc"_s, 0, u"Claude session"_s, u"2025-03-01T10:00:00Z"_s, u"2025-03-01T11:00:00Z"_s, 1234, 0)};
+        QVERIFY(ClaudeWatcher::fallbackSingleSegment(session) == expected);
+        session.firstUserMessage = u"Fix it"_s;
+        session.promptCount = 3;
+        expected[0].title = u"Fix it"_s;
+        expected[0].promptCount = 3;
+        QVERIFY(ClaudeWatcher::fallbackSingleSegment(session) == expected);
+    }
+
+    void timestampForms_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("utc"); // empty: refused
+
+        QTest::newRow("fraction, Z") << u"2025-03-01T10:15:30.123Z"_s << u"2025-03-01T10:15:30.123Z"_s;
+        QTest::newRow("no fraction") << u"2025-03-01T10:15:30Z"_s << u"2025-03-01T10:15:30.000Z"_s;
+        QTest::newRow("one digit") << u"2025-03-01T10:15:30.5Z"_s << u"2025-03-01T10:15:30.500Z"_s;
+        QTest::newRow("microseconds") << u"2025-03-01T10:15:30.123456Z"_s << u"2025-03-01T10:15:30.123Z"_s;
+        QTest::newRow("offset") << u"2025-03-01T00:15:30+01:00"_s << u"2025-02-28T23:15:30.000Z"_s;
+        QTest::newRow("negative offset") << u"2024-02-29T22:00:00.250-03:30"_s << u"2024-03-01T01:30:00.250Z"_s;
+        QTest::newRow("no zone") << u"2025-03-01T10:15:30"_s << QString();
+        QTest::newRow("space for T") << u"2025-03-01 10:15:30Z"_s << QString();
+        QTest::newRow("empty fraction") << u"2025-03-01T10:15:30.Z"_s << QString();
+        QTest::newRow("no leap day") << u"2025-02-29T10:15:30Z"_s << QString();
+        QTest::newRow("hour 24") << u"2025-03-01T24:00:00Z"_s << QString();
+        QTest::newRow("date only") << u"2025-03-01"_s << QString();
+        QTest::newRow("trailing text") << u"2025-03-01T10:15:30Zx"_s << QString();
+    }
+
+    void timestampForms()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, utc);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"s.jsonl"_s);
+        write(path, agentLine(text) + agentLine(u"2000-01-01T00:00:00Z"_s));
+        const std::optional<ParsedSession> session = ClaudeWatcher::parse(path, u"s"_s, 900);
+        QVERIFY(session);
+        if (utc.isEmpty()) {
+            QCOMPARE(session->endedAt, at(u"2000-01-01T00:00:00Z"_s));
+        } else {
+            QCOMPARE(SessionJson::instant(session->endedAt), utc);
+        }
+    }
+
+    void walksTheProjectsFolder()
+    {
+        QTemporaryDir dir;
+        const QString projects = copyFixtures(dir);
+        ClaudeWatcher::ScanStats stats;
+        const QList<ParsedSession> first =
+            ClaudeWatcher::enumerateSessions(projects, 900, 30, QDateTime::currentDateTimeUtc(), &stats);
+        QCOMPARE(ids(first),
+                 (QStringList{u"4f1c2a9e-7b3d-4e2a-9c1f-0a5b6c7d8e9f"_s, u"7e57a11e-0000-4000-8000-000000000006"_s,
+                              u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s, u"c0ffee00-1234-4abc-9def-000000000003"_s}));
+        // The stray file beside the folders is not a folder; notes.txt is no log.
+        QCOMPARE(stats.filesSeen, 6);
+        QCOMPARE(stats.filesReadWhole, 6);
+        for (const ParsedSession &session : first) {
+            const QString folder =
+                session.cwd == webshop ? u"/-home-ana-code-webshop/"_s : u"/-home-ana-code-invoicer/"_s;
+            COMPARE_SESSION(
+                std::optional(session),
+                ClaudeWatcher::parse(projects + folder + session.sessionId + u".jsonl"_s, session.sessionId, 900));
+        }
+
+        // Unchanged: nothing is opened, not even the files that gave no session.
+        const QList<ParsedSession> second =
+            ClaudeWatcher::enumerateSessions(projects, 900, 30, QDateTime::currentDateTimeUtc(), &stats);
+        QVERIFY(byId(second) == byId(first));
+        QCOMPARE(stats.filesFromCache, 6);
+        QCOMPARE(stats.bytesRead, qint64(0));
+
+        // Another idle gap reads every file again and gives other figures.
+        const QList<ParsedSession> regapped =
+            ClaudeWatcher::enumerateSessions(projects, 1000, 30, QDateTime::currentDateTimeUtc(), &stats);
+        QCOMPARE(stats.filesReadWhole, 6);
+        const ParsedSession checkout = byId(regapped).first();
+        QCOMPARE(checkout.activeSeconds, 1615 + 901);
+        QCOMPARE(checkout.segments.size(), 1);
+    }
+
+    void skipsFilesPastTheCutOff()
+    {
+        QTemporaryDir dir;
+        const QString projects = copyFixtures(dir);
+        const QString old = projects + u"/-home-ana-code-webshop/9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d.jsonl"_s;
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        setModified(old, now.addDays(-31));
+        ClaudeWatcher::ScanStats stats;
+
+        QVERIFY(!ids(ClaudeWatcher::enumerateSessions(projects, 900, 60, now, &stats)).isEmpty());
+        QCOMPARE(stats.filesSeen, 6);
+        const QStringList recent = ids(ClaudeWatcher::enumerateSessions(projects, 900, 30, now, &stats));
+        QVERIFY(!recent.contains(u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s));
+        QCOMPARE(stats.filesSeen, 5);
+        QCOMPARE(stats.filesFromCache, 5);
+        // The 30-day walk dropped the old file from the cache, so the next 60-day walk reads it.
+        const QStringList all = ids(ClaudeWatcher::enumerateSessions(projects, 900, 60, now, &stats));
+        QVERIFY(all.contains(u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s));
+        QCOMPARE(stats.filesReadWhole, 1);
+        QCOMPARE(stats.filesFromCache, 5);
+        // Exactly at the cut-off is still recent.
+        setModified(old, now.addDays(-30));
+        QVERIFY(ids(ClaudeWatcher::enumerateSessions(projects, 900, 30, now, &stats))
+                    .contains(u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s));
+    }
+
+    void badInputNeverStopsAWalk()
+    {
+        QTemporaryDir dir;
+        const QString projects = copyFixtures(dir);
+        const QString folder = projects + u"/-home-ana-code-webshop"_s;
+        // A tool result of 24 MB on one line: larger than the read buffer.
+        const QString huge = folder + u"/1a2b3c4d-huge.jsonl"_s;
+        write(huge, userLine(u"2025-03-05T10:00:00Z"_s, u"Summarise the dump"_s) +
+                        agentLine(u"2025-03-05T10:00:30Z"_s, QByteArray(24 << 20, 'z')) +
+                        "{\"type\":\"assistant\",\"timestamp\":\"2025-03-05T10:00:31Z\",\"x\":[" +
+                        QByteArray(3 << 20, ' ') + "\n" + agentLine(u"2025-03-05T10:01:00Z"_s));
+        // Unreadable even for root: the kernel refuses reads at offset 0 of a process's memory.
+        QVERIFY(QFile::link(u"/proc/self/mem"_s, folder + u"/unreadable.jsonl"_s));
+        QVERIFY(QFile::link(folder + u"/missing"_s, folder + u"/dangling.jsonl"_s));
+        QDir().mkpath(folder + u"/folder.jsonl"_s);
+        QVERIFY(QFile::link(projects + u"/loop"_s, projects + u"/loop"_s));
+        QDir().mkpath(projects + u"/locked"_s);
+        write(projects + u"/locked/x.jsonl"_s, userLine(u"2025-03-05T10:00:00Z"_s, u"hidden"_s));
+        QFile::setPermissions(projects + u"/locked"_s, QFileDevice::Permissions());
+        const QDateTime recent = QDateTime::currentDateTimeUtc().addSecs(-60);
+        setModified(huge, recent);
+
+        const QList<ParsedSession> sessions = ClaudeWatcher::enumerateSessions(projects, 900, 30);
+        QFile::setPermissions(projects + u"/locked"_s,
+                              QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        QStringList expected{u"1a2b3c4d-huge"_s, u"4f1c2a9e-7b3d-4e2a-9c1f-0a5b6c7d8e9f"_s,
+                             u"7e57a11e-0000-4000-8000-000000000006"_s, u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s,
+                             u"c0ffee00-1234-4abc-9def-000000000003"_s};
+        if (::geteuid() == 0) {
+            // Permissions do not stop root; the folder is read like any other.
+            expected.append(u"x"_s);
+        }
+        expected.sort();
+        QCOMPARE(ids(sessions), expected);
+        const ParsedSession dump = byId(sessions).first();
+        // The broken line in the middle gives no time stamp; the lines around it do.
+        QCOMPARE(dump.activeSeconds, 60);
+        QCOMPARE(dump.endedAt, at(u"2025-03-05T10:01:00Z"_s));
+        QCOMPARE(dump.firstUserMessage, std::optional(u"Summarise the dump"_s));
+    }
+
+    void appendedLinesEqualAFullRead_data()
+    {
+        QTest::addColumn<QByteArray>("initial");
+        QTest::addColumn<QList<QByteArray>>("appends");
+        QTest::addColumn<bool>("extended"); // the last step read only new bytes
+
+        const QByteArray start = userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) + agentLine(u"2025-03-01T10:00:10Z"_s);
+        QTest::newRow("new lines") << start
+                                   << QList<QByteArray>{userLine(u"2025-03-01T10:05:00Z"_s, u"second"_s),
+                                                        agentLine(u"2025-03-01T10:30:00Z"_s)}
+                                   << true;
+        QTest::newRow("a line finished after being read half")
+            << start
+            << QList<QByteArray>{userLine(u"2025-03-01T10:05:00Z"_s, u"second"_s).left(40),
+                                 userLine(u"2025-03-01T10:05:00Z"_s, u"second"_s).mid(40)}
+            << true;
+        QTest::newRow("older time stamps and a prompt of an equal date arrive late")
+            << start
+            << QList<QByteArray>{userLine(u"2025-03-01T09:59:00Z"_s, u"earlier"_s) +
+                                 userLine(u"2025-03-01T10:00:00Z"_s, u"same date, later in file"_s)}
+            << true;
+        QTest::newRow("the working directory arrives late")
+            << QByteArray(
+                   "{\"type\":\"user\",\"timestamp\":\"2025-03-01T10:00:00Z\",\"message\":{\"content\":\"x\"}}\n"
+                   "{\"type\":\"user\",\"timestamp\":\"2025-03-01T10:00:05Z\",\"message\":{\"content\":\"y\"}}\n")
+            << QList<QByteArray>{agentLine(u"2025-03-01T10:01:00Z"_s)} << true;
+        QTest::newRow("invalid UTF-8 appended") << start << QList<QByteArray>{QByteArray("{\"a\":\"\xff\"}\n")} << true;
+        QTest::newRow("a file that was only a partial line")
+            << QByteArray("{\"type\":\"us") << QList<QByteArray>{QByteArray("er\"}\n") + start} << false;
+    }
+
+    void appendedLinesEqualAFullRead()
+    {
+        QFETCH(QByteArray, initial);
+        QFETCH(QList<QByteArray>, appends);
+        QFETCH(bool, extended);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"p/s.jsonl"_s);
+        write(path, initial);
+        setModified(path, QDateTime::currentDateTimeUtc().addSecs(-600));
+        ClaudeWatcher::ScanStats stats;
+        ClaudeWatcher::enumerateSessions(dir.path(), 900, 30, QDateTime::currentDateTimeUtc(), &stats);
+        QCOMPARE(stats.filesReadWhole, 1);
+        for (const QByteArray &bytes : appends) {
+            append(path, bytes);
+            const QList<ParsedSession> walked =
+                ClaudeWatcher::enumerateSessions(dir.path(), 900, 30, QDateTime::currentDateTimeUtc(), &stats);
+            const std::optional<ParsedSession> full = ClaudeWatcher::parse(path, u"s"_s, 900);
+            COMPARE_SESSION(walked.isEmpty() ? std::nullopt : std::optional(walked.first()), full);
+        }
+        QCOMPARE(stats.filesExtended, extended ? 1 : 0);
+        QCOMPARE(stats.filesReadWhole, extended ? 0 : 1);
+        if (extended) {
+            QVERIFY(stats.bytesRead < QFileInfo(path).size());
+        }
+    }
+
+    void changedPrefixIsReadWhole_data()
+    {
+        QTest::addColumn<QByteArray>("replacement");
+        QTest::addColumn<bool>("sameInode");
+
+        QTest::newRow("last line rewritten, file longer")
+            << userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) + agentLine(u"2025-03-01T10:00:19Z"_s) +
+                   agentLine(u"2025-03-01T10:01:00Z"_s)
+            << true;
+        QTest::newRow("shrunk") << userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) << true;
+        QTest::newRow("replaced by another file")
+            << userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) + agentLine(u"2025-03-01T10:00:10Z"_s) +
+                   agentLine(u"2025-03-01T10:02:00Z"_s)
+            << false;
+    }
+
+    void changedPrefixIsReadWhole()
+    {
+        QFETCH(QByteArray, replacement);
+        QFETCH(bool, sameInode);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"p/s.jsonl"_s);
+        write(path, userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) + agentLine(u"2025-03-01T10:00:10Z"_s));
+        setModified(path, QDateTime::currentDateTimeUtc().addSecs(-600));
+        ClaudeWatcher::enumerateSessions(dir.path(), 900, 30);
+        if (sameInode) {
+            write(path, replacement);
+        } else {
+            write(path + u".new"_s, replacement);
+            QVERIFY(::rename(QFile::encodeName(path + u".new"_s).constData(), QFile::encodeName(path).constData()) ==
+                    0);
+        }
+        setModified(path, QDateTime::currentDateTimeUtc().addSecs(-300));
+        ClaudeWatcher::ScanStats stats;
+        const QList<ParsedSession> walked =
+            ClaudeWatcher::enumerateSessions(dir.path(), 900, 30, QDateTime::currentDateTimeUtc(), &stats);
+        QCOMPARE(stats.filesReadWhole, 1);
+        QCOMPARE(walked.size(), 1);
+        COMPARE_SESSION(std::optional(walked.first()), ClaudeWatcher::parse(path, u"s"_s, 900));
+    }
+
+    // Random logs cut at random bytes: every growing step equals a full read of the same bytes.
+    void randomGrowthEqualsFullReads()
+    {
+        QRandomGenerator random(20250301);
+        for (int round = 0; round < 12; ++round) {
+            QByteArray log;
+            LogInstant t = ms(u"2025-03-01T08:00:00Z"_s);
+            const int lines = 50 + int(random.bounded(300));
+            for (int i = 0; i < lines; ++i) {
+                t += random.bounded(1400) * 1000 + random.bounded(1000);
+                // Now and then a line dated a little earlier than the one before.
+                const LogInstant when = random.bounded(10) == 0 ? t - 5000 : t;
+                const QString stamp = random.bounded(2)
+                                          ? SessionJson::instant(QDateTime::fromMSecsSinceEpoch(when, Qt::UTC))
+                                          : QDateTime::fromMSecsSinceEpoch(when, Qt::UTC).toString(Qt::ISODate);
+                switch (random.bounded(6)) {
+                case 0:
+                    log += userLine(stamp, u"prompt %1"_s.arg(i));
+                    break;
+                case 1:
+                    log += "{\"type\":\"summary\",\"summary\":\"s\"}\n";
+                    break;
+                case 2:
+                    log += "not json\n";
+                    break;
+                default:
+                    log += agentLine(stamp, QByteArray(int(random.bounded(200)), 'a'));
+                }
+            }
+            QTemporaryDir dir;
+            const QString path = dir.filePath(u"p/s.jsonl"_s);
+            write(path, {});
+            qint64 written = 0;
+            int step = 0;
+            while (written < log.size()) {
+                const qint64 piece = std::min<qint64>(log.size() - written, 1 + random.bounded(4000));
+                append(path, log.mid(written, piece), ++step);
+                written += piece;
+                const QList<ParsedSession> walked = ClaudeWatcher::enumerateSessions(dir.path(), 900, 30);
+                const std::optional<ParsedSession> full = ClaudeWatcher::parse(path, u"s"_s, 900);
+                COMPARE_SESSION(walked.isEmpty() ? std::nullopt : std::optional(walked.first()), full);
+            }
+        }
+    }
+
+    void liveSessionsAreNewestFirst()
+    {
+        QTemporaryDir dir;
+        const QString projects = copyFixtures(dir);
+        auto settings = std::make_shared<QSettings>(dir.filePath(u"settings.ini"_s), QSettings::IniFormat);
+        settings->setValue(u"claude_idle_gap_seconds"_s, 0); // not positive: 900
+        ClaudeWatcher watcher(settings, projects);
+        int changes = 0;
+        connect(&watcher, &ClaudeWatcher::liveSessionsChanged, this, [&] { ++changes; });
+        QCoro::waitFor(watcher.loadLiveSessions());
+        QCOMPARE(changes, 1);
+        QStringList order;
+        for (const ParsedSession &session : watcher.liveSessions()) {
+            order.append(session.sessionId);
+        }
+        QCOMPARE(order,
+                 (QStringList{u"7e57a11e-0000-4000-8000-000000000006"_s, u"c0ffee00-1234-4abc-9def-000000000003"_s,
+                              u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s, u"4f1c2a9e-7b3d-4e2a-9c1f-0a5b6c7d8e9f"_s}));
+        QCOMPARE(watcher.liveSessions().last().activeSeconds, 1615);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestClaudeWatcher)
+#include "tst_claudewatcher.moc"
