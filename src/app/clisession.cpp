@@ -59,6 +59,7 @@ CliSession::CliSession()
     , m_store(std::make_unique<AppStore>(*m_auth, std::make_shared<QSettings>()))
     , m_sequence(std::make_unique<SessionSequence>(*m_auth, *m_store))
 {
+    m_store->setRealtimeEnabled(false);
 }
 
 CliSession::~CliSession()

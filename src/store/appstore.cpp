@@ -299,6 +299,20 @@ void AppStore::setProjects(QList<Project> projects)
     }
     m_projects = std::move(projects);
     emit projectsChanged();
+    // Team mates' rows reach this device only through bindings on the team's projects.
+    QStringList teamProjects;
+    for (const Project &project : std::as_const(m_projects)) {
+        if (project.teamId) {
+            teamProjects.append(project.id);
+        }
+    }
+    teamProjects.sort();
+    if (teamProjects != m_teamProjectIds) {
+        m_teamProjectIds = teamProjects;
+        if (m_realtime) {
+            m_realtime->setTeamProjects(m_teamProjectIds);
+        }
+    }
 }
 
 void AppStore::setTeams(QList<Team> teams, QHash<QString, QList<TeamMember>> members)
@@ -683,12 +697,23 @@ QCoro::Task<bool> AppStore::loadClients()
 
 void AppStore::startSync()
 {
-    // The realtime feed starts here once it exists: a token provider asking for 300 seconds of
-    // validity, its status into setRealtimeConnected, its changes merged by id, and its resync
-    // into refreshAll. Until then the feed counts as down and the poll runs at the quick pace.
     m_syncing = true;
     ++m_pollRun;
     armPoll();
+    if (!m_realtimeEnabled || m_auth.userId().isEmpty()) {
+        return;
+    }
+    if (!m_realtime) {
+        const Supabase client = m_auth.client();
+        m_realtime = std::make_unique<RealtimeClient>(client.baseUrl(), client.anonKey(), m_realtimeScheduler);
+        connect(m_realtime.get(), &RealtimeClient::connectedChanged, this, &AppStore::setRealtimeConnected);
+        connect(m_realtime.get(), &RealtimeClient::changeReceived, this, &AppStore::applyRealtimeChange);
+        // Changes may have been missed while the feed was down.
+        connect(m_realtime.get(), &RealtimeClient::resyncRequested, this, [this] { refreshAll(); });
+    }
+    m_realtime->setTeamProjects(m_teamProjectIds);
+    // A token that outlives the socket's next look at it by a margin.
+    m_realtime->start(m_auth.userId(), [this] { return m_auth.validToken(300); });
 }
 
 void AppStore::stopSync()
@@ -696,7 +721,43 @@ void AppStore::stopSync()
     m_syncing = false;
     ++m_pollRun;
     m_pollTimer.stop();
+    if (m_realtime) {
+        m_realtime->stop();
+    }
     setRealtimeConnected(false);
+}
+
+void AppStore::applyRealtimeChange(const RealtimeChange &change)
+{
+    using Kind = RealtimeChange::Kind;
+    switch (change.kind) {
+    case Kind::TaskInserted:
+    case Kind::TaskUpdated:
+        replaceTask(*change.task());
+        break;
+    case Kind::TaskDeleted:
+        removeTasks({change.deletedId()});
+        break;
+    case Kind::EntryInserted:
+        appendEntryLocally(*change.entry());
+        break;
+    case Kind::EntryUpdated:
+        replaceEntry(*change.entry());
+        break;
+    case Kind::EntryDeleted:
+        removeEntry(change.deletedId());
+        break;
+    case Kind::ProjectUpserted:
+        mergeProject(*change.project());
+        break;
+    case Kind::ProjectDeleted:
+        removeProject(change.deletedId());
+        break;
+    case Kind::TripUpserted:
+    case Kind::TripDeleted:
+        // Trips have no collection in the store yet; the travel feature takes them here.
+        break;
+    }
 }
 
 void AppStore::armPoll()

@@ -7,6 +7,7 @@
 #include "model/taskitem.h"
 #include "model/team.h"
 #include "model/timeentry.h"
+#include "backend/realtimeclient.h"
 #include "backend/supabase.h"
 #include "billing/earnings.h"
 #include "store/inviteoutcome.h"
@@ -145,8 +146,9 @@ public:
     QCoro::Task<bool> refreshAll();
     QCoro::Task<bool> loadTeams();
     QCoro::Task<bool> loadClients();
-    // The realtime feed joins here once it exists; until then the safety poll alone keeps this
-    // device in step, at its realtime-down pace.
+    // Opens the realtime feed (unless turned off) and starts the safety poll, which looks every
+    // 20 s and refreshes when the last refresh is older than 20 s with the feed down or 120 s
+    // with it up.
     void startSync();
     void stopSync();
     [[nodiscard]] bool isSyncing() const { return m_syncing; }
@@ -154,6 +156,12 @@ public:
     // the feed. Answers whether it refreshed.
     QCoro::Task<bool> pollOnce();
     void setPollInterval(std::chrono::milliseconds interval) { m_pollInterval = interval; }
+    // A one-shot command has no use for live changes; the desktop keeps the feed on.
+    void setRealtimeEnabled(bool enabled) { m_realtimeEnabled = enabled; }
+    void setRealtimeScheduler(std::shared_ptr<RealtimeScheduler> scheduler) { m_realtimeScheduler = std::move(scheduler); }
+    [[nodiscard]] RealtimeClient *realtimeClient() const { return m_realtime.get(); }
+    // Merges one change of the feed by id; a task change rebinds the timer to the running task.
+    void applyRealtimeChange(const RealtimeChange &change);
     [[nodiscard]] std::chrono::milliseconds pollInterval() const { return m_pollInterval; }
     // The session ended: stops syncing and empties every collection.
     void endSession();
@@ -376,4 +384,8 @@ private:
     QTimer m_pollTimer;
     quint64 m_pollRun = 0;
     std::chrono::milliseconds m_pollInterval = defaultPollInterval;
+    bool m_realtimeEnabled = true;
+    std::shared_ptr<RealtimeScheduler> m_realtimeScheduler = RealtimeScheduler::system();
+    std::unique_ptr<RealtimeClient> m_realtime;
+    QStringList m_teamProjectIds;
 };
