@@ -199,6 +199,118 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>Die E-Mail-Adresse oder das Passwort stimmt nicht.</translation>
     </message>
+    <message id="inv.doc.amount">
+      <source>Amount</source>
+      <translation>Betrag</translation>
+    </message>
+    <message id="inv.doc.amountDue">
+      <source>Amount due</source>
+      <translation>Zu zahlen</translation>
+    </message>
+    <message id="inv.doc.bank">
+      <source>Bank</source>
+      <translation>Bank</translation>
+    </message>
+    <message id="inv.doc.billTo">
+      <source>Bill to</source>
+      <translation>Rechnung an</translation>
+    </message>
+    <message id="inv.doc.description">
+      <source>Description</source>
+      <translation>Beschreibung</translation>
+    </message>
+    <message id="inv.doc.due">
+      <source>Due date</source>
+      <translation>Fällig am</translation>
+    </message>
+    <message id="inv.doc.from">
+      <source>From</source>
+      <translation>Von</translation>
+    </message>
+    <message id="inv.doc.iban">
+      <source>IBAN</source>
+      <translation>IBAN</translation>
+    </message>
+    <message id="inv.doc.invoice">
+      <source>Invoice</source>
+      <translation>Rechnung</translation>
+    </message>
+    <message id="inv.doc.issued">
+      <source>Issue date</source>
+      <translation>Rechnungsdatum</translation>
+    </message>
+    <message id="inv.doc.kvk">
+      <source>Company no.</source>
+      <translation>Handelsregister</translation>
+    </message>
+    <message id="inv.doc.noVat">
+      <source>No VAT on these lines</source>
+      <translation>Keine USt. auf diese Positionen</translation>
+    </message>
+    <message id="inv.doc.notes">
+      <source>Notes</source>
+      <translation>Anmerkungen</translation>
+    </message>
+    <message id="inv.doc.number">
+      <source>Invoice no.</source>
+      <translation>Rechnungsnr.</translation>
+    </message>
+    <message id="inv.doc.payment">
+      <source>Payment</source>
+      <translation>Zahlung</translation>
+    </message>
+    <message id="inv.doc.paymentNoTerm">
+      <source>Please pay by bank transfer, quoting the invoice number.</source>
+      <translation>Bitte überweisen Sie den Betrag unter Angabe der Rechnungsnummer.</translation>
+    </message>
+    <message id="inv.doc.paymentTerms">
+      <source>Please pay within %1 days, quoting the invoice number.</source>
+      <translation>Bitte zahlen Sie innerhalb von %1 Tagen unter Angabe der Rechnungsnummer.</translation>
+    </message>
+    <message id="inv.doc.period">
+      <source>Period</source>
+      <translation>Zeitraum</translation>
+    </message>
+    <message id="inv.doc.project">
+      <source>Project</source>
+      <translation>Projekt</translation>
+    </message>
+    <message id="inv.doc.quantity">
+      <source>Qty</source>
+      <translation>Menge</translation>
+    </message>
+    <message id="inv.doc.rate">
+      <source>Rate</source>
+      <translation>Preis</translation>
+    </message>
+    <message id="inv.doc.reference">
+      <source>Reference</source>
+      <translation>Verwendungszweck</translation>
+    </message>
+    <message id="inv.doc.subtotal">
+      <source>Subtotal</source>
+      <translation>Zwischensumme</translation>
+    </message>
+    <message id="inv.doc.thanks">
+      <source>Thank you for your business.</source>
+      <translation>Vielen Dank für die gute Zusammenarbeit.</translation>
+    </message>
+    <message id="inv.doc.total">
+      <source>Total</source>
+      <translation>Gesamt</translation>
+    </message>
+    <message id="inv.doc.vatId">
+      <source>VAT no.</source>
+      <translation>USt-IdNr.</translation>
+    </message>
+    <message id="inv.doc.vatRow">
+      <source>VAT %1%</source>
+      <translation>USt. %1 %</translation>
+    </message>
+    <message id="inv.doc.vatRowOver">
+      <source>VAT %1% on %2</source>
+      <translation>USt. %1 % auf %2</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 ist bereits in diesem Team.</translation>
@@ -226,6 +338,10 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>Einladen per E-Mail ist noch nicht verfügbar. Versuche es später erneut.</translation>
+    </message>
+    <message id="invoiceFooter">
+      <source>Made with Morvane</source>
+      <translation>Erstellt mit Morvane</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -199,6 +199,118 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>The e-mail address or the password is not right.</translation>
     </message>
+    <message id="inv.doc.amount">
+      <source>Amount</source>
+      <translation>Amount</translation>
+    </message>
+    <message id="inv.doc.amountDue">
+      <source>Amount due</source>
+      <translation>Amount due</translation>
+    </message>
+    <message id="inv.doc.bank">
+      <source>Bank</source>
+      <translation>Bank</translation>
+    </message>
+    <message id="inv.doc.billTo">
+      <source>Bill to</source>
+      <translation>Bill to</translation>
+    </message>
+    <message id="inv.doc.description">
+      <source>Description</source>
+      <translation>Description</translation>
+    </message>
+    <message id="inv.doc.due">
+      <source>Due date</source>
+      <translation>Due date</translation>
+    </message>
+    <message id="inv.doc.from">
+      <source>From</source>
+      <translation>From</translation>
+    </message>
+    <message id="inv.doc.iban">
+      <source>IBAN</source>
+      <translation>IBAN</translation>
+    </message>
+    <message id="inv.doc.invoice">
+      <source>Invoice</source>
+      <translation>Invoice</translation>
+    </message>
+    <message id="inv.doc.issued">
+      <source>Issue date</source>
+      <translation>Issue date</translation>
+    </message>
+    <message id="inv.doc.kvk">
+      <source>Company no.</source>
+      <translation>Company no.</translation>
+    </message>
+    <message id="inv.doc.noVat">
+      <source>No VAT on these lines</source>
+      <translation>No VAT on these lines</translation>
+    </message>
+    <message id="inv.doc.notes">
+      <source>Notes</source>
+      <translation>Notes</translation>
+    </message>
+    <message id="inv.doc.number">
+      <source>Invoice no.</source>
+      <translation>Invoice no.</translation>
+    </message>
+    <message id="inv.doc.payment">
+      <source>Payment</source>
+      <translation>Payment</translation>
+    </message>
+    <message id="inv.doc.paymentNoTerm">
+      <source>Please pay by bank transfer, quoting the invoice number.</source>
+      <translation>Please pay by bank transfer, quoting the invoice number.</translation>
+    </message>
+    <message id="inv.doc.paymentTerms">
+      <source>Please pay within %1 days, quoting the invoice number.</source>
+      <translation>Please pay within %1 days, quoting the invoice number.</translation>
+    </message>
+    <message id="inv.doc.period">
+      <source>Period</source>
+      <translation>Period</translation>
+    </message>
+    <message id="inv.doc.project">
+      <source>Project</source>
+      <translation>Project</translation>
+    </message>
+    <message id="inv.doc.quantity">
+      <source>Qty</source>
+      <translation>Qty</translation>
+    </message>
+    <message id="inv.doc.rate">
+      <source>Rate</source>
+      <translation>Rate</translation>
+    </message>
+    <message id="inv.doc.reference">
+      <source>Reference</source>
+      <translation>Reference</translation>
+    </message>
+    <message id="inv.doc.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotal</translation>
+    </message>
+    <message id="inv.doc.thanks">
+      <source>Thank you for your business.</source>
+      <translation>Thank you for your business.</translation>
+    </message>
+    <message id="inv.doc.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="inv.doc.vatId">
+      <source>VAT no.</source>
+      <translation>VAT no.</translation>
+    </message>
+    <message id="inv.doc.vatRow">
+      <source>VAT %1%</source>
+      <translation>VAT %1%</translation>
+    </message>
+    <message id="inv.doc.vatRowOver">
+      <source>VAT %1% on %2</source>
+      <translation>VAT %1% on %2</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 is already in this team.</translation>
@@ -226,6 +338,10 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>Inviting by email is not available yet. Try again later.</translation>
+    </message>
+    <message id="invoiceFooter">
+      <source>Made with Morvane</source>
+      <translation>Made with Morvane</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -199,6 +199,118 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>La dirección de correo o la contraseña no es correcta.</translation>
     </message>
+    <message id="inv.doc.amount">
+      <source>Amount</source>
+      <translation>Importe</translation>
+    </message>
+    <message id="inv.doc.amountDue">
+      <source>Amount due</source>
+      <translation>Importe a pagar</translation>
+    </message>
+    <message id="inv.doc.bank">
+      <source>Bank</source>
+      <translation>Banco</translation>
+    </message>
+    <message id="inv.doc.billTo">
+      <source>Bill to</source>
+      <translation>Facturar a</translation>
+    </message>
+    <message id="inv.doc.description">
+      <source>Description</source>
+      <translation>Descripción</translation>
+    </message>
+    <message id="inv.doc.due">
+      <source>Due date</source>
+      <translation>Vencimiento</translation>
+    </message>
+    <message id="inv.doc.from">
+      <source>From</source>
+      <translation>De</translation>
+    </message>
+    <message id="inv.doc.iban">
+      <source>IBAN</source>
+      <translation>IBAN</translation>
+    </message>
+    <message id="inv.doc.invoice">
+      <source>Invoice</source>
+      <translation>Factura</translation>
+    </message>
+    <message id="inv.doc.issued">
+      <source>Issue date</source>
+      <translation>Fecha de emisión</translation>
+    </message>
+    <message id="inv.doc.kvk">
+      <source>Company no.</source>
+      <translation>Registro mercantil</translation>
+    </message>
+    <message id="inv.doc.noVat">
+      <source>No VAT on these lines</source>
+      <translation>Sin IVA en estas líneas</translation>
+    </message>
+    <message id="inv.doc.notes">
+      <source>Notes</source>
+      <translation>Notas</translation>
+    </message>
+    <message id="inv.doc.number">
+      <source>Invoice no.</source>
+      <translation>Factura n.º</translation>
+    </message>
+    <message id="inv.doc.payment">
+      <source>Payment</source>
+      <translation>Pago</translation>
+    </message>
+    <message id="inv.doc.paymentNoTerm">
+      <source>Please pay by bank transfer, quoting the invoice number.</source>
+      <translation>Por favor, pague por transferencia indicando el número de factura.</translation>
+    </message>
+    <message id="inv.doc.paymentTerms">
+      <source>Please pay within %1 days, quoting the invoice number.</source>
+      <translation>Por favor, pague en un plazo de %1 días indicando el número de factura.</translation>
+    </message>
+    <message id="inv.doc.period">
+      <source>Period</source>
+      <translation>Periodo</translation>
+    </message>
+    <message id="inv.doc.project">
+      <source>Project</source>
+      <translation>Proyecto</translation>
+    </message>
+    <message id="inv.doc.quantity">
+      <source>Qty</source>
+      <translation>Cant.</translation>
+    </message>
+    <message id="inv.doc.rate">
+      <source>Rate</source>
+      <translation>Precio</translation>
+    </message>
+    <message id="inv.doc.reference">
+      <source>Reference</source>
+      <translation>Referencia</translation>
+    </message>
+    <message id="inv.doc.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotal</translation>
+    </message>
+    <message id="inv.doc.thanks">
+      <source>Thank you for your business.</source>
+      <translation>Gracias por su confianza.</translation>
+    </message>
+    <message id="inv.doc.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="inv.doc.vatId">
+      <source>VAT no.</source>
+      <translation>NIF-IVA</translation>
+    </message>
+    <message id="inv.doc.vatRow">
+      <source>VAT %1%</source>
+      <translation>IVA %1%</translation>
+    </message>
+    <message id="inv.doc.vatRowOver">
+      <source>VAT %1% on %2</source>
+      <translation>IVA %1% sobre %2</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 ya está en este equipo.</translation>
@@ -226,6 +338,10 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>La invitación por correo aún no está disponible. Vuelve a intentarlo más tarde.</translation>
+    </message>
+    <message id="invoiceFooter">
+      <source>Made with Morvane</source>
+      <translation>Hecho con Morvane</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -199,6 +199,118 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>メールアドレスまたはパスワードが正しくありません。</translation>
     </message>
+    <message id="inv.doc.amount">
+      <source>Amount</source>
+      <translation>金額</translation>
+    </message>
+    <message id="inv.doc.amountDue">
+      <source>Amount due</source>
+      <translation>ご請求金額</translation>
+    </message>
+    <message id="inv.doc.bank">
+      <source>Bank</source>
+      <translation>銀行</translation>
+    </message>
+    <message id="inv.doc.billTo">
+      <source>Bill to</source>
+      <translation>請求先</translation>
+    </message>
+    <message id="inv.doc.description">
+      <source>Description</source>
+      <translation>内容</translation>
+    </message>
+    <message id="inv.doc.due">
+      <source>Due date</source>
+      <translation>支払期日</translation>
+    </message>
+    <message id="inv.doc.from">
+      <source>From</source>
+      <translation>差出人</translation>
+    </message>
+    <message id="inv.doc.iban">
+      <source>IBAN</source>
+      <translation>IBAN</translation>
+    </message>
+    <message id="inv.doc.invoice">
+      <source>Invoice</source>
+      <translation>請求書</translation>
+    </message>
+    <message id="inv.doc.issued">
+      <source>Issue date</source>
+      <translation>発行日</translation>
+    </message>
+    <message id="inv.doc.kvk">
+      <source>Company no.</source>
+      <translation>法人番号</translation>
+    </message>
+    <message id="inv.doc.noVat">
+      <source>No VAT on these lines</source>
+      <translation>これらの明細は非課税</translation>
+    </message>
+    <message id="inv.doc.notes">
+      <source>Notes</source>
+      <translation>備考</translation>
+    </message>
+    <message id="inv.doc.number">
+      <source>Invoice no.</source>
+      <translation>請求書番号</translation>
+    </message>
+    <message id="inv.doc.payment">
+      <source>Payment</source>
+      <translation>お支払い</translation>
+    </message>
+    <message id="inv.doc.paymentNoTerm">
+      <source>Please pay by bank transfer, quoting the invoice number.</source>
+      <translation>請求書番号を明記のうえ、銀行振込でお支払いください。</translation>
+    </message>
+    <message id="inv.doc.paymentTerms">
+      <source>Please pay within %1 days, quoting the invoice number.</source>
+      <translation>請求書番号を明記のうえ、%1日以内にお支払いください。</translation>
+    </message>
+    <message id="inv.doc.period">
+      <source>Period</source>
+      <translation>対象期間</translation>
+    </message>
+    <message id="inv.doc.project">
+      <source>Project</source>
+      <translation>プロジェクト</translation>
+    </message>
+    <message id="inv.doc.quantity">
+      <source>Qty</source>
+      <translation>数量</translation>
+    </message>
+    <message id="inv.doc.rate">
+      <source>Rate</source>
+      <translation>単価</translation>
+    </message>
+    <message id="inv.doc.reference">
+      <source>Reference</source>
+      <translation>振込名義</translation>
+    </message>
+    <message id="inv.doc.subtotal">
+      <source>Subtotal</source>
+      <translation>小計</translation>
+    </message>
+    <message id="inv.doc.thanks">
+      <source>Thank you for your business.</source>
+      <translation>ご利用ありがとうございました。</translation>
+    </message>
+    <message id="inv.doc.total">
+      <source>Total</source>
+      <translation>合計</translation>
+    </message>
+    <message id="inv.doc.vatId">
+      <source>VAT no.</source>
+      <translation>登録番号</translation>
+    </message>
+    <message id="inv.doc.vatRow">
+      <source>VAT %1%</source>
+      <translation>消費税 %1%</translation>
+    </message>
+    <message id="inv.doc.vatRowOver">
+      <source>VAT %1% on %2</source>
+      <translation>%2 に対する消費税 %1%</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 はすでにこのチームのメンバーです。</translation>
@@ -226,6 +338,10 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>メールでの招待はまだご利用いただけません。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message id="invoiceFooter">
+      <source>Made with Morvane</source>
+      <translation>Morvane で作成</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

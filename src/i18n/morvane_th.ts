@@ -199,6 +199,118 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>อีเมลหรือรหัสผ่านไม่ถูกต้อง</translation>
     </message>
+    <message id="inv.doc.amount">
+      <source>Amount</source>
+      <translation>จำนวนเงิน</translation>
+    </message>
+    <message id="inv.doc.amountDue">
+      <source>Amount due</source>
+      <translation>ยอดที่ต้องชำระ</translation>
+    </message>
+    <message id="inv.doc.bank">
+      <source>Bank</source>
+      <translation>ธนาคาร</translation>
+    </message>
+    <message id="inv.doc.billTo">
+      <source>Bill to</source>
+      <translation>เรียกเก็บจาก</translation>
+    </message>
+    <message id="inv.doc.description">
+      <source>Description</source>
+      <translation>รายการ</translation>
+    </message>
+    <message id="inv.doc.due">
+      <source>Due date</source>
+      <translation>วันครบกำหนด</translation>
+    </message>
+    <message id="inv.doc.from">
+      <source>From</source>
+      <translation>จาก</translation>
+    </message>
+    <message id="inv.doc.iban">
+      <source>IBAN</source>
+      <translation>IBAN</translation>
+    </message>
+    <message id="inv.doc.invoice">
+      <source>Invoice</source>
+      <translation>ใบแจ้งหนี้</translation>
+    </message>
+    <message id="inv.doc.issued">
+      <source>Issue date</source>
+      <translation>วันที่ออก</translation>
+    </message>
+    <message id="inv.doc.kvk">
+      <source>Company no.</source>
+      <translation>เลขทะเบียนนิติบุคคล</translation>
+    </message>
+    <message id="inv.doc.noVat">
+      <source>No VAT on these lines</source>
+      <translation>รายการเหล่านี้ไม่มีภาษีมูลค่าเพิ่ม</translation>
+    </message>
+    <message id="inv.doc.notes">
+      <source>Notes</source>
+      <translation>หมายเหตุ</translation>
+    </message>
+    <message id="inv.doc.number">
+      <source>Invoice no.</source>
+      <translation>เลขที่ใบแจ้งหนี้</translation>
+    </message>
+    <message id="inv.doc.payment">
+      <source>Payment</source>
+      <translation>การชำระเงิน</translation>
+    </message>
+    <message id="inv.doc.paymentNoTerm">
+      <source>Please pay by bank transfer, quoting the invoice number.</source>
+      <translation>กรุณาชำระโดยการโอนเงิน โดยระบุเลขที่ใบแจ้งหนี้</translation>
+    </message>
+    <message id="inv.doc.paymentTerms">
+      <source>Please pay within %1 days, quoting the invoice number.</source>
+      <translation>กรุณาชำระภายใน %1 วัน โดยระบุเลขที่ใบแจ้งหนี้</translation>
+    </message>
+    <message id="inv.doc.period">
+      <source>Period</source>
+      <translation>ช่วงเวลา</translation>
+    </message>
+    <message id="inv.doc.project">
+      <source>Project</source>
+      <translation>โครงการ</translation>
+    </message>
+    <message id="inv.doc.quantity">
+      <source>Qty</source>
+      <translation>จำนวน</translation>
+    </message>
+    <message id="inv.doc.rate">
+      <source>Rate</source>
+      <translation>ราคาต่อหน่วย</translation>
+    </message>
+    <message id="inv.doc.reference">
+      <source>Reference</source>
+      <translation>อ้างอิง</translation>
+    </message>
+    <message id="inv.doc.subtotal">
+      <source>Subtotal</source>
+      <translation>ยอดรวมก่อนภาษี</translation>
+    </message>
+    <message id="inv.doc.thanks">
+      <source>Thank you for your business.</source>
+      <translation>ขอบคุณที่ใช้บริการ</translation>
+    </message>
+    <message id="inv.doc.total">
+      <source>Total</source>
+      <translation>ยอดรวม</translation>
+    </message>
+    <message id="inv.doc.vatId">
+      <source>VAT no.</source>
+      <translation>เลขประจำตัวผู้เสียภาษี</translation>
+    </message>
+    <message id="inv.doc.vatRow">
+      <source>VAT %1%</source>
+      <translation>ภาษีมูลค่าเพิ่ม %1%</translation>
+    </message>
+    <message id="inv.doc.vatRowOver">
+      <source>VAT %1% on %2</source>
+      <translation>ภาษีมูลค่าเพิ่ม %1% จาก %2</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 อยู่ในทีมนี้แล้ว</translation>
@@ -226,6 +338,10 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>ยังเชิญทางอีเมลไม่ได้ในขณะนี้ โปรดลองอีกครั้งในภายหลัง</translation>
+    </message>
+    <message id="invoiceFooter">
+      <source>Made with Morvane</source>
+      <translation>สร้างด้วย Morvane</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>
