@@ -26,6 +26,14 @@ MORVANE_PACKAGES=(
     postgresql-contrib
     clang
     libclang-rt-14-dev
+    qt6-webengine-dev
+    qt6-pdf-dev
+    poppler-utils
+    fonts-inter
+    fonts-ebgaramond
+    fonts-jetbrains-mono
+    fonts-league-spartan
+    fonts-urw-base35
 )
 
 morvane_missing_packages() {

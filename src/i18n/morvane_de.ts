@@ -311,6 +311,26 @@
       <source>VAT %1% on %2</source>
       <translation>USt. %1 % auf %2</translation>
     </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>Die Rechnungsseite konnte nicht geladen werden.</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>Die Rechnung konnte nicht in Seiten aufgeteilt werden.</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>Das PDF der Rechnung konnte nicht erstellt werden.</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>Die Rechnungsseite konnte nicht in eine temporäre Datei geschrieben werden: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>Die Rechnungsseite wurde nicht innerhalb von %1 Sekunden geladen.</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 ist bereits in diesem Team.</translation>

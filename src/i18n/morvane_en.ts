@@ -311,6 +311,26 @@
       <source>VAT %1% on %2</source>
       <translation>VAT %1% on %2</translation>
     </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>The invoice page could not be loaded.</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>The invoice could not be laid out in pages.</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>The PDF of the invoice could not be made.</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>The invoice page could not be written to a temporary file: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>The invoice page did not finish loading within %1 seconds.</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 is already in this team.</translation>

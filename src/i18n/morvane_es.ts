@@ -311,6 +311,26 @@
       <source>VAT %1% on %2</source>
       <translation>IVA %1% sobre %2</translation>
     </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>No se pudo cargar la página de la factura.</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>No se pudo maquetar la factura en páginas.</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>No se pudo crear el PDF de la factura.</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>No se pudo escribir la página de la factura en un archivo temporal: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>La página de la factura no terminó de cargarse en %1 segundos.</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 ya está en este equipo.</translation>

@@ -311,6 +311,26 @@
       <source>VAT %1% on %2</source>
       <translation>TVA %1 % sur %2</translation>
     </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>La page de la facture n’a pas pu être chargée.</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>La facture n’a pas pu être mise en pages.</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>Le PDF de la facture n’a pas pu être créé.</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>La page de la facture n’a pas pu être écrite dans un fichier temporaire : %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>La page de la facture n’a pas fini de se charger en %1 secondes.</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 fait déjà partie de cette équipe.</translation>

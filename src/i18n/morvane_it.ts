@@ -311,6 +311,26 @@
       <source>VAT %1% on %2</source>
       <translation>IVA %1% su %2</translation>
     </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>Impossibile caricare la pagina della fattura.</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>Impossibile impaginare la fattura.</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>Impossibile creare il PDF della fattura.</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>Impossibile scrivere la pagina della fattura in un file temporaneo: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>La pagina della fattura non è stata caricata entro %1 secondi.</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 fa già parte di questo team.</translation>

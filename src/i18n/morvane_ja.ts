@@ -311,6 +311,26 @@
       <source>VAT %1% on %2</source>
       <translation>%2 に対する消費税 %1%</translation>
     </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>請求書ページを読み込めませんでした。</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>請求書をページに割り付けできませんでした。</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>請求書の PDF を作成できませんでした。</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>請求書ページを一時ファイルに書き込めませんでした: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>請求書ページの読み込みが %1 秒以内に完了しませんでした。</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 はすでにこのチームのメンバーです。</translation>

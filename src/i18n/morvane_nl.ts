@@ -311,6 +311,26 @@
       <source>VAT %1% on %2</source>
       <translation>Btw %1% over %2</translation>
     </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>De factuurpagina kon niet worden geladen.</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>De factuur kon niet in pagina’s worden opgemaakt.</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>De pdf van de factuur kon niet worden gemaakt.</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>De factuurpagina kon niet naar een tijdelijk bestand worden geschreven: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>De factuurpagina was niet binnen %1 seconden geladen.</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 zit al in dit team.</translation>

@@ -311,6 +311,26 @@
       <source>VAT %1% on %2</source>
       <translation>ภาษีมูลค่าเพิ่ม %1% จาก %2</translation>
     </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>ไม่สามารถโหลดหน้าใบแจ้งหนี้ได้</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>ไม่สามารถจัดหน้าใบแจ้งหนี้ได้</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>ไม่สามารถสร้าง PDF ของใบแจ้งหนี้ได้</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>ไม่สามารถเขียนหน้าใบแจ้งหนี้ลงในไฟล์ชั่วคราวได้: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>หน้าใบแจ้งหนี้โหลดไม่เสร็จภายใน %1 วินาที</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 อยู่ในทีมนี้แล้ว</translation>
