@@ -135,6 +135,58 @@
       <source>Show the version.</source>
       <translation>Die Version anzeigen.</translation>
     </message>
+    <message id="cli.renderInvoice.design">
+      <source>With --render-invoice: the design (%1).</source>
+      <translation>Mit --render-invoice: das Design (%1).</translation>
+    </message>
+    <message id="cli.renderInvoice.draft">
+      <source>With --render-invoice: an invoice as JSON instead of the sample.</source>
+      <translation>Mit --render-invoice: eine Rechnung als JSON statt des Beispiels.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.both">
+      <source>--lines is for the sample invoice; a draft brings its own lines.</source>
+      <translation>--lines gilt für die Beispielrechnung; ein Entwurf bringt eigene Positionen mit.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.design">
+      <source>Unknown design: %1. Choose one of: %2.</source>
+      <translation>Unbekanntes Design: %1. Wählen Sie eines von: %2.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.draft">
+      <source>Cannot read the draft %1: %2</source>
+      <translation>Der Entwurf %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.failed">
+      <source>Rendering the invoice failed: %1</source>
+      <translation>Das Erzeugen der Rechnung ist fehlgeschlagen: %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.lines">
+      <source>--lines takes a whole number from 0 to %1.</source>
+      <translation>--lines erwartet eine ganze Zahl von 0 bis %1.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.noGui">
+      <source>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</source>
+      <translation>Zum Erzeugen einer Rechnung werden die Grafikbibliotheken gebraucht; starten Sie es als: morvane --render-invoice</translation>
+    </message>
+    <message id="cli.renderInvoice.err.write">
+      <source>Cannot write %1: %2</source>
+      <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.lines">
+      <source>With --render-invoice: the number of lines of the sample invoice.</source>
+      <translation>Mit --render-invoice: die Anzahl der Positionen der Beispielrechnung.</translation>
+    </message>
+    <message id="cli.renderInvoice.option">
+      <source>Render an invoice to PDF through the application's own path and report its size.</source>
+      <translation>Eine Rechnung über den Weg der Anwendung als PDF erzeugen und ihre Größe melden.</translation>
+    </message>
+    <message id="cli.renderInvoice.out">
+      <source>With --render-invoice: where to write the PDF.</source>
+      <translation>Mit --render-invoice: wohin das PDF geschrieben wird.</translation>
+    </message>
+    <message id="cli.renderInvoice.png">
+      <source>With --render-invoice: a folder for pictures of the pages as PNG.</source>
+      <translation>Mit --render-invoice: ein Ordner für Bilder der Seiten als PNG.</translation>
+    </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
       <translation>start, stop oder status</translation>

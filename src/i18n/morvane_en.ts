@@ -135,6 +135,58 @@
       <source>Show the version.</source>
       <translation>Show the version.</translation>
     </message>
+    <message id="cli.renderInvoice.design">
+      <source>With --render-invoice: the design (%1).</source>
+      <translation>With --render-invoice: the design (%1).</translation>
+    </message>
+    <message id="cli.renderInvoice.draft">
+      <source>With --render-invoice: an invoice as JSON instead of the sample.</source>
+      <translation>With --render-invoice: an invoice as JSON instead of the sample.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.both">
+      <source>--lines is for the sample invoice; a draft brings its own lines.</source>
+      <translation>--lines is for the sample invoice; a draft brings its own lines.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.design">
+      <source>Unknown design: %1. Choose one of: %2.</source>
+      <translation>Unknown design: %1. Choose one of: %2.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.draft">
+      <source>Cannot read the draft %1: %2</source>
+      <translation>Cannot read the draft %1: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.failed">
+      <source>Rendering the invoice failed: %1</source>
+      <translation>Rendering the invoice failed: %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.lines">
+      <source>--lines takes a whole number from 0 to %1.</source>
+      <translation>--lines takes a whole number from 0 to %1.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.noGui">
+      <source>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</source>
+      <translation>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</translation>
+    </message>
+    <message id="cli.renderInvoice.err.write">
+      <source>Cannot write %1: %2</source>
+      <translation>Cannot write %1: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.lines">
+      <source>With --render-invoice: the number of lines of the sample invoice.</source>
+      <translation>With --render-invoice: the number of lines of the sample invoice.</translation>
+    </message>
+    <message id="cli.renderInvoice.option">
+      <source>Render an invoice to PDF through the application's own path and report its size.</source>
+      <translation>Render an invoice to PDF through the application's own path and report its size.</translation>
+    </message>
+    <message id="cli.renderInvoice.out">
+      <source>With --render-invoice: where to write the PDF.</source>
+      <translation>With --render-invoice: where to write the PDF.</translation>
+    </message>
+    <message id="cli.renderInvoice.png">
+      <source>With --render-invoice: a folder for pictures of the pages as PNG.</source>
+      <translation>With --render-invoice: a folder for pictures of the pages as PNG.</translation>
+    </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
       <translation>start, stop or status</translation>

@@ -135,6 +135,58 @@
       <source>Show the version.</source>
       <translation>Mostrar la versión.</translation>
     </message>
+    <message id="cli.renderInvoice.design">
+      <source>With --render-invoice: the design (%1).</source>
+      <translation>Con --render-invoice: el diseño (%1).</translation>
+    </message>
+    <message id="cli.renderInvoice.draft">
+      <source>With --render-invoice: an invoice as JSON instead of the sample.</source>
+      <translation>Con --render-invoice: una factura en JSON en lugar del ejemplo.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.both">
+      <source>--lines is for the sample invoice; a draft brings its own lines.</source>
+      <translation>--lines es para la factura de ejemplo; un borrador trae sus propias líneas.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.design">
+      <source>Unknown design: %1. Choose one of: %2.</source>
+      <translation>Diseño desconocido: %1. Elija uno de: %2.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.draft">
+      <source>Cannot read the draft %1: %2</source>
+      <translation>No se puede leer el borrador %1: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.failed">
+      <source>Rendering the invoice failed: %1</source>
+      <translation>La generación de la factura falló: %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.lines">
+      <source>--lines takes a whole number from 0 to %1.</source>
+      <translation>--lines admite un número entero de 0 a %1.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.noGui">
+      <source>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</source>
+      <translation>Generar una factura necesita las bibliotecas gráficas; ejecútelo así: morvane --render-invoice</translation>
+    </message>
+    <message id="cli.renderInvoice.err.write">
+      <source>Cannot write %1: %2</source>
+      <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.lines">
+      <source>With --render-invoice: the number of lines of the sample invoice.</source>
+      <translation>Con --render-invoice: el número de líneas de la factura de ejemplo.</translation>
+    </message>
+    <message id="cli.renderInvoice.option">
+      <source>Render an invoice to PDF through the application's own path and report its size.</source>
+      <translation>Generar el PDF de una factura por el camino propio de la aplicación e indicar su tamaño.</translation>
+    </message>
+    <message id="cli.renderInvoice.out">
+      <source>With --render-invoice: where to write the PDF.</source>
+      <translation>Con --render-invoice: dónde escribir el PDF.</translation>
+    </message>
+    <message id="cli.renderInvoice.png">
+      <source>With --render-invoice: a folder for pictures of the pages as PNG.</source>
+      <translation>Con --render-invoice: una carpeta para imágenes PNG de las páginas.</translation>
+    </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
       <translation>start, stop o status</translation>

@@ -135,6 +135,58 @@
       <source>Show the version.</source>
       <translation>バージョンを表示します。</translation>
     </message>
+    <message id="cli.renderInvoice.design">
+      <source>With --render-invoice: the design (%1).</source>
+      <translation>--render-invoice と併用: デザイン (%1)。</translation>
+    </message>
+    <message id="cli.renderInvoice.draft">
+      <source>With --render-invoice: an invoice as JSON instead of the sample.</source>
+      <translation>--render-invoice と併用: サンプルの代わりに使う JSON の請求書。</translation>
+    </message>
+    <message id="cli.renderInvoice.err.both">
+      <source>--lines is for the sample invoice; a draft brings its own lines.</source>
+      <translation>--lines はサンプル請求書用です。下書きには独自の明細があります。</translation>
+    </message>
+    <message id="cli.renderInvoice.err.design">
+      <source>Unknown design: %1. Choose one of: %2.</source>
+      <translation>不明なデザイン: %1。次から選んでください: %2。</translation>
+    </message>
+    <message id="cli.renderInvoice.err.draft">
+      <source>Cannot read the draft %1: %2</source>
+      <translation>下書き %1 を読み込めません: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.failed">
+      <source>Rendering the invoice failed: %1</source>
+      <translation>請求書の作成に失敗しました: %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.lines">
+      <source>--lines takes a whole number from 0 to %1.</source>
+      <translation>--lines には 0 から %1 までの整数を指定します。</translation>
+    </message>
+    <message id="cli.renderInvoice.err.noGui">
+      <source>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</source>
+      <translation>請求書の作成にはグラフィックライブラリが必要です。次のように実行してください: morvane --render-invoice</translation>
+    </message>
+    <message id="cli.renderInvoice.err.write">
+      <source>Cannot write %1: %2</source>
+      <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.lines">
+      <source>With --render-invoice: the number of lines of the sample invoice.</source>
+      <translation>--render-invoice と併用: サンプル請求書の明細行数。</translation>
+    </message>
+    <message id="cli.renderInvoice.option">
+      <source>Render an invoice to PDF through the application's own path and report its size.</source>
+      <translation>アプリと同じ経路で請求書を PDF にし、そのサイズを表示します。</translation>
+    </message>
+    <message id="cli.renderInvoice.out">
+      <source>With --render-invoice: where to write the PDF.</source>
+      <translation>--render-invoice と併用: PDF の書き出し先。</translation>
+    </message>
+    <message id="cli.renderInvoice.png">
+      <source>With --render-invoice: a folder for pictures of the pages as PNG.</source>
+      <translation>--render-invoice と併用: ページの PNG 画像を書き出すフォルダー。</translation>
+    </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
       <translation>start、stop、status のいずれか</translation>

@@ -135,6 +135,58 @@
       <source>Show the version.</source>
       <translation>แสดงเวอร์ชัน</translation>
     </message>
+    <message id="cli.renderInvoice.design">
+      <source>With --render-invoice: the design (%1).</source>
+      <translation>ใช้กับ --render-invoice: รูปแบบ (%1)</translation>
+    </message>
+    <message id="cli.renderInvoice.draft">
+      <source>With --render-invoice: an invoice as JSON instead of the sample.</source>
+      <translation>ใช้กับ --render-invoice: ใบแจ้งหนี้ในรูปแบบ JSON แทนตัวอย่าง</translation>
+    </message>
+    <message id="cli.renderInvoice.err.both">
+      <source>--lines is for the sample invoice; a draft brings its own lines.</source>
+      <translation>--lines ใช้กับใบแจ้งหนี้ตัวอย่างเท่านั้น ฉบับร่างมีรายการของตัวเอง</translation>
+    </message>
+    <message id="cli.renderInvoice.err.design">
+      <source>Unknown design: %1. Choose one of: %2.</source>
+      <translation>ไม่รู้จักรูปแบบ: %1 เลือกจาก: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.draft">
+      <source>Cannot read the draft %1: %2</source>
+      <translation>อ่านฉบับร่าง %1 ไม่ได้: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.failed">
+      <source>Rendering the invoice failed: %1</source>
+      <translation>สร้างใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.lines">
+      <source>--lines takes a whole number from 0 to %1.</source>
+      <translation>--lines ต้องเป็นจำนวนเต็มตั้งแต่ 0 ถึง %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.noGui">
+      <source>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</source>
+      <translation>การสร้างใบแจ้งหนี้ต้องใช้ไลบรารีกราฟิก ให้เรียกใช้แบบนี้: morvane --render-invoice</translation>
+    </message>
+    <message id="cli.renderInvoice.err.write">
+      <source>Cannot write %1: %2</source>
+      <translation>เขียน %1 ไม่ได้: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.lines">
+      <source>With --render-invoice: the number of lines of the sample invoice.</source>
+      <translation>ใช้กับ --render-invoice: จำนวนรายการของใบแจ้งหนี้ตัวอย่าง</translation>
+    </message>
+    <message id="cli.renderInvoice.option">
+      <source>Render an invoice to PDF through the application's own path and report its size.</source>
+      <translation>สร้าง PDF ของใบแจ้งหนี้ผ่านเส้นทางเดียวกับแอปและแสดงขนาดไฟล์</translation>
+    </message>
+    <message id="cli.renderInvoice.out">
+      <source>With --render-invoice: where to write the PDF.</source>
+      <translation>ใช้กับ --render-invoice: ตำแหน่งที่จะบันทึก PDF</translation>
+    </message>
+    <message id="cli.renderInvoice.png">
+      <source>With --render-invoice: a folder for pictures of the pages as PNG.</source>
+      <translation>ใช้กับ --render-invoice: โฟลเดอร์สำหรับภาพ PNG ของแต่ละหน้า</translation>
+    </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
       <translation>start, stop หรือ status</translation>
