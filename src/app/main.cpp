@@ -14,7 +14,9 @@ int main(int argc, char *argv[])
                                                       : std::make_unique<QCoreApplication>(argc, argv);
     // The command line speaks in its messages; the library's notes stay out of the way unless
     // QT_LOGGING_RULES asks for them.
-    QLoggingCategory::setFilterRules(QStringLiteral("morvane.*.debug=false\nmorvane.*.info=false"));
+    // The same for the web engine, which describes its set-up at length on every start.
+    QLoggingCategory::setFilterRules(
+        QStringLiteral("morvane.*.debug=false\nmorvane.*.info=false\nqt.webenginecontext.info=false"));
     QCoreApplication::setOrganizationName(QStringLiteral("morvane"));
     QCoreApplication::setApplicationName(QStringLiteral("morvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));

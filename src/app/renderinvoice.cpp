@@ -75,10 +75,6 @@ bool RenderInvoiceCommand::requested(int argc, char **argv)
 std::unique_ptr<QCoreApplication> RenderInvoiceCommand::makeApplication(int &argc, char **argv)
 {
     InvoicePdfRenderer::prepareEnvironment();
-    // The web engine describes its set-up at length on every start; a command line keeps to its result.
-    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES")) {
-        qputenv("QT_LOGGING_RULES", "qt.webenginecontext.info=false");
-    }
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

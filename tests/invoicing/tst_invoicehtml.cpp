@@ -1,3 +1,4 @@
+#include "invoicing/invoicefiles.h"
 #include "invoicing/invoicehtmlrenderer.h"
 #include "invoicing/invoicelanguage.h"
 #include "invoicing/invoicemoney.h"
@@ -518,6 +519,25 @@ private slots:
         brand = brandProfile(style, Template::Editorial);
         QCOMPARE(brand.fonts.display, u"Playfair Display"_s);
         QCOMPARE(brand.fonts.body, std::nullopt);
+    }
+
+    void fileNames_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("plain") << u"2025-0042"_s << u"morvane-invoice-2025-0042.pdf"_s;
+        QTest::newRow("slashes would make folders") << u"2025/0099"_s << u"morvane-invoice-2025-0099.pdf"_s;
+        QTest::newRow("spaces and symbols") << u" INV #12 (copy) "_s << u"morvane-invoice-INV-12-copy.pdf"_s;
+        QTest::newRow("no climbing out") << u"../../etc/passwd"_s << u"morvane-invoice-etc-passwd.pdf"_s;
+        QTest::newRow("nothing usable") << u"///"_s << u"morvane-invoice.pdf"_s;
+    }
+
+    void fileNames()
+    {
+        QFETCH(QString, number);
+        QFETCH(QString, file);
+        QCOMPARE(InvoiceFiles::exportFileName(number), file);
+        QCOMPARE(InvoiceFiles::previewFileName(), u"morvane-preview.pdf"_s);
     }
 
     void templateNamesRoundTrip()
