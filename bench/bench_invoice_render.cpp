@@ -9,7 +9,7 @@
 #include <QCoroTask>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QLoggingCategory>
 #include <QProcess>
 #include <QStandardPaths>
@@ -118,7 +118,7 @@ void verdict(const char *what, bool met)
 int main(int argc, char *argv[])
 {
     InvoicePdfRenderer::prepareEnvironment();
-    QGuiApplication app(argc, argv);
+    QApplication app(argc, argv);
     QLoggingCategory::setFilterRules(u"qt.webenginecontext.info=false\nmorvane.*.debug=false"_s);
     QTemporaryDir scratch;
 

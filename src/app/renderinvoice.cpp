@@ -13,7 +13,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QSaveFile>
 #include <QTextStream>
 
@@ -75,7 +75,7 @@ bool RenderInvoiceCommand::requested(int argc, char **argv)
 std::unique_ptr<QCoreApplication> RenderInvoiceCommand::makeApplication(int &argc, char **argv)
 {
     InvoicePdfRenderer::prepareEnvironment();
-    return std::make_unique<QGuiApplication>(argc, argv);
+    return std::make_unique<QApplication>(argc, argv);
 }
 
 void RenderInvoiceCommand::addOptions(QCommandLineParser &parser) const
@@ -90,7 +90,7 @@ bool RenderInvoiceCommand::isSet(const QCommandLineParser &parser) const
 
 int RenderInvoiceCommand::run(const QCommandLineParser &parser, QTextStream &out, QTextStream &err) const
 {
-    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance())) {
         //% "Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice"
         err << qtTrId("cli.renderInvoice.err.noGui") << Qt::endl;
         return 1;

@@ -4,7 +4,7 @@
 
 #include <QCoroTask>
 #include <QDir>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -342,6 +342,16 @@ private slots:
         QVERIFY(!text.contains(u"Replaced"_s));
     }
 
+    // Templates written for screens narrow their layout below some width; the page is an A4 sheet.
+    void viewportIsAnA4Sheet()
+    {
+        layOut(page(u"<style>@media (max-width: 600px) { .wide { display: none; } }</style>"
+                    u"<p class=\"wide\" id=\"w\">Only on wide pages</p><div id=\"v\" style=\"width: 50vw\"></div>"_s));
+        QCOMPARE(number(u"window.innerWidth"_s), 794.0);
+        QCOMPARE(number(u"document.getElementById('w').getBoundingClientRect().height"_s) > 0, true);
+        QCOMPARE(number(u"document.getElementById('v').getBoundingClientRect().width"_s), 397.0);
+    }
+
     // One renderer serves renders that arrive together, one after the other.
     void concurrentRendersQueue()
     {
@@ -364,7 +374,7 @@ private slots:
 int main(int argc, char *argv[])
 {
     InvoicePdfRenderer::prepareEnvironment();
-    QGuiApplication app(argc, argv);
+    QApplication app(argc, argv);
     TestInvoicePdf test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -18,6 +18,7 @@
 #include <QWebEngineScript>
 #include <QWebEngineSettings>
 #include <QWebEngineUrlRequestInterceptor>
+#include <QWebEngineView>
 
 #include <unistd.h>
 
@@ -67,6 +68,7 @@ constexpr qsizetype largestInlineDocument = 1'500'000;
 
 void InvoicePdfRenderer::prepareEnvironment()
 {
+    // Before any QApplication, as QtWebEngine asks.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
@@ -92,11 +94,22 @@ InvoicePdfRenderer::InvoicePdfRenderer(QObject *parent)
     settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
     settings->setAttribute(QWebEngineSettings::PrintElementBackgrounds, true);
     settings->setAttribute(QWebEngineSettings::ShowScrollBars, false);
+
+    // A page without a view has a viewport of width 0, where a template's "max-width" media
+    // queries and "vw" lengths would lay out a phone page. A view of the page's size that is never
+    // put on screen gives it the 794-px viewport of an A4 sheet.
+    m_view = new QWebEngineView();
+    m_view->setPage(m_page);
+    m_view->setAttribute(Qt::WA_DontShowOnScreen);
+    m_view->resize(pageWidth, pageHeight);
+    m_view->show();
 }
 
 InvoicePdfRenderer::~InvoicePdfRenderer()
 {
-    // The page must go before its profile.
+    // The view goes before its page, the page before its profile.
+    delete m_view;
+    m_view = nullptr;
     delete m_page;
     m_page = nullptr;
 }

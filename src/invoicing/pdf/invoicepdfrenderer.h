@@ -14,6 +14,7 @@
 
 class QWebEnginePage;
 class QWebEngineProfile;
+class QWebEngineView;
 
 // Why an invoice could not be turned into a PDF.
 class InvoicePdfError : public MorvaneError
@@ -37,7 +38,8 @@ struct RenderedPdf
 // Turns invoice HTML into A4 pages: loads it into an off-screen web page of 794 px width, moves
 // rows and blocks that would be cut by a page edge, and prints one PDF page per 1123-px slice.
 // Starting the web engine is the slow part, so one renderer lives for the whole session and
-// reuses its page for every invoice; renders queue behind each other. Main thread only.
+// reuses its page for every invoice; renders queue behind each other. Main thread of a
+// QApplication only (the page's viewport is an off-screen widget).
 class InvoicePdfRenderer : public QObject
 {
     Q_OBJECT
@@ -46,7 +48,7 @@ public:
     static constexpr int pageWidth = 794;
     static constexpr int pageHeight = 1123;
 
-    // Before the QGuiApplication exists: off screen unless a platform was chosen, no GPU, and no
+    // Before the QApplication exists: off screen unless a platform was chosen, no GPU, and no
     // sandbox for root (Chromium refuses to start as root with one).
     static void prepareEnvironment();
 
@@ -80,6 +82,7 @@ private:
 
     QWebEngineProfile *m_profile = nullptr;
     QWebEnginePage *m_page = nullptr;
+    QWebEngineView *m_view = nullptr; // a widget: owned here, not by the QObject tree
     bool m_busy = false;
     std::chrono::milliseconds m_loadTimeout{30000};
 };
