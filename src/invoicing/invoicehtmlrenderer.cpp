@@ -284,7 +284,10 @@ BrandProfile brandProfile(const InvoiceStyle &style, Template design)
     p.paper = validColour(style.palettePaper).value_or(QString::fromLatin1(defaults.paper));
     p.muted = validColour(style.paletteMuted).value_or(QString::fromLatin1(defaults.muted));
     p.border = validColour(style.paletteBorder).value_or(QString::fromLatin1(defaults.border));
-    p.bannerBg = validColour(style.paletteBanner).value_or(QString::fromLatin1(defaults.banner));
+    // A design's own dark band matches its own accent; with the brand's accent, the brand's ink
+    // is the safer dark.
+    const QString defaultBanner = validColour(style.accentHex) ? p.ink : QString::fromLatin1(defaults.banner);
+    p.bannerBg = validColour(style.paletteBanner).value_or(defaultBanner);
     p.accent2 = QString::fromLatin1(defaults.accent2);
     brand.fonts.display = validFontFamily(style.fontDisplay);
     brand.fonts.body = validFontFamily(style.fontBody);

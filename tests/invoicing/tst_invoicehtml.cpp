@@ -514,6 +514,15 @@ private slots:
         QCOMPARE(brandProfile(style, Template::BoldDark).palette.ink, u"#222222"_s);
         QVERIFY(darkInk != brandProfile(InvoiceStyle{}, Template::PastelModern).palette.ink);
 
+        // The design's dark band belongs to its own accent; with the brand's accent it takes the ink.
+        QCOMPARE(brandProfile(InvoiceStyle{}, Template::LightMinimalAccent).palette.bannerBg, u"#0B3B37"_s);
+        InvoiceStyle branded;
+        branded.accentHex = u"#1D4ED8"_s;
+        branded.inkHex = u"#0A0A0A"_s;
+        QCOMPARE(brandProfile(branded, Template::LightMinimalAccent).palette.bannerBg, u"#0A0A0A"_s);
+        branded.paletteBanner = u"#202020"_s;
+        QCOMPARE(brandProfile(branded, Template::LightMinimalAccent).palette.bannerBg, u"#202020"_s);
+
         style.fontDisplay = u"Playfair Display"_s;
         style.fontBody = u"Inter\"; } body { color: red"_s;
         brand = brandProfile(style, Template::Editorial);
