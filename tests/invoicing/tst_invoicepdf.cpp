@@ -352,6 +352,37 @@ private slots:
         QCOMPARE(number(u"document.getElementById('v').getBoundingClientRect().width"_s), 397.0);
     }
 
+    // Neither a small document nor a large one (which travels through a file) may show the
+    // user's own files.
+    void localFilesStayOut_data()
+    {
+        QTest::addColumn<int>("padding");
+        QTest::newRow("inline document") << 0;
+        QTest::newRow("document through a file") << 1'600'000;
+    }
+
+    void localFilesStayOut()
+    {
+        QFETCH(int, padding);
+        QFile secret(scratch.filePath(u"secret.txt"_s));
+        QVERIFY(secret.open(QIODevice::WriteOnly));
+        secret.write("PRIVATEKEYMATERIAL");
+        secret.close();
+        const QString url = QUrl::fromLocalFile(secret.fileName()).toString();
+        const QString html = page(u"<p>Visible text</p><iframe src=\""_s + url + u"\" style=\"width:600px;height:200px\">"
+                                  u"</iframe><object data=\""_s + url + u"\" type=\"text/plain\"></object><!-- "_s +
+                                  QString(padding, u'x') + u" -->"_s);
+        const RenderedPdf rendered = QCoro::waitFor(renderer->render(html));
+        const QString file = scratch.filePath(u"local.pdf"_s);
+        QFile out(file);
+        QVERIFY(out.open(QIODevice::WriteOnly));
+        out.write(rendered.pdf);
+        out.close();
+        const QString text = pdfPageText(file, 1);
+        QVERIFY(text.contains(u"Visible text"_s));
+        QVERIFY(!text.contains(u"PRIVATEKEYMATERIAL"_s));
+    }
+
     // One renderer serves renders that arrive together, one after the other.
     void concurrentRendersQueue()
     {

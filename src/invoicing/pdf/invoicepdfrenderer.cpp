@@ -33,19 +33,28 @@ namespace {
 
 // An invoice needs nothing from the network: fonts are local and logos are data URIs. Custom
 // templates come from outside (uploads, a model), so nothing they name may be fetched.
+// The one local file allowed is the spilled document itself: a template must not pull the
+// user's own files into a PDF that is sent to a client.
 class LocalOnly : public QWebEngineUrlRequestInterceptor
 {
 public:
     using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
 
+    void setDocument(const QUrl &document) { m_document = document; }
+
     void interceptRequest(QWebEngineUrlRequestInfo &info) override
     {
-        static const QStringList allowed{u"data"_s, u"file"_s, u"qrc"_s, u"about"_s, u"blob"_s};
-        if (!allowed.contains(info.requestUrl().scheme())) {
-            qCDebug(lcInvoicePdf) << "blocked" << info.requestUrl().toDisplayString();
-            info.block(true);
+        static const QStringList allowed{u"data"_s, u"qrc"_s, u"about"_s, u"blob"_s};
+        const QUrl url = info.requestUrl();
+        if (allowed.contains(url.scheme()) || (url.isLocalFile() && url == m_document)) {
+            return;
         }
+        qCDebug(lcInvoicePdf) << "blocked" << url.toDisplayString();
+        info.block(true);
     }
+
+private:
+    QUrl m_document;
 };
 
 QString pagingScript()
@@ -86,12 +95,14 @@ InvoicePdfRenderer::InvoicePdfRenderer(QObject *parent)
     // No storage name: off the record, nothing of an invoice is written to a browser cache.
     , m_profile(new QWebEngineProfile(this))
 {
-    m_profile->setUrlRequestInterceptor(new LocalOnly(m_profile));
+    m_interceptor = new LocalOnly(m_profile);
+    m_profile->setUrlRequestInterceptor(m_interceptor);
     m_page = new QWebEnginePage(m_profile, this);
     QWebEngineSettings *settings = m_page->settings();
     // Page scripts stay off (a custom template is untrusted); ours run in a world of their own.
     settings->setAttribute(QWebEngineSettings::JavascriptEnabled, false);
     settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
+    settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, false);
     settings->setAttribute(QWebEngineSettings::PrintElementBackgrounds, true);
     settings->setAttribute(QWebEngineSettings::ShowScrollBars, false);
 
@@ -154,8 +165,11 @@ QCoro::Task<int> InvoicePdfRenderer::layOut(QString html)
             throw InvoicePdfError(qtTrId("inv.pdf.err.spill").arg(file.errorString()));
         }
         file.close();
-        m_page->load(QUrl::fromLocalFile(file.fileName()));
+        const QUrl document = QUrl::fromLocalFile(file.fileName());
+        static_cast<LocalOnly *>(m_interceptor)->setDocument(document);
+        m_page->load(document);
     } else {
+        static_cast<LocalOnly *>(m_interceptor)->setDocument({});
         m_page->setHtml(html);
     }
 

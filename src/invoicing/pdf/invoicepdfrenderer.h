@@ -14,6 +14,7 @@
 
 class QWebEnginePage;
 class QWebEngineProfile;
+class QWebEngineUrlRequestInterceptor;
 class QWebEngineView;
 
 // Why an invoice could not be turned into a PDF.
@@ -81,6 +82,7 @@ private:
     QCoro::Task<void> waitForFontsAndImages();
 
     QWebEngineProfile *m_profile = nullptr;
+    QWebEngineUrlRequestInterceptor *m_interceptor = nullptr;
     QWebEnginePage *m_page = nullptr;
     QWebEngineView *m_view = nullptr; // a widget: owned here, not by the QObject tree
     bool m_busy = false;
