@@ -161,6 +161,8 @@ struct InvoiceLine
     friend bool operator==(const InvoiceLine &, const InvoiceLine &) = default;
 };
 
+// The body of a new `invoice_lines` row. Lines go in one bulk insert, and the backend wants every
+// object of a bulk insert to carry the same keys, so absent optionals are written as null.
 struct InvoiceLineInsert
 {
     QString invoiceId;
@@ -178,14 +180,15 @@ struct InvoiceLineInsert
     static constexpr auto wireFields()
     {
         using Wire::field;
+        using Wire::FieldFlag;
         return std::tuple{
             field("invoice_id", &InvoiceLineInsert::invoiceId),
-            field("task_id", &InvoiceLineInsert::taskId),
-            field("pool_project_id", &InvoiceLineInsert::poolProjectId),
+            field("task_id", &InvoiceLineInsert::taskId, FieldFlag::NullWhenAbsent),
+            field("pool_project_id", &InvoiceLineInsert::poolProjectId, FieldFlag::NullWhenAbsent),
             field("title", &InvoiceLineInsert::title),
-            field("description", &InvoiceLineInsert::description),
+            field("description", &InvoiceLineInsert::description, FieldFlag::NullWhenAbsent),
             field("quantity", &InvoiceLineInsert::quantity),
-            field("unit", &InvoiceLineInsert::unit),
+            field("unit", &InvoiceLineInsert::unit, FieldFlag::NullWhenAbsent),
             field("unit_price", &InvoiceLineInsert::unitPrice),
             field("amount", &InvoiceLineInsert::amount),
             field("order_index", &InvoiceLineInsert::orderIndex),

@@ -380,6 +380,25 @@ private slots:
         QCOMPARE(trip, (QJsonObject{{u"invoice_id"_s, u"i1"_s}, {u"trip_id"_s, u"t1"_s}}));
     }
 
+    // Lines go in one bulk insert, where every object must carry the same keys.
+    void lineInsertsShareTheirKeys()
+    {
+        InvoiceLineInsert work;
+        work.invoiceId = u"i1"_s;
+        work.taskId = u"t1"_s;
+        work.title = u"Support"_s;
+        work.unit = u"h"_s;
+        InvoiceLineInsert pool;
+        pool.invoiceId = u"i1"_s;
+        pool.poolProjectId = u"p1"_s;
+        pool.title = u"Project price"_s;
+        const QJsonObject a = Wire::encode(work).toObject();
+        const QJsonObject b = Wire::encode(pool).toObject();
+        QCOMPARE(a.keys(), b.keys());
+        QVERIFY(b.value(u"task_id"_s).isNull());
+        QVERIFY(a.value(u"pool_project_id"_s).isNull());
+    }
+
     // A draft written by hand may leave out what has an obvious default; what it gives is kept.
     void handWrittenDraftTakesDefaults()
     {
