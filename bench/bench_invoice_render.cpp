@@ -6,14 +6,15 @@
 #include "invoicing/pdf/invoicepdfrenderer.h"
 #include "invoicing/sampleinvoice.h"
 
-#include <QCoroTask>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QApplication>
 #include <QLoggingCategory>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+
+#include <QCoroTask>
 
 #include <algorithm>
 #include <cstdio>
@@ -85,10 +86,14 @@ std::optional<Measured> measureChromium(const QString &chromium, const QString &
     Measured result;
     for (int i = 0; i < runs; ++i) {
         const QString pdf = scratch + u"/chromium-%1.pdf"_s.arg(i);
-        QStringList arguments{u"--headless"_s,       u"--disable-gpu"_s,      u"--no-pdf-header-footer"_s,
-                              u"--no-first-run"_s,   u"--disable-extensions"_s,
+        QStringList arguments{u"--headless"_s,
+                              u"--disable-gpu"_s,
+                              u"--no-pdf-header-footer"_s,
+                              u"--no-first-run"_s,
+                              u"--disable-extensions"_s,
                               u"--user-data-dir="_s + scratch + u"/chromium-profile"_s,
-                              u"--print-to-pdf="_s + pdf, QUrl::fromLocalFile(htmlFile).toString()};
+                              u"--print-to-pdf="_s + pdf,
+                              QUrl::fromLocalFile(htmlFile).toString()};
         if (::geteuid() == 0) {
             arguments.prepend(u"--no-sandbox"_s);
         }
@@ -141,8 +146,8 @@ int main(int argc, char *argv[])
     InvoicePdfRenderer renderer;
     const RenderedPdf first = QCoro::waitFor(renderer.render(onePage));
     const double coldMs = msSince(cold);
-    std::printf("  cold first render (starts the web engine)      %8.1f ms  %d page, %lld bytes\n", coldMs,
-                first.pages, qlonglong(first.pdf.size()));
+    std::printf("  cold first render (starts the web engine)      %8.1f ms  %d page, %lld bytes\n", coldMs, first.pages,
+                qlonglong(first.pdf.size()));
 
     const Measured warm = measureRenderer(renderer, onePage, warmRuns);
     std::printf("  warm one-page render, median of %2d            %8.1f ms  %d page, %lld bytes\n", warmRuns,

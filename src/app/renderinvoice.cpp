@@ -6,16 +6,17 @@
 #include "invoicing/pdf/invoicepdfrenderer.h"
 #include "invoicing/sampleinvoice.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
-#include <QCoroTask>
 #include <QDate>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QApplication>
 #include <QSaveFile>
 #include <QTextStream>
+
+#include <QCoroTask>
 
 #include <cstring>
 
@@ -155,9 +156,9 @@ int RenderInvoiceCommand::run(const QCommandLineParser &parser, QTextStream &out
         return 2;
     }
 
-    const QString outPath = parser.isSet(m_out)
-                                ? parser.value(m_out)
-                                : (isSample ? InvoiceFiles::previewFileName() : InvoiceFiles::exportFileName(metadata.number));
+    const QString outPath = parser.isSet(m_out) ? parser.value(m_out)
+                                                : (isSample ? InvoiceFiles::previewFileName()
+                                                            : InvoiceFiles::exportFileName(metadata.number));
 
     QElapsedTimer clock;
     clock.start();

@@ -17,7 +17,7 @@ namespace InvoiceHTMLRenderer {
 namespace {
 
 constexpr std::array<std::string_view, 9> templateNames{
-    "aiCustom", "lightMinimalAccent", "editorialMono", "modernRibbon", "signatureEditorial",
+    "aiCustom", "lightMinimalAccent", "editorialMono", "modernRibbon",   "signatureEditorial",
     "boldDark", "editorial",          "pastelModern",  "minimalistMono",
 };
 
@@ -45,28 +45,41 @@ DesignDefaults defaultsOf(Template design)
     switch (design) {
     case Template::AiCustom:
     case Template::LightMinimalAccent:
-        return {"#0F766E", "#111827", "#FFFFFF", "#6B7280", "#E5E7EB", "#0B3B37", "#CCFBF1",
-                "\"Inter\", \"Helvetica Neue\", Arial, sans-serif", sansStack};
+        return {"#0F766E", "#111827", "#FFFFFF", "#6B7280",
+                "#E5E7EB", "#0B3B37", "#CCFBF1", "\"Inter\", \"Helvetica Neue\", Arial, sans-serif",
+                sansStack};
     case Template::EditorialMono:
-        return {"#1D4ED8", "#1A1A1A", "#FAF8F3", "#6E6A60", "#D8D3C6", "#1A1A1A", "#E8E3D4",
-                "\"JetBrains Mono\", \"DejaVu Sans Mono\", monospace", monoStack};
+        return {"#1D4ED8", "#1A1A1A", "#FAF8F3", "#6E6A60",
+                "#D8D3C6", "#1A1A1A", "#E8E3D4", "\"JetBrains Mono\", \"DejaVu Sans Mono\", monospace",
+                monoStack};
     case Template::ModernRibbon:
-        return {"#4F46E5", "#1E1B4B", "#FFFFFF", "#64748B", "#E2E8F0", "#1E1B4B", "#A5B4FC",
-                "\"League Spartan\", \"Inter\", Arial, sans-serif", sansStack};
+        return {"#4F46E5", "#1E1B4B", "#FFFFFF", "#64748B",
+                "#E2E8F0", "#1E1B4B", "#A5B4FC", "\"League Spartan\", \"Inter\", Arial, sans-serif",
+                sansStack};
     case Template::SignatureEditorial:
-        return {"#9A3412", "#292524", "#FFFCF5", "#78716C", "#E7DFD0", "#292524", "#F4E8D6",
-                "\"EB Garamond\", \"P052\", Georgia, \"DejaVu Serif\", serif", sansStack};
+        return {"#9A3412", "#292524", "#FFFCF5", "#78716C",
+                "#E7DFD0", "#292524", "#F4E8D6", "\"EB Garamond\", \"P052\", Georgia, \"DejaVu Serif\", serif",
+                sansStack};
     case Template::BoldDark:
-        return {"#F59E0B", "#0F172A", "#FFFFFF", "#64748B", "#E2E8F0", "#0F172A", "#FDE68A",
-                "\"League Spartan\", \"Inter\", Arial, sans-serif", sansStack};
+        return {"#F59E0B", "#0F172A", "#FFFFFF", "#64748B",
+                "#E2E8F0", "#0F172A", "#FDE68A", "\"League Spartan\", \"Inter\", Arial, sans-serif",
+                sansStack};
     case Template::Editorial:
-        return {"#9F1239", "#1C1917", "#FFFFFF", "#71717A", "#E4E4E7", "#1C1917", "#FCE7F3",
-                "\"EB Garamond\", \"C059\", Georgia, \"DejaVu Serif\", serif", sansStack};
+        return {"#9F1239", "#1C1917", "#FFFFFF", "#71717A",
+                "#E4E4E7", "#1C1917", "#FCE7F3", "\"EB Garamond\", \"C059\", Georgia, \"DejaVu Serif\", serif",
+                sansStack};
     case Template::PastelModern:
-        return {"#7C3AED", "#2E2A47", "#FFFFFF", "#7A7591", "#ECE8F6", "#2E2A47", "#E9E3FF",
-                "\"Inter\", \"Helvetica Neue\", Arial, sans-serif", sansStack};
+        return {"#7C3AED", "#2E2A47", "#FFFFFF", "#7A7591",
+                "#ECE8F6", "#2E2A47", "#E9E3FF", "\"Inter\", \"Helvetica Neue\", Arial, sans-serif",
+                sansStack};
     case Template::MinimalistMono:
-        return {"#000000", "#000000", "#FFFFFF", "#737373", "#D4D4D4", "#000000", "#F5F5F5",
+        return {"#000000",
+                "#000000",
+                "#FFFFFF",
+                "#737373",
+                "#D4D4D4",
+                "#000000",
+                "#F5F5F5",
                 "\"Nimbus Sans\", \"Helvetica Neue\", Helvetica, Arial, sans-serif",
                 "\"Nimbus Sans\", \"Helvetica Neue\", Helvetica, Arial, sans-serif"};
     }
@@ -237,9 +250,8 @@ std::optional<Template> templateFromName(QStringView name)
 
 QList<Template> builtInDesigns()
 {
-    return {Template::LightMinimalAccent, Template::EditorialMono, Template::ModernRibbon,
-            Template::SignatureEditorial, Template::BoldDark,      Template::Editorial,
-            Template::PastelModern,       Template::MinimalistMono};
+    return {Template::LightMinimalAccent, Template::EditorialMono, Template::ModernRibbon, Template::SignatureEditorial,
+            Template::BoldDark,           Template::Editorial,     Template::PastelModern, Template::MinimalistMono};
 }
 
 QString escapeHtml(QStringView text)
@@ -280,7 +292,8 @@ BrandProfile brandProfile(const InvoiceStyle &style, Template design)
     BrandProfile brand;
     Palette &p = brand.palette;
     p.accent = validColour(style.accentHex).value_or(QString::fromLatin1(defaults.accent));
-    p.ink = validColour(style.paletteInk).value_or(validColour(style.inkHex).value_or(QString::fromLatin1(defaults.ink)));
+    p.ink =
+        validColour(style.paletteInk).value_or(validColour(style.inkHex).value_or(QString::fromLatin1(defaults.ink)));
     p.paper = validColour(style.palettePaper).value_or(QString::fromLatin1(defaults.paper));
     p.muted = validColour(style.paletteMuted).value_or(QString::fromLatin1(defaults.muted));
     p.border = validColour(style.paletteBorder).value_or(QString::fromLatin1(defaults.border));
@@ -336,12 +349,12 @@ QString lineRowsHtml(const InvoiceDraft &draft, const InvoiceLanguage &language,
         }
         rows += u"<tr><td class=\"desc\">"_s + description + u"</td><td class=\"qty\">"_s + qty + u"</td>"_s;
         if (withRate) {
-            const QString rate = line.rate != 0 ? escapeHtml(InvoiceMoney::format(line.rate, draft.currency, locale))
-                                                : QString();
+            const QString rate =
+                line.rate != 0 ? escapeHtml(InvoiceMoney::format(line.rate, draft.currency, locale)) : QString();
             rows += u"<td class=\"rate\">"_s + rate + u"</td>"_s;
         }
-        rows += u"<td class=\"amt\">"_s + escapeHtml(InvoiceMoney::format(round2(line.amount), draft.currency, locale)) +
-                u"</td></tr>"_s;
+        rows += u"<td class=\"amt\">"_s +
+                escapeHtml(InvoiceMoney::format(round2(line.amount), draft.currency, locale)) + u"</td></tr>"_s;
     }
     return rows;
 }
@@ -435,8 +448,9 @@ QHash<QString, QString> placeholderValues(const InvoiceDraft &draft, const Invoi
         }
     } else if (!rates.isEmpty() || vat != 0) {
         const double percent = groups.size() == 1 ? groups.front().percent : metadata.vatRate.value_or(0);
-        totals += pairRow(u"t-row vat"_s, t(QT_TRID_NOOP("inv.doc.vatRow")).arg(InvoiceMoney::formatQuantity(percent, locale)),
-                          money(vat));
+        totals +=
+            pairRow(u"t-row vat"_s,
+                    t(QT_TRID_NOOP("inv.doc.vatRow")).arg(InvoiceMoney::formatQuantity(percent, locale)), money(vat));
     } else {
         totals += pairRow(u"t-row vat none"_s, t(QT_TRID_NOOP("inv.doc.noVat")), money(0));
     }
@@ -449,8 +463,9 @@ QHash<QString, QString> placeholderValues(const InvoiceDraft &draft, const Invoi
                                           : QString();
     v[u"prose_html"_s] = proseHtml(draft.prose);
     v[u"notes_html"_s] = metadata.notes && !metadata.notes->trimmed().isEmpty()
-                             ? u"<div class=\"notes-block\"><div class=\"label\">"_s + escapeHtml(t(QT_TRID_NOOP("inv.doc.notes"))) +
-                                   u"</div>"_s + proseHtml(*metadata.notes) + u"</div>"_s
+                             ? u"<div class=\"notes-block\"><div class=\"label\">"_s +
+                                   escapeHtml(t(QT_TRID_NOOP("inv.doc.notes"))) + u"</div>"_s +
+                                   proseHtml(*metadata.notes) + u"</div>"_s
                              : QString();
 
     // Composite blocks the built-in designs share.
@@ -504,7 +519,8 @@ QHash<QString, QString> placeholderValues(const InvoiceDraft &draft, const Invoi
 
     QString payment;
     if (!v[u"iban"_s].isEmpty()) {
-        const QString note = termDays ? t(QT_TRID_NOOP("inv.doc.paymentTerms")).arg(*termDays) : t(QT_TRID_NOOP("inv.doc.paymentNoTerm"));
+        const QString note = termDays ? t(QT_TRID_NOOP("inv.doc.paymentTerms")).arg(*termDays)
+                                      : t(QT_TRID_NOOP("inv.doc.paymentNoTerm"));
         payment += u"<p class=\"pay-note\">"_s + escapeHtml(note) + u"</p>"_s;
         payment += pairRow(u"pay-row"_s, t(QT_TRID_NOOP("inv.doc.iban")), v[u"iban"_s]);
         if (!v[u"bank_name"_s].isEmpty()) {
@@ -523,15 +539,24 @@ QHash<QString, QString> placeholderValues(const InvoiceDraft &draft, const Invoi
 
     // Words of the document in its own language.
     const std::pair<const char *, const char *> labels[] = {
-        {"t_invoice", QT_TRID_NOOP("inv.doc.invoice")},     {"t_number", QT_TRID_NOOP("inv.doc.number")},
-        {"t_issued", QT_TRID_NOOP("inv.doc.issued")},       {"t_due", QT_TRID_NOOP("inv.doc.due")},
-        {"t_bill_to", QT_TRID_NOOP("inv.doc.billTo")},      {"t_from", QT_TRID_NOOP("inv.doc.from")},
-        {"t_period", QT_TRID_NOOP("inv.doc.period")},       {"t_project", QT_TRID_NOOP("inv.doc.project")},
-        {"t_description", QT_TRID_NOOP("inv.doc.description")}, {"t_quantity", QT_TRID_NOOP("inv.doc.quantity")},
-        {"t_rate", QT_TRID_NOOP("inv.doc.rate")},           {"t_amount", QT_TRID_NOOP("inv.doc.amount")},
-        {"t_subtotal", QT_TRID_NOOP("inv.doc.subtotal")},   {"t_total", QT_TRID_NOOP("inv.doc.total")},
-        {"t_amount_due", QT_TRID_NOOP("inv.doc.amountDue")}, {"t_payment", QT_TRID_NOOP("inv.doc.payment")},
-        {"t_notes", QT_TRID_NOOP("inv.doc.notes")},         {"t_thanks", QT_TRID_NOOP("inv.doc.thanks")},
+        {"t_invoice", QT_TRID_NOOP("inv.doc.invoice")},
+        {"t_number", QT_TRID_NOOP("inv.doc.number")},
+        {"t_issued", QT_TRID_NOOP("inv.doc.issued")},
+        {"t_due", QT_TRID_NOOP("inv.doc.due")},
+        {"t_bill_to", QT_TRID_NOOP("inv.doc.billTo")},
+        {"t_from", QT_TRID_NOOP("inv.doc.from")},
+        {"t_period", QT_TRID_NOOP("inv.doc.period")},
+        {"t_project", QT_TRID_NOOP("inv.doc.project")},
+        {"t_description", QT_TRID_NOOP("inv.doc.description")},
+        {"t_quantity", QT_TRID_NOOP("inv.doc.quantity")},
+        {"t_rate", QT_TRID_NOOP("inv.doc.rate")},
+        {"t_amount", QT_TRID_NOOP("inv.doc.amount")},
+        {"t_subtotal", QT_TRID_NOOP("inv.doc.subtotal")},
+        {"t_total", QT_TRID_NOOP("inv.doc.total")},
+        {"t_amount_due", QT_TRID_NOOP("inv.doc.amountDue")},
+        {"t_payment", QT_TRID_NOOP("inv.doc.payment")},
+        {"t_notes", QT_TRID_NOOP("inv.doc.notes")},
+        {"t_thanks", QT_TRID_NOOP("inv.doc.thanks")},
     };
     for (const auto &[name, id] : labels) {
         v[QString::fromLatin1(name)] = escapeHtml(t(id));

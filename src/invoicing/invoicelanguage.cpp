@@ -38,9 +38,9 @@ QString supported(const QString &code)
 QLocale localeFor(const QString &code)
 {
     static const QHash<QString, QString> names{
-        {u"en"_s, u"en_GB"_s}, {u"nl"_s, u"nl_NL"_s}, {u"de"_s, u"de_DE"_s}, {u"fr"_s, u"fr_FR"_s},
-        {u"es"_s, u"es_ES"_s}, {u"it"_s, u"it_IT"_s}, {u"pt"_s, u"pt_PT"_s}, {u"ja"_s, u"ja_JP"_s},
-        {u"th"_s, u"th_TH"_s},
+        {u"en"_s, u"en_GB"_s}, {u"nl"_s, u"nl_NL"_s}, {u"de"_s, u"de_DE"_s},
+        {u"fr"_s, u"fr_FR"_s}, {u"es"_s, u"es_ES"_s}, {u"it"_s, u"it_IT"_s},
+        {u"pt"_s, u"pt_PT"_s}, {u"ja"_s, u"ja_JP"_s}, {u"th"_s, u"th_TH"_s},
     };
     return QLocale(names.value(code, u"en_GB"_s));
 }
@@ -94,7 +94,9 @@ QString InvoiceLanguage::shortDate(const QDate &date) const
         return {};
     }
     static const QHash<QString, QString> patterns{
-        {u"en"_s, u"d MMM yyyy"_s}, {u"nl"_s, u"dd-MM-yyyy"_s}, {u"de"_s, u"dd.MM.yyyy"_s},
+        {u"en"_s, u"d MMM yyyy"_s},
+        {u"nl"_s, u"dd-MM-yyyy"_s},
+        {u"de"_s, u"dd.MM.yyyy"_s},
         {u"ja"_s, u"yyyy/MM/dd"_s},
     };
     return m_locale.toString(date, patterns.value(m_code, u"dd/MM/yyyy"_s));

@@ -53,8 +53,8 @@ QString symbol(const QString &currencyCode)
 
 int decimals(const QString &currencyCode)
 {
-    static const QStringList noMinorUnits{u"JPY"_s, u"KRW"_s, u"ISK"_s, u"CLP"_s, u"VND"_s, u"PYG"_s,
-                                          u"UGX"_s, u"XAF"_s, u"XOF"_s, u"HUF"_s};
+    static const QStringList noMinorUnits{u"JPY"_s, u"KRW"_s, u"ISK"_s, u"CLP"_s, u"VND"_s,
+                                          u"PYG"_s, u"UGX"_s, u"XAF"_s, u"XOF"_s, u"HUF"_s};
     return noMinorUnits.contains(currencyCode.trimmed().toUpper()) ? 0 : 2;
 }
 

@@ -115,8 +115,8 @@ private slots:
                                         << u"Unknown design: neon. Choose one of: lightMinimalAccent"_s;
         QTest::newRow("negative lines") << QStringList{u"--render-invoice"_s, u"--lines"_s, u"-3"_s}
                                         << u"--lines takes a whole number from 0 to 5000."_s;
-        QTest::newRow("lines that are not a number") << QStringList{u"--render-invoice"_s, u"--lines"_s, u"ten"_s}
-                                                     << u"--lines takes a whole number"_s;
+        QTest::newRow("lines that are not a number")
+            << QStringList{u"--render-invoice"_s, u"--lines"_s, u"ten"_s} << u"--lines takes a whole number"_s;
         QTest::newRow("missing draft") << QStringList{u"--render-invoice"_s, u"--draft"_s, u"nowhere.json"_s}
                                        << u"Cannot read the draft nowhere.json"_s;
         QTest::newRow("draft and lines") << QStringList{u"--render-invoice"_s, u"--draft"_s, u"x.json"_s, u"--lines"_s,

@@ -80,13 +80,38 @@ QString render(Template design, const InvoiceDraft &draft = sampleDraft(), const
 QString everyPlaceholderTemplate()
 {
     const QStringList names{
-        u"company"_s,         u"company_upper"_s, u"address_html"_s,   u"email"_s,          u"website"_s,
-        u"phone"_s,           u"kvk"_s,           u"btw"_s,            u"iban"_s,           u"bank_name"_s,
-        u"footer_text"_s,     u"number"_s,        u"number_major"_s,   u"number_minor"_s,   u"issued"_s,
-        u"due"_s,             u"issued_short"_s,  u"due_short"_s,      u"period_from"_s,    u"period_to"_s,
-        u"project_name"_s,    u"year_short"_s,    u"payment_terms_days"_s, u"bill_to_name"_s,
-        u"bill_to_address_html"_s, u"bill_to_email"_s, u"subtotal"_s, u"vat_amount"_s,  u"vat_rate"_s,
-        u"grand"_s,           u"logo_html"_s,     u"prose_html"_s,
+        u"company"_s,
+        u"company_upper"_s,
+        u"address_html"_s,
+        u"email"_s,
+        u"website"_s,
+        u"phone"_s,
+        u"kvk"_s,
+        u"btw"_s,
+        u"iban"_s,
+        u"bank_name"_s,
+        u"footer_text"_s,
+        u"number"_s,
+        u"number_major"_s,
+        u"number_minor"_s,
+        u"issued"_s,
+        u"due"_s,
+        u"issued_short"_s,
+        u"due_short"_s,
+        u"period_from"_s,
+        u"period_to"_s,
+        u"project_name"_s,
+        u"year_short"_s,
+        u"payment_terms_days"_s,
+        u"bill_to_name"_s,
+        u"bill_to_address_html"_s,
+        u"bill_to_email"_s,
+        u"subtotal"_s,
+        u"vat_amount"_s,
+        u"vat_rate"_s,
+        u"grand"_s,
+        u"logo_html"_s,
+        u"prose_html"_s,
     };
     QString html = u"<!DOCTYPE html><html><head><style>body{width:794px;height:1123px}</style></head><body>"
                    u"<header>head</header><main>"_s;
@@ -170,8 +195,8 @@ private slots:
         QTest::newRow("de") << u"de"_s << u"31. März 2025"_s << u"31.03.2025"_s;
         QTest::newRow("es") << u"es"_s << u"31 de marzo de 2025"_s << u"31/03/2025"_s;
         QTest::newRow("ja") << u"ja"_s << u"2025年3月31日"_s << u"2025/03/31"_s;
-        QTest::newRow("region variant of a known language") << u"pt-BR"_s << u"31 de março de 2025"_s
-                                                           << u"31/03/2025"_s;
+        QTest::newRow("region variant of a known language")
+            << u"pt-BR"_s << u"31 de março de 2025"_s << u"31/03/2025"_s;
     }
 
     void dates()
@@ -365,7 +390,8 @@ private slots:
             {u"vat_amount"_s, u"€\u00A0384,30"_s},
             {u"vat_rate"_s, u"21%"_s},
             {u"grand"_s, u"€\u00A02.214,80"_s},
-            {u"logo_html"_s, u"<img class=\"logo\" src=\"data:image/png;base64,iVBORw0KGgo=\" alt=\"Studio Vlinder\">"_s},
+            {u"logo_html"_s,
+             u"<img class=\"logo\" src=\"data:image/png;base64,iVBORw0KGgo=\" alt=\"Studio Vlinder\">"_s},
             {u"prose_html"_s, u"<p>Thank you for the pleasant work.</p><p>Second paragraph.</p>"_s},
         };
         for (const auto &[name, value] : expected) {
@@ -381,14 +407,14 @@ private slots:
         style.morvaneFooter = true;
         const QString custom = u"<!doctype html><html><head><title>x</title></head><body style=\"width:794px;"
                                u"height:1123px\"><header>H</header><main>M</main><footer>F</footer></body></html>"_s;
-        const QString html = *substituteCustom(custom, sampleDraft(), style, brandProfile(style, Template::AiCustom),
-                                               sampleMetadata());
+        const QString html =
+            *substituteCustom(custom, sampleDraft(), style, brandProfile(style, Template::AiCustom), sampleMetadata());
         const qsizetype headEnd = html.indexOf(u"</head>"_s);
         const qsizetype geometry = html.indexOf(
             u"html, body { width: 794px !important; height: 1123px !important; overflow: hidden !important; }"_s);
         QVERIFY(geometry > 0 && geometry < headEnd);
-        const qsizetype grid = html.indexOf(
-            u"body { display: grid !important; grid-template-rows: auto 1fr auto !important; }"_s);
+        const qsizetype grid =
+            html.indexOf(u"body { display: grid !important; grid-template-rows: auto 1fr auto !important; }"_s);
         QVERIFY(grid > 0 && grid < headEnd);
         QVERIFY(html.indexOf(u":root{--accent:"_s) < headEnd);
         QVERIFY(html.contains(u"F<div class=\"mv-made\">"_s));
@@ -417,7 +443,10 @@ private slots:
         QTest::newRow("empty") << QString() << u"empty"_s;
         QTest::newRow("only spaces") << u"  \n "_s << u"empty"_s;
         QTest::newRow("no doctype") << QString(good).remove(u"<!doctype html>"_s) << u"doctype"_s;
-        QTest::newRow("older doctype") << QString(good).replace(u"<!doctype html>"_s, u"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01//EN\">"_s) << u"doctype"_s;
+        QTest::newRow("older doctype") << QString(good).replace(
+                                              u"<!doctype html>"_s,
+                                              u"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01//EN\">"_s)
+                                       << u"doctype"_s;
         QTest::newRow("no header") << QString(good).remove(u"<header></header>"_s) << u"header"_s;
         QTest::newRow("a header-ish class is no header element")
             << QString(good).replace(u"<header></header>"_s, u"<div class=\"header\"></div><headers></headers>"_s)
@@ -433,8 +462,8 @@ private slots:
         QFETCH(QString, problem);
         QVERIFY2(structuralProblem(custom).contains(problem), qPrintable(structuralProblem(custom)));
         InvoiceStyle style = sampleStyle();
-        QVERIFY(!substituteCustom(custom, sampleDraft(), style, brandProfile(style, Template::AiCustom),
-                                  sampleMetadata()));
+        QVERIFY(
+            !substituteCustom(custom, sampleDraft(), style, brandProfile(style, Template::AiCustom), sampleMetadata()));
         style.customTemplateHtml = custom;
         QCOMPARE(render(Template::AiCustom, sampleDraft(), style), render(fallbackDesign, sampleDraft(), style));
     }
@@ -445,14 +474,13 @@ private slots:
         QTest::addColumn<double>("vatAmount");
         QTest::addColumn<QStringList>("rows");
         QTest::addColumn<QString>("rateText");
-        QTest::newRow("one rate")
-            << QList<InvoiceVatGroup>{{21, 1830.5, 384.41}} << 384.41 << QStringList{u"VAT 21%"_s} << u"21%"_s;
+        QTest::newRow("one rate") << QList<InvoiceVatGroup>{{21, 1830.5, 384.41}} << 384.41 << QStringList{u"VAT 21%"_s}
+                                  << u"21%"_s;
         QTest::newRow("two rates, each on its base")
             << QList<InvoiceVatGroup>{{9, 800, 72}, {21, 1030.5, 216.41}} << 288.41
             << QStringList{u"VAT 9% on €800.00"_s, u"VAT 21% on €1,030.50"_s} << u"9% / 21%"_s;
-        QTest::newRow("a zero group is no VAT row")
-            << QList<InvoiceVatGroup>{{0, 800, 0}, {21, 1030.5, 216.41}} << 216.41 << QStringList{u"VAT 21%"_s}
-            << u"21%"_s;
+        QTest::newRow("a zero group is no VAT row") << QList<InvoiceVatGroup>{{0, 800, 0}, {21, 1030.5, 216.41}}
+                                                    << 216.41 << QStringList{u"VAT 21%"_s} << u"21%"_s;
         QTest::newRow("no VAT at all") << QList<InvoiceVatGroup>{{0, 1830.5, 0}} << 0.0
                                        << QStringList{u"No VAT on these lines"_s} << u"0%"_s;
     }

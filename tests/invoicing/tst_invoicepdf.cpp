@@ -2,9 +2,8 @@
 #include "invoicing/pdf/invoicepdfrenderer.h"
 #include "invoicing/sampleinvoice.h"
 
-#include <QCoroTask>
-#include <QDir>
 #include <QApplication>
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,6 +12,8 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <QCoroTask>
 
 using namespace Qt::StringLiterals;
 using namespace InvoiceHTMLRenderer;
@@ -63,8 +64,8 @@ int pdfPageCount(const QString &file)
 
 QString pdfPageText(const QString &file, int page)
 {
-    return run(u"pdftotext"_s, {u"-layout"_s, u"-f"_s, QString::number(page), u"-l"_s, QString::number(page), file,
-                                u"-"_s});
+    return run(u"pdftotext"_s,
+               {u"-layout"_s, u"-f"_s, QString::number(page), u"-l"_s, QString::number(page), file, u"-"_s});
 }
 
 QString previewFolder()
@@ -124,9 +125,10 @@ private slots:
         QFETCH(int, top);
         QFETCH(int, height);
         QFETCH(int, spacer);
-        const QString html = page(u"<div style=\"height:%1px\"></div><table><tbody>"_s.arg(top) +
-                                  u"<tr id=\"r0\" style=\"height:%1px\"><td>a</td><td>b</td><td>c</td><td>d</td></tr>"_s.arg(height) +
-                                  u"</tbody></table>"_s);
+        const QString html =
+            page(u"<div style=\"height:%1px\"></div><table><tbody>"_s.arg(top) +
+                 u"<tr id=\"r0\" style=\"height:%1px\"><td>a</td><td>b</td><td>c</td><td>d</td></tr>"_s.arg(height) +
+                 u"</tbody></table>"_s);
         layOut(html);
         QCOMPARE(number(u"document.querySelectorAll('tr.mv-page-spacer').length"_s), spacer ? 1.0 : 0.0);
         const double rowTop = number(u"document.getElementById('r0').getBoundingClientRect().top + window.scrollY"_s);
@@ -167,7 +169,9 @@ private slots:
         QFETCH(double, expectedMargin);
         const QString cssClass = block == u"footer-like"_s ? u"terms"_s : block;
         layOut(page(u"<div style=\"height:%1px\"></div><div id=\"b\" class=\"%2\" style=\"height:40px;"
-                    u"margin-top:%3px\"></div>"_s.arg(1100 - margin).arg(cssClass).arg(margin)));
+                    u"margin-top:%3px\"></div>"_s.arg(1100 - margin)
+                        .arg(cssClass)
+                        .arg(margin)));
         QCOMPARE(number(u"parseFloat(getComputedStyle(document.getElementById('b')).marginTop)"_s), expectedMargin);
         QCOMPARE(number(u"document.getElementById('b').getBoundingClientRect().top + window.scrollY"_s), 1129.0);
     }
@@ -199,12 +203,13 @@ private slots:
     // by the first one's spacer must be judged where it now is.
     void pushesAccumulate()
     {
-        const int pages = layOut(page(u"<div style=\"height:1090px\"></div><table><tbody>"_s + rows(60, 40) +
-                                      u"</tbody></table>"_s));
-        const QVariant cut = evaluate(u"Array.prototype.filter.call(document.querySelectorAll('tbody tr:not(.mv-page-spacer)'), "
-                                      u"function (r) { var t = r.getBoundingClientRect().top + window.scrollY, "
-                                      u"h = r.getBoundingClientRect().height; return Math.floor(t / 1123) !== "
-                                      u"Math.floor((t + h - 1) / 1123); }).length"_s);
+        const int pages =
+            layOut(page(u"<div style=\"height:1090px\"></div><table><tbody>"_s + rows(60, 40) + u"</tbody></table>"_s));
+        const QVariant cut =
+            evaluate(u"Array.prototype.filter.call(document.querySelectorAll('tbody tr:not(.mv-page-spacer)'), "
+                     u"function (r) { var t = r.getBoundingClientRect().top + window.scrollY, "
+                     u"h = r.getBoundingClientRect().height; return Math.floor(t / 1123) !== "
+                     u"Math.floor((t + h - 1) / 1123); }).length"_s);
         QCOMPARE(cut.toInt(), 0);
         QCOMPARE(evaluate(u"Array.prototype.map.call(document.querySelectorAll('tr.mv-page-spacer'), "
                           u"function (r) { return r.getBoundingClientRect().height; }).join(' ')"_s)
@@ -369,9 +374,11 @@ private slots:
         secret.write("PRIVATEKEYMATERIAL");
         secret.close();
         const QString url = QUrl::fromLocalFile(secret.fileName()).toString();
-        const QString html = page(u"<p>Visible text</p><iframe src=\""_s + url + u"\" style=\"width:600px;height:200px\">"
-                                  u"</iframe><object data=\""_s + url + u"\" type=\"text/plain\"></object><!-- "_s +
-                                  QString(padding, u'x') + u" -->"_s);
+        const QString html =
+            page(u"<p>Visible text</p><iframe src=\""_s + url +
+                 u"\" style=\"width:600px;height:200px\">"
+                 u"</iframe><object data=\""_s +
+                 url + u"\" type=\"text/plain\"></object><!-- "_s + QString(padding, u'x') + u" -->"_s);
         const RenderedPdf rendered = QCoro::waitFor(renderer->render(html));
         const QString file = scratch.filePath(u"local.pdf"_s);
         QFile out(file);
@@ -389,12 +396,12 @@ private slots:
         const InvoiceStyle style = SampleInvoice::style();
         const InvoiceDraft shortDraft = SampleInvoice::draft(2);
         const InvoiceDraft longDraft = SampleInvoice::draft(30);
-        QCoro::Task<RenderedPdf> first = renderer->render(buildHTML(
-            longDraft, style, brandProfile(style, Template::Editorial), Template::Editorial,
-            SampleInvoice::metadata(longDraft)));
-        QCoro::Task<RenderedPdf> second = renderer->render(buildHTML(
-            shortDraft, style, brandProfile(style, Template::Editorial), Template::Editorial,
-            SampleInvoice::metadata(shortDraft)));
+        QCoro::Task<RenderedPdf> first =
+            renderer->render(buildHTML(longDraft, style, brandProfile(style, Template::Editorial), Template::Editorial,
+                                       SampleInvoice::metadata(longDraft)));
+        QCoro::Task<RenderedPdf> second =
+            renderer->render(buildHTML(shortDraft, style, brandProfile(style, Template::Editorial), Template::Editorial,
+                                       SampleInvoice::metadata(shortDraft)));
         const RenderedPdf a = QCoro::waitFor(first);
         const RenderedPdf b = QCoro::waitFor(second);
         QVERIFY(a.pages >= 2);

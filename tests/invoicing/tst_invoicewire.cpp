@@ -20,7 +20,7 @@ const QByteArray entryB = "00000000-0000-4000-8000-0000000000c2";
 const QByteArray trip = "00000000-0000-4000-8000-0000000000d1";
 
 const QList<std::pair<QByteArray, QByteArray>> returnRows{{"Prefer", "return=representation"},
-                                                         {"Content-Type", "application/json"}};
+                                                          {"Content-Type", "application/json"}};
 
 } // namespace
 
@@ -149,14 +149,14 @@ private slots:
         QCOMPARE(lines[2].unit, u"h"_s);
         QCOMPARE(lines[1].unitPrice, 60.5);
 
-        const QList<InvoiceEntryLink> links = rows<InvoiceEntryLink>(send(
-            "POST", "invoice_entries",
-            "[" + AnyEncodable(InvoiceEntryInsert{m_invoiceId, QString::fromLatin1(entryA)}).toJson() + "," +
-                AnyEncodable(InvoiceEntryInsert{m_invoiceId, QString::fromLatin1(entryB)}).toJson() + "]"));
+        const QList<InvoiceEntryLink> links = rows<InvoiceEntryLink>(
+            send("POST", "invoice_entries",
+                 "[" + AnyEncodable(InvoiceEntryInsert{m_invoiceId, QString::fromLatin1(entryA)}).toJson() + "," +
+                     AnyEncodable(InvoiceEntryInsert{m_invoiceId, QString::fromLatin1(entryB)}).toJson() + "]"));
         QCOMPARE(links.size(), 2);
         QCOMPARE(links[0].invoiceId, m_invoiceId);
-        const QList<InvoiceTripLink> trips = rows<InvoiceTripLink>(
-            send("POST", "invoice_trips", AnyEncodable(InvoiceTripInsert{m_invoiceId, QString::fromLatin1(trip)}).toJson()));
+        const QList<InvoiceTripLink> trips = rows<InvoiceTripLink>(send(
+            "POST", "invoice_trips", AnyEncodable(InvoiceTripInsert{m_invoiceId, QString::fromLatin1(trip)}).toJson()));
         QCOMPARE(trips.size(), 1);
         QCOMPARE(trips[0].tripId, QString::fromLatin1(trip));
 
@@ -167,9 +167,9 @@ private slots:
     // The reads of what was billed before, with the embedded selects the store sends.
     void billedStateDecodes()
     {
-        const QList<BilledEntryRow> entries = rows<BilledEntryRow>(send(
-            "GET", "invoice_entries?select=id,time_entry_id,invoice:invoices(status),"
-                   "entry:time_entries(task_id,task:tasks(project_id,billing))&order=id.asc"));
+        const QList<BilledEntryRow> entries = rows<BilledEntryRow>(
+            send("GET", "invoice_entries?select=id,time_entry_id,invoice:invoices(status),"
+                        "entry:time_entries(task_id,task:tasks(project_id,billing))&order=id.asc"));
         QCOMPARE(entries.size(), 2);
         for (const BilledEntryRow &row : entries) {
             QCOMPARE(row.invoice->status, u"sent"_s);
@@ -193,9 +193,10 @@ private slots:
         QCOMPARE(lines[2].task->billing, std::nullopt);
 
         // Voided, the same rows say their invoice no longer holds them.
-        QCOMPARE(m_backend.request("POST", "/rest/v1/rpc/void_invoice", m_token,
-                                   "{\"p_invoice_id\":\"" + m_invoiceId.toUtf8() + "\"}",
-                                   {{"Content-Type", "application/json"}})
+        QCOMPARE(m_backend
+                     .request("POST", "/rest/v1/rpc/void_invoice", m_token,
+                              "{\"p_invoice_id\":\"" + m_invoiceId.toUtf8() + "\"}",
+                              {{"Content-Type", "application/json"}})
                      .status,
                  204);
         const QList<BilledEntryRow> released = rows<BilledEntryRow>(

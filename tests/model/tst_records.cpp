@@ -79,8 +79,8 @@ private slots:
                                << std::function<void(const QByteArray &)>(checkRoundTrip<Team>);
         QTest::newRow("team members") << QStringLiteral("records/team_members.json")
                                       << std::function<void(const QByteArray &)>(checkRoundTrip<TeamMember>);
-        QTest::newRow("invoices, live and void")
-            << QStringLiteral("records/invoices.json") << std::function<void(const QByteArray &)>(checkRoundTrip<Invoice>);
+        QTest::newRow("invoices, live and void") << QStringLiteral("records/invoices.json")
+                                                 << std::function<void(const QByteArray &)>(checkRoundTrip<Invoice>);
         QTest::newRow("invoice lines of a task, a pool and a discount")
             << QStringLiteral("records/invoice_lines.json")
             << std::function<void(const QByteArray &)>(checkRoundTrip<InvoiceLine>);

@@ -1,8 +1,5 @@
 #include "invoicepdfrenderer.h"
 
-#include <QCoroFuture>
-#include <QCoroSignal>
-#include <QCoroTimer>
 #include <QFile>
 #include <QFuture>
 #include <QLoggingCategory>
@@ -20,9 +17,12 @@
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
-#include <unistd.h>
+#include <QCoroFuture>
+#include <QCoroSignal>
+#include <QCoroTimer>
 
 #include <memory>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
