@@ -2,6 +2,7 @@
 // (which starts the web engine), a warm one-page invoice and a warm 500-line invoice, against
 // Chromium's own `--print-to-pdf` of the same HTML in the same run. Prints the figures; asserts
 // nothing. The baseline is skipped, with a note, when the `chromium` program is not installed.
+#include "backend/runblocking.h"
 #include "invoicing/invoicehtmlrenderer.h"
 #include "invoicing/pdf/invoicepdfrenderer.h"
 #include "invoicing/sampleinvoice.h"
@@ -68,7 +69,7 @@ Measured measureRenderer(InvoicePdfRenderer &renderer, const QString &html, int 
     for (int i = 0; i < runs; ++i) {
         QElapsedTimer clock;
         clock.start();
-        const RenderedPdf rendered = QCoro::waitFor(renderer.render(html));
+        const RenderedPdf rendered = runBlocking(renderer.render(html));
         times.push_back(msSince(clock));
         result.pages = rendered.pages;
         result.bytes = rendered.pdf.size();
@@ -144,7 +145,7 @@ int main(int argc, char *argv[])
     QElapsedTimer cold;
     cold.start();
     InvoicePdfRenderer renderer;
-    const RenderedPdf first = QCoro::waitFor(renderer.render(onePage));
+    const RenderedPdf first = runBlocking(renderer.render(onePage));
     const double coldMs = msSince(cold);
     std::printf("  cold first render (starts the web engine)      %8.1f ms  %d page, %lld bytes\n", coldMs, first.pages,
                 qlonglong(first.pdf.size()));

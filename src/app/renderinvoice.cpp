@@ -1,5 +1,6 @@
 #include "renderinvoice.h"
 
+#include "backend/runblocking.h"
 #include "invoicing/invoicedocument.h"
 #include "invoicing/invoicefiles.h"
 #include "invoicing/invoicehtmlrenderer.h"
@@ -166,7 +167,7 @@ int RenderInvoiceCommand::run(const QCommandLineParser &parser, QTextStream &out
     RenderedPdf rendered;
     try {
         InvoicePdfRenderer renderer;
-        rendered = QCoro::waitFor(renderer.render(html));
+        rendered = runBlocking(renderer.render(html));
     } catch (const InvoicePdfError &error) {
         //% "Rendering the invoice failed: %1"
         err << qtTrId("cli.renderInvoice.err.failed").arg(error.message()) << Qt::endl;

@@ -1,3 +1,5 @@
+#include "backend/runblocking.h"
+#include "i18n/language.h"
 #include "invoicing/invoicehtmlrenderer.h"
 #include "invoicing/pdf/invoicepdfrenderer.h"
 #include "invoicing/sampleinvoice.h"
@@ -98,8 +100,8 @@ private:
     InvoicePdfRenderer *renderer = nullptr;
     QTemporaryDir scratch;
 
-    int layOut(const QString &html) { return QCoro::waitFor(renderer->layOut(html)); }
-    QVariant evaluate(const QString &script) { return QCoro::waitFor(renderer->evaluate(script)); }
+    int layOut(const QString &html) { return runBlocking(renderer->layOut(html)); }
+    QVariant evaluate(const QString &script) { return runBlocking(renderer->evaluate(script)); }
     double number(const QString &script) { return evaluate(script).toDouble(); }
 
 private slots:
@@ -190,7 +192,7 @@ private slots:
         const int pages = layOut(page(u"<p>Only a line.</p>"_s));
         QCOMPARE(pages, 1);
         QCOMPARE(number(u"document.body.getBoundingClientRect().height"_s), 1123.0);
-        const QByteArray pdf = QCoro::waitFor(renderer->printPdf(pages));
+        const QByteArray pdf = runBlocking(renderer->printPdf(pages));
         const QString file = scratch.filePath(u"short.pdf"_s);
         QFile out(file);
         QVERIFY(out.open(QIODevice::WriteOnly));
@@ -240,7 +242,7 @@ private slots:
         const InvoiceStyle style = SampleInvoice::style();
         const QString html = buildHTML(draft, style, brandProfile(style, Template::LightMinimalAccent),
                                        Template::LightMinimalAccent, SampleInvoice::metadata(draft));
-        const RenderedPdf rendered = QCoro::waitFor(renderer->render(html));
+        const RenderedPdf rendered = runBlocking(renderer->render(html));
         QVERIFY(rendered.pages >= 4);
         const QString file = previewFolder() + u"/long-invoice.pdf"_s;
         QFile out(file);
@@ -300,7 +302,7 @@ private slots:
         }
         const QString html =
             buildHTML(draft, style, brandProfile(style, design), design, SampleInvoice::metadata(draft));
-        const RenderedPdf rendered = QCoro::waitFor(renderer->render(html));
+        const RenderedPdf rendered = runBlocking(renderer->render(html));
         QVERIFY(rendered.pdf.startsWith("%PDF-"));
 
         const QList<QImage> images = InvoicePdfRenderer::snapshots(rendered.pdf);
@@ -336,7 +338,7 @@ private slots:
                              u"<img src=\"http://127.0.0.1:9/logo.png\"></main><footer>Footer</footer>"
                              u"<script>document.querySelector('main').textContent = 'Replaced by a script';</script>"
                              u"</body></html>"_s;
-        const RenderedPdf rendered = QCoro::waitFor(renderer->render(html));
+        const RenderedPdf rendered = runBlocking(renderer->render(html));
         const QString file = scratch.filePath(u"hostile.pdf"_s);
         QFile out(file);
         QVERIFY(out.open(QIODevice::WriteOnly));
@@ -379,7 +381,7 @@ private slots:
                  u"\" style=\"width:600px;height:200px\">"
                  u"</iframe><object data=\""_s +
                  url + u"\" type=\"text/plain\"></object><!-- "_s + QString(padding, u'x') + u" -->"_s);
-        const RenderedPdf rendered = QCoro::waitFor(renderer->render(html));
+        const RenderedPdf rendered = runBlocking(renderer->render(html));
         const QString file = scratch.filePath(u"local.pdf"_s);
         QFile out(file);
         QVERIFY(out.open(QIODevice::WriteOnly));
@@ -388,6 +390,32 @@ private slots:
         const QString text = pdfPageText(file, 1);
         QVERIFY(text.contains(u"Visible text"_s));
         QVERIFY(!text.contains(u"PRIVATEKEYMATERIAL"_s));
+    }
+
+    // A load that runs out of time is reported, and the next invoice still comes out whole and
+    // is not confused with the one given up on.
+    void timedOutLoadLeavesTheRendererUsable()
+    {
+        renderer->setLoadTimeout(std::chrono::milliseconds(1));
+        QString message;
+        try {
+            runBlocking(renderer->render(page(u"<p>Given up</p>"_s + QString(600000, u' '))));
+        } catch (const InvoicePdfError &error) {
+            message = error.message();
+        }
+        renderer->setLoadTimeout(std::chrono::seconds(30));
+        QCOMPARE(message, u"The invoice page did not finish loading within 1 seconds."_s);
+
+        const RenderedPdf rendered = runBlocking(
+            renderer->render(page(u"<table><tbody>"_s + rows(80, 40) + u"</tbody></table><p>Second invoice</p>"_s)));
+        QCOMPARE(rendered.pages, 3);
+        const QString file = scratch.filePath(u"after-timeout.pdf"_s);
+        QFile out(file);
+        QVERIFY(out.open(QIODevice::WriteOnly));
+        out.write(rendered.pdf);
+        out.close();
+        QCOMPARE(pdfPageCount(file), 3);
+        QVERIFY(pdfPageText(file, 3).contains(u"Second invoice"_s));
     }
 
     // One renderer serves renders that arrive together, one after the other.
@@ -402,8 +430,8 @@ private slots:
         QCoro::Task<RenderedPdf> second =
             renderer->render(buildHTML(shortDraft, style, brandProfile(style, Template::Editorial), Template::Editorial,
                                        SampleInvoice::metadata(shortDraft)));
-        const RenderedPdf a = QCoro::waitFor(first);
-        const RenderedPdf b = QCoro::waitFor(second);
+        const RenderedPdf a = runBlocking(std::move(first));
+        const RenderedPdf b = runBlocking(std::move(second));
         QVERIFY(a.pages >= 2);
         QCOMPARE(b.pages, 1);
     }
@@ -413,6 +441,7 @@ int main(int argc, char *argv[])
 {
     InvoicePdfRenderer::prepareEnvironment();
     QApplication app(argc, argv);
+    Language::apply(u"en"_s);
     TestInvoicePdf test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -10,6 +10,7 @@
 #include <QPromise>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
+#include <QTimer>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
 #include <QWebEngineScript>
@@ -97,6 +98,11 @@ InvoicePdfRenderer::InvoicePdfRenderer(QObject *parent)
 {
     m_interceptor = new LocalOnly(m_profile);
     m_profile->setUrlRequestInterceptor(m_interceptor);
+    createPage();
+}
+
+void InvoicePdfRenderer::createPage()
+{
     m_page = new QWebEnginePage(m_profile, this);
     QWebEngineSettings *settings = m_page->settings();
     // Page scripts stay off (a custom template is untrusted); ours run in a world of their own.
@@ -116,13 +122,19 @@ InvoicePdfRenderer::InvoicePdfRenderer(QObject *parent)
     m_view->show();
 }
 
-InvoicePdfRenderer::~InvoicePdfRenderer()
+void InvoicePdfRenderer::discardPage()
 {
-    // The view goes before its page, the page before its profile.
+    // The view goes before its page.
     delete m_view;
     m_view = nullptr;
     delete m_page;
     m_page = nullptr;
+}
+
+InvoicePdfRenderer::~InvoicePdfRenderer()
+{
+    // The page must go before its profile.
+    discardPage();
 }
 
 QCoro::Task<void> InvoicePdfRenderer::acquire()
@@ -143,19 +155,30 @@ QCoro::Task<RenderedPdf> InvoicePdfRenderer::render(QString html)
 {
     co_await acquire();
     RenderedPdf result;
+    // The next render in the queue may start whichever way this one ends.
+    std::exception_ptr error;
     try {
         result.pages = co_await layOut(std::move(html));
         result.pdf = co_await printPdf(result.pages);
     } catch (...) {
-        release();
-        throw;
+        error = std::current_exception();
     }
     release();
+    if (error) {
+        std::rethrow_exception(error);
+    }
     co_return result;
 }
 
 QCoro::Task<int> InvoicePdfRenderer::layOut(QString html)
 {
+    // A page given up on may still finish its old load or answer old scripts later; a fresh page
+    // cannot mix that up with this invoice.
+    if (m_pageSpent) {
+        discardPage();
+        createPage();
+        m_pageSpent = false;
+    }
     std::unique_ptr<QTemporaryDir> spill;
     if (html.size() > largestInlineDocument) {
         spill = std::make_unique<QTemporaryDir>();
@@ -173,13 +196,16 @@ QCoro::Task<int> InvoicePdfRenderer::layOut(QString html)
         m_page->setHtml(html);
     }
 
-    const std::optional<bool> loaded = co_await qCoro(m_page, &QWebEnginePage::loadFinished, m_loadTimeout);
+    const std::optional<bool> loaded = co_await waitForLoad();
     if (!loaded) {
         m_page->triggerAction(QWebEnginePage::Stop);
+        m_pageSpent = true;
         //% "The invoice page did not finish loading within %1 seconds."
-        throw InvoicePdfError(qtTrId("inv.pdf.err.timeout").arg(m_loadTimeout.count() / 1000));
+        throw InvoicePdfError(
+            qtTrId("inv.pdf.err.timeout").arg(std::max<qint64>(1, (m_loadTimeout.count() + 999) / 1000)));
     }
     if (!*loaded) {
+        m_pageSpent = true;
         //% "The invoice page could not be loaded."
         throw InvoicePdfError(qtTrId("inv.pdf.err.load"));
     }
@@ -196,6 +222,30 @@ QCoro::Task<int> InvoicePdfRenderer::layOut(QString html)
     co_return count;
 }
 
+QCoro::Task<std::optional<bool>> InvoicePdfRenderer::waitForLoad()
+{
+    // The load's end or the time-out, whichever comes first, settles one future; whatever comes
+    // second is ignored, and the waiting coroutine resumes from the event loop.
+    auto promise = std::make_shared<QPromise<std::optional<bool>>>();
+    auto settled = std::make_shared<bool>(false);
+    QFuture<std::optional<bool>> future = promise->future();
+    promise->start();
+    auto settle = [promise, settled](std::optional<bool> result) {
+        if (*settled) {
+            return;
+        }
+        *settled = true;
+        promise->addResult(result);
+        promise->finish();
+    };
+    const QMetaObject::Connection finished =
+        connect(m_page, &QWebEnginePage::loadFinished, this, [settle](bool ok) { settle(ok); });
+    QTimer::singleShot(m_loadTimeout, this, [settle] { settle(std::nullopt); });
+    const std::optional<bool> loaded = co_await future;
+    disconnect(finished);
+    co_return loaded;
+}
+
 QCoro::Task<void> InvoicePdfRenderer::waitForFontsAndImages()
 {
     // Measuring before a font or logo arrives would place the page breaks for the wrong heights.
@@ -203,7 +253,7 @@ QCoro::Task<void> InvoicePdfRenderer::waitForFontsAndImages()
                           u"Array.prototype.every.call(document.images, function (i) { return i.complete; })"_s;
     for (int attempt = 0; attempt < 500; ++attempt) {
         const QVariant done = co_await evaluate(ready);
-        if (done.toBool()) {
+        if (done.toBool() || !done.isValid()) {
             co_return;
         }
         co_await QCoro::sleepFor(10ms);
@@ -214,13 +264,26 @@ QCoro::Task<void> InvoicePdfRenderer::waitForFontsAndImages()
 QCoro::Task<QVariant> InvoicePdfRenderer::evaluate(QString script)
 {
     auto promise = std::make_shared<QPromise<QVariant>>();
+    auto answered = std::make_shared<bool>(false);
     QFuture<QVariant> future = promise->future();
     promise->start();
-    const std::function<void(const QVariant &)> done = [promise](const QVariant &value) {
+    const std::function<void(const QVariant &)> done = [promise, answered](const QVariant &value) {
+        if (*answered) {
+            return;
+        }
+        *answered = true;
         promise->addResult(value);
         promise->finish();
     };
     m_page->runJavaScript(script, QWebEngineScript::ApplicationWorld, done);
+    // A page that is navigating away drops its script callbacks; no answer in time is no answer,
+    // and the page is not trusted again.
+    QTimer::singleShot(m_scriptTimeout, this, [this, done, answered] {
+        if (!*answered) {
+            m_pageSpent = true;
+            done(QVariant());
+        }
+    });
     const QVariant value = co_await future;
     co_return value;
 }

@@ -11,6 +11,7 @@
 #include <QCoroTask>
 
 #include <chrono>
+#include <optional>
 
 class QWebEnginePage;
 class QWebEngineProfile;
@@ -79,12 +80,17 @@ Q_SIGNALS:
 private:
     QCoro::Task<void> acquire();
     void release();
+    QCoro::Task<std::optional<bool>> waitForLoad();
     QCoro::Task<void> waitForFontsAndImages();
+    void createPage();
+    void discardPage();
 
     QWebEngineProfile *m_profile = nullptr;
     QWebEngineUrlRequestInterceptor *m_interceptor = nullptr;
     QWebEnginePage *m_page = nullptr;
     QWebEngineView *m_view = nullptr; // a widget: owned here, not by the QObject tree
     bool m_busy = false;
+    bool m_pageSpent = false; // a load or script was given up on: the next invoice gets a new page
     std::chrono::milliseconds m_loadTimeout{30000};
+    std::chrono::milliseconds m_scriptTimeout{10000};
 };
