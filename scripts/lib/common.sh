@@ -28,6 +28,14 @@ MORVANE_PACKAGES=(
     libclang-rt-14-dev
     dbus-daemon
     libsimdjson-dev
+    qt6-webengine-dev
+    qt6-pdf-dev
+    poppler-utils
+    fonts-inter
+    fonts-ebgaramond
+    fonts-jetbrains-mono
+    fonts-league-spartan
+    fonts-urw-base35
 )
 
 morvane_missing_packages() {

@@ -1,6 +1,7 @@
 #include "commandline.h"
 
 #include "app/authcommands.h"
+#include "app/renderinvoice.h"
 #include "app/servercommand.h"
 #include "app/sessionscommands.h"
 #include "app/startup.h"
@@ -156,6 +157,8 @@ int runCommandLine(const QStringList &arguments, QTextStream &out, QTextStream &
     const QCommandLineOption version({u"v"_s, u"version"_s}, qtTrId("cli.option.version"));
     parser.addOption(help);
     parser.addOption(version);
+    const RenderInvoiceCommand renderInvoice;
+    renderInvoice.addOptions(parser);
     //% "The command to run; without one, the command list is shown."
     parser.addPositionalArgument(u"command"_s, qtTrId("cli.argument.command"), u"[command]"_s);
     // Options after the command belong to the command.
@@ -170,6 +173,9 @@ int runCommandLine(const QStringList &arguments, QTextStream &out, QTextStream &
         return 0;
     }
     const QStringList positional = parser.positionalArguments();
+    if (renderInvoice.isSet(parser) && !parser.isSet(help)) {
+        return renderInvoice.run(parser, out, err);
+    }
     if (parser.isSet(help) || positional.isEmpty()) {
         out << helpText(parser);
         return 0;

@@ -1,4 +1,5 @@
 #include "app/commandline.h"
+#include "app/renderinvoice.h"
 #include "i18n/language.h"
 
 #include <QCoreApplication>
@@ -7,10 +8,15 @@
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
+    // Only rendering an invoice needs a GUI application (for the web engine); nothing else pays for it.
+    const std::unique_ptr<QCoreApplication> app = RenderInvoiceCommand::requested(argc, argv)
+                                                      ? RenderInvoiceCommand::makeApplication(argc, argv)
+                                                      : std::make_unique<QCoreApplication>(argc, argv);
     // The command line speaks in its messages; the library's notes stay out of the way unless
     // QT_LOGGING_RULES asks for them.
-    QLoggingCategory::setFilterRules(QStringLiteral("morvane.*.debug=false\nmorvane.*.info=false"));
+    // The same for the web engine, which describes its set-up at length on every start.
+    QLoggingCategory::setFilterRules(
+        QStringLiteral("morvane.*.debug=false\nmorvane.*.info=false\nqt.webenginecontext.info=false"));
     QCoreApplication::setOrganizationName(QStringLiteral("morvane"));
     QCoreApplication::setApplicationName(QStringLiteral("morvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));

@@ -519,6 +519,58 @@
       <source>No team matches "%1".</source>
       <translation>Kein Team passt auf "%1".</translation>
     </message>
+    <message id="cli.renderInvoice.design">
+      <source>With --render-invoice: the design (%1).</source>
+      <translation>Mit --render-invoice: das Design (%1).</translation>
+    </message>
+    <message id="cli.renderInvoice.draft">
+      <source>With --render-invoice: an invoice as JSON instead of the sample.</source>
+      <translation>Mit --render-invoice: eine Rechnung als JSON statt des Beispiels.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.both">
+      <source>--lines is for the sample invoice; a draft brings its own lines.</source>
+      <translation>--lines gilt für die Beispielrechnung; ein Entwurf bringt eigene Positionen mit.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.design">
+      <source>Unknown design: %1. Choose one of: %2.</source>
+      <translation>Unbekanntes Design: %1. Wählen Sie eines von: %2.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.draft">
+      <source>Cannot read the draft %1: %2</source>
+      <translation>Der Entwurf %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.failed">
+      <source>Rendering the invoice failed: %1</source>
+      <translation>Das Erzeugen der Rechnung ist fehlgeschlagen: %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.lines">
+      <source>--lines takes a whole number from 0 to %1.</source>
+      <translation>--lines erwartet eine ganze Zahl von 0 bis %1.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.noGui">
+      <source>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</source>
+      <translation>Zum Erzeugen einer Rechnung werden die Grafikbibliotheken gebraucht; starten Sie es als: morvane --render-invoice</translation>
+    </message>
+    <message id="cli.renderInvoice.err.write">
+      <source>Cannot write %1: %2</source>
+      <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.lines">
+      <source>With --render-invoice: the number of lines of the sample invoice.</source>
+      <translation>Mit --render-invoice: die Anzahl der Positionen der Beispielrechnung.</translation>
+    </message>
+    <message id="cli.renderInvoice.option">
+      <source>Render an invoice to PDF through the application's own path and report its size.</source>
+      <translation>Eine Rechnung über den Weg der Anwendung als PDF erzeugen und ihre Größe melden.</translation>
+    </message>
+    <message id="cli.renderInvoice.out">
+      <source>With --render-invoice: where to write the PDF.</source>
+      <translation>Mit --render-invoice: wohin das PDF geschrieben wird.</translation>
+    </message>
+    <message id="cli.renderInvoice.png">
+      <source>With --render-invoice: a folder for pictures of the pages as PNG.</source>
+      <translation>Mit --render-invoice: ein Ordner für Bilder der Seiten als PNG.</translation>
+    </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
       <translation>start, stop oder status</translation>
@@ -803,6 +855,138 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>Die E-Mail-Adresse oder das Passwort stimmt nicht.</translation>
     </message>
+    <message id="inv.doc.amount">
+      <source>Amount</source>
+      <translation>Betrag</translation>
+    </message>
+    <message id="inv.doc.amountDue">
+      <source>Amount due</source>
+      <translation>Zu zahlen</translation>
+    </message>
+    <message id="inv.doc.bank">
+      <source>Bank</source>
+      <translation>Bank</translation>
+    </message>
+    <message id="inv.doc.billTo">
+      <source>Bill to</source>
+      <translation>Rechnung an</translation>
+    </message>
+    <message id="inv.doc.description">
+      <source>Description</source>
+      <translation>Beschreibung</translation>
+    </message>
+    <message id="inv.doc.due">
+      <source>Due date</source>
+      <translation>Fällig am</translation>
+    </message>
+    <message id="inv.doc.from">
+      <source>From</source>
+      <translation>Von</translation>
+    </message>
+    <message id="inv.doc.iban">
+      <source>IBAN</source>
+      <translation>IBAN</translation>
+    </message>
+    <message id="inv.doc.invoice">
+      <source>Invoice</source>
+      <translation>Rechnung</translation>
+    </message>
+    <message id="inv.doc.issued">
+      <source>Issue date</source>
+      <translation>Rechnungsdatum</translation>
+    </message>
+    <message id="inv.doc.kvk">
+      <source>Company no.</source>
+      <translation>Handelsregister</translation>
+    </message>
+    <message id="inv.doc.noVat">
+      <source>No VAT on these lines</source>
+      <translation>Keine USt. auf diese Positionen</translation>
+    </message>
+    <message id="inv.doc.notes">
+      <source>Notes</source>
+      <translation>Anmerkungen</translation>
+    </message>
+    <message id="inv.doc.number">
+      <source>Invoice no.</source>
+      <translation>Rechnungsnr.</translation>
+    </message>
+    <message id="inv.doc.payment">
+      <source>Payment</source>
+      <translation>Zahlung</translation>
+    </message>
+    <message id="inv.doc.paymentNoTerm">
+      <source>Please pay by bank transfer, quoting the invoice number.</source>
+      <translation>Bitte überweisen Sie den Betrag unter Angabe der Rechnungsnummer.</translation>
+    </message>
+    <message id="inv.doc.paymentTerms">
+      <source>Please pay within %1 days, quoting the invoice number.</source>
+      <translation>Bitte zahlen Sie innerhalb von %1 Tagen unter Angabe der Rechnungsnummer.</translation>
+    </message>
+    <message id="inv.doc.period">
+      <source>Period</source>
+      <translation>Zeitraum</translation>
+    </message>
+    <message id="inv.doc.project">
+      <source>Project</source>
+      <translation>Projekt</translation>
+    </message>
+    <message id="inv.doc.quantity">
+      <source>Qty</source>
+      <translation>Menge</translation>
+    </message>
+    <message id="inv.doc.rate">
+      <source>Rate</source>
+      <translation>Preis</translation>
+    </message>
+    <message id="inv.doc.reference">
+      <source>Reference</source>
+      <translation>Verwendungszweck</translation>
+    </message>
+    <message id="inv.doc.subtotal">
+      <source>Subtotal</source>
+      <translation>Zwischensumme</translation>
+    </message>
+    <message id="inv.doc.thanks">
+      <source>Thank you for your business.</source>
+      <translation>Vielen Dank für die gute Zusammenarbeit.</translation>
+    </message>
+    <message id="inv.doc.total">
+      <source>Total</source>
+      <translation>Gesamt</translation>
+    </message>
+    <message id="inv.doc.vatId">
+      <source>VAT no.</source>
+      <translation>USt-IdNr.</translation>
+    </message>
+    <message id="inv.doc.vatRow">
+      <source>VAT %1%</source>
+      <translation>USt. %1 %</translation>
+    </message>
+    <message id="inv.doc.vatRowOver">
+      <source>VAT %1% on %2</source>
+      <translation>USt. %1 % auf %2</translation>
+    </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>Die Rechnungsseite konnte nicht geladen werden.</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>Die Rechnung konnte nicht in Seiten aufgeteilt werden.</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>Das PDF der Rechnung konnte nicht erstellt werden.</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>Die Rechnungsseite konnte nicht in eine temporäre Datei geschrieben werden: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>Die Rechnungsseite wurde nicht innerhalb von %1 Sekunden geladen.</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 ist bereits in diesem Team.</translation>
@@ -830,6 +1014,10 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>Einladen per E-Mail ist noch nicht verfügbar. Versuche es später erneut.</translation>
+    </message>
+    <message id="invoiceFooter">
+      <source>Made with Morvane</source>
+      <translation>Erstellt mit Morvane</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -519,6 +519,58 @@
       <source>No team matches "%1".</source>
       <translation>No team matches "%1".</translation>
     </message>
+    <message id="cli.renderInvoice.design">
+      <source>With --render-invoice: the design (%1).</source>
+      <translation>With --render-invoice: the design (%1).</translation>
+    </message>
+    <message id="cli.renderInvoice.draft">
+      <source>With --render-invoice: an invoice as JSON instead of the sample.</source>
+      <translation>With --render-invoice: an invoice as JSON instead of the sample.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.both">
+      <source>--lines is for the sample invoice; a draft brings its own lines.</source>
+      <translation>--lines is for the sample invoice; a draft brings its own lines.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.design">
+      <source>Unknown design: %1. Choose one of: %2.</source>
+      <translation>Unknown design: %1. Choose one of: %2.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.draft">
+      <source>Cannot read the draft %1: %2</source>
+      <translation>Cannot read the draft %1: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.failed">
+      <source>Rendering the invoice failed: %1</source>
+      <translation>Rendering the invoice failed: %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.lines">
+      <source>--lines takes a whole number from 0 to %1.</source>
+      <translation>--lines takes a whole number from 0 to %1.</translation>
+    </message>
+    <message id="cli.renderInvoice.err.noGui">
+      <source>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</source>
+      <translation>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</translation>
+    </message>
+    <message id="cli.renderInvoice.err.write">
+      <source>Cannot write %1: %2</source>
+      <translation>Cannot write %1: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.lines">
+      <source>With --render-invoice: the number of lines of the sample invoice.</source>
+      <translation>With --render-invoice: the number of lines of the sample invoice.</translation>
+    </message>
+    <message id="cli.renderInvoice.option">
+      <source>Render an invoice to PDF through the application's own path and report its size.</source>
+      <translation>Render an invoice to PDF through the application's own path and report its size.</translation>
+    </message>
+    <message id="cli.renderInvoice.out">
+      <source>With --render-invoice: where to write the PDF.</source>
+      <translation>With --render-invoice: where to write the PDF.</translation>
+    </message>
+    <message id="cli.renderInvoice.png">
+      <source>With --render-invoice: a folder for pictures of the pages as PNG.</source>
+      <translation>With --render-invoice: a folder for pictures of the pages as PNG.</translation>
+    </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
       <translation>start, stop or status</translation>
@@ -803,6 +855,138 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>The e-mail address or the password is not right.</translation>
     </message>
+    <message id="inv.doc.amount">
+      <source>Amount</source>
+      <translation>Amount</translation>
+    </message>
+    <message id="inv.doc.amountDue">
+      <source>Amount due</source>
+      <translation>Amount due</translation>
+    </message>
+    <message id="inv.doc.bank">
+      <source>Bank</source>
+      <translation>Bank</translation>
+    </message>
+    <message id="inv.doc.billTo">
+      <source>Bill to</source>
+      <translation>Bill to</translation>
+    </message>
+    <message id="inv.doc.description">
+      <source>Description</source>
+      <translation>Description</translation>
+    </message>
+    <message id="inv.doc.due">
+      <source>Due date</source>
+      <translation>Due date</translation>
+    </message>
+    <message id="inv.doc.from">
+      <source>From</source>
+      <translation>From</translation>
+    </message>
+    <message id="inv.doc.iban">
+      <source>IBAN</source>
+      <translation>IBAN</translation>
+    </message>
+    <message id="inv.doc.invoice">
+      <source>Invoice</source>
+      <translation>Invoice</translation>
+    </message>
+    <message id="inv.doc.issued">
+      <source>Issue date</source>
+      <translation>Issue date</translation>
+    </message>
+    <message id="inv.doc.kvk">
+      <source>Company no.</source>
+      <translation>Company no.</translation>
+    </message>
+    <message id="inv.doc.noVat">
+      <source>No VAT on these lines</source>
+      <translation>No VAT on these lines</translation>
+    </message>
+    <message id="inv.doc.notes">
+      <source>Notes</source>
+      <translation>Notes</translation>
+    </message>
+    <message id="inv.doc.number">
+      <source>Invoice no.</source>
+      <translation>Invoice no.</translation>
+    </message>
+    <message id="inv.doc.payment">
+      <source>Payment</source>
+      <translation>Payment</translation>
+    </message>
+    <message id="inv.doc.paymentNoTerm">
+      <source>Please pay by bank transfer, quoting the invoice number.</source>
+      <translation>Please pay by bank transfer, quoting the invoice number.</translation>
+    </message>
+    <message id="inv.doc.paymentTerms">
+      <source>Please pay within %1 days, quoting the invoice number.</source>
+      <translation>Please pay within %1 days, quoting the invoice number.</translation>
+    </message>
+    <message id="inv.doc.period">
+      <source>Period</source>
+      <translation>Period</translation>
+    </message>
+    <message id="inv.doc.project">
+      <source>Project</source>
+      <translation>Project</translation>
+    </message>
+    <message id="inv.doc.quantity">
+      <source>Qty</source>
+      <translation>Qty</translation>
+    </message>
+    <message id="inv.doc.rate">
+      <source>Rate</source>
+      <translation>Rate</translation>
+    </message>
+    <message id="inv.doc.reference">
+      <source>Reference</source>
+      <translation>Reference</translation>
+    </message>
+    <message id="inv.doc.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotal</translation>
+    </message>
+    <message id="inv.doc.thanks">
+      <source>Thank you for your business.</source>
+      <translation>Thank you for your business.</translation>
+    </message>
+    <message id="inv.doc.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="inv.doc.vatId">
+      <source>VAT no.</source>
+      <translation>VAT no.</translation>
+    </message>
+    <message id="inv.doc.vatRow">
+      <source>VAT %1%</source>
+      <translation>VAT %1%</translation>
+    </message>
+    <message id="inv.doc.vatRowOver">
+      <source>VAT %1% on %2</source>
+      <translation>VAT %1% on %2</translation>
+    </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>The invoice page could not be loaded.</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>The invoice could not be laid out in pages.</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>The PDF of the invoice could not be made.</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>The invoice page could not be written to a temporary file: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>The invoice page did not finish loading within %1 seconds.</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 is already in this team.</translation>
@@ -830,6 +1014,10 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>Inviting by email is not available yet. Try again later.</translation>
+    </message>
+    <message id="invoiceFooter">
+      <source>Made with Morvane</source>
+      <translation>Made with Morvane</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -519,6 +519,58 @@
       <source>No team matches "%1".</source>
       <translation>ไม่มีทีมที่ตรงกับ "%1"</translation>
     </message>
+    <message id="cli.renderInvoice.design">
+      <source>With --render-invoice: the design (%1).</source>
+      <translation>ใช้กับ --render-invoice: รูปแบบ (%1)</translation>
+    </message>
+    <message id="cli.renderInvoice.draft">
+      <source>With --render-invoice: an invoice as JSON instead of the sample.</source>
+      <translation>ใช้กับ --render-invoice: ใบแจ้งหนี้ในรูปแบบ JSON แทนตัวอย่าง</translation>
+    </message>
+    <message id="cli.renderInvoice.err.both">
+      <source>--lines is for the sample invoice; a draft brings its own lines.</source>
+      <translation>--lines ใช้กับใบแจ้งหนี้ตัวอย่างเท่านั้น ฉบับร่างมีรายการของตัวเอง</translation>
+    </message>
+    <message id="cli.renderInvoice.err.design">
+      <source>Unknown design: %1. Choose one of: %2.</source>
+      <translation>ไม่รู้จักรูปแบบ: %1 เลือกจาก: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.draft">
+      <source>Cannot read the draft %1: %2</source>
+      <translation>อ่านฉบับร่าง %1 ไม่ได้: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.err.failed">
+      <source>Rendering the invoice failed: %1</source>
+      <translation>สร้างใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.lines">
+      <source>--lines takes a whole number from 0 to %1.</source>
+      <translation>--lines ต้องเป็นจำนวนเต็มตั้งแต่ 0 ถึง %1</translation>
+    </message>
+    <message id="cli.renderInvoice.err.noGui">
+      <source>Rendering an invoice needs the graphical libraries; run it as: morvane --render-invoice</source>
+      <translation>การสร้างใบแจ้งหนี้ต้องใช้ไลบรารีกราฟิก ให้เรียกใช้แบบนี้: morvane --render-invoice</translation>
+    </message>
+    <message id="cli.renderInvoice.err.write">
+      <source>Cannot write %1: %2</source>
+      <translation>เขียน %1 ไม่ได้: %2</translation>
+    </message>
+    <message id="cli.renderInvoice.lines">
+      <source>With --render-invoice: the number of lines of the sample invoice.</source>
+      <translation>ใช้กับ --render-invoice: จำนวนรายการของใบแจ้งหนี้ตัวอย่าง</translation>
+    </message>
+    <message id="cli.renderInvoice.option">
+      <source>Render an invoice to PDF through the application's own path and report its size.</source>
+      <translation>สร้าง PDF ของใบแจ้งหนี้ผ่านเส้นทางเดียวกับแอปและแสดงขนาดไฟล์</translation>
+    </message>
+    <message id="cli.renderInvoice.out">
+      <source>With --render-invoice: where to write the PDF.</source>
+      <translation>ใช้กับ --render-invoice: ตำแหน่งที่จะบันทึก PDF</translation>
+    </message>
+    <message id="cli.renderInvoice.png">
+      <source>With --render-invoice: a folder for pictures of the pages as PNG.</source>
+      <translation>ใช้กับ --render-invoice: โฟลเดอร์สำหรับภาพ PNG ของแต่ละหน้า</translation>
+    </message>
     <message id="cli.server.action">
       <source>start, stop or status</source>
       <translation>start, stop หรือ status</translation>
@@ -803,6 +855,138 @@
       <source>The e-mail address or the password is not right.</source>
       <translation>อีเมลหรือรหัสผ่านไม่ถูกต้อง</translation>
     </message>
+    <message id="inv.doc.amount">
+      <source>Amount</source>
+      <translation>จำนวนเงิน</translation>
+    </message>
+    <message id="inv.doc.amountDue">
+      <source>Amount due</source>
+      <translation>ยอดที่ต้องชำระ</translation>
+    </message>
+    <message id="inv.doc.bank">
+      <source>Bank</source>
+      <translation>ธนาคาร</translation>
+    </message>
+    <message id="inv.doc.billTo">
+      <source>Bill to</source>
+      <translation>เรียกเก็บจาก</translation>
+    </message>
+    <message id="inv.doc.description">
+      <source>Description</source>
+      <translation>รายการ</translation>
+    </message>
+    <message id="inv.doc.due">
+      <source>Due date</source>
+      <translation>วันครบกำหนด</translation>
+    </message>
+    <message id="inv.doc.from">
+      <source>From</source>
+      <translation>จาก</translation>
+    </message>
+    <message id="inv.doc.iban">
+      <source>IBAN</source>
+      <translation>IBAN</translation>
+    </message>
+    <message id="inv.doc.invoice">
+      <source>Invoice</source>
+      <translation>ใบแจ้งหนี้</translation>
+    </message>
+    <message id="inv.doc.issued">
+      <source>Issue date</source>
+      <translation>วันที่ออก</translation>
+    </message>
+    <message id="inv.doc.kvk">
+      <source>Company no.</source>
+      <translation>เลขทะเบียนนิติบุคคล</translation>
+    </message>
+    <message id="inv.doc.noVat">
+      <source>No VAT on these lines</source>
+      <translation>รายการเหล่านี้ไม่มีภาษีมูลค่าเพิ่ม</translation>
+    </message>
+    <message id="inv.doc.notes">
+      <source>Notes</source>
+      <translation>หมายเหตุ</translation>
+    </message>
+    <message id="inv.doc.number">
+      <source>Invoice no.</source>
+      <translation>เลขที่ใบแจ้งหนี้</translation>
+    </message>
+    <message id="inv.doc.payment">
+      <source>Payment</source>
+      <translation>การชำระเงิน</translation>
+    </message>
+    <message id="inv.doc.paymentNoTerm">
+      <source>Please pay by bank transfer, quoting the invoice number.</source>
+      <translation>กรุณาชำระโดยการโอนเงิน โดยระบุเลขที่ใบแจ้งหนี้</translation>
+    </message>
+    <message id="inv.doc.paymentTerms">
+      <source>Please pay within %1 days, quoting the invoice number.</source>
+      <translation>กรุณาชำระภายใน %1 วัน โดยระบุเลขที่ใบแจ้งหนี้</translation>
+    </message>
+    <message id="inv.doc.period">
+      <source>Period</source>
+      <translation>ช่วงเวลา</translation>
+    </message>
+    <message id="inv.doc.project">
+      <source>Project</source>
+      <translation>โครงการ</translation>
+    </message>
+    <message id="inv.doc.quantity">
+      <source>Qty</source>
+      <translation>จำนวน</translation>
+    </message>
+    <message id="inv.doc.rate">
+      <source>Rate</source>
+      <translation>ราคาต่อหน่วย</translation>
+    </message>
+    <message id="inv.doc.reference">
+      <source>Reference</source>
+      <translation>อ้างอิง</translation>
+    </message>
+    <message id="inv.doc.subtotal">
+      <source>Subtotal</source>
+      <translation>ยอดรวมก่อนภาษี</translation>
+    </message>
+    <message id="inv.doc.thanks">
+      <source>Thank you for your business.</source>
+      <translation>ขอบคุณที่ใช้บริการ</translation>
+    </message>
+    <message id="inv.doc.total">
+      <source>Total</source>
+      <translation>ยอดรวม</translation>
+    </message>
+    <message id="inv.doc.vatId">
+      <source>VAT no.</source>
+      <translation>เลขประจำตัวผู้เสียภาษี</translation>
+    </message>
+    <message id="inv.doc.vatRow">
+      <source>VAT %1%</source>
+      <translation>ภาษีมูลค่าเพิ่ม %1%</translation>
+    </message>
+    <message id="inv.doc.vatRowOver">
+      <source>VAT %1% on %2</source>
+      <translation>ภาษีมูลค่าเพิ่ม %1% จาก %2</translation>
+    </message>
+    <message id="inv.pdf.err.load">
+      <source>The invoice page could not be loaded.</source>
+      <translation>ไม่สามารถโหลดหน้าใบแจ้งหนี้ได้</translation>
+    </message>
+    <message id="inv.pdf.err.paging">
+      <source>The invoice could not be laid out in pages.</source>
+      <translation>ไม่สามารถจัดหน้าใบแจ้งหนี้ได้</translation>
+    </message>
+    <message id="inv.pdf.err.print">
+      <source>The PDF of the invoice could not be made.</source>
+      <translation>ไม่สามารถสร้าง PDF ของใบแจ้งหนี้ได้</translation>
+    </message>
+    <message id="inv.pdf.err.spill">
+      <source>The invoice page could not be written to a temporary file: %1</source>
+      <translation>ไม่สามารถเขียนหน้าใบแจ้งหนี้ลงในไฟล์ชั่วคราวได้: %1</translation>
+    </message>
+    <message id="inv.pdf.err.timeout">
+      <source>The invoice page did not finish loading within %1 seconds.</source>
+      <translation>หน้าใบแจ้งหนี้โหลดไม่เสร็จภายใน %1 วินาที</translation>
+    </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
       <translation>%1 อยู่ในทีมนี้แล้ว</translation>
@@ -830,6 +1014,10 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>ยังเชิญทางอีเมลไม่ได้ในขณะนี้ โปรดลองอีกครั้งในภายหลัง</translation>
+    </message>
+    <message id="invoiceFooter">
+      <source>Made with Morvane</source>
+      <translation>สร้างด้วย Morvane</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -48,6 +48,9 @@ enum class FieldFlag {
     None,
     // Patches write an absent optional as JSON null, so that the column is cleared.
     NullWhenAbsent,
+    // A missing key keeps the member's default instead of failing the row: for documents people
+    // write by hand, where the default is what they mean.
+    DefaultWhenAbsent,
 };
 
 template<class Record, class T>
@@ -289,6 +292,9 @@ private:
                 }
             } else {
                 if (json.isUndefined()) {
+                    if (field.flag == FieldFlag::DefaultWhenAbsent) {
+                        return;
+                    }
                     throw DecodeError(QStringLiteral("required key is missing"));
                 }
                 record.*field.member = Coder<T>::decode(json);

@@ -1,4 +1,7 @@
 #include "model/client.h"
+#include "model/invoice.h"
+#include "model/invoicedraft.h"
+#include "model/invoicestyle.h"
 #include "model/profile.h"
 #include "model/project.h"
 #include "model/taskitem.h"
@@ -76,6 +79,19 @@ private slots:
                                << std::function<void(const QByteArray &)>(checkRoundTrip<Team>);
         QTest::newRow("team members") << QStringLiteral("records/team_members.json")
                                       << std::function<void(const QByteArray &)>(checkRoundTrip<TeamMember>);
+        QTest::newRow("invoices, live and void") << QStringLiteral("records/invoices.json")
+                                                 << std::function<void(const QByteArray &)>(checkRoundTrip<Invoice>);
+        QTest::newRow("invoice lines of a task, a pool and a discount")
+            << QStringLiteral("records/invoice_lines.json")
+            << std::function<void(const QByteArray &)>(checkRoundTrip<InvoiceLine>);
+        QTest::newRow("invoice templates with and without a style")
+            << QStringLiteral("records/invoice_templates.json")
+            << std::function<void(const QByteArray &)>(checkRoundTrip<InvoiceTemplate>);
+        QTest::newRow("billed entries with embedded invoice and task")
+            << QStringLiteral("records/billed_entries.json")
+            << std::function<void(const QByteArray &)>(checkRoundTrip<BilledEntryRow>);
+        QTest::newRow("billed lines") << QStringLiteral("records/billed_lines.json")
+                                      << std::function<void(const QByteArray &)>(checkRoundTrip<BilledLineRow>);
     }
 
     void fixturesRoundTrip()
@@ -183,6 +199,24 @@ private slots:
             Wire::decodeJson<QList<Team>>(
                 R"([{"id":"a","owner_id":"o","name":"A"},{"id":"b","owner_id":"o","name":"B"},{"id":"c","owner_id":"o"}])");
         }) << QByteArray("Team[2].name: required key is missing");
+        QTest::newRow("invoice status outside its list") << std::function<void()>([] {
+            Wire::decodeJson<Invoice>(R"({"id":"i","user_id":"u","number":"1","issued_at":"2025-01-01",
+                       "currency":"EUR","subtotal":0,"vat_amount":0,"total":0,"status":"overdue"})");
+        }) << QByteArray("Invoice.status: \"overdue\" is not one of draft, sent, paid, void");
+        QTest::newRow("invoice without a number") << std::function<void()>([] {
+            Wire::decodeJson<Invoice>(R"({"id":"i","user_id":"u","issued_at":"2025-01-01",
+                       "currency":"EUR","subtotal":0,"vat_amount":0,"total":0,"status":"draft"})");
+        }) << QByteArray("Invoice.number: required key is missing");
+        QTest::newRow("money as text on a line") << std::function<void()>([] {
+            Wire::decodeJson<InvoiceLine>(R"({"id":"l","invoice_id":"i","title":"t","quantity":1,
+                       "unit_price":"85.00","amount":85,"order_index":0})");
+        }) << QByteArray("InvoiceLine.unit_price: expected a number, found a string");
+        QTest::newRow("style colour that is not text") << std::function<void()>([] {
+            Wire::decodeJson<InvoiceTemplate>(R"({"id":"t","user_id":"u","name":"n","style":{"accent_hex":255}})");
+        }) << QByteArray("InvoiceTemplate.style.accent_hex: expected a string, found a number");
+        QTest::newRow("draft line without an amount") << std::function<void()>([] {
+            Wire::decodeJson<InvoiceDraft>(R"({"lines":[{"title":"Design"},{"title":"Build"}]})");
+        }) << QByteArray("InvoiceDraft.lines[0].amount: required key is missing");
         QTest::newRow("text that is not JSON")
             << task("{\"id\":") << QByteArray("invalid JSON at offset 6: unterminated object");
     }
@@ -281,6 +315,114 @@ private slots:
         insert.lat = 52.03;
         const QJsonObject encoded = Wire::encode(insert).toObject();
         QCOMPARE(encoded.keys(), (QStringList{u"lat"_s, u"name"_s, u"user_id"_s}));
+    }
+
+    void invoiceFixtureValuesLandInTheRightFields()
+    {
+        const QList<Invoice> invoices = decodeRows<Invoice>(readTestData(u"records/invoices.json"_s));
+        QCOMPARE(invoices[0].status, InvoiceStatus::Sent);
+        QCOMPARE(invoices[0].vatAmount, 384.41);
+        QCOMPARE(invoices[0].dueAt, u"2025-04-14"_s);
+        QVERIFY(invoices[0].isLive());
+        QVERIFY(!invoices[1].isLive());
+        QCOMPARE(invoices[1].dueAt, std::nullopt);
+
+        const QList<InvoiceLine> lines = decodeRows<InvoiceLine>(readTestData(u"records/invoice_lines.json"_s));
+        QCOMPARE(lines[1].poolProjectId, u"5d1f0c2e-7a6b-4c3d-9e8f-0a1b2c3d4e5f"_s);
+        QCOMPARE(lines[1].taskId, std::nullopt);
+        QCOMPARE(lines[2].amount, -32.0);
+        QCOMPARE(lines[2].orderIndex, 2);
+
+        const auto templates = decodeRows<InvoiceTemplate>(readTestData(u"records/invoice_templates.json"_s));
+        QCOMPARE(templates[0].style.htmlTemplate, u"signatureEditorial"_s);
+        QCOMPARE(templates[0].style.paymentTermsDays, 14);
+        QCOMPARE(templates[0].style.bankName, u"ABN AMRO"_s);
+        QVERIFY(templates[1].style == InvoiceStyle{});
+    }
+
+    // Only a void invoice releases what it billed; a status this client does not know still
+    // holds its work, so nothing is billed twice because of a newer backend.
+    void billedRowsKnowWhetherTheirInvoiceStands()
+    {
+        const auto entries = decodeRows<BilledEntryRow>(readTestData(u"records/billed_entries.json"_s));
+        QVERIFY(entries[0].invoice->isLive());
+        QVERIFY(!entries[1].invoice->isLive());
+        QCOMPARE(entries[0].entry->task->billing->value(u"amount"_s).toDouble(), 1200.0);
+        QCOMPARE(entries[1].entry->task->billing, std::nullopt);
+        QCOMPARE(entries[2].invoice, std::nullopt);
+
+        const auto lines = decodeRows<BilledLineRow>(readTestData(u"records/billed_lines.json"_s));
+        QVERIFY(lines[0].invoice->isLive());
+        QCOMPARE(lines[1].poolProjectId, u"5d1f0c2e-7a6b-4c3d-9e8f-0a1b2c3d4e5f"_s);
+        QVERIFY(lines[2].invoice->isLive());
+    }
+
+    void invoiceInsertCarriesTheRawStatusAndClient()
+    {
+        InvoiceInsert insert;
+        insert.userId = u"u1"_s;
+        insert.clientId = u"c1"_s;
+        insert.number = u"2025-0001"_s;
+        insert.issuedAt = u"2025-03-01"_s;
+        insert.currency = u"EUR"_s;
+        insert.status = u"sent"_s;
+        const QJsonObject encoded = Wire::encode(insert).toObject();
+        QCOMPARE(encoded.value(u"status"_s).toString(), u"sent"_s);
+        QCOMPARE(encoded.value(u"client_id"_s).toString(), u"c1"_s);
+        QVERIFY(!encoded.contains(u"id"_s));
+        QVERIFY(!encoded.contains(u"due_at"_s));
+        QCOMPARE(encoded.keys(), (QStringList{u"client_id"_s, u"currency"_s, u"issued_at"_s, u"number"_s, u"status"_s,
+                                              u"subtotal"_s, u"total"_s, u"user_id"_s, u"vat_amount"_s}));
+
+        const QJsonObject link = Wire::encode(InvoiceEntryInsert{u"i1"_s, u"e1"_s}).toObject();
+        QCOMPARE(link, (QJsonObject{{u"invoice_id"_s, u"i1"_s}, {u"time_entry_id"_s, u"e1"_s}}));
+        const QJsonObject trip = Wire::encode(InvoiceTripInsert{u"i1"_s, u"t1"_s}).toObject();
+        QCOMPARE(trip, (QJsonObject{{u"invoice_id"_s, u"i1"_s}, {u"trip_id"_s, u"t1"_s}}));
+    }
+
+    // Lines go in one bulk insert, where every object must carry the same keys.
+    void lineInsertsShareTheirKeys()
+    {
+        InvoiceLineInsert work;
+        work.invoiceId = u"i1"_s;
+        work.taskId = u"t1"_s;
+        work.title = u"Support"_s;
+        work.unit = u"h"_s;
+        InvoiceLineInsert pool;
+        pool.invoiceId = u"i1"_s;
+        pool.poolProjectId = u"p1"_s;
+        pool.title = u"Project price"_s;
+        const QJsonObject a = Wire::encode(work).toObject();
+        const QJsonObject b = Wire::encode(pool).toObject();
+        QCOMPARE(a.keys(), b.keys());
+        QVERIFY(b.value(u"task_id"_s).isNull());
+        QVERIFY(a.value(u"pool_project_id"_s).isNull());
+    }
+
+    // A draft written by hand may leave out what has an obvious default; what it gives is kept.
+    void handWrittenDraftTakesDefaults()
+    {
+        const auto draft = Wire::decodeJson<InvoiceDraft>(R"({"currency":"GBP","lines":[
+            {"title":"Design","amount":450},
+            {"title":"Hosting","amount":20,"hours":2,"rate":10,"unit":"month","included":false}]})");
+        QCOMPARE(draft.currency, u"GBP"_s);
+        QCOMPARE(draft.projectName, QString());
+        QCOMPARE(draft.lines[0].hours, 0.0);
+        QVERIFY(draft.lines[0].included);
+        QCOMPARE(draft.lines[1].unit, u"month"_s);
+        QVERIFY(!draft.lines[1].included);
+        QCOMPARE(Wire::decodeJson<InvoiceDraft>(R"({"lines":[]})").currency, u"EUR"_s);
+
+        // Written back, the defaults are explicit, and the result reads back equal.
+        const QJsonValue encoded = Wire::encode(draft);
+        QCOMPARE(encoded[u"lines"_s][0][u"included"_s].toBool(), true);
+        QVERIFY(Wire::decode<InvoiceDraft>(encoded) == draft);
+
+        const auto metadata = Wire::decodeJson<InvoiceMetadata>(R"({"number":"2025-0001","issued":"2025-03-01",
+            "vat_groups":[{"percent":9,"base":100,"amount":9},{"percent":21,"base":200,"amount":42}]})");
+        QCOMPARE(metadata.vatGroups.size(), 2);
+        QCOMPARE(metadata.vatGroups[1].amount, 42.0);
+        QCOMPARE(metadata.vatAmount, 0.0);
     }
 };
 

@@ -1,0 +1,159 @@
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Run
+{
+    int code = -1;
+    QString out;
+    QString err;
+};
+
+int pdfPages(const QString &file)
+{
+    QProcess info;
+    info.start(QStandardPaths::findExecutable(u"pdfinfo"_s), {file});
+    info.waitForFinished(30000);
+    static const QRegularExpression pages(u"^Pages:\\s+(\\d+)"_s, QRegularExpression::MultilineOption);
+    return pages.match(QString::fromUtf8(info.readAllStandardOutput())).captured(1).toInt();
+}
+
+} // namespace
+
+// `morvane --render-invoice` as a user runs it, from a folder of its own.
+class TestRenderInvoice : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir folder;
+
+    Run morvane(const QStringList &arguments)
+    {
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(MORVANE_APP_PROGRAM), arguments);
+        Run run;
+        if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
+            return run;
+        }
+        run.code = process.exitCode();
+        run.out = QString::fromUtf8(process.readAllStandardOutput());
+        run.err = QString::fromUtf8(process.readAllStandardError());
+        return run;
+    }
+
+    // The reported size is the size of the file written.
+    static void checkReport(const Run &run, const QString &file)
+    {
+        static const QRegularExpression report(u"^render-invoice bytes=(\\d+) pages=(\\d+) "_s);
+        const QRegularExpressionMatch match = report.match(run.out);
+        QVERIFY2(match.hasMatch(), qPrintable(run.out + run.err));
+        QVERIFY(QFile::exists(file));
+        QCOMPARE(match.captured(1).toLongLong(), QFile(file).size());
+        QCOMPARE(pdfPages(file), match.captured(2).toInt());
+    }
+
+private slots:
+    void sampleGoesToThePreviewFile()
+    {
+        const Run run = morvane({u"--render-invoice"_s});
+        QCOMPARE(run.code, 0);
+        checkReport(run, folder.filePath(u"morvane-preview.pdf"_s));
+        QVERIFY(run.out.contains(u"design=lightMinimalAccent"_s));
+        QCOMPARE(pdfPages(folder.filePath(u"morvane-preview.pdf"_s)), 1);
+    }
+
+    void longSampleInADesignWithPictures()
+    {
+        const Run run = morvane({u"--render-invoice"_s, u"--design"_s, u"pastelModern"_s, u"--lines"_s, u"45"_s,
+                                 u"--out"_s, u"long.pdf"_s, u"--png"_s, u"pages"_s});
+        QCOMPARE(run.code, 0);
+        const QString pdf = folder.filePath(u"long.pdf"_s);
+        checkReport(run, pdf);
+        const int pages = pdfPages(pdf);
+        QVERIFY(pages >= 3);
+        const QStringList pngs = QDir(folder.filePath(u"pages"_s)).entryList({u"long-page*.png"_s}, QDir::Files);
+        QCOMPARE(pngs.size(), pages);
+    }
+
+    // A draft names its invoice, so the file is named after the number.
+    void draftIsNamedAfterItsNumber()
+    {
+        QFile draft(folder.filePath(u"draft.json"_s));
+        QVERIFY(draft.open(QIODevice::WriteOnly));
+        draft.write(R"({"design": "editorial",
+            "draft": {"project_name": "Kitchen renovation", "currency": "EUR",
+                      "lines": [{"title": "Tiling", "hours": 14, "rate": 48, "unit": "h", "amount": 672},
+                                {"title": "Materials", "amount": 389.9}]},
+            "metadata": {"number": "2025/0099", "issued": "2025-05-02", "client_name": "Fam. de Boer",
+                         "vat_amount": 0, "language": "nl"},
+            "style": {"company": "Klusbedrijf Jansen", "iban": "NL02 RABO 0123 4567 89"}})");
+        draft.close();
+        const Run run = morvane({u"--render-invoice"_s, u"--draft"_s, draft.fileName()});
+        QCOMPARE(run.code, 0);
+        checkReport(run, folder.filePath(u"morvane-invoice-2025-0099.pdf"_s));
+        QVERIFY(run.out.contains(u"design=editorial"_s));
+    }
+
+    void mistakesAreExplained_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("unknown design") << QStringList{u"--render-invoice"_s, u"--design"_s, u"neon"_s}
+                                        << u"Unknown design: neon. Choose one of: lightMinimalAccent"_s;
+        QTest::newRow("negative lines") << QStringList{u"--render-invoice"_s, u"--lines"_s, u"-3"_s}
+                                        << u"--lines takes a whole number from 0 to 5000."_s;
+        QTest::newRow("lines that are not a number")
+            << QStringList{u"--render-invoice"_s, u"--lines"_s, u"ten"_s} << u"--lines takes a whole number"_s;
+        QTest::newRow("missing draft") << QStringList{u"--render-invoice"_s, u"--draft"_s, u"nowhere.json"_s}
+                                       << u"Cannot read the draft nowhere.json"_s;
+        QTest::newRow("draft and lines") << QStringList{u"--render-invoice"_s, u"--draft"_s, u"x.json"_s, u"--lines"_s,
+                                                        u"3"_s}
+                                         << u"--lines is for the sample invoice"_s;
+    }
+
+    void mistakesAreExplained()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, message);
+        const Run run = morvane(arguments);
+        QCOMPARE(run.code, 2);
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+        QVERIFY(run.out.isEmpty());
+    }
+
+    void brokenDraftNamesTheBadKey()
+    {
+        QFile draft(folder.filePath(u"broken.json"_s));
+        QVERIFY(draft.open(QIODevice::WriteOnly));
+        draft.write(R"({"draft": {"lines": [{"title": "Tiling", "amount": "672"}]}})");
+        draft.close();
+        const Run run = morvane({u"--render-invoice"_s, u"--draft"_s, draft.fileName()});
+        QCOMPARE(run.code, 2);
+        QVERIFY2(run.err.contains(u"InvoiceDocument.draft.lines[0].amount: expected a number, found a string"_s),
+                 qPrintable(run.err));
+        QVERIFY(!QFile::exists(folder.filePath(u"morvane-invoice-DRAFT.pdf"_s)));
+    }
+
+    void unwritableOutputFails()
+    {
+        const Run run = morvane({u"--render-invoice"_s, u"--out"_s, u"/proc/no/such/dir/x.pdf"_s});
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.err.contains(u"Cannot write /proc/no/such/dir/x.pdf"_s), qPrintable(run.err));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRenderInvoice)
+#include "tst_renderinvoice.moc"
