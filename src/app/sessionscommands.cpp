@@ -1,6 +1,7 @@
 #include "sessionscommands.h"
 
 #include "app/clisession.h"
+#include "app/startup.h"
 #include "app/storesessionlogsink.h"
 #include "backend/runblocking.h"
 #include "sessions/claudewatcher.h"
@@ -160,6 +161,19 @@ int printResult(const ClaudeWatcher &watcher, const ScanResult &result, bool jso
     return result.failedBursts > 0 ? 1 : 0;
 }
 
+// The command is registered as needing no backend, since most of its actions only read logs and
+// settings; the actions that log start the local backend (when none is configured) themselves.
+bool ensureBackend(QTextStream &err)
+{
+    try {
+        runBlocking(Startup::ensureBackend());
+        return true;
+    } catch (const LocalServerError &error) {
+        err << error.message() << Qt::endl;
+        return false;
+    }
+}
+
 // Whether a session is kept on this machine, asked without a word: commands that also work
 // without one use it to choose.
 bool signedIn(CliSession &session)
@@ -207,6 +221,9 @@ int runSessionsCommand(const QStringList &arguments, QTextStream &out, QTextStre
 
     ClaudeWatcher watcher(std::make_shared<QSettings>());
     if (action == u"scan") {
+        if (!ensureBackend(err)) {
+            return 1;
+        }
         CliSession session;
         if (!session.open(err)) {
             return 1;
@@ -244,8 +261,15 @@ int runSessionsCommand(const QStringList &arguments, QTextStream &out, QTextStre
         return 0;
     }
     // reimport: forgetting needs no backend; with a session kept here the bursts are logged at once.
+    const bool canLog = [] {
+        CliSession probe;
+        return signedIn(probe);
+    }();
+    if (canLog && !ensureBackend(err)) {
+        return 1;
+    }
+    // Made after the backend is known: a session keeps the client it was made with.
     CliSession session;
-    const bool canLog = signedIn(session);
     std::shared_ptr<StoreSessionLogSink> sink;
     if (canLog) {
         if (!session.open(err)) {

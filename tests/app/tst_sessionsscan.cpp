@@ -1,4 +1,5 @@
 #include "pg/pgconnection.h"
+#include "support/localservers.h"
 #include "support/morvanecli.h"
 #include "support/testbackend.h"
 #include "support/testdata.h"
@@ -140,6 +141,35 @@ private slots:
         QCOMPARE(tasks().size(), 7);
         QCOMPARE(cli({u"sessions"_s, u"scan"_s}).out.section(u'\n', 0, 0),
                  u"Sessions seen: 3 · work bursts logged: 0 · time logged: 0:00:00 (0 minutes) · failed: 0"_s);
+    }
+
+    // With no backend configured the program starts the user's own, as every logging command does.
+    void scanStartsTheLocalBackend()
+    {
+        const ScratchServerDir scratch(u"data/morvane/server"_s);
+        QProcessEnvironment environment = cli.environment();
+        environment.remove(u"SUPABASE_URL"_s);
+        environment.remove(u"SUPABASE_ANON_KEY"_s);
+        environment.insert(u"XDG_DATA_HOME"_s, scratch.base() + u"/data"_s);
+        environment.insert(u"XDG_CONFIG_HOME"_s, scratch.base() + u"/config"_s);
+        environment.insert(u"MORVANE_SERVER_PORT"_s, u"0"_s);
+        const auto morvane = [&](const QStringList &arguments, const QByteArray &input = {}) {
+            const std::unique_ptr<QProcess> process = cli.start(arguments, environment);
+            return MorvaneCli::finish(*process, input);
+        };
+
+        QCOMPARE(morvane({u"auth"_s, u"signup"_s, u"ben@example.nl"_s}, "ben's secret\n").code, 0);
+        Run run = morvane({u"projects"_s, u"add"_s, u"Shop"_s, u"--json"_s});
+        QCOMPARE(run.code, 0);
+        const QString project = run.json().object().value(u"id"_s).toString();
+        QCOMPARE(morvane({u"sessions"_s, u"map"_s, webshop, project}).code, 0);
+        // As after a restart of the machine: no server runs until a command needs one.
+        QCOMPARE(morvane({u"server"_s, u"stop"_s}).code, 0);
+        QVERIFY(serversOn(scratch.path()).isEmpty());
+        run = morvane({u"sessions"_s, u"scan"_s});
+        QVERIFY2(run.code == 0, qPrintable(run.err));
+        QVERIFY2(run.out.contains(u" · work bursts logged: 3 · time logged: 0:32:27"_s), qPrintable(run.out));
+        QCOMPARE(serversOn(scratch.path()).size(), 1);
     }
 
     void aFailedBurstFailsTheCommand()
