@@ -113,7 +113,8 @@ QList<Command> commands()
         {u"entries"_s, [] { return qtTrId("cli.command.entries"); }, runEntriesCommand},
         //% "Show or set the price of a project or task: price show|set"
         {u"price"_s, [] { return qtTrId("cli.command.price"); }, runPriceCommand},
-        //% "Coding-agent sessions found in the local logs: sessions list [--days N] [--json]"
+        //% "Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore |
+        //reimport | track"
         {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
     };
 }

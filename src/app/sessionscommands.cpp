@@ -1,15 +1,21 @@
 #include "sessionscommands.h"
 
+#include "app/clisession.h"
+#include "app/startup.h"
+#include "app/storesessionlogsink.h"
 #include "backend/runblocking.h"
 #include "sessions/claudewatcher.h"
 #include "sessions/sessionjson.h"
 
 #include <QCommandLineParser>
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QSettings>
 #include <QTextStream>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -106,6 +112,76 @@ int listSessions(const QCommandLineParser &parser, const QCommandLineOption &jso
     return 0;
 }
 
+QJsonObject resultJson(const ScanResult &result, const QList<PendingPath> &pending, const QString &scanError)
+{
+    QJsonArray paths;
+    for (const PendingPath &path : pending) {
+        paths.append(QJsonObject{{u"cwd"_s, path.cwd},
+                                 {u"sessionCount"_s, path.sessionCount},
+                                 {u"totalActiveSeconds"_s, path.totalActiveSeconds}});
+    }
+    QJsonObject json{{u"foundSessions"_s, result.foundSessions},
+                     {u"loggedSessions"_s, result.loggedSessions},
+                     {u"loggedSeconds"_s, result.loggedSeconds},
+                     {u"loggedMinutes"_s, double(result.loggedSeconds) / 60.0},
+                     {u"failedBursts"_s, result.failedBursts},
+                     {u"pendingSessions"_s, result.pendingSessions},
+                     {u"pendingPaths"_s, paths},
+                     {u"scannedAt"_s, result.scannedAt.toUTC().toString(Qt::ISODateWithMs)}};
+    if (!scanError.isEmpty()) {
+        json.insert(u"scanError"_s, scanError);
+    }
+    return json;
+}
+
+// The figures of one scan; a burst that failed makes the command fail, so that a script notices.
+int printResult(const ClaudeWatcher &watcher, const ScanResult &result, bool json, QTextStream &out, QTextStream &err)
+{
+    if (json) {
+        Cli::printJson(out, resultJson(result, watcher.pendingPaths(), watcher.scanError()));
+    } else {
+        //% "Sessions seen: %1 · work bursts logged: %2 · time logged: %3 (%4 minutes) · failed: %5"
+        out << qtTrId("cli.sessions.scanned")
+                   .arg(QString::number(result.foundSessions), QString::number(result.loggedSessions),
+                        duration(result.loggedSeconds),
+                        QString::number(std::round(double(result.loggedSeconds) / 60.0 * 100.0) / 100.0),
+                        QString::number(result.failedBursts))
+            << '\n';
+        for (const PendingPath &path : watcher.pendingPaths()) {
+            //% "Not mapped to a project: %1 · sessions: %2 · active %3"
+            out << qtTrId("cli.sessions.pending")
+                       .arg(path.cwd, QString::number(path.sessionCount), duration(path.totalActiveSeconds))
+                << '\n';
+        }
+        out.flush();
+    }
+    if (!watcher.scanError().isEmpty()) {
+        err << watcher.scanError() << Qt::endl;
+    }
+    return result.failedBursts > 0 ? 1 : 0;
+}
+
+// The command is registered as needing no backend, since most of its actions only read logs and
+// settings; the actions that log start the local backend (when none is configured) themselves.
+bool ensureBackend(QTextStream &err)
+{
+    try {
+        runBlocking(Startup::ensureBackend());
+        return true;
+    } catch (const LocalServerError &error) {
+        err << error.message() << Qt::endl;
+        return false;
+    }
+}
+
+// Whether a session is kept on this machine, asked without a word: commands that also work
+// without one use it to choose.
+bool signedIn(CliSession &session)
+{
+    runBlocking(session.auth().restore());
+    return session.auth().isSignedIn();
+}
+
 } // namespace
 
 int runSessionsCommand(const QStringList &arguments, QTextStream &out, QTextStream &err)
@@ -118,8 +194,8 @@ int runSessionsCommand(const QStringList &arguments, QTextStream &out, QTextStre
     const QCommandLineOption all(u"all"_s, qtTrId("cli.sessions.option.all"));
     parser.addOptions({json, days, all});
     parser.addPositionalArgument(u"action"_s, qtTrId("cli.command.sessions"));
-    //% "Usage: morvane sessions list [--days N] [--json] | map <dir> <project-id> | ignore <dir> | reimport
-    //<session>|--all | track on|off"
+    //% "Usage: morvane sessions list [--days N] [--json] | scan [--json] | map <dir> <project-id> | ignore <dir> |
+    // reimport <session>|--all | track on|off"
     const QString usage = qtTrId("cli.sessions.usage");
     if (!parser.parse(arguments)) {
         err << parser.errorText() << '\n' << usage << Qt::endl;
@@ -128,11 +204,12 @@ int runSessionsCommand(const QStringList &arguments, QTextStream &out, QTextStre
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
     const qsizetype count = positional.size();
-    const bool wellFormed = (action == u"list" && count == 1) || (action == u"map" && count == 3) ||
-                            (action == u"ignore" && count == 2) ||
+    const bool wellFormed = (action == u"list" && count == 1) || (action == u"scan" && count == 1) ||
+                            (action == u"map" && count == 3) || (action == u"ignore" && count == 2) ||
                             (action == u"track" && count == 2 && (positional[1] == u"on" || positional[1] == u"off")) ||
                             (action == u"reimport" && (count == 2) != parser.isSet(all) && count <= 2);
-    const bool optionsFit = (action == u"list" || (!parser.isSet(json) && !parser.isSet(days))) &&
+    const bool optionsFit = (action == u"list" || !parser.isSet(days)) &&
+                            (action == u"list" || action == u"scan" || !parser.isSet(json)) &&
                             (action == u"reimport" || !parser.isSet(all));
     if (!wellFormed || !optionsFit) {
         err << usage << Qt::endl;
@@ -143,6 +220,19 @@ int runSessionsCommand(const QStringList &arguments, QTextStream &out, QTextStre
     }
 
     ClaudeWatcher watcher(std::make_shared<QSettings>());
+    if (action == u"scan") {
+        if (!ensureBackend(err)) {
+            return 1;
+        }
+        CliSession session;
+        if (!session.open(err)) {
+            return 1;
+        }
+        const auto sink = std::make_shared<StoreSessionLogSink>(session.auth(), session.store());
+        watcher.setSink(sink, false);
+        const ScanResult result = runBlocking(watcher.scanNow());
+        return printResult(watcher, result, parser.isSet(json), out, err);
+    }
     if (action == u"track") {
         const bool on = positional[1] == u"on";
         watcher.setEnabled(on);
@@ -170,9 +260,29 @@ int runSessionsCommand(const QStringList &arguments, QTextStream &out, QTextStre
             << Qt::endl;
         return 0;
     }
-    // reimport
+    // reimport: forgetting needs no backend; with a session kept here the bursts are logged at once.
+    const bool canLog = [] {
+        CliSession probe;
+        return signedIn(probe);
+    }();
+    if (canLog && !ensureBackend(err)) {
+        return 1;
+    }
+    // Made after the backend is known: a session keeps the client it was made with.
+    CliSession session;
+    std::shared_ptr<StoreSessionLogSink> sink;
+    if (canLog) {
+        if (!session.open(err)) {
+            return 1;
+        }
+        sink = std::make_shared<StoreSessionLogSink>(session.auth(), session.store());
+        watcher.setSink(sink, false);
+    }
     if (parser.isSet(all)) {
-        runBlocking(watcher.reimportAll());
+        const ScanResult result = runBlocking(watcher.reimportAll());
+        if (canLog) {
+            return printResult(watcher, result, false, out, err);
+        }
         //% "Every session will be logged again by the next scan."
         out << qtTrId("cli.sessions.reimportAll") << Qt::endl;
         return 0;
@@ -181,14 +291,26 @@ int runSessionsCommand(const QStringList &arguments, QTextStream &out, QTextStre
     const QList<ParsedSession> sessions = ClaudeWatcher::enumerateSessions(
         watcher.projectsDir(), ClaudeWatcher::idleGapSeconds(settings), ClaudeWatcher::scanRecentDays);
     const auto found = std::find_if(sessions.cbegin(), sessions.cend(),
-                                    [&](const ParsedSession &session) { return session.sessionId == positional[1]; });
+                                    [&](const ParsedSession &parsed) { return parsed.sessionId == positional[1]; });
     if (found == sessions.cend()) {
         //% "No session %1 among the logs of the last 60 days."
         err << qtTrId("cli.sessions.err.unknownSession").arg(positional[1]) << Qt::endl;
         return 1;
     }
     runBlocking(watcher.reimportSession(*found));
-    //% "Session %1 will be logged again by the next scan."
-    out << qtTrId("cli.sessions.reimportOne").arg(positional[1]) << Qt::endl;
-    return 0;
+    const QString projectId = watcher.pathMappings().value(found->cwd);
+    if (!canLog || projectId.isEmpty()) {
+        //% "Session %1 will be logged again by the next scan."
+        out << qtTrId("cli.sessions.reimportOne").arg(positional[1]) << Qt::endl;
+        return 0;
+    }
+    const qsizetype bursts = std::max<qsizetype>(found->segments.size(), 1);
+    const int logged = runBlocking(watcher.logSession(*found, projectId));
+    //% "Session %1 logged again: %2 of %3 work bursts."
+    out << qtTrId("cli.sessions.reimportLogged").arg(positional[1], QString::number(logged), QString::number(bursts))
+        << Qt::endl;
+    if (!watcher.scanError().isEmpty()) {
+        err << watcher.scanError() << Qt::endl;
+    }
+    return logged == bursts ? 0 : 1;
 }

@@ -284,8 +284,8 @@
       <translation>Das lokale Backend starten, beenden oder anzeigen: server start|stop|status</translation>
     </message>
     <message id="cli.command.sessions">
-      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
-      <translation>Sitzungen des Coding-Agenten aus den lokalen Logs: sessions list [--days N] [--json]</translation>
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
+      <translation>Sitzungen des Coding-Agenten aus den lokalen Logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -643,13 +643,25 @@
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>Sitzungen, deren Log sich in den letzten N Tagen geändert hat (ohne Angabe 30).</translation>
     </message>
+    <message id="cli.sessions.pending">
+      <source>Not mapped to a project: %1 · sessions: %2 · active %3</source>
+      <translation>Keinem Projekt zugeordnet: %1 · Sitzungen: %2 · aktiv %3</translation>
+    </message>
     <message id="cli.sessions.reimportAll">
       <source>Every session will be logged again by the next scan.</source>
       <translation>Alle Sitzungen werden beim nächsten Durchlauf erneut gebucht.</translation>
     </message>
+    <message id="cli.sessions.reimportLogged">
+      <source>Session %1 logged again: %2 of %3 work bursts.</source>
+      <translation>Sitzung %1 erneut gebucht: %2 von %3 Arbeitsblöcken.</translation>
+    </message>
     <message id="cli.sessions.reimportOne">
       <source>Session %1 will be logged again by the next scan.</source>
       <translation>Sitzung %1 wird beim nächsten Durchlauf erneut gebucht.</translation>
+    </message>
+    <message id="cli.sessions.scanned">
+      <source>Sessions seen: %1 · work bursts logged: %2 · time logged: %3 (%4 minutes) · failed: %5</source>
+      <translation>Sitzungen gesehen: %1 · Arbeitsblöcke gebucht: %2 · Zeit gebucht: %3 (%4 Minuten) · fehlgeschlagen: %5</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
@@ -664,8 +676,8 @@
       <translation>Claude-Sitzungen werden erfasst: jede Minute werden die neuen Arbeitsblöcke zugeordneter Ordner gebucht.</translation>
     </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
-      <translation>Aufruf: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Aufruf: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

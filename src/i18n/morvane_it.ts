@@ -284,8 +284,8 @@
       <translation>Avvia, ferma o mostra il server locale: server start|stop|status</translation>
     </message>
     <message id="cli.command.sessions">
-      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
-      <translation>Sessioni dell'agente di codice trovate nei log locali: sessions list [--days N] [--json]</translation>
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
+      <translation>Sessioni dell'agente di codice trovate nei log locali: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -643,13 +643,25 @@
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>Sessioni il cui log è cambiato negli ultimi N giorni (30 se non indicato).</translation>
     </message>
+    <message id="cli.sessions.pending">
+      <source>Not mapped to a project: %1 · sessions: %2 · active %3</source>
+      <translation>Non associato a un progetto: %1 · sessioni: %2 · attivo %3</translation>
+    </message>
     <message id="cli.sessions.reimportAll">
       <source>Every session will be logged again by the next scan.</source>
       <translation>Tutte le sessioni saranno registrate di nuovo alla prossima scansione.</translation>
     </message>
+    <message id="cli.sessions.reimportLogged">
+      <source>Session %1 logged again: %2 of %3 work bursts.</source>
+      <translation>Sessione %1 registrata di nuovo: %2 di %3 blocchi di lavoro.</translation>
+    </message>
     <message id="cli.sessions.reimportOne">
       <source>Session %1 will be logged again by the next scan.</source>
       <translation>La sessione %1 sarà registrata di nuovo alla prossima scansione.</translation>
+    </message>
+    <message id="cli.sessions.scanned">
+      <source>Sessions seen: %1 · work bursts logged: %2 · time logged: %3 (%4 minutes) · failed: %5</source>
+      <translation>Sessioni viste: %1 · blocchi di lavoro registrati: %2 · tempo registrato: %3 (%4 minuti) · non riusciti: %5</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
@@ -664,8 +676,8 @@
       <translation>Le sessioni Claude sono tracciate: ogni minuto vengono registrati i nuovi blocchi di lavoro delle cartelle associate.</translation>
     </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
-      <translation>Uso: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Uso: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

@@ -284,8 +284,8 @@
       <translation>ローカルバックエンドを起動・停止・表示します: server start|stop|status</translation>
     </message>
     <message id="cli.command.sessions">
-      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
-      <translation>ローカルログにあるコーディングエージェントのセッション: sessions list [--days N] [--json]</translation>
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
+      <translation>ローカルログにあるコーディングエージェントのセッション: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -643,13 +643,25 @@
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>過去 N 日間にログが変更されたセッション (省略時は 30)。</translation>
     </message>
+    <message id="cli.sessions.pending">
+      <source>Not mapped to a project: %1 · sessions: %2 · active %3</source>
+      <translation>プロジェクト未割り当て: %1 · セッション: %2 · 稼働 %3</translation>
+    </message>
     <message id="cli.sessions.reimportAll">
       <source>Every session will be logged again by the next scan.</source>
       <translation>次のスキャンですべてのセッションが再び記録されます。</translation>
     </message>
+    <message id="cli.sessions.reimportLogged">
+      <source>Session %1 logged again: %2 of %3 work bursts.</source>
+      <translation>セッション %1 を再記録しました: 作業ブロック %3 件中 %2 件。</translation>
+    </message>
     <message id="cli.sessions.reimportOne">
       <source>Session %1 will be logged again by the next scan.</source>
       <translation>次のスキャンでセッション %1 が再び記録されます。</translation>
+    </message>
+    <message id="cli.sessions.scanned">
+      <source>Sessions seen: %1 · work bursts logged: %2 · time logged: %3 (%4 minutes) · failed: %5</source>
+      <translation>確認したセッション: %1 · 記録した作業ブロック: %2 · 記録した時間: %3 (%4 分) · 失敗: %5</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
@@ -664,8 +676,8 @@
       <translation>Claude のセッションを記録します: 毎分、関連付けたフォルダーの新しい作業ブロックが記録されます。</translation>
     </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
-      <translation>使い方: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>使い方: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

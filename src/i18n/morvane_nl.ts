@@ -284,8 +284,8 @@
       <translation>Start, stop of toon de lokale backend: server start|stop|status</translation>
     </message>
     <message id="cli.command.sessions">
-      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
-      <translation>Sessies van de codeeragent uit de lokale logs: sessions list [--days N] [--json]</translation>
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
+      <translation>Sessies van de codeeragent uit de lokale logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -643,13 +643,25 @@
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>Sessies waarvan de log in de laatste N dagen is gewijzigd (30 als niets is opgegeven).</translation>
     </message>
+    <message id="cli.sessions.pending">
+      <source>Not mapped to a project: %1 · sessions: %2 · active %3</source>
+      <translation>Nog niet aan een project gekoppeld: %1 · sessies: %2 · actief %3</translation>
+    </message>
     <message id="cli.sessions.reimportAll">
       <source>Every session will be logged again by the next scan.</source>
       <translation>Alle sessies worden bij de volgende scan opnieuw gelogd.</translation>
     </message>
+    <message id="cli.sessions.reimportLogged">
+      <source>Session %1 logged again: %2 of %3 work bursts.</source>
+      <translation>Sessie %1 opnieuw gelogd: %2 van %3 werkblokken.</translation>
+    </message>
     <message id="cli.sessions.reimportOne">
       <source>Session %1 will be logged again by the next scan.</source>
       <translation>Sessie %1 wordt bij de volgende scan opnieuw gelogd.</translation>
+    </message>
+    <message id="cli.sessions.scanned">
+      <source>Sessions seen: %1 · work bursts logged: %2 · time logged: %3 (%4 minutes) · failed: %5</source>
+      <translation>Sessies gezien: %1 · werkblokken gelogd: %2 · tijd gelogd: %3 (%4 minuten) · mislukt: %5</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
@@ -664,8 +676,8 @@
       <translation>Claude-sessies worden bijgehouden: elke minuut worden de nieuwe werkblokken van gekoppelde mappen gelogd.</translation>
     </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
-      <translation>Gebruik: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Gebruik: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

@@ -284,8 +284,8 @@
       <translation>Iniciar, parar ou mostrar o servidor local: server start|stop|status</translation>
     </message>
     <message id="cli.command.sessions">
-      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json]</source>
-      <translation>Sessões do agente de código encontradas nos logs locais: sessions list [--days N] [--json]</translation>
+      <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
+      <translation>Sessões do agente de código encontradas nos logs locais: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -643,13 +643,25 @@
       <source>Sessions whose log changed in the last N days (30 when not given).</source>
       <translation>Sessões cujo log mudou nos últimos N dias (30 quando não indicado).</translation>
     </message>
+    <message id="cli.sessions.pending">
+      <source>Not mapped to a project: %1 · sessions: %2 · active %3</source>
+      <translation>Sem projeto associado: %1 · sessões: %2 · ativo %3</translation>
+    </message>
     <message id="cli.sessions.reimportAll">
       <source>Every session will be logged again by the next scan.</source>
       <translation>Todas as sessões serão registradas novamente na próxima varredura.</translation>
     </message>
+    <message id="cli.sessions.reimportLogged">
+      <source>Session %1 logged again: %2 of %3 work bursts.</source>
+      <translation>Sessão %1 registrada novamente: %2 de %3 blocos de trabalho.</translation>
+    </message>
     <message id="cli.sessions.reimportOne">
       <source>Session %1 will be logged again by the next scan.</source>
       <translation>A sessão %1 será registrada novamente na próxima varredura.</translation>
+    </message>
+    <message id="cli.sessions.scanned">
+      <source>Sessions seen: %1 · work bursts logged: %2 · time logged: %3 (%4 minutes) · failed: %5</source>
+      <translation>Sessões vistas: %1 · blocos de trabalho registrados: %2 · tempo registrado: %3 (%4 minutos) · com falha: %5</translation>
     </message>
     <message id="cli.sessions.session">
       <source>%1 · %2 to %3 · active %4 · prompts: %5</source>
@@ -664,8 +676,8 @@
       <translation>As sessões do Claude são acompanhadas: a cada minuto os novos blocos de trabalho das pastas associadas são registrados.</translation>
     </message>
     <message id="cli.sessions.usage">
-      <source>Usage: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
-      <translation>Uso: morvane sessions list [--days N] [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
+      <source>Usage: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</source>
+      <translation>Uso: morvane sessions list [--days N] [--json] | scan [--json] | map &lt;dir&gt; &lt;project-id&gt; | ignore &lt;dir&gt; | reimport &lt;session&gt;|--all | track on|off</translation>
     </message>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>

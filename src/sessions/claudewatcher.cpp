@@ -112,10 +112,10 @@ QString ClaudeWatcher::formatDateRange(const QDateTime &from, const QDateTime &t
     return format(from) + u" > " + format(to);
 }
 
-void ClaudeWatcher::setSink(const std::shared_ptr<SessionLogSink> &sink)
+void ClaudeWatcher::setSink(const std::shared_ptr<SessionLogSink> &sink, bool resume)
 {
     m_sink = sink;
-    if (m_enabled) {
+    if (resume && m_enabled) {
         resumePolling();
     }
 }
@@ -313,6 +313,8 @@ QCoro::Task<ScanResult> ClaudeWatcher::scanNow()
                 processed.append(key);
                 ++result.loggedSessions;
                 result.loggedSeconds += burst.activeSeconds;
+            } else {
+                ++result.failedBursts;
             }
         }
     }

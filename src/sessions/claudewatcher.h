@@ -36,6 +36,7 @@ struct ScanResult
     int loggedSessions = 0; // bursts logged
     qint64 loggedSeconds = 0;
     int pendingSessions = 0;
+    int failedBursts = 0; // tried and failed: left for the next scan
     QDateTime scannedAt;
 };
 
@@ -77,8 +78,9 @@ public:
     explicit ClaudeWatcher(std::shared_ptr<QSettings> settings, QObject *parent = nullptr);
     ~ClaudeWatcher() override;
 
-    // Where bursts are logged. Held weakly; polling starts once there is one and tracking is on.
-    void setSink(const std::shared_ptr<SessionLogSink> &sink);
+    // Where bursts are logged. Held weakly; polling starts once there is one and tracking is on,
+    // unless `resume` is false (a command that scans once and exits).
+    void setSink(const std::shared_ptr<SessionLogSink> &sink, bool resume = true);
     void setClock(Clock clock) { m_clock = std::move(clock); }
     void setPollInterval(std::chrono::milliseconds interval) { m_pollInterval = interval; }
 

@@ -97,6 +97,8 @@ struct TaskInsert
     std::optional<double> totalPrice;
     std::optional<Billing> billing;
     std::optional<QString> dueDate;
+    // Absent leaves the column's own default.
+    std::optional<TaskPriority> priority;
 
     static constexpr std::string_view wireName = "TaskInsert";
     static constexpr auto wireFields()
@@ -111,6 +113,7 @@ struct TaskInsert
             field("total_price", &TaskInsert::totalPrice),
             field("billing", &TaskInsert::billing),
             field("due_date", &TaskInsert::dueDate),
+            field("priority", &TaskInsert::priority),
         };
     }
     friend bool operator==(const TaskInsert &, const TaskInsert &) = default;

@@ -159,8 +159,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("message");
-        const QString usage = u"Usage: morvane sessions list [--days N] [--json] | map <dir> <project-id> | "
-                              u"ignore <dir> | reimport <session>|--all | track on|off"_s;
+        const QString usage = u"Usage: morvane sessions list [--days N] [--json] | scan [--json] | map <dir> "
+                              u"<project-id> | ignore <dir> | reimport <session>|--all | track on|off"_s;
         const QString days = u"--days takes a whole number of days from 1 to 36500."_s;
         QTest::newRow("no action") << QStringList{u"sessions"_s} << usage;
         QTest::newRow("unknown action") << QStringList{u"sessions"_s, u"lsit"_s} << usage;
@@ -168,6 +168,8 @@ private Q_SLOTS:
         QTest::newRow("unknown option") << QStringList{u"sessions"_s, u"list"_s, u"--all"_s} << usage;
         QTest::newRow("--days without value") << QStringList{u"sessions"_s, u"list"_s, u"--days"_s} << usage;
         QTest::newRow("--json outside list") << QStringList{u"sessions"_s, u"track"_s, u"on"_s, u"--json"_s} << usage;
+        QTest::newRow("--days with scan") << QStringList{u"sessions"_s, u"scan"_s, u"--days"_s, u"3"_s} << usage;
+        QTest::newRow("scan of a folder") << QStringList{u"sessions"_s, u"scan"_s, u"/w"_s} << usage;
         QTest::newRow("track what") << QStringList{u"sessions"_s, u"track"_s, u"maybe"_s} << usage;
         QTest::newRow("map without project") << QStringList{u"sessions"_s, u"map"_s, u"/w"_s} << usage;
         QTest::newRow("ignore without folder") << QStringList{u"sessions"_s, u"ignore"_s} << usage;
