@@ -967,6 +967,62 @@
       <source>VAT %1% on %2</source>
       <translation>USt. %1 % auf %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>Rechnungsnummer vergeben fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Einige dieser Stunden stehen bereits auf einer anderen Rechnung. Die Liste wurde aktualisiert: prüfe sie und versuche es erneut.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>Rechnung löschen fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>Rechnungen laden fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>Rechnungspositionen laden fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Es wird noch gelesen, was schon abgerechnet wurde.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>Das Rechnungs-PDF konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>Das Rechnungs-PDF konnte nicht ersetzt werden: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>Es konnte nicht gelesen werden, welche Arbeit schon abgerechnet wurde. Die Abrechnung wartet, bis das gelingt, damit kein Festpreis und kein Zuschlag doppelt berechnet wird.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>Rechnung speichern fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>Es konnte nicht gelesen werden, welche Zeit noch nicht abgerechnet ist.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>Rechnungsstatus ändern fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>Stornieren der Rechnung fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>Stornieren ist noch nicht möglich, weil der Server noch nicht aktualisiert wurde. Versuche es später erneut.</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>Die Rechnungsseite konnte nicht geladen werden.</translation>
@@ -986,6 +1042,10 @@
     <message id="inv.pdf.err.timeout">
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>Die Rechnungsseite wurde nicht innerhalb von %1 Sekunden geladen.</translation>
+    </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Rechnung %1 gespeichert</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
@@ -1014,6 +1074,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>Einladen per E-Mail ist noch nicht verfügbar. Versuche es später erneut.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Einige dieser Fahrten stehen bereits auf einer anderen Rechnung. Aktualisiere und versuche es erneut.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>Diese Rechnung ist storniert. Eine stornierte Rechnung kann nicht zurückgesetzt werden.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

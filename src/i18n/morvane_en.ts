@@ -967,6 +967,62 @@
       <source>VAT %1% on %2</source>
       <translation>VAT %1% on %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>Allocate invoice number failed: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>Delete invoice failed: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>Load invoices failed: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>Load invoice lines failed: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Still reading what was billed before.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>The invoice PDF could not be opened: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>The invoice PDF could not be replaced: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>Save invoice failed: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>Could not read which time is still unbilled.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>Update invoice status failed: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>Voiding the invoice failed: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>Voiding is not available yet because the server has not been updated. Try again later.</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>The invoice page could not be loaded.</translation>
@@ -986,6 +1042,10 @@
     <message id="inv.pdf.err.timeout">
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>The invoice page did not finish loading within %1 seconds.</translation>
+    </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Invoice %1 saved</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
@@ -1014,6 +1074,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>Inviting by email is not available yet. Try again later.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Some of these trips are already on another invoice. Refresh and try again.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>This invoice is void. A void invoice cannot be changed back.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

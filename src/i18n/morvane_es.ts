@@ -967,6 +967,62 @@
       <source>VAT %1% on %2</source>
       <translation>IVA %1% sobre %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>No se pudo asignar el número de factura: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Algunas de estas horas ya están en otra factura. La lista se actualizó: revísala e inténtalo de nuevo.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>No se pudo eliminar la factura: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>No se pudieron cargar las facturas: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>No se pudieron cargar las líneas de la factura: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Todavía leyendo lo que se facturó antes.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>No se pudo abrir el PDF de la factura: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>No se pudo reemplazar el PDF de la factura: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>No se pudo leer qué trabajo se facturó antes. La facturación espera hasta que funcione, para no cobrar dos veces un precio fijo o un extra.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>No se pudo guardar la factura: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>No se pudo leer qué tiempo sigue sin facturar.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>No se pudo actualizar el estado de la factura: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>No se pudo anular la factura: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>Anular aún no está disponible porque el servidor no se ha actualizado. Inténtalo más tarde.</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>No se pudo cargar la página de la factura.</translation>
@@ -986,6 +1042,10 @@
     <message id="inv.pdf.err.timeout">
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>La página de la factura no terminó de cargarse en %1 segundos.</translation>
+    </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Factura %1 guardada</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
@@ -1014,6 +1074,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>La invitación por correo aún no está disponible. Vuelve a intentarlo más tarde.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Algunos de estos viajes ya están en otra factura. Actualiza e inténtalo de nuevo.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>Esta factura está anulada. Una factura anulada no se puede revertir.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

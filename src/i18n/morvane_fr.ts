@@ -967,6 +967,62 @@
       <source>VAT %1% on %2</source>
       <translation>TVA %1 % sur %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>Échec de l'attribution du numéro de facture : %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Certaines de ces heures figurent déjà sur une autre facture. La liste a été actualisée : vérifiez-la et réessayez.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>Échec de la suppression de la facture : %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>Échec du chargement des factures : %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>Échec du chargement des lignes de facture : %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Lecture de ce qui a déjà été facturé en cours.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>Le PDF de la facture n'a pas pu être ouvert : %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>Le PDF de la facture n'a pas pu être remplacé : %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>Impossible de lire le travail déjà facturé. La facturation attend que cela fonctionne, afin qu'aucun prix fixe ni supplément ne soit facturé deux fois.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>Échec de l'enregistrement de la facture : %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>Impossible de lire le temps encore non facturé.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>Échec de la mise à jour du statut de la facture : %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>L'annulation de la facture a échoué : %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>L'annulation n'est pas encore disponible car le serveur n'a pas été mis à jour. Réessayez plus tard.</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>La page de la facture n’a pas pu être chargée.</translation>
@@ -986,6 +1042,10 @@
     <message id="inv.pdf.err.timeout">
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>La page de la facture n’a pas fini de se charger en %1 secondes.</translation>
+    </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Facture %1 enregistrée</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
@@ -1014,6 +1074,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>L’invitation par e-mail n’est pas encore disponible. Réessayez plus tard.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Certains de ces trajets figurent déjà sur une autre facture. Actualisez et réessayez.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>Cette facture est annulée. Une facture annulée ne peut pas être rétablie.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

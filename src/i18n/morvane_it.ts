@@ -967,6 +967,62 @@
       <source>VAT %1% on %2</source>
       <translation>IVA %1% su %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>Assegnazione del numero di fattura non riuscita: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Alcune di queste ore sono già su un'altra fattura. L'elenco è stato aggiornato: controllalo e riprova.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>Eliminazione della fattura non riuscita: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>Caricamento delle fatture non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>Caricamento delle righe della fattura non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Lettura di quanto già fatturato in corso.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>Impossibile aprire il PDF della fattura: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>Impossibile sostituire il PDF della fattura: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>Impossibile leggere quale lavoro è già stato fatturato. La fatturazione attende finché non funziona, così nessun prezzo fisso o extra viene fatturato due volte.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>Salvataggio della fattura non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>Impossibile leggere quale tempo non è ancora fatturato.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>Aggiornamento dello stato della fattura non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>Annullamento della fattura non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>L'annullamento non è ancora disponibile perché il server non è stato aggiornato. Riprova più tardi.</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>Impossibile caricare la pagina della fattura.</translation>
@@ -986,6 +1042,10 @@
     <message id="inv.pdf.err.timeout">
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>La pagina della fattura non è stata caricata entro %1 secondi.</translation>
+    </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Fattura %1 salvata</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
@@ -1014,6 +1074,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>L’invito via email non è ancora disponibile. Riprova più tardi.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Alcuni di questi viaggi sono già su un'altra fattura. Aggiorna e riprova.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>Questa fattura è annullata. Una fattura annullata non può essere ripristinata.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

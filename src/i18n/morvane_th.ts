@@ -967,6 +967,62 @@
       <source>VAT %1% on %2</source>
       <translation>ภาษีมูลค่าเพิ่ม %1% จาก %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>กำหนดเลขที่ใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>ชั่วโมงบางส่วนอยู่ในใบแจ้งหนี้อื่นแล้ว รายการได้รับการรีเฟรชแล้ว โปรดตรวจสอบและลองอีกครั้ง</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>ลบใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>โหลดใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>โหลดรายการในใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>กำลังอ่านสิ่งที่เคยเรียกเก็บเงินแล้ว</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>ไม่สามารถเปิด PDF ของใบแจ้งหนี้ได้: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>ไม่สามารถแทนที่ PDF ของใบแจ้งหนี้ได้: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>ไม่สามารถอ่านงานที่เคยเรียกเก็บเงินแล้วได้ การเรียกเก็บเงินจะรอจนกว่าจะอ่านได้ เพื่อไม่ให้ราคาคงที่หรือค่าใช้จ่ายเพิ่มเติมถูกเรียกเก็บซ้ำ</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>บันทึกใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>ไม่สามารถอ่านเวลาที่ยังไม่ได้เรียกเก็บเงินได้</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>อัปเดตสถานะใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>ยกเลิกใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>ยังยกเลิกไม่ได้เพราะเซิร์ฟเวอร์ยังไม่ได้อัปเดต โปรดลองอีกครั้งภายหลัง</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>ไม่สามารถโหลดหน้าใบแจ้งหนี้ได้</translation>
@@ -986,6 +1042,10 @@
     <message id="inv.pdf.err.timeout">
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>หน้าใบแจ้งหนี้โหลดไม่เสร็จภายใน %1 วินาที</translation>
+    </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>บันทึกใบแจ้งหนี้ %1 แล้ว</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
@@ -1014,6 +1074,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>ยังเชิญทางอีเมลไม่ได้ในขณะนี้ โปรดลองอีกครั้งในภายหลัง</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>การเดินทางบางรายการอยู่ในใบแจ้งหนี้อื่นแล้ว โปรดรีเฟรชและลองอีกครั้ง</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>ใบแจ้งหนี้นี้ถูกยกเลิกแล้ว ใบแจ้งหนี้ที่ยกเลิกแล้วไม่สามารถเปลี่ยนกลับได้</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>
