@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Zeiteinträge anzeigen, bearbeiten oder löschen: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
+      <translation>Rechnungen: invoice list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>Arbeitsminuten für eine Aufgabe erfassen: log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,86 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Unbekannter Befehl: %1. Mit morvane --help wird die Befehlsliste angezeigt.</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>Mehrere Rechnungen passen zu %1; gib mehr von der ID oder die Nummer an.</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Rechnung %1 gelöscht; ihre Stunden sind wieder nicht abgerechnet.</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>Das PDF konnte nicht heruntergeladen werden: %1</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation>, fällig %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>Rechnung %1 (%2), ausgestellt %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>Noch keine Rechnungen.</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>Keine Rechnung passt zu %1.</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>Die Datei, in die das PDF geschrieben wird.</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>Das PDF der Rechnung %1 wurde in %2 gespeichert.</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>Entwurf</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>bezahlt</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>versendet</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>storniert</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>Rechnung %1 ist jetzt %2.</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>Zwischensumme</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>Gesamt</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Aufruf: morvane invoice list | show &lt;Rechnung&gt; | status &lt;Rechnung&gt; draft|sent|paid|void | void &lt;Rechnung&gt; | rm &lt;Rechnung&gt; | pdf &lt;Rechnung&gt; --out DATEI [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>USt.</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>Rechnung %1 ist storniert; ihre Stunden sind wieder nicht abgerechnet.</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>%1 konnte nicht geschrieben werden: %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>

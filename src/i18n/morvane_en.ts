@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>List, edit or delete time entries: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
+      <translation>Invoices: invoice list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,86 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Unknown command: %1. Run morvane --help for the list of commands.</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>Several invoices match %1; give more of the id or the number.</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Invoice %1 deleted; its hours are unbilled again.</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>The PDF could not be downloaded: %1</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation>, due %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>Invoice %1 (%2), issued %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>No invoices yet.</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>No invoice matches %1.</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>The file to write the PDF to.</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>Saved the PDF of invoice %1 to %2.</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>draft</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>paid</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>sent</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>void</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>Invoice %1 is now %2.</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotal</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>VAT</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>Invoice %1 is void; its hours are unbilled again.</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Could not write %1: %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>

@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Listar, editar o eliminar entradas de tiempo: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
+      <translation>Facturas: invoice list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>Registrar minutos de trabajo en una tarea: log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,86 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Comando desconocido: %1. Ejecuta morvane --help para ver la lista de comandos.</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>Varias facturas coinciden con %1; indica más del id o el número.</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Factura %1 eliminada; sus horas vuelven a estar sin facturar.</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>No se pudo descargar el PDF: %1</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation>, vence el %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>Factura %1 (%2), emitida el %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>Aún no hay facturas.</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>Ninguna factura coincide con %1.</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>El archivo donde escribir el PDF.</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>El PDF de la factura %1 se guardó en %2.</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>borrador</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>pagada</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>enviada</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>anulada</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>La factura %1 ahora está %2.</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotal</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Uso: morvane invoice list | show &lt;factura&gt; | status &lt;factura&gt; draft|sent|paid|void | void &lt;factura&gt; | rm &lt;factura&gt; | pdf &lt;factura&gt; --out ARCHIVO [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>IVA</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>La factura %1 está anulada; sus horas vuelven a estar sin facturar.</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>No se pudo escribir %1: %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>

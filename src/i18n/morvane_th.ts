@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>แสดง แก้ไข หรือลบรายการเวลา: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
+      <translation>ใบแจ้งหนี้: invoice list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>บันทึกนาทีการทำงานในงาน: log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,86 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>ไม่รู้จักคำสั่ง: %1 เรียกใช้ morvane --help เพื่อดูรายการคำสั่ง</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>มีใบแจ้งหนี้หลายรายการที่ตรงกับ %1 โปรดระบุรหัสให้ยาวขึ้นหรือใช้เลขที่</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>ลบใบแจ้งหนี้ %1 แล้ว ชั่วโมงของใบนี้กลับเป็นยังไม่ได้เรียกเก็บเงิน</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>ไม่สามารถดาวน์โหลด PDF ได้: %1</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation> ครบกำหนด %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>ใบแจ้งหนี้ %1 (%2) ออกเมื่อ %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>ยังไม่มีใบแจ้งหนี้</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>ไม่มีใบแจ้งหนี้ที่ตรงกับ %1</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>ไฟล์ที่จะเขียน PDF</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>บันทึก PDF ของใบแจ้งหนี้ %1 ไปที่ %2 แล้ว</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>ฉบับร่าง</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>ชำระแล้ว</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>ส่งแล้ว</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>ยกเลิก</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>ใบแจ้งหนี้ %1 ตอนนี้เป็น %2</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>ยอดรวมย่อย</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>ยอดรวม</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>วิธีใช้: morvane invoice list | show &lt;ใบแจ้งหนี้&gt; | status &lt;ใบแจ้งหนี้&gt; draft|sent|paid|void | void &lt;ใบแจ้งหนี้&gt; | rm &lt;ใบแจ้งหนี้&gt; | pdf &lt;ใบแจ้งหนี้&gt; --out ไฟล์ [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>ภาษีมูลค่าเพิ่ม</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>ใบแจ้งหนี้ %1 ถูกยกเลิกแล้ว ชั่วโมงของใบนี้กลับเป็นยังไม่ได้เรียกเก็บเงิน</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>ไม่สามารถเขียน %1 ได้: %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>
