@@ -191,6 +191,19 @@ struct PdfPathPatch
     static constexpr auto wireFields() { return std::tuple{Wire::field("pdf_path", &PdfPathPatch::pdfPath)}; }
 };
 
+// The storage object of a save that was rolled back; nothing else points to it any more.
+QCoro::Task<> removeObject(Supabase client, QString path, QString accessToken)
+{
+    BackendRequest request;
+    request.method = "DELETE";
+    request.path = u"storage/v1/object/"_s + bucket + u'/' + path;
+    request.headers = {
+        {"apikey", client.anonKey().toUtf8()},
+        {"Authorization", QByteArray("Bearer " + accessToken.toUtf8())},
+    };
+    co_await client.send(std::move(request), Supabase::Channel::Data);
+}
+
 QString rawStatus(InvoiceStatus status)
 {
     return Wire::enumName(status);
@@ -658,6 +671,7 @@ QCoro::Task<std::optional<Invoice>> AppStore::saveInvoice(InvoiceSaveRequest req
     const Supabase client = m_auth.client();
     SaveStep step = SaveStep::Client;
     std::optional<Invoice> created;
+    std::optional<QString> uploadedPath;
     std::exception_ptr failure;
     QString failureText;
     QString failureLog;
@@ -687,6 +701,7 @@ QCoro::Task<std::optional<Invoice>> AppStore::saveInvoice(InvoiceSaveRequest req
             return client.uploadObject(bucket, path, pdf, "application/pdf", true, token);
         };
         co_await authorized(*session, uploadRequest);
+        uploadedPath = path;
         const QueryItems byId = idFilter(invoiceId);
         const PdfPathPatch pathPatch{path};
         const auto pathRequest = [&](const QString &token) {
@@ -741,8 +756,7 @@ QCoro::Task<std::optional<Invoice>> AppStore::saveInvoice(InvoiceSaveRequest req
 
     if (failure) {
         if (created) {
-            // Lines and links go with the row; the uploaded PDF stays as an orphan object, which
-            // a later save under the same number overwrites.
+            // Lines and links go with the row.
             const QueryItems byId = idFilter(created->id);
             try {
                 const auto deleteRequest = [&](const QString &token) {
@@ -751,6 +765,16 @@ QCoro::Task<std::optional<Invoice>> AppStore::saveInvoice(InvoiceSaveRequest req
                 co_await authorized(*session, deleteRequest);
             } catch (const MorvaneError &error) {
                 qCWarning(lcStore).noquote() << u"Save invoice clean-up failed: "_s + error.message();
+            }
+        }
+        if (uploadedPath) {
+            // Best effort: a PDF left behind harms nobody, it only takes room.
+            const QString path = *uploadedPath;
+            try {
+                const auto removeRequest = [&](const QString &token) { return removeObject(client, path, token); };
+                co_await authorized(*session, removeRequest);
+            } catch (const MorvaneError &error) {
+                qCInfo(lcStore).noquote() << u"Save invoice left its PDF behind: "_s + error.message();
             }
         }
         setInvoiceSaveMessage(failureText);

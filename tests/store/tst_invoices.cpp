@@ -410,12 +410,17 @@ private slots:
         broken.lines.append(InvoiceLineInsert{});
         broken.lines.last().taskId = u"00000000-0000-4000-8000-00000000dead"_s;
         const QByteArray before = db().exec("SELECT count(*) FROM invoices", {}).value(0, 0);
+        broken.invoice.number = *runBlocking(store().allocateInvoiceNumber());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Save invoice failed: "_s));
-        QVERIFY(!save(broken));
+        QVERIFY(!runBlocking(store().saveInvoice(broken)));
         QVERIFY2(store().invoiceSaveMessage().startsWith(u"Save invoice failed: "_s),
                  qPrintable(store().invoiceSaveMessage()));
         QCOMPARE(db().exec("SELECT count(*) FROM invoices", {}).value(0, 0), before);
         QCOMPARE(sql("SELECT count(*) FROM invoice_entries WHERE time_entry_id = $1", entry.toUtf8()), "0");
+        const QString path = AppStore::invoicePdfPath(m_device->userId(), broken.invoice.number);
+        QCOMPARE(sql("SELECT count(*) FROM storage.objects WHERE bucket_id = 'invoice-templates' AND name = $1",
+                     path.toUtf8()),
+                 "0");
         QVERIFY(unbilledHas(entry));
     }
 
