@@ -1107,6 +1107,50 @@
       <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
       <translation>Stornieren ist noch nicht möglich, weil der Server noch nicht aktualisiert wurde. Versuche es später erneut.</translation>
     </message>
+    <message id="inv.extrasBilledBefore">
+      <source>extras already billed</source>
+      <translation>Zuschläge bereits berechnet</translation>
+    </message>
+    <message id="inv.followUp">
+      <source>FOLLOW-UP</source>
+      <translation>FOLGERECHNUNG</translation>
+    </message>
+    <message id="inv.inProjectPrice">
+      <source>included in the project price</source>
+      <translation>im Projektpreis enthalten</translation>
+    </message>
+    <message id="inv.line.discount">
+      <source>Discount</source>
+      <translation>Rabatt</translation>
+    </message>
+    <message id="inv.line.fixedPrice">
+      <source>fixed price</source>
+      <translation>Festpreis</translation>
+    </message>
+    <message id="inv.line.materials">
+      <source>Materials</source>
+      <translation>Material</translation>
+    </message>
+    <message id="inv.line.minimum">
+      <source>Minimum charge</source>
+      <translation>Mindestbetrag</translation>
+    </message>
+    <message id="inv.line.projectPrice">
+      <source>Project price</source>
+      <translation>Projektpreis</translation>
+    </message>
+    <message id="inv.line.surcharge">
+      <source>Call-out fee</source>
+      <translation>Anfahrtspauschale</translation>
+    </message>
+    <message id="inv.oncePerProject">
+      <source>once per project</source>
+      <translation>einmal pro Projekt</translation>
+    </message>
+    <message id="inv.onlyNewTime">
+      <source>new time only</source>
+      <translation>nur neue Zeit</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>Die Rechnungsseite konnte nicht geladen werden.</translation>
@@ -1127,9 +1171,65 @@
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>Die Rechnungsseite wurde nicht innerhalb von %1 Sekunden geladen.</translation>
     </message>
+    <message id="inv.priceBilledBefore">
+      <source>fixed price already billed</source>
+      <translation>Festpreis bereits berechnet</translation>
+    </message>
+    <message id="inv.projectExtras">
+      <source>Project extras</source>
+      <translation>Projektzuschläge</translation>
+    </message>
+    <message id="inv.rebill">
+      <source>Bill again</source>
+      <translation>Erneut berechnen</translation>
+    </message>
+    <message id="inv.rebillHelp">
+      <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
+      <translation>Diese Arbeit wurde bereits berechnet. Festpreis oder Preis pro Einheit, Mindestbetrag, Anfahrtspauschale, Material und ein fester Rabatt werden nur einmal berechnet. Schalten Sie dies ein, um sie erneut zu berechnen.</translation>
+    </message>
     <message id="inv.saved">
       <source>Invoice %1 saved</source>
       <translation>Rechnung %1 gespeichert</translation>
+    </message>
+    <message id="inv.subtotal">
+      <source>Subtotal</source>
+      <translation>Zwischensumme</translation>
+    </message>
+    <message id="inv.total">
+      <source>Total</source>
+      <translation>Gesamt</translation>
+    </message>
+    <message id="inv.unit.days">
+      <source>day</source>
+      <translation>Tag</translation>
+    </message>
+    <message id="inv.unit.hours">
+      <source>h</source>
+      <translation>Std.</translation>
+    </message>
+    <message id="inv.unit.units">
+      <source>unit</source>
+      <translation>Einheit</translation>
+    </message>
+    <message id="inv.vat.hint">
+      <source>Each line uses the VAT rate of its price settings, else the template's rate.</source>
+      <translation>Jede Position nutzt den USt.-Satz ihrer Preiseinstellung, sonst den der Vorlage.</translation>
+    </message>
+    <message id="inv.vat.none">
+      <source>No VAT on these lines</source>
+      <translation>Keine USt. auf diese Positionen</translation>
+    </message>
+    <message id="inv.vat.override">
+      <source>Set VAT manually</source>
+      <translation>USt. manuell festlegen</translation>
+    </message>
+    <message id="inv.vat.row">
+      <source>VAT %1%</source>
+      <translation>USt. %1 %</translation>
+    </message>
+    <message id="inv.vat.rowOver">
+      <source>VAT %1% on %2</source>
+      <translation>USt. %1 % auf %2</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>

@@ -1107,6 +1107,50 @@
       <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
       <translation>Voiding is not available yet because the server has not been updated. Try again later.</translation>
     </message>
+    <message id="inv.extrasBilledBefore">
+      <source>extras already billed</source>
+      <translation>extras already billed</translation>
+    </message>
+    <message id="inv.followUp">
+      <source>FOLLOW-UP</source>
+      <translation>FOLLOW-UP</translation>
+    </message>
+    <message id="inv.inProjectPrice">
+      <source>included in the project price</source>
+      <translation>included in the project price</translation>
+    </message>
+    <message id="inv.line.discount">
+      <source>Discount</source>
+      <translation>Discount</translation>
+    </message>
+    <message id="inv.line.fixedPrice">
+      <source>fixed price</source>
+      <translation>fixed price</translation>
+    </message>
+    <message id="inv.line.materials">
+      <source>Materials</source>
+      <translation>Materials</translation>
+    </message>
+    <message id="inv.line.minimum">
+      <source>Minimum charge</source>
+      <translation>Minimum charge</translation>
+    </message>
+    <message id="inv.line.projectPrice">
+      <source>Project price</source>
+      <translation>Project price</translation>
+    </message>
+    <message id="inv.line.surcharge">
+      <source>Call-out fee</source>
+      <translation>Call-out fee</translation>
+    </message>
+    <message id="inv.oncePerProject">
+      <source>once per project</source>
+      <translation>once per project</translation>
+    </message>
+    <message id="inv.onlyNewTime">
+      <source>new time only</source>
+      <translation>new time only</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>The invoice page could not be loaded.</translation>
@@ -1127,9 +1171,65 @@
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>The invoice page did not finish loading within %1 seconds.</translation>
     </message>
+    <message id="inv.priceBilledBefore">
+      <source>fixed price already billed</source>
+      <translation>fixed price already billed</translation>
+    </message>
+    <message id="inv.projectExtras">
+      <source>Project extras</source>
+      <translation>Project extras</translation>
+    </message>
+    <message id="inv.rebill">
+      <source>Bill again</source>
+      <translation>Bill again</translation>
+    </message>
+    <message id="inv.rebillHelp">
+      <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
+      <translation>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</translation>
+    </message>
     <message id="inv.saved">
       <source>Invoice %1 saved</source>
       <translation>Invoice %1 saved</translation>
+    </message>
+    <message id="inv.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotal</translation>
+    </message>
+    <message id="inv.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="inv.unit.days">
+      <source>day</source>
+      <translation>day</translation>
+    </message>
+    <message id="inv.unit.hours">
+      <source>h</source>
+      <translation>h</translation>
+    </message>
+    <message id="inv.unit.units">
+      <source>unit</source>
+      <translation>unit</translation>
+    </message>
+    <message id="inv.vat.hint">
+      <source>Each line uses the VAT rate of its price settings, else the template's rate.</source>
+      <translation>Each line uses the VAT rate of its price settings, else the template's rate.</translation>
+    </message>
+    <message id="inv.vat.none">
+      <source>No VAT on these lines</source>
+      <translation>No VAT on these lines</translation>
+    </message>
+    <message id="inv.vat.override">
+      <source>Set VAT manually</source>
+      <translation>Set VAT manually</translation>
+    </message>
+    <message id="inv.vat.row">
+      <source>VAT %1%</source>
+      <translation>VAT %1%</translation>
+    </message>
+    <message id="inv.vat.rowOver">
+      <source>VAT %1% on %2</source>
+      <translation>VAT %1% on %2</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>

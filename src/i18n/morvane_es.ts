@@ -1107,6 +1107,50 @@
       <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
       <translation>Anular aún no está disponible porque el servidor no se ha actualizado. Inténtalo más tarde.</translation>
     </message>
+    <message id="inv.extrasBilledBefore">
+      <source>extras already billed</source>
+      <translation>extras ya facturados</translation>
+    </message>
+    <message id="inv.followUp">
+      <source>FOLLOW-UP</source>
+      <translation>CONTINUACIÓN</translation>
+    </message>
+    <message id="inv.inProjectPrice">
+      <source>included in the project price</source>
+      <translation>incluido en el precio del proyecto</translation>
+    </message>
+    <message id="inv.line.discount">
+      <source>Discount</source>
+      <translation>Descuento</translation>
+    </message>
+    <message id="inv.line.fixedPrice">
+      <source>fixed price</source>
+      <translation>precio fijo</translation>
+    </message>
+    <message id="inv.line.materials">
+      <source>Materials</source>
+      <translation>Materiales</translation>
+    </message>
+    <message id="inv.line.minimum">
+      <source>Minimum charge</source>
+      <translation>Importe mínimo</translation>
+    </message>
+    <message id="inv.line.projectPrice">
+      <source>Project price</source>
+      <translation>Precio del proyecto</translation>
+    </message>
+    <message id="inv.line.surcharge">
+      <source>Call-out fee</source>
+      <translation>Gastos de desplazamiento</translation>
+    </message>
+    <message id="inv.oncePerProject">
+      <source>once per project</source>
+      <translation>una vez por proyecto</translation>
+    </message>
+    <message id="inv.onlyNewTime">
+      <source>new time only</source>
+      <translation>solo tiempo nuevo</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>No se pudo cargar la página de la factura.</translation>
@@ -1127,9 +1171,65 @@
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>La página de la factura no terminó de cargarse en %1 segundos.</translation>
     </message>
+    <message id="inv.priceBilledBefore">
+      <source>fixed price already billed</source>
+      <translation>precio fijo ya facturado</translation>
+    </message>
+    <message id="inv.projectExtras">
+      <source>Project extras</source>
+      <translation>Extras del proyecto</translation>
+    </message>
+    <message id="inv.rebill">
+      <source>Bill again</source>
+      <translation>Facturar de nuevo</translation>
+    </message>
+    <message id="inv.rebillHelp">
+      <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
+      <translation>Este trabajo ya se facturó. Su precio fijo o por unidad, el importe mínimo, los gastos de desplazamiento, los materiales y un descuento fijo se facturan una sola vez. Actívalo para facturarlos de nuevo.</translation>
+    </message>
     <message id="inv.saved">
       <source>Invoice %1 saved</source>
       <translation>Factura %1 guardada</translation>
+    </message>
+    <message id="inv.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotal</translation>
+    </message>
+    <message id="inv.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="inv.unit.days">
+      <source>day</source>
+      <translation>día</translation>
+    </message>
+    <message id="inv.unit.hours">
+      <source>h</source>
+      <translation>h</translation>
+    </message>
+    <message id="inv.unit.units">
+      <source>unit</source>
+      <translation>unidad</translation>
+    </message>
+    <message id="inv.vat.hint">
+      <source>Each line uses the VAT rate of its price settings, else the template's rate.</source>
+      <translation>Cada línea usa el tipo de IVA de su configuración de precio; si no, el de la plantilla.</translation>
+    </message>
+    <message id="inv.vat.none">
+      <source>No VAT on these lines</source>
+      <translation>Sin IVA en estas líneas</translation>
+    </message>
+    <message id="inv.vat.override">
+      <source>Set VAT manually</source>
+      <translation>Fijar el IVA manualmente</translation>
+    </message>
+    <message id="inv.vat.row">
+      <source>VAT %1%</source>
+      <translation>IVA %1%</translation>
+    </message>
+    <message id="inv.vat.rowOver">
+      <source>VAT %1% on %2</source>
+      <translation>IVA %1% sobre %2</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>

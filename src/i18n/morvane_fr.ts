@@ -1107,6 +1107,50 @@
       <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
       <translation>L'annulation n'est pas encore disponible car le serveur n'a pas été mis à jour. Réessayez plus tard.</translation>
     </message>
+    <message id="inv.extrasBilledBefore">
+      <source>extras already billed</source>
+      <translation>suppléments déjà facturés</translation>
+    </message>
+    <message id="inv.followUp">
+      <source>FOLLOW-UP</source>
+      <translation>SUITE</translation>
+    </message>
+    <message id="inv.inProjectPrice">
+      <source>included in the project price</source>
+      <translation>inclus dans le prix du projet</translation>
+    </message>
+    <message id="inv.line.discount">
+      <source>Discount</source>
+      <translation>Remise</translation>
+    </message>
+    <message id="inv.line.fixedPrice">
+      <source>fixed price</source>
+      <translation>prix fixe</translation>
+    </message>
+    <message id="inv.line.materials">
+      <source>Materials</source>
+      <translation>Matériel</translation>
+    </message>
+    <message id="inv.line.minimum">
+      <source>Minimum charge</source>
+      <translation>Montant minimum</translation>
+    </message>
+    <message id="inv.line.projectPrice">
+      <source>Project price</source>
+      <translation>Prix du projet</translation>
+    </message>
+    <message id="inv.line.surcharge">
+      <source>Call-out fee</source>
+      <translation>Frais de déplacement</translation>
+    </message>
+    <message id="inv.oncePerProject">
+      <source>once per project</source>
+      <translation>une fois par projet</translation>
+    </message>
+    <message id="inv.onlyNewTime">
+      <source>new time only</source>
+      <translation>nouveau temps uniquement</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>La page de la facture n’a pas pu être chargée.</translation>
@@ -1127,9 +1171,65 @@
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>La page de la facture n’a pas fini de se charger en %1 secondes.</translation>
     </message>
+    <message id="inv.priceBilledBefore">
+      <source>fixed price already billed</source>
+      <translation>prix fixe déjà facturé</translation>
+    </message>
+    <message id="inv.projectExtras">
+      <source>Project extras</source>
+      <translation>Suppléments du projet</translation>
+    </message>
+    <message id="inv.rebill">
+      <source>Bill again</source>
+      <translation>Facturer à nouveau</translation>
+    </message>
+    <message id="inv.rebillHelp">
+      <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
+      <translation>Ce travail a déjà été facturé. Son prix fixe ou unitaire, le montant minimum, les frais de déplacement, le matériel et une remise fixe ne sont facturés qu'une fois. Activez cette option pour les facturer à nouveau.</translation>
+    </message>
     <message id="inv.saved">
       <source>Invoice %1 saved</source>
       <translation>Facture %1 enregistrée</translation>
+    </message>
+    <message id="inv.subtotal">
+      <source>Subtotal</source>
+      <translation>Sous-total</translation>
+    </message>
+    <message id="inv.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="inv.unit.days">
+      <source>day</source>
+      <translation>jour</translation>
+    </message>
+    <message id="inv.unit.hours">
+      <source>h</source>
+      <translation>h</translation>
+    </message>
+    <message id="inv.unit.units">
+      <source>unit</source>
+      <translation>unité</translation>
+    </message>
+    <message id="inv.vat.hint">
+      <source>Each line uses the VAT rate of its price settings, else the template's rate.</source>
+      <translation>Chaque ligne utilise le taux de TVA de son réglage de prix, sinon celui du modèle.</translation>
+    </message>
+    <message id="inv.vat.none">
+      <source>No VAT on these lines</source>
+      <translation>Pas de TVA sur ces lignes</translation>
+    </message>
+    <message id="inv.vat.override">
+      <source>Set VAT manually</source>
+      <translation>Définir la TVA manuellement</translation>
+    </message>
+    <message id="inv.vat.row">
+      <source>VAT %1%</source>
+      <translation>TVA %1 %</translation>
+    </message>
+    <message id="inv.vat.rowOver">
+      <source>VAT %1% on %2</source>
+      <translation>TVA %1 % sur %2</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>

@@ -1107,6 +1107,50 @@
       <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
       <translation>L'annullamento non è ancora disponibile perché il server non è stato aggiornato. Riprova più tardi.</translation>
     </message>
+    <message id="inv.extrasBilledBefore">
+      <source>extras already billed</source>
+      <translation>extra già fatturati</translation>
+    </message>
+    <message id="inv.followUp">
+      <source>FOLLOW-UP</source>
+      <translation>SEGUITO</translation>
+    </message>
+    <message id="inv.inProjectPrice">
+      <source>included in the project price</source>
+      <translation>incluso nel prezzo del progetto</translation>
+    </message>
+    <message id="inv.line.discount">
+      <source>Discount</source>
+      <translation>Sconto</translation>
+    </message>
+    <message id="inv.line.fixedPrice">
+      <source>fixed price</source>
+      <translation>prezzo fisso</translation>
+    </message>
+    <message id="inv.line.materials">
+      <source>Materials</source>
+      <translation>Materiali</translation>
+    </message>
+    <message id="inv.line.minimum">
+      <source>Minimum charge</source>
+      <translation>Importo minimo</translation>
+    </message>
+    <message id="inv.line.projectPrice">
+      <source>Project price</source>
+      <translation>Prezzo del progetto</translation>
+    </message>
+    <message id="inv.line.surcharge">
+      <source>Call-out fee</source>
+      <translation>Diritto di chiamata</translation>
+    </message>
+    <message id="inv.oncePerProject">
+      <source>once per project</source>
+      <translation>una volta per progetto</translation>
+    </message>
+    <message id="inv.onlyNewTime">
+      <source>new time only</source>
+      <translation>solo tempo nuovo</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>Impossibile caricare la pagina della fattura.</translation>
@@ -1127,9 +1171,65 @@
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>La pagina della fattura non è stata caricata entro %1 secondi.</translation>
     </message>
+    <message id="inv.priceBilledBefore">
+      <source>fixed price already billed</source>
+      <translation>prezzo fisso già fatturato</translation>
+    </message>
+    <message id="inv.projectExtras">
+      <source>Project extras</source>
+      <translation>Extra del progetto</translation>
+    </message>
+    <message id="inv.rebill">
+      <source>Bill again</source>
+      <translation>Fatturare di nuovo</translation>
+    </message>
+    <message id="inv.rebillHelp">
+      <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
+      <translation>Questo lavoro è già stato fatturato. Il prezzo fisso o per unità, l'importo minimo, il diritto di chiamata, i materiali e uno sconto fisso si fatturano una sola volta. Attiva questa opzione per fatturarli di nuovo.</translation>
+    </message>
     <message id="inv.saved">
       <source>Invoice %1 saved</source>
       <translation>Fattura %1 salvata</translation>
+    </message>
+    <message id="inv.subtotal">
+      <source>Subtotal</source>
+      <translation>Imponibile</translation>
+    </message>
+    <message id="inv.total">
+      <source>Total</source>
+      <translation>Totale</translation>
+    </message>
+    <message id="inv.unit.days">
+      <source>day</source>
+      <translation>giorno</translation>
+    </message>
+    <message id="inv.unit.hours">
+      <source>h</source>
+      <translation>h</translation>
+    </message>
+    <message id="inv.unit.units">
+      <source>unit</source>
+      <translation>unità</translation>
+    </message>
+    <message id="inv.vat.hint">
+      <source>Each line uses the VAT rate of its price settings, else the template's rate.</source>
+      <translation>Ogni riga usa l'aliquota IVA della sua impostazione di prezzo, altrimenti quella del modello.</translation>
+    </message>
+    <message id="inv.vat.none">
+      <source>No VAT on these lines</source>
+      <translation>Nessuna IVA su queste righe</translation>
+    </message>
+    <message id="inv.vat.override">
+      <source>Set VAT manually</source>
+      <translation>Imposta l'IVA manualmente</translation>
+    </message>
+    <message id="inv.vat.row">
+      <source>VAT %1%</source>
+      <translation>IVA %1%</translation>
+    </message>
+    <message id="inv.vat.rowOver">
+      <source>VAT %1% on %2</source>
+      <translation>IVA %1% su %2</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>

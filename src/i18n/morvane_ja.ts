@@ -1107,6 +1107,50 @@
       <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
       <translation>サーバーが更新されていないため、まだ無効にできません。後でもう一度お試しください。</translation>
     </message>
+    <message id="inv.extrasBilledBefore">
+      <source>extras already billed</source>
+      <translation>追加料金は請求済み</translation>
+    </message>
+    <message id="inv.followUp">
+      <source>FOLLOW-UP</source>
+      <translation>追加請求</translation>
+    </message>
+    <message id="inv.inProjectPrice">
+      <source>included in the project price</source>
+      <translation>プロジェクト価格に含まれます</translation>
+    </message>
+    <message id="inv.line.discount">
+      <source>Discount</source>
+      <translation>割引</translation>
+    </message>
+    <message id="inv.line.fixedPrice">
+      <source>fixed price</source>
+      <translation>固定価格</translation>
+    </message>
+    <message id="inv.line.materials">
+      <source>Materials</source>
+      <translation>材料費</translation>
+    </message>
+    <message id="inv.line.minimum">
+      <source>Minimum charge</source>
+      <translation>最低料金</translation>
+    </message>
+    <message id="inv.line.projectPrice">
+      <source>Project price</source>
+      <translation>プロジェクト価格</translation>
+    </message>
+    <message id="inv.line.surcharge">
+      <source>Call-out fee</source>
+      <translation>出張費</translation>
+    </message>
+    <message id="inv.oncePerProject">
+      <source>once per project</source>
+      <translation>プロジェクトごとに1回</translation>
+    </message>
+    <message id="inv.onlyNewTime">
+      <source>new time only</source>
+      <translation>新しい時間のみ</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>請求書ページを読み込めませんでした。</translation>
@@ -1127,9 +1171,65 @@
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>請求書ページの読み込みが %1 秒以内に完了しませんでした。</translation>
     </message>
+    <message id="inv.priceBilledBefore">
+      <source>fixed price already billed</source>
+      <translation>固定価格は請求済み</translation>
+    </message>
+    <message id="inv.projectExtras">
+      <source>Project extras</source>
+      <translation>プロジェクトの追加料金</translation>
+    </message>
+    <message id="inv.rebill">
+      <source>Bill again</source>
+      <translation>再度請求する</translation>
+    </message>
+    <message id="inv.rebillHelp">
+      <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
+      <translation>この作業は以前に請求済みです。固定価格または単価、最低料金、出張費、材料費、定額割引は1回だけ請求されます。再度請求するにはオンにしてください。</translation>
+    </message>
     <message id="inv.saved">
       <source>Invoice %1 saved</source>
       <translation>請求書 %1 を保存しました</translation>
+    </message>
+    <message id="inv.subtotal">
+      <source>Subtotal</source>
+      <translation>小計</translation>
+    </message>
+    <message id="inv.total">
+      <source>Total</source>
+      <translation>合計</translation>
+    </message>
+    <message id="inv.unit.days">
+      <source>day</source>
+      <translation>日</translation>
+    </message>
+    <message id="inv.unit.hours">
+      <source>h</source>
+      <translation>時間</translation>
+    </message>
+    <message id="inv.unit.units">
+      <source>unit</source>
+      <translation>単位</translation>
+    </message>
+    <message id="inv.vat.hint">
+      <source>Each line uses the VAT rate of its price settings, else the template's rate.</source>
+      <translation>各明細は価格設定の消費税率を使い、ない場合はテンプレートの税率を使います。</translation>
+    </message>
+    <message id="inv.vat.none">
+      <source>No VAT on these lines</source>
+      <translation>これらの明細は非課税</translation>
+    </message>
+    <message id="inv.vat.override">
+      <source>Set VAT manually</source>
+      <translation>消費税を手動で設定</translation>
+    </message>
+    <message id="inv.vat.row">
+      <source>VAT %1%</source>
+      <translation>消費税 %1%</translation>
+    </message>
+    <message id="inv.vat.rowOver">
+      <source>VAT %1% on %2</source>
+      <translation>%2 に対する消費税 %1%</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>

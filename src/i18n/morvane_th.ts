@@ -1107,6 +1107,50 @@
       <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
       <translation>ยังยกเลิกไม่ได้เพราะเซิร์ฟเวอร์ยังไม่ได้อัปเดต โปรดลองอีกครั้งภายหลัง</translation>
     </message>
+    <message id="inv.extrasBilledBefore">
+      <source>extras already billed</source>
+      <translation>เรียกเก็บค่าใช้จ่ายเพิ่มเติมแล้ว</translation>
+    </message>
+    <message id="inv.followUp">
+      <source>FOLLOW-UP</source>
+      <translation>งานต่อเนื่อง</translation>
+    </message>
+    <message id="inv.inProjectPrice">
+      <source>included in the project price</source>
+      <translation>รวมอยู่ในราคาโครงการ</translation>
+    </message>
+    <message id="inv.line.discount">
+      <source>Discount</source>
+      <translation>ส่วนลด</translation>
+    </message>
+    <message id="inv.line.fixedPrice">
+      <source>fixed price</source>
+      <translation>ราคาเหมา</translation>
+    </message>
+    <message id="inv.line.materials">
+      <source>Materials</source>
+      <translation>ค่าวัสดุ</translation>
+    </message>
+    <message id="inv.line.minimum">
+      <source>Minimum charge</source>
+      <translation>ค่าบริการขั้นต่ำ</translation>
+    </message>
+    <message id="inv.line.projectPrice">
+      <source>Project price</source>
+      <translation>ราคาโครงการ</translation>
+    </message>
+    <message id="inv.line.surcharge">
+      <source>Call-out fee</source>
+      <translation>ค่าเดินทาง</translation>
+    </message>
+    <message id="inv.oncePerProject">
+      <source>once per project</source>
+      <translation>ครั้งเดียวต่อโครงการ</translation>
+    </message>
+    <message id="inv.onlyNewTime">
+      <source>new time only</source>
+      <translation>เฉพาะเวลาใหม่</translation>
+    </message>
     <message id="inv.pdf.err.load">
       <source>The invoice page could not be loaded.</source>
       <translation>ไม่สามารถโหลดหน้าใบแจ้งหนี้ได้</translation>
@@ -1127,9 +1171,65 @@
       <source>The invoice page did not finish loading within %1 seconds.</source>
       <translation>หน้าใบแจ้งหนี้โหลดไม่เสร็จภายใน %1 วินาที</translation>
     </message>
+    <message id="inv.priceBilledBefore">
+      <source>fixed price already billed</source>
+      <translation>เรียกเก็บราคาเหมาแล้ว</translation>
+    </message>
+    <message id="inv.projectExtras">
+      <source>Project extras</source>
+      <translation>ค่าใช้จ่ายเพิ่มเติมของโครงการ</translation>
+    </message>
+    <message id="inv.rebill">
+      <source>Bill again</source>
+      <translation>เรียกเก็บอีกครั้ง</translation>
+    </message>
+    <message id="inv.rebillHelp">
+      <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
+      <translation>งานนี้เคยเรียกเก็บเงินแล้ว ราคาเหมาหรือราคาต่อหน่วย ค่าบริการขั้นต่ำ ค่าเดินทาง ค่าวัสดุ และส่วนลดแบบจำนวนเงินจะเรียกเก็บเพียงครั้งเดียว เปิดตัวเลือกนี้เพื่อเรียกเก็บอีกครั้ง</translation>
+    </message>
     <message id="inv.saved">
       <source>Invoice %1 saved</source>
       <translation>บันทึกใบแจ้งหนี้ %1 แล้ว</translation>
+    </message>
+    <message id="inv.subtotal">
+      <source>Subtotal</source>
+      <translation>ยอดรวมก่อนภาษี</translation>
+    </message>
+    <message id="inv.total">
+      <source>Total</source>
+      <translation>ยอดรวม</translation>
+    </message>
+    <message id="inv.unit.days">
+      <source>day</source>
+      <translation>วัน</translation>
+    </message>
+    <message id="inv.unit.hours">
+      <source>h</source>
+      <translation>ชม.</translation>
+    </message>
+    <message id="inv.unit.units">
+      <source>unit</source>
+      <translation>หน่วย</translation>
+    </message>
+    <message id="inv.vat.hint">
+      <source>Each line uses the VAT rate of its price settings, else the template's rate.</source>
+      <translation>แต่ละรายการใช้อัตราภาษีมูลค่าเพิ่มจากการตั้งราคาของรายการนั้น หากไม่มีจะใช้อัตราของเทมเพลต</translation>
+    </message>
+    <message id="inv.vat.none">
+      <source>No VAT on these lines</source>
+      <translation>รายการเหล่านี้ไม่มีภาษีมูลค่าเพิ่ม</translation>
+    </message>
+    <message id="inv.vat.override">
+      <source>Set VAT manually</source>
+      <translation>กำหนดภาษีมูลค่าเพิ่มเอง</translation>
+    </message>
+    <message id="inv.vat.row">
+      <source>VAT %1%</source>
+      <translation>ภาษีมูลค่าเพิ่ม %1%</translation>
+    </message>
+    <message id="inv.vat.rowOver">
+      <source>VAT %1% on %2</source>
+      <translation>ภาษีมูลค่าเพิ่ม %1% จาก %2</translation>
     </message>
     <message id="inviteAlreadyMember">
       <source>%1 is already in this team.</source>
