@@ -1,7 +1,10 @@
 #include "app/clisession.h"
 #include "app/storecommands.h"
 #include "backend/runblocking.h"
+#include "billing/invoicelines.h"
 #include "billing/money.h"
+#include "billing/moneyinput.h"
+#include "model/isodate.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -133,6 +136,139 @@ int showInvoice(AppStore &store, const Invoice &invoice, bool json, QTextStream 
     return 0;
 }
 
+QString lineKindName(Earnings::BuiltLine::Kind kind)
+{
+    using Kind = Earnings::BuiltLine::Kind;
+    switch (kind) {
+    case Kind::Work: return u"work"_s;
+    case Kind::Fixed: return u"fixed"_s;
+    case Kind::PerUnit: return u"per_unit"_s;
+    case Kind::MinCharge: return u"min_charge"_s;
+    case Kind::Surcharge: return u"surcharge"_s;
+    case Kind::Materials: return u"materials"_s;
+    case Kind::Discount: return u"discount"_s;
+    case Kind::Travel: return u"travel"_s;
+    }
+    return {};
+}
+
+// What a save of the project's unbilled time in [from, to] would write: the store's unbilled
+// entries grouped per task, built into lines with what was billed before, VAT per rate.
+int showDraft(AppStore &store, const Project &project, std::optional<QDate> from, std::optional<QDate> to,
+              std::optional<double> vatPercent, bool json, QTextStream &out)
+{
+    QHash<QString, Earnings::ComposerTask> byTask;
+    QStringList order;
+    std::optional<QDate> first;
+    std::optional<QDate> last;
+    for (const TimeEntry &entry : store.unbilledEntries()) {
+        if (entry.projectId != project.id) {
+            continue;
+        }
+        const std::optional<QDateTime> started = isoDate(entry.startedAt);
+        const QDate day = started ? started->toLocalTime().date() : QDate();
+        if ((from && day < *from) || (to && day > *to)) {
+            continue;
+        }
+        const std::optional<TaskItem> task = store.task(entry.taskId);
+        if (!task) {
+            continue;
+        }
+        if (!byTask.contains(task->id)) {
+            order << task->id;
+            byTask.insert(task->id, Earnings::ComposerTask{*task, project, 0, {}});
+        }
+        Earnings::ComposerTask &composed = byTask[task->id];
+        composed.seconds += entry.durationSeconds;
+        composed.entryIds << entry.id;
+        first = first ? std::min(*first, day) : day;
+        last = last ? std::max(*last, day) : day;
+    }
+    QList<Earnings::ComposerTask> tasks;
+    QStringList entryIds;
+    for (const QString &taskId : std::as_const(order)) {
+        tasks << byTask.value(taskId);
+        entryIds << byTask.value(taskId).entryIds;
+    }
+    const std::optional<Profile> &profile = store.profile();
+    const double defaultRate = profile && profile->defaultHourlyRate ? *profile->defaultHourlyRate : 0.0;
+    const QString currency = profile && profile->currency && !profile->currency->isEmpty() ? *profile->currency : u"EUR"_s;
+    const Earnings::BuildResult built = Earnings::buildInvoiceLines(
+        tasks, defaultRate, store.priorBilling().tasks, store.priorBilling().poolProjects, {}, Earnings::lineLabels());
+    const Earnings::VatResult vat = Earnings::computeVat(built.lines, built.subtotal, std::nullopt, vatPercent.value_or(0));
+    const QString fromText = (from ? from : first) ? (from ? *from : *first).toString(Qt::ISODate) : QString();
+    const QString toText = (to ? to : last) ? (to ? *to : *last).toString(Qt::ISODate) : QString();
+
+    if (json) {
+        QJsonArray lines;
+        for (const Earnings::BuiltLine &line : built.lines) {
+            QJsonObject object{{u"kind"_s, lineKindName(line.kind)}, {u"title"_s, line.title},
+                               {u"label"_s, line.label},           {u"quantity"_s, line.quantity},
+                               {u"unit_price"_s, line.unitPrice},  {u"amount"_s, line.amount},
+                               {u"unit_key"_s, line.unitKey}};
+            if (line.description) {
+                object.insert(u"description"_s, *line.description);
+            }
+            if (line.unit) {
+                object.insert(u"unit"_s, *line.unit);
+            }
+            if (line.taskId) {
+                object.insert(u"task_id"_s, *line.taskId);
+            }
+            lines.append(object);
+        }
+        QJsonArray units;
+        for (const Earnings::BuiltUnit &unit : built.units) {
+            units.append(QJsonObject{{u"key"_s, unit.key},
+                                     {u"follow_up"_s, unit.followUp},
+                                     {u"one_offs"_s, unit.oneOffs},
+                                     {u"total"_s, unit.total}});
+        }
+        QJsonArray groups;
+        for (const Earnings::VatGroup &group : vat.groups) {
+            groups.append(QJsonObject{{u"percent"_s, group.percent}, {u"base"_s, group.base}, {u"amount"_s, group.amount}});
+        }
+        Cli::printJson(out, QJsonObject{{u"project_id"_s, project.id},
+                                        {u"from"_s, fromText},
+                                        {u"to"_s, toText},
+                                        {u"currency"_s, currency},
+                                        {u"units"_s, units},
+                                        {u"lines"_s, lines},
+                                        {u"entry_ids"_s, QJsonArray::fromStringList(entryIds)},
+                                        {u"subtotal"_s, built.subtotal},
+                                        {u"vat_groups"_s, groups},
+                                        {u"vat_amount"_s, vat.vat},
+                                        {u"total"_s, vat.total}});
+        return 0;
+    }
+    if (built.lines.isEmpty()) {
+        //% "No unbilled time of %1 in this period."
+        out << qtTrId("cli.invoice.draftEmpty").arg(project.name) << Qt::endl;
+        return 0;
+    }
+    out << project.name << u"  "_s << fromText << u" – "_s << toText << u'\n';
+    for (const Earnings::BuiltLine &line : built.lines) {
+        QString title = line.title;
+        if (!line.label.isEmpty() && line.label != line.title) {
+            title += u" ("_s + line.label + u')';
+        }
+        out << u"  "_s << title.leftJustified(40) << u"  "_s << Earnings::formatQty(line.quantity).rightJustified(6)
+            << u' ' << line.unit.value_or(QString()).leftJustified(4) << u"  "_s
+            << formatMoney(line.amount, currency).rightJustified(14) << u'\n';
+        if (line.description) {
+            out << u"      "_s << *line.description << u'\n';
+        }
+    }
+    out << qtTrId("cli.invoice.subtotal").leftJustified(56) << formatMoney(built.subtotal, currency).rightJustified(14)
+        << u'\n';
+    for (const Earnings::VatRow &row : Earnings::vatRows(vat.groups, currency)) {
+        out << row.text.leftJustified(56) << formatMoney(row.amount, currency).rightJustified(14) << u'\n';
+    }
+    out << qtTrId("cli.invoice.total").leftJustified(56) << formatMoney(vat.total, currency).rightJustified(14)
+        << Qt::endl;
+    return 0;
+}
+
 } // namespace
 
 int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStream &err)
@@ -140,7 +276,13 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     QCommandLineParser parser;
     //% "The file to write the PDF to."
     const QCommandLineOption outOption(u"out"_s, qtTrId("cli.invoice.option.out"), u"file"_s);
-    parser.addOption(outOption);
+    //% "First day of the period (yyyy-MM-dd)."
+    const QCommandLineOption fromOption(u"from"_s, qtTrId("cli.invoice.option.from"), u"day"_s);
+    //% "Last day of the period (yyyy-MM-dd)."
+    const QCommandLineOption toOption(u"to"_s, qtTrId("cli.invoice.option.to"), u"day"_s);
+    //% "VAT percentage for lines whose price has none."
+    const QCommandLineOption vatOption(u"vat"_s, qtTrId("cli.invoice.option.vat"), u"percent"_s);
+    parser.addOptions({outOption, fromOption, toOption, vatOption});
     parser.addPositionalArgument(u"action"_s, qtTrId("cli.command.invoice"));
     if (!Cli::parse(parser, arguments, err)) {
         return 2;
@@ -148,11 +290,21 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
     const qsizetype count = positional.size();
-    //% "Usage: morvane invoice list | show <invoice> | status <invoice> draft|sent|paid|void | void <invoice> | rm <invoice> | pdf <invoice> --out FILE [--json]"
+    //% "Usage: morvane invoice draft <project> [--from DAY] [--to DAY] [--vat P] | list | show <invoice> | status <invoice> draft|sent|paid|void | void <invoice> | rm <invoice> | pdf <invoice> --out FILE [--json]"
     const QString usageText = qtTrId("cli.invoice.usage");
     const std::optional<InvoiceStatus> status =
         action == u"status" && count == 3 ? Wire::enumFromName<InvoiceStatus>(positional.at(2)) : std::nullopt;
-    const bool known = (action == u"list" && count == 1) || (action == u"show" && count == 2) ||
+    const auto day = [&](const QCommandLineOption &option) -> std::optional<QDate> {
+        const QDate parsed = QDate::fromString(parser.value(option), Qt::ISODate);
+        return parser.isSet(option) && parsed.isValid() ? std::optional<QDate>(parsed) : std::nullopt;
+    };
+    const std::optional<QDate> from = day(fromOption);
+    const std::optional<QDate> to = day(toOption);
+    const std::optional<double> vatPercent =
+        parser.isSet(vatOption) ? MoneyInput::parseDecimal(parser.value(vatOption)) : std::nullopt;
+    const bool goodDraftOptions = (from || !parser.isSet(fromOption)) && (to || !parser.isSet(toOption)) &&
+                                  (vatPercent || !parser.isSet(vatOption)) && (!from || !to || *from <= *to);
+    const bool known = (action == u"draft" && count == 2 && goodDraftOptions) || (action == u"list" && count == 1) || (action == u"show" && count == 2) ||
                        (action == u"status" && count == 3 && status) || (action == u"void" && count == 2) ||
                        (action == u"rm" && count == 2) || (action == u"pdf" && count == 2 && parser.isSet(outOption));
     if (!known) {
@@ -168,6 +320,18 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
         return session.failed(err);
     }
     const bool json = Cli::wantsJson(parser);
+
+    if (action == u"draft") {
+        const std::optional<Project> project = session.project(positional.at(1), err);
+        if (!project) {
+            return 1;
+        }
+        // No draft from a half-read state: it would bill a fixed price twice or miss hours.
+        if (!runBlocking(store.reloadBilledEntrySet()) || !runBlocking(store.loadUnbilledEntries())) {
+            return session.failed(err);
+        }
+        return showDraft(store, *project, from, to, vatPercent, json, out);
+    }
 
     if (action == u"list") {
         if (json) {

@@ -268,8 +268,8 @@
       <translation>Zeiteinträge anzeigen, bearbeiten oder löschen: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
-      <translation>Rechnungen: invoice list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
+      <translation>Rechnungen: invoice draft|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -391,6 +391,10 @@
       <source>The PDF could not be downloaded: %1</source>
       <translation>Das PDF konnte nicht heruntergeladen werden: %1</translation>
     </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>Keine nicht abgerechnete Zeit von %1 in diesem Zeitraum.</translation>
+    </message>
     <message id="cli.invoice.due">
       <source>, due %1</source>
       <translation>, fällig %1</translation>
@@ -407,9 +411,21 @@
       <source>No invoice matches %1.</source>
       <translation>Keine Rechnung passt zu %1.</translation>
     </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Erster Tag des Zeitraums (JJJJ-MM-TT).</translation>
+    </message>
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>Die Datei, in die das PDF geschrieben wird.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Letzter Tag des Zeitraums (JJJJ-MM-TT).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>USt.-Satz für Positionen, deren Preis keinen hat.</translation>
     </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
@@ -444,8 +460,8 @@
       <translation>Gesamt</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Aufruf: morvane invoice list | show &lt;Rechnung&gt; | status &lt;Rechnung&gt; draft|sent|paid|void | void &lt;Rechnung&gt; | rm &lt;Rechnung&gt; | pdf &lt;Rechnung&gt; --out DATEI [--json]</translation>
+      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Aufruf: morvane invoice draft &lt;Projekt&gt; [--from TAG] [--to TAG] [--vat P] | list | show &lt;Rechnung&gt; | status &lt;Rechnung&gt; draft|sent|paid|void | void &lt;Rechnung&gt; | rm &lt;Rechnung&gt; | pdf &lt;Rechnung&gt; --out DATEI [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

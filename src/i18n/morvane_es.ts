@@ -268,8 +268,8 @@
       <translation>Listar, editar o eliminar entradas de tiempo: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
-      <translation>Facturas: invoice list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
+      <translation>Facturas: invoice draft|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -391,6 +391,10 @@
       <source>The PDF could not be downloaded: %1</source>
       <translation>No se pudo descargar el PDF: %1</translation>
     </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>No hay tiempo sin facturar de %1 en este periodo.</translation>
+    </message>
     <message id="cli.invoice.due">
       <source>, due %1</source>
       <translation>, vence el %1</translation>
@@ -407,9 +411,21 @@
       <source>No invoice matches %1.</source>
       <translation>Ninguna factura coincide con %1.</translation>
     </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Primer día del periodo (aaaa-MM-dd).</translation>
+    </message>
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>El archivo donde escribir el PDF.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Último día del periodo (aaaa-MM-dd).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>Porcentaje de IVA para las líneas cuyo precio no lo tiene.</translation>
     </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
@@ -444,8 +460,8 @@
       <translation>Total</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Uso: morvane invoice list | show &lt;factura&gt; | status &lt;factura&gt; draft|sent|paid|void | void &lt;factura&gt; | rm &lt;factura&gt; | pdf &lt;factura&gt; --out ARCHIVO [--json]</translation>
+      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Uso: morvane invoice draft &lt;proyecto&gt; [--from DÍA] [--to DÍA] [--vat P] | list | show &lt;factura&gt; | status &lt;factura&gt; draft|sent|paid|void | void &lt;factura&gt; | rm &lt;factura&gt; | pdf &lt;factura&gt; --out ARCHIVO [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -268,8 +268,8 @@
       <translation>Lister, modifier ou supprimer des entrées de temps : entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
-      <translation>Factures : invoice list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
+      <translation>Factures : invoice draft|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -391,6 +391,10 @@
       <source>The PDF could not be downloaded: %1</source>
       <translation>Le PDF n'a pas pu être téléchargé : %1</translation>
     </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>Aucun temps non facturé de %1 sur cette période.</translation>
+    </message>
     <message id="cli.invoice.due">
       <source>, due %1</source>
       <translation>, échéance %1</translation>
@@ -407,9 +411,21 @@
       <source>No invoice matches %1.</source>
       <translation>Aucune facture ne correspond à %1.</translation>
     </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Premier jour de la période (aaaa-MM-jj).</translation>
+    </message>
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>Le fichier où écrire le PDF.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Dernier jour de la période (aaaa-MM-jj).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>Taux de TVA des lignes dont le prix n'en a pas.</translation>
     </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
@@ -444,8 +460,8 @@
       <translation>Total</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Usage : morvane invoice list | show &lt;facture&gt; | status &lt;facture&gt; draft|sent|paid|void | void &lt;facture&gt; | rm &lt;facture&gt; | pdf &lt;facture&gt; --out FICHIER [--json]</translation>
+      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Usage : morvane invoice draft &lt;projet&gt; [--from JOUR] [--to JOUR] [--vat P] | list | show &lt;facture&gt; | status &lt;facture&gt; draft|sent|paid|void | void &lt;facture&gt; | rm &lt;facture&gt; | pdf &lt;facture&gt; --out FICHIER [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -268,8 +268,8 @@
       <translation>Elencare, modificare o eliminare voci di tempo: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
-      <translation>Fatture: invoice list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
+      <translation>Fatture: invoice draft|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -391,6 +391,10 @@
       <source>The PDF could not be downloaded: %1</source>
       <translation>Impossibile scaricare il PDF: %1</translation>
     </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>Nessun tempo non fatturato di %1 in questo periodo.</translation>
+    </message>
     <message id="cli.invoice.due">
       <source>, due %1</source>
       <translation>, scadenza %1</translation>
@@ -407,9 +411,21 @@
       <source>No invoice matches %1.</source>
       <translation>Nessuna fattura corrisponde a %1.</translation>
     </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Primo giorno del periodo (aaaa-MM-gg).</translation>
+    </message>
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>Il file in cui scrivere il PDF.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Ultimo giorno del periodo (aaaa-MM-gg).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>Aliquota IVA per le righe il cui prezzo non ne ha una.</translation>
     </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
@@ -444,8 +460,8 @@
       <translation>Totale</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Uso: morvane invoice list | show &lt;fattura&gt; | status &lt;fattura&gt; draft|sent|paid|void | void &lt;fattura&gt; | rm &lt;fattura&gt; | pdf &lt;fattura&gt; --out FILE [--json]</translation>
+      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Uso: morvane invoice draft &lt;progetto&gt; [--from GIORNO] [--to GIORNO] [--vat P] | list | show &lt;fattura&gt; | status &lt;fattura&gt; draft|sent|paid|void | void &lt;fattura&gt; | rm &lt;fattura&gt; | pdf &lt;fattura&gt; --out FILE [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -268,8 +268,8 @@
       <translation>時間エントリーの一覧・編集・削除: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
-      <translation>請求書: invoice list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
+      <translation>請求書: invoice draft|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -391,6 +391,10 @@
       <source>The PDF could not be downloaded: %1</source>
       <translation>PDFをダウンロードできませんでした: %1</translation>
     </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>この期間に %1 の未請求の時間はありません。</translation>
+    </message>
     <message id="cli.invoice.due">
       <source>, due %1</source>
       <translation>、期日 %1</translation>
@@ -407,9 +411,21 @@
       <source>No invoice matches %1.</source>
       <translation>%1 に一致する請求書はありません。</translation>
     </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>期間の初日 (yyyy-MM-dd)。</translation>
+    </message>
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>PDFを書き込むファイル。</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>期間の最終日 (yyyy-MM-dd)。</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>価格に税率がない明細の消費税率。</translation>
     </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
@@ -444,8 +460,8 @@
       <translation>合計</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>使い方: morvane invoice list | show &lt;請求書&gt; | status &lt;請求書&gt; draft|sent|paid|void | void &lt;請求書&gt; | rm &lt;請求書&gt; | pdf &lt;請求書&gt; --out ファイル [--json]</translation>
+      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>使い方: morvane invoice draft &lt;プロジェクト&gt; [--from 日付] [--to 日付] [--vat P] | list | show &lt;請求書&gt; | status &lt;請求書&gt; draft|sent|paid|void | void &lt;請求書&gt; | rm &lt;請求書&gt; | pdf &lt;請求書&gt; --out ファイル [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -268,8 +268,8 @@
       <translation>Tijdregistraties tonen, bewerken of verwijderen: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
-      <translation>Facturen: invoice list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
+      <translation>Facturen: invoice draft|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -391,6 +391,10 @@
       <source>The PDF could not be downloaded: %1</source>
       <translation>De pdf kon niet worden gedownload: %1</translation>
     </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>Geen ongefactureerde tijd van %1 in deze periode.</translation>
+    </message>
     <message id="cli.invoice.due">
       <source>, due %1</source>
       <translation>, vervalt %1</translation>
@@ -407,9 +411,21 @@
       <source>No invoice matches %1.</source>
       <translation>Geen factuur past bij %1.</translation>
     </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Eerste dag van de periode (jjjj-MM-dd).</translation>
+    </message>
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>Het bestand waarin de pdf komt.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Laatste dag van de periode (jjjj-MM-dd).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>Btw-percentage voor regels waarvan de prijs er geen heeft.</translation>
     </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
@@ -444,8 +460,8 @@
       <translation>Totaal</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Gebruik: morvane invoice list | show &lt;factuur&gt; | status &lt;factuur&gt; draft|sent|paid|void | void &lt;factuur&gt; | rm &lt;factuur&gt; | pdf &lt;factuur&gt; --out BESTAND [--json]</translation>
+      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Gebruik: morvane invoice draft &lt;project&gt; [--from DAG] [--to DAG] [--vat P] | list | show &lt;factuur&gt; | status &lt;factuur&gt; draft|sent|paid|void | void &lt;factuur&gt; | rm &lt;factuur&gt; | pdf &lt;factuur&gt; --out BESTAND [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -268,8 +268,8 @@
       <translation>แสดง แก้ไข หรือลบรายการเวลา: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice list|show|status|void|rm|pdf</source>
-      <translation>ใบแจ้งหนี้: invoice list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
+      <translation>ใบแจ้งหนี้: invoice draft|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -391,6 +391,10 @@
       <source>The PDF could not be downloaded: %1</source>
       <translation>ไม่สามารถดาวน์โหลด PDF ได้: %1</translation>
     </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>ไม่มีเวลาที่ยังไม่ได้เรียกเก็บเงินของ %1 ในช่วงนี้</translation>
+    </message>
     <message id="cli.invoice.due">
       <source>, due %1</source>
       <translation> ครบกำหนด %1</translation>
@@ -407,9 +411,21 @@
       <source>No invoice matches %1.</source>
       <translation>ไม่มีใบแจ้งหนี้ที่ตรงกับ %1</translation>
     </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>วันแรกของช่วง (yyyy-MM-dd)</translation>
+    </message>
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>ไฟล์ที่จะเขียน PDF</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>วันสุดท้ายของช่วง (yyyy-MM-dd)</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>อัตราภาษีมูลค่าเพิ่มสำหรับรายการที่ราคาไม่มีอัตรากำหนด</translation>
     </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
@@ -444,8 +460,8 @@
       <translation>ยอดรวม</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>วิธีใช้: morvane invoice list | show &lt;ใบแจ้งหนี้&gt; | status &lt;ใบแจ้งหนี้&gt; draft|sent|paid|void | void &lt;ใบแจ้งหนี้&gt; | rm &lt;ใบแจ้งหนี้&gt; | pdf &lt;ใบแจ้งหนี้&gt; --out ไฟล์ [--json]</translation>
+      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>วิธีใช้: morvane invoice draft &lt;โปรเจกต์&gt; [--from วัน] [--to วัน] [--vat P] | list | show &lt;ใบแจ้งหนี้&gt; | status &lt;ใบแจ้งหนี้&gt; draft|sent|paid|void | void &lt;ใบแจ้งหนี้&gt; | rm &lt;ใบแจ้งหนี้&gt; | pdf &lt;ใบแจ้งหนี้&gt; --out ไฟล์ [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -178,6 +178,78 @@ private slots:
         QVERIFY(!QFile::exists(none));
     }
 
+    void draftBuildsWhatASaveWouldWrite()
+    {
+        const QByteArray project =
+            sql("INSERT INTO projects (user_id, name, hourly_rate) VALUES ($1, 'Harbour', 80) RETURNING id", {m_user});
+        const QByteArray logo = sql("INSERT INTO tasks (user_id, project_id, title, billing) VALUES ($1, $2, 'Logo', "
+                                    "'{\"model\":\"fixed\",\"amount\":1200}') RETURNING id",
+                                    {m_user, project});
+        const QByteArray support =
+            sql("INSERT INTO tasks (user_id, project_id, title) VALUES ($1, $2, 'Support') RETURNING id", {m_user, project});
+        const auto entry = [&](const QByteArray &task, const QByteArray &start, int seconds) {
+            return sql("INSERT INTO time_entries (user_id, task_id, project_id, started_at, ended_at, duration_seconds) "
+                       "VALUES ($1, $2, $3, $4::timestamptz, $4::timestamptz + make_interval(secs => $5::int), $5::int) "
+                       "RETURNING id",
+                       {m_user, task, project, start, QByteArray::number(seconds)});
+        };
+        const QByteArray logoEntry = entry(logo, "2026-03-03 12:00+00", 7200);
+        const QByteArray supportEntry = entry(support, "2026-03-04 12:00+00", 5400);
+        entry(support, "2026-04-02 12:00+00", 3600); // after the period
+
+        const QStringList call{u"invoice"_s, u"draft"_s, u"Harbour"_s, u"--to"_s, u"2026-03-31"_s, u"--vat"_s,
+                               u"21"_s, u"--json"_s};
+        const Run run = ann(call);
+        QCOMPARE(run.code, 0);
+        const QJsonObject draft = run.json().object();
+        QCOMPARE(draft.value(u"from"_s).toString(), u"2026-03-03"_s);
+        QCOMPARE(draft.value(u"to"_s).toString(), u"2026-03-31"_s);
+        QStringList entries;
+        for (const QJsonValue &id : draft.value(u"entry_ids"_s).toArray()) {
+            entries << id.toString();
+        }
+        entries.sort();
+        QStringList expected{QString::fromLatin1(logoEntry), QString::fromLatin1(supportEntry)};
+        expected.sort();
+        QCOMPARE(entries, expected);
+        QMap<QString, double> amounts;
+        for (const QJsonValue &line : draft.value(u"lines"_s).toArray()) {
+            amounts.insert(line.toObject().value(u"kind"_s).toString(), line.toObject().value(u"amount"_s).toDouble());
+        }
+        QCOMPARE(amounts.value(u"fixed"_s), 1200.0);
+        QCOMPARE(amounts.value(u"work"_s), 120.0); // 1.5 h at the project's 80
+        QCOMPARE(draft.value(u"subtotal"_s).toDouble(), 1320.0);
+        const QJsonArray groups = draft.value(u"vat_groups"_s).toArray();
+        QCOMPARE(groups.size(), 1);
+        QCOMPARE(groups[0].toObject().value(u"percent"_s).toDouble(), 21.0);
+        QCOMPARE(draft.value(u"vat_amount"_s).toDouble(), 277.2);
+        QCOMPARE(draft.value(u"total"_s).toDouble(), 1597.2);
+
+        // Once the fixed price is on a live invoice, the next draft is a follow-up without it.
+        const QByteArray billed = addInvoice("2026-0010", "2026-03-10", false);
+        db().exec("INSERT INTO invoice_lines (invoice_id, task_id, title, quantity, unit_price, amount) "
+                  "VALUES ($1, $2, 'Logo', 1, 1200, 1200)",
+                  {billed, logo});
+        const QJsonObject followUp = ann(call).json().object();
+        bool logoFollowsUp = false;
+        for (const QJsonValue &unit : followUp.value(u"units"_s).toArray()) {
+            if (unit.toObject().value(u"key"_s).toString() == u"task:"_s + QString::fromLatin1(logo)) {
+                logoFollowsUp = unit.toObject().value(u"follow_up"_s).toBool();
+            }
+        }
+        QVERIFY(logoFollowsUp);
+        for (const QJsonValue &line : followUp.value(u"lines"_s).toArray()) {
+            QVERIFY(line.toObject().value(u"kind"_s).toString() != u"fixed"_s);
+        }
+        QCOMPARE(followUp.value(u"subtotal"_s).toDouble(), 120.0);
+
+        const Run text = ann({u"invoice"_s, u"draft"_s, u"Harbour"_s, u"--from"_s, u"2026-05-01"_s});
+        QCOMPARE(text.code, 0);
+        QCOMPARE(text.out.trimmed(), u"No unbilled time of Harbour in this period."_s);
+        QCOMPARE(ann({u"invoice"_s, u"draft"_s, u"Harbour"_s, u"--from"_s, u"2026-05-01"_s, u"--to"_s, u"2026-04-01"_s}).code, 2);
+        QCOMPARE(ann({u"invoice"_s, u"draft"_s, u"Harbour"_s, u"--vat"_s, u"lots"_s}).code, 2);
+    }
+
     void rmDeletesAndReleases()
     {
         const QByteArray id = addInvoice("2026-0004", "2026-03-20", false);
