@@ -115,7 +115,7 @@ QList<Command> commands()
         {u"price"_s, [] { return qtTrId("cli.command.price"); }, runPriceCommand},
         //% "Coding-agent sessions found in the local logs: sessions list [--days N] [--json]"
         {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
-        //% "Invoices: invoice draft|list|show|status|void|rm|pdf"
+        //% "Invoices: invoice draft|create|list|show|status|void|rm|pdf"
         {u"invoice"_s, [] { return qtTrId("cli.command.invoice"); }, runInvoiceCommand},
     };
 }

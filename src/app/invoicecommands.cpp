@@ -2,10 +2,13 @@
 #include "app/storecommands.h"
 #include "backend/runblocking.h"
 #include "billing/invoicelines.h"
+#include "invoicing/invoicehtmlrenderer.h"
+#include "invoicing/pdf/invoicepdfrenderer.h"
 #include "billing/money.h"
 #include "billing/moneyinput.h"
 #include "model/isodate.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -152,10 +155,20 @@ QString lineKindName(Earnings::BuiltLine::Kind kind)
     return {};
 }
 
+struct ComposedDraft
+{
+    Earnings::BuildResult built;
+    Earnings::VatResult vat;
+    QStringList entryIds;
+    QString from;
+    QString to;
+    QString currency;
+};
+
 // What a save of the project's unbilled time in [from, to] would write: the store's unbilled
 // entries grouped per task, built into lines with what was billed before, VAT per rate.
-int showDraft(AppStore &store, const Project &project, std::optional<QDate> from, std::optional<QDate> to,
-              std::optional<double> vatPercent, bool json, QTextStream &out)
+ComposedDraft composeDraft(AppStore &store, const Project &project, std::optional<QDate> from, std::optional<QDate> to,
+                           std::optional<double> vatPercent)
 {
     QHash<QString, Earnings::ComposerTask> byTask;
     QStringList order;
@@ -184,9 +197,21 @@ int showDraft(AppStore &store, const Project &project, std::optional<QDate> from
         first = first ? std::min(*first, day) : day;
         last = last ? std::max(*last, day) : day;
     }
+    // The project's own task order, so that the same period always gives the same invoice.
+    QStringList ordered;
+    for (const TaskItem &task : store.tasks(project.id)) {
+        if (order.contains(task.id)) {
+            ordered << task.id;
+        }
+    }
+    for (const QString &taskId : std::as_const(order)) {
+        if (!ordered.contains(taskId)) {
+            ordered << taskId;
+        }
+    }
     QList<Earnings::ComposerTask> tasks;
     QStringList entryIds;
-    for (const QString &taskId : std::as_const(order)) {
+    for (const QString &taskId : std::as_const(ordered)) {
         tasks << byTask.value(taskId);
         entryIds << byTask.value(taskId).entryIds;
     }
@@ -198,7 +223,19 @@ int showDraft(AppStore &store, const Project &project, std::optional<QDate> from
     const Earnings::VatResult vat = Earnings::computeVat(built.lines, built.subtotal, std::nullopt, vatPercent.value_or(0));
     const QString fromText = (from ? from : first) ? (from ? *from : *first).toString(Qt::ISODate) : QString();
     const QString toText = (to ? to : last) ? (to ? *to : *last).toString(Qt::ISODate) : QString();
+    return {built, vat, entryIds, fromText, toText, currency};
+}
 
+int showDraft(AppStore &store, const Project &project, std::optional<QDate> from, std::optional<QDate> to,
+              std::optional<double> vatPercent, bool json, QTextStream &out)
+{
+    const ComposedDraft composed = composeDraft(store, project, from, to, vatPercent);
+    const Earnings::BuildResult &built = composed.built;
+    const Earnings::VatResult &vat = composed.vat;
+    const QString &fromText = composed.from;
+    const QString &toText = composed.to;
+    const QString &currency = composed.currency;
+    const QStringList &entryIds = composed.entryIds;
     if (json) {
         QJsonArray lines;
         for (const Earnings::BuiltLine &line : built.lines) {
@@ -269,6 +306,106 @@ int showDraft(AppStore &store, const Project &project, std::optional<QDate> from
     return 0;
 }
 
+// Renders the composed invoice as the composer would and saves it with its PDF.
+int createInvoice(AppStore &store, const Project &project, const ComposedDraft &composed, const QString &status,
+                  const std::optional<QString> &clientName, bool json, QTextStream &out, QTextStream &err)
+{
+    if (composed.built.lines.isEmpty()) {
+        err << qtTrId("cli.invoice.draftEmpty").arg(project.name) << Qt::endl;
+        return 1;
+    }
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance())) {
+        err << qtTrId("cli.renderInvoice.err.noGui") << Qt::endl;
+        return 1;
+    }
+    const std::optional<QString> number = runBlocking(store.allocateInvoiceNumber());
+    if (!number) {
+        err << store.lastError() << Qt::endl;
+        return 1;
+    }
+    const QDate issued = QDate::currentDate();
+    InvoiceDraft draft;
+    draft.projectName = project.name;
+    draft.from = composed.from;
+    draft.to = composed.to;
+    draft.currency = composed.currency;
+    draft.coveredEntryIds = composed.entryIds;
+    QList<InvoiceLineInsert> lines;
+    for (const Earnings::BuiltLine &built : composed.built.lines) {
+        DraftLine line;
+        line.taskId = built.taskId;
+        line.title = built.title;
+        line.hours = built.quantity;
+        line.amount = built.amount;
+        line.rate = built.unitPrice;
+        line.unit = built.unit.value_or(QString());
+        line.description = built.description;
+        draft.lines << line;
+        InvoiceLineInsert insert;
+        insert.taskId = built.taskId;
+        // A pool's own price and extras belong to its project, so they are billed there only once.
+        if (!built.taskId && built.unitKey.startsWith(u"pool:"_s)) {
+            insert.poolProjectId = built.unitKey.mid(5);
+        }
+        insert.title = built.title;
+        insert.description = built.description;
+        insert.quantity = built.quantity;
+        insert.unit = built.unit;
+        insert.unitPrice = built.unitPrice;
+        insert.amount = built.amount;
+        lines << insert;
+    }
+    InvoiceMetadata metadata;
+    metadata.number = *number;
+    metadata.issued = issued.toString(Qt::ISODate);
+    metadata.due = issued.addDays(14).toString(Qt::ISODate);
+    metadata.clientName = clientName;
+    metadata.vatAmount = composed.vat.vat;
+    metadata.vatGroups = composed.vat.groups;
+    if (composed.vat.groups.size() == 1) {
+        metadata.vatRate = composed.vat.groups.first().percent;
+    }
+    const InvoiceStyle style;
+    using namespace InvoiceHTMLRenderer;
+    const Template design = Template::LightMinimalAccent;
+    const QString html = buildHTML(draft, style, brandProfile(style, design), design, metadata);
+    RenderedPdf rendered;
+    try {
+        InvoicePdfRenderer renderer;
+        rendered = runBlocking(renderer.render(html));
+    } catch (const InvoicePdfError &error) {
+        err << qtTrId("cli.renderInvoice.err.failed").arg(error.message()) << Qt::endl;
+        return 1;
+    }
+
+    InvoiceSaveRequest request;
+    request.invoice.projectId = project.id;
+    request.invoice.teamId = project.teamId;
+    request.invoice.number = *number;
+    request.invoice.issuedAt = metadata.issued;
+    request.invoice.dueAt = metadata.due;
+    request.invoice.currency = composed.currency;
+    request.invoice.subtotal = composed.built.subtotal;
+    request.invoice.vatAmount = composed.vat.vat;
+    request.invoice.total = composed.vat.total;
+    request.invoice.status = status;
+    request.invoice.clientName = clientName;
+    request.lines = lines;
+    request.coveredEntryIds = composed.entryIds;
+    request.pdf = rendered.pdf;
+    const std::optional<Invoice> saved = runBlocking(store.saveInvoice(request));
+    if (!saved) {
+        err << store.invoiceSaveMessage() << Qt::endl;
+        return 1;
+    }
+    if (json) {
+        Cli::printJson(out, invoiceJson(*saved));
+    } else {
+        out << store.invoiceSaveMessage() << Qt::endl;
+    }
+    return 0;
+}
+
 } // namespace
 
 int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStream &err)
@@ -282,7 +419,11 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     const QCommandLineOption toOption(u"to"_s, qtTrId("cli.invoice.option.to"), u"day"_s);
     //% "VAT percentage for lines whose price has none."
     const QCommandLineOption vatOption(u"vat"_s, qtTrId("cli.invoice.option.vat"), u"percent"_s);
-    parser.addOptions({outOption, fromOption, toOption, vatOption});
+    //% "Status of the new invoice: draft or sent."
+    const QCommandLineOption statusOption(u"status"_s, qtTrId("cli.invoice.option.status"), u"status"_s, u"draft"_s);
+    //% "Bill-to name on the new invoice."
+    const QCommandLineOption clientOption(u"client"_s, qtTrId("cli.invoice.option.client"), u"name"_s);
+    parser.addOptions({outOption, fromOption, toOption, vatOption, statusOption, clientOption});
     parser.addPositionalArgument(u"action"_s, qtTrId("cli.command.invoice"));
     if (!Cli::parse(parser, arguments, err)) {
         return 2;
@@ -290,7 +431,7 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
     const qsizetype count = positional.size();
-    //% "Usage: morvane invoice draft <project> [--from DAY] [--to DAY] [--vat P] | list | show <invoice> | status <invoice> draft|sent|paid|void | void <invoice> | rm <invoice> | pdf <invoice> --out FILE [--json]"
+    //% "Usage: morvane invoice draft|create <project> [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show <invoice> | status <invoice> draft|sent|paid|void | void <invoice> | rm <invoice> | pdf <invoice> --out FILE [--json]"
     const QString usageText = qtTrId("cli.invoice.usage");
     const std::optional<InvoiceStatus> status =
         action == u"status" && count == 3 ? Wire::enumFromName<InvoiceStatus>(positional.at(2)) : std::nullopt;
@@ -304,7 +445,10 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
         parser.isSet(vatOption) ? MoneyInput::parseDecimal(parser.value(vatOption)) : std::nullopt;
     const bool goodDraftOptions = (from || !parser.isSet(fromOption)) && (to || !parser.isSet(toOption)) &&
                                   (vatPercent || !parser.isSet(vatOption)) && (!from || !to || *from <= *to);
-    const bool known = (action == u"draft" && count == 2 && goodDraftOptions) || (action == u"list" && count == 1) || (action == u"show" && count == 2) ||
+    const QString newStatus = parser.value(statusOption);
+    const bool known = (action == u"draft" && count == 2 && goodDraftOptions) ||
+                       (action == u"create" && count == 2 && goodDraftOptions &&
+                        (newStatus == u"draft" || newStatus == u"sent")) || (action == u"list" && count == 1) || (action == u"show" && count == 2) ||
                        (action == u"status" && count == 3 && status) || (action == u"void" && count == 2) ||
                        (action == u"rm" && count == 2) || (action == u"pdf" && count == 2 && parser.isSet(outOption));
     if (!known) {
@@ -321,7 +465,7 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     }
     const bool json = Cli::wantsJson(parser);
 
-    if (action == u"draft") {
+    if (action == u"draft" || action == u"create") {
         const std::optional<Project> project = session.project(positional.at(1), err);
         if (!project) {
             return 1;
@@ -329,6 +473,12 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
         // No draft from a half-read state: it would bill a fixed price twice or miss hours.
         if (!runBlocking(store.reloadBilledEntrySet()) || !runBlocking(store.loadUnbilledEntries())) {
             return session.failed(err);
+        }
+        if (action == u"create") {
+            const std::optional<QString> client =
+                parser.isSet(clientOption) ? std::optional<QString>(parser.value(clientOption)) : std::nullopt;
+            return createInvoice(store, *project, composeDraft(store, *project, from, to, vatPercent), newStatus, client,
+                                 json, out, err);
         }
         return showDraft(store, *project, from, to, vatPercent, json, out);
     }

@@ -268,8 +268,8 @@
       <translation>Lister, modifier ou supprimer des entrées de temps : entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
-      <translation>Factures : invoice draft|list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>Factures : invoice draft|create|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -411,6 +411,10 @@
       <source>No invoice matches %1.</source>
       <translation>Aucune facture ne correspond à %1.</translation>
     </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>Nom du destinataire sur la nouvelle facture.</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>Premier jour de la période (aaaa-MM-jj).</translation>
@@ -418,6 +422,10 @@
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>Le fichier où écrire le PDF.</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>Statut de la nouvelle facture : draft ou sent.</translation>
     </message>
     <message id="cli.invoice.option.to">
       <source>Last day of the period (yyyy-MM-dd).</source>
@@ -460,8 +468,8 @@
       <translation>Total</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Usage : morvane invoice draft &lt;projet&gt; [--from JOUR] [--to JOUR] [--vat P] | list | show &lt;facture&gt; | status &lt;facture&gt; draft|sent|paid|void | void &lt;facture&gt; | rm &lt;facture&gt; | pdf &lt;facture&gt; --out FICHIER [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Usage : morvane invoice draft|create &lt;projet&gt; [--from JOUR] [--to JOUR] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;facture&gt; | status &lt;facture&gt; draft|sent|paid|void | void &lt;facture&gt; | rm &lt;facture&gt; | pdf &lt;facture&gt; --out FICHIER [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -268,8 +268,8 @@
       <translation>Elencare, modificare o eliminare voci di tempo: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
-      <translation>Fatture: invoice draft|list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>Fatture: invoice draft|create|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -411,6 +411,10 @@
       <source>No invoice matches %1.</source>
       <translation>Nessuna fattura corrisponde a %1.</translation>
     </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>Nome del destinatario sulla nuova fattura.</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>Primo giorno del periodo (aaaa-MM-gg).</translation>
@@ -418,6 +422,10 @@
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>Il file in cui scrivere il PDF.</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>Stato della nuova fattura: draft o sent.</translation>
     </message>
     <message id="cli.invoice.option.to">
       <source>Last day of the period (yyyy-MM-dd).</source>
@@ -460,8 +468,8 @@
       <translation>Totale</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Uso: morvane invoice draft &lt;progetto&gt; [--from GIORNO] [--to GIORNO] [--vat P] | list | show &lt;fattura&gt; | status &lt;fattura&gt; draft|sent|paid|void | void &lt;fattura&gt; | rm &lt;fattura&gt; | pdf &lt;fattura&gt; --out FILE [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Uso: morvane invoice draft|create &lt;progetto&gt; [--from GIORNO] [--to GIORNO] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;fattura&gt; | status &lt;fattura&gt; draft|sent|paid|void | void &lt;fattura&gt; | rm &lt;fattura&gt; | pdf &lt;fattura&gt; --out FILE [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -268,8 +268,8 @@
       <translation>時間エントリーの一覧・編集・削除: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
-      <translation>請求書: invoice draft|list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>請求書: invoice draft|create|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -411,6 +411,10 @@
       <source>No invoice matches %1.</source>
       <translation>%1 に一致する請求書はありません。</translation>
     </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>新しい請求書の請求先名。</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>期間の初日 (yyyy-MM-dd)。</translation>
@@ -418,6 +422,10 @@
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>PDFを書き込むファイル。</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>新しい請求書のステータス: draft または sent。</translation>
     </message>
     <message id="cli.invoice.option.to">
       <source>Last day of the period (yyyy-MM-dd).</source>
@@ -460,8 +468,8 @@
       <translation>合計</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>使い方: morvane invoice draft &lt;プロジェクト&gt; [--from 日付] [--to 日付] [--vat P] | list | show &lt;請求書&gt; | status &lt;請求書&gt; draft|sent|paid|void | void &lt;請求書&gt; | rm &lt;請求書&gt; | pdf &lt;請求書&gt; --out ファイル [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>使い方: morvane invoice draft|create &lt;プロジェクト&gt; [--from 日付] [--to 日付] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;請求書&gt; | status &lt;請求書&gt; draft|sent|paid|void | void &lt;請求書&gt; | rm &lt;請求書&gt; | pdf &lt;請求書&gt; --out ファイル [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

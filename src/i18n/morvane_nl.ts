@@ -268,8 +268,8 @@
       <translation>Tijdregistraties tonen, bewerken of verwijderen: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
-      <translation>Facturen: invoice draft|list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>Facturen: invoice draft|create|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -411,6 +411,10 @@
       <source>No invoice matches %1.</source>
       <translation>Geen factuur past bij %1.</translation>
     </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>Naam van de geadresseerde op de nieuwe factuur.</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>Eerste dag van de periode (jjjj-MM-dd).</translation>
@@ -418,6 +422,10 @@
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>Het bestand waarin de pdf komt.</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>Status van de nieuwe factuur: draft of sent.</translation>
     </message>
     <message id="cli.invoice.option.to">
       <source>Last day of the period (yyyy-MM-dd).</source>
@@ -460,8 +468,8 @@
       <translation>Totaal</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Gebruik: morvane invoice draft &lt;project&gt; [--from DAG] [--to DAG] [--vat P] | list | show &lt;factuur&gt; | status &lt;factuur&gt; draft|sent|paid|void | void &lt;factuur&gt; | rm &lt;factuur&gt; | pdf &lt;factuur&gt; --out BESTAND [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Gebruik: morvane invoice draft|create &lt;project&gt; [--from DAG] [--to DAG] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;factuur&gt; | status &lt;factuur&gt; draft|sent|paid|void | void &lt;factuur&gt; | rm &lt;factuur&gt; | pdf &lt;factuur&gt; --out BESTAND [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -268,8 +268,8 @@
       <translation>Listar, editar ou excluir registros de tempo: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
-      <translation>Faturas: invoice draft|list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>Faturas: invoice draft|create|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -411,6 +411,10 @@
       <source>No invoice matches %1.</source>
       <translation>Nenhuma fatura corresponde a %1.</translation>
     </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>Nome do destinatário na nova fatura.</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>Primeiro dia do período (aaaa-MM-dd).</translation>
@@ -418,6 +422,10 @@
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>O arquivo onde gravar o PDF.</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>Status da nova fatura: draft ou sent.</translation>
     </message>
     <message id="cli.invoice.option.to">
       <source>Last day of the period (yyyy-MM-dd).</source>
@@ -460,8 +468,8 @@
       <translation>Total</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Uso: morvane invoice draft &lt;projeto&gt; [--from DIA] [--to DIA] [--vat P] | list | show &lt;fatura&gt; | status &lt;fatura&gt; draft|sent|paid|void | void &lt;fatura&gt; | rm &lt;fatura&gt; | pdf &lt;fatura&gt; --out ARQUIVO [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Uso: morvane invoice draft|create &lt;projeto&gt; [--from DIA] [--to DIA] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;fatura&gt; | status &lt;fatura&gt; draft|sent|paid|void | void &lt;fatura&gt; | rm &lt;fatura&gt; | pdf &lt;fatura&gt; --out ARQUIVO [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

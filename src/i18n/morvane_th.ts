@@ -268,8 +268,8 @@
       <translation>แสดง แก้ไข หรือลบรายการเวลา: entries [--task T] | edit | rm</translation>
     </message>
     <message id="cli.command.invoice">
-      <source>Invoices: invoice draft|list|show|status|void|rm|pdf</source>
-      <translation>ใบแจ้งหนี้: invoice draft|list|show|status|void|rm|pdf</translation>
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>ใบแจ้งหนี้: invoice draft|create|list|show|status|void|rm|pdf</translation>
     </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
@@ -411,6 +411,10 @@
       <source>No invoice matches %1.</source>
       <translation>ไม่มีใบแจ้งหนี้ที่ตรงกับ %1</translation>
     </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>ชื่อผู้รับใบแจ้งหนี้ในใบแจ้งหนี้ใหม่</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>วันแรกของช่วง (yyyy-MM-dd)</translation>
@@ -418,6 +422,10 @@
     <message id="cli.invoice.option.out">
       <source>The file to write the PDF to.</source>
       <translation>ไฟล์ที่จะเขียน PDF</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>สถานะของใบแจ้งหนี้ใหม่: draft หรือ sent</translation>
     </message>
     <message id="cli.invoice.option.to">
       <source>Last day of the period (yyyy-MM-dd).</source>
@@ -460,8 +468,8 @@
       <translation>ยอดรวม</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft &lt;project&gt; [--from DAY] [--to DAY] [--vat P] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>วิธีใช้: morvane invoice draft &lt;โปรเจกต์&gt; [--from วัน] [--to วัน] [--vat P] | list | show &lt;ใบแจ้งหนี้&gt; | status &lt;ใบแจ้งหนี้&gt; draft|sent|paid|void | void &lt;ใบแจ้งหนี้&gt; | rm &lt;ใบแจ้งหนี้&gt; | pdf &lt;ใบแจ้งหนี้&gt; --out ไฟล์ [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>วิธีใช้: morvane invoice draft|create &lt;โปรเจกต์&gt; [--from วัน] [--to วัน] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;ใบแจ้งหนี้&gt; | status &lt;ใบแจ้งหนี้&gt; draft|sent|paid|void | void &lt;ใบแจ้งหนี้&gt; | rm &lt;ใบแจ้งหนี้&gt; | pdf &lt;ใบแจ้งหนี้&gt; --out ไฟล์ [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -250,16 +250,61 @@ private slots:
         QCOMPARE(ann({u"invoice"_s, u"draft"_s, u"Harbour"_s, u"--vat"_s, u"lots"_s}).code, 2);
     }
 
+    void createRendersAndSaves()
+    {
+        // Harbour as the draft left it: the fixed price billed before, 1.5 h of support and 2 h
+        // on the logo unbilled in March.
+        const QStringList call{u"invoice"_s, u"create"_s, u"Harbour"_s, u"--to"_s, u"2026-03-31"_s, u"--vat"_s, u"21"_s,
+                               u"--status"_s, u"sent"_s, u"--client"_s, u"Port authority"_s, u"--json"_s};
+        const Run run = ann(call);
+        QCOMPARE(run.code, 0);
+        const QJsonObject invoice = run.json().object();
+        const QByteArray id = invoice.value(u"id"_s).toString().toLatin1();
+        QVERIFY2(!id.isEmpty(), qPrintable(run.err));
+        QCOMPARE(sql("SELECT status FROM invoices WHERE id = $1", {id}), "sent");
+        QCOMPARE(sql("SELECT client_name FROM invoices WHERE id = $1", {id}), "Port authority");
+        QCOMPARE(invoice.value(u"subtotal"_s).toDouble(), 120.0);
+        QCOMPARE(invoice.value(u"vat_amount"_s).toDouble(), 25.2);
+        QCOMPARE(invoice.value(u"total"_s).toDouble(), 145.2);
+        QCOMPARE(sql("SELECT count(*) FROM invoice_entries WHERE invoice_id = $1 AND live", {id}), "2");
+        // The logo is a follow-up: its line bills new time only, without the fixed price again.
+        QCOMPARE(sql("SELECT string_agg(title, ',' ORDER BY title) FROM invoice_lines WHERE invoice_id = $1", {id}),
+                 "Logo,Support");
+        QCOMPARE(sql("SELECT string_agg(order_index::text, ',' ORDER BY order_index) FROM invoice_lines "
+                     "WHERE invoice_id = $1",
+                     {id}),
+                 "0,1");
+        QCOMPARE(sql("SELECT sum(amount) FROM invoice_lines WHERE invoice_id = $1", {id}).toDouble(), 120.0);
+
+        // The stored PDF is a real rendering of it.
+        const QString file = ann.homeFile(u"created.pdf"_s);
+        QCOMPARE(ann({u"invoice"_s, u"pdf"_s, invoice.value(u"number"_s).toString(), u"--out"_s, file}).code, 0);
+        QFile pdf(file);
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        const QByteArray bytes = pdf.readAll();
+        QVERIFY(bytes.startsWith("%PDF"));
+        QVERIFY(bytes.size() > 2000);
+
+        // Nothing is left to bill in that period: no empty invoice, and no number used up on one.
+        const Run again = ann(call);
+        QCOMPARE(again.code, 1);
+        // The graphical libraries may say something about the machine first.
+        QVERIFY2(again.err.trimmed().endsWith(u"\nNo unbilled time of Harbour in this period."_s) ||
+                     again.err.trimmed() == u"No unbilled time of Harbour in this period."_s,
+                 qPrintable(again.err));
+        QCOMPARE(ann({u"invoice"_s, u"create"_s, u"Harbour"_s, u"--status"_s, u"paid"_s}).code, 2);
+    }
+
     void rmDeletesAndReleases()
     {
-        const QByteArray id = addInvoice("2026-0004", "2026-03-20", false);
+        const QByteArray id = addInvoice("2026-0100", "2026-03-20", false);
         db().exec("INSERT INTO invoice_entries (invoice_id, time_entry_id) VALUES ($1, $2)", {id, m_entry});
         const Run run = ann({u"invoice"_s, u"rm"_s, QString::fromLatin1(id.left(8))});
         QCOMPARE(run.code, 0);
-        QCOMPARE(run.out.trimmed(), u"Invoice 2026-0004 deleted; its hours are unbilled again."_s);
+        QCOMPARE(run.out.trimmed(), u"Invoice 2026-0100 deleted; its hours are unbilled again."_s);
         QCOMPARE(sql("SELECT count(*) FROM invoices WHERE id = $1", {id}), "0");
         QCOMPARE(sql("SELECT count(*) FROM invoice_entries WHERE time_entry_id = $1 AND live", {m_entry}), "0");
-        const Run again = ann({u"invoice"_s, u"rm"_s, u"2026-0004"_s});
+        const Run again = ann({u"invoice"_s, u"rm"_s, u"2026-0100"_s});
         QCOMPARE(again.code, 1);
     }
 };
