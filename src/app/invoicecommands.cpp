@@ -360,6 +360,9 @@ int createInvoice(AppStore &store, const Project &project, const ComposedDraft &
     metadata.issued = issued.toString(Qt::ISODate);
     metadata.due = issued.addDays(14).toString(Qt::ISODate);
     metadata.clientName = clientName;
+    if (const std::optional<Profile> &profile = store.profile(); profile && profile->displayName) {
+        metadata.senderName = profile->displayName;
+    }
     metadata.vatAmount = composed.vat.vat;
     metadata.vatGroups = composed.vat.groups;
     if (composed.vat.groups.size() == 1) {
