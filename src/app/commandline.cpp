@@ -116,6 +116,8 @@ QList<Command> commands()
         //% "Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore |
         //reimport | track"
         {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
+        //% "Invoices: invoice draft|create|list|show|status|void|rm|pdf"
+        {u"invoice"_s, [] { return qtTrId("cli.command.invoice"); }, runInvoiceCommand},
     };
 }
 

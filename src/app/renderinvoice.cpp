@@ -71,7 +71,8 @@ bool RenderInvoiceCommand::requested(int argc, char **argv)
             return true;
         }
     }
-    return false;
+    // `morvane invoice create` renders the PDF it stores.
+    return argc > 2 && std::strcmp(argv[1], "invoice") == 0 && std::strcmp(argv[2], "create") == 0;
 }
 
 std::unique_ptr<QCoreApplication> RenderInvoiceCommand::makeApplication(int &argc, char **argv)

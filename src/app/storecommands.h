@@ -13,3 +13,4 @@ int runTimerCommand(const QStringList &arguments, QTextStream &out, QTextStream 
 int runLogCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
 int runEntriesCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
 int runPriceCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
+int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);

@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Zeiteinträge anzeigen, bearbeiten oder löschen: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>Rechnungen: invoice draft|create|list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>Arbeitsminuten für eine Aufgabe erfassen: log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,110 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Unbekannter Befehl: %1. Mit morvane --help wird die Befehlsliste angezeigt.</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>Mehrere Rechnungen passen zu %1; gib mehr von der ID oder die Nummer an.</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Rechnung %1 gelöscht; ihre Stunden sind wieder nicht abgerechnet.</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>Das PDF konnte nicht heruntergeladen werden: %1</translation>
+    </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>Keine nicht abgerechnete Zeit von %1 in diesem Zeitraum.</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation>, fällig %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>Rechnung %1 (%2), ausgestellt %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>Noch keine Rechnungen.</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>Keine Rechnung passt zu %1.</translation>
+    </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>Name des Rechnungsempfängers auf der neuen Rechnung.</translation>
+    </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Erster Tag des Zeitraums (JJJJ-MM-TT).</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>Die Datei, in die das PDF geschrieben wird.</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>Status der neuen Rechnung: draft oder sent.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Letzter Tag des Zeitraums (JJJJ-MM-TT).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>USt.-Satz für Positionen, deren Preis keinen hat.</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>Das PDF der Rechnung %1 wurde in %2 gespeichert.</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>Entwurf</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>bezahlt</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>versendet</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>storniert</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>Rechnung %1 ist jetzt %2.</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>Zwischensumme</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>Gesamt</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Aufruf: morvane invoice draft|create &lt;Projekt&gt; [--from TAG] [--to TAG] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;Rechnung&gt; | status &lt;Rechnung&gt; draft|sent|paid|void | void &lt;Rechnung&gt; | rm &lt;Rechnung&gt; | pdf &lt;Rechnung&gt; --out DATEI [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>USt.</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>Rechnung %1 ist storniert; ihre Stunden sind wieder nicht abgerechnet.</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>%1 konnte nicht geschrieben werden: %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>
@@ -979,6 +1087,62 @@
       <source>VAT %1% on %2</source>
       <translation>USt. %1 % auf %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>Rechnungsnummer vergeben fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Einige dieser Stunden stehen bereits auf einer anderen Rechnung. Die Liste wurde aktualisiert: prüfe sie und versuche es erneut.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>Rechnung löschen fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>Rechnungen laden fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>Rechnungspositionen laden fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Es wird noch gelesen, was schon abgerechnet wurde.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>Das Rechnungs-PDF konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>Das Rechnungs-PDF konnte nicht ersetzt werden: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>Es konnte nicht gelesen werden, welche Arbeit schon abgerechnet wurde. Die Abrechnung wartet, bis das gelingt, damit kein Festpreis und kein Zuschlag doppelt berechnet wird.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>Rechnung speichern fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>Es konnte nicht gelesen werden, welche Zeit noch nicht abgerechnet ist.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>Rechnungsstatus ändern fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>Stornieren der Rechnung fehlgeschlagen: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>Stornieren ist noch nicht möglich, weil der Server noch nicht aktualisiert wurde. Versuche es später erneut.</translation>
+    </message>
     <message id="inv.extrasBilledBefore">
       <source>extras already billed</source>
       <translation>Zuschläge bereits berechnet</translation>
@@ -1059,6 +1223,10 @@
       <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
       <translation>Diese Arbeit wurde bereits berechnet. Festpreis oder Preis pro Einheit, Mindestbetrag, Anfahrtspauschale, Material und ein fester Rabatt werden nur einmal berechnet. Schalten Sie dies ein, um sie erneut zu berechnen.</translation>
     </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Rechnung %1 gespeichert</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Zwischensumme</translation>
@@ -1126,6 +1294,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>Einladen per E-Mail ist noch nicht verfügbar. Versuche es später erneut.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Einige dieser Fahrten stehen bereits auf einer anderen Rechnung. Aktualisiere und versuche es erneut.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>Diese Rechnung ist storniert. Eine stornierte Rechnung kann nicht zurückgesetzt werden.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

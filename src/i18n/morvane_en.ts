@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>List, edit or delete time entries: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>Invoices: invoice draft|create|list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,110 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Unknown command: %1. Run morvane --help for the list of commands.</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>Several invoices match %1; give more of the id or the number.</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Invoice %1 deleted; its hours are unbilled again.</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>The PDF could not be downloaded: %1</translation>
+    </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>No unbilled time of %1 in this period.</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation>, due %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>Invoice %1 (%2), issued %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>No invoices yet.</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>No invoice matches %1.</translation>
+    </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>Bill-to name on the new invoice.</translation>
+    </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>First day of the period (yyyy-MM-dd).</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>The file to write the PDF to.</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>Status of the new invoice: draft or sent.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Last day of the period (yyyy-MM-dd).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>VAT percentage for lines whose price has none.</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>Saved the PDF of invoice %1 to %2.</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>draft</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>paid</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>sent</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>void</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>Invoice %1 is now %2.</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotal</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>VAT</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>Invoice %1 is void; its hours are unbilled again.</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Could not write %1: %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>
@@ -979,6 +1087,62 @@
       <source>VAT %1% on %2</source>
       <translation>VAT %1% on %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>Allocate invoice number failed: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>Delete invoice failed: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>Load invoices failed: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>Load invoice lines failed: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Still reading what was billed before.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>The invoice PDF could not be opened: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>The invoice PDF could not be replaced: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>Save invoice failed: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>Could not read which time is still unbilled.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>Update invoice status failed: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>Voiding the invoice failed: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>Voiding is not available yet because the server has not been updated. Try again later.</translation>
+    </message>
     <message id="inv.extrasBilledBefore">
       <source>extras already billed</source>
       <translation>extras already billed</translation>
@@ -1059,6 +1223,10 @@
       <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
       <translation>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</translation>
     </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Invoice %1 saved</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Subtotal</translation>
@@ -1126,6 +1294,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>Inviting by email is not available yet. Try again later.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Some of these trips are already on another invoice. Refresh and try again.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>This invoice is void. A void invoice cannot be changed back.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

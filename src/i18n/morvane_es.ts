@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Listar, editar o eliminar entradas de tiempo: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>Facturas: invoice draft|create|list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>Registrar minutos de trabajo en una tarea: log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,110 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Comando desconocido: %1. Ejecuta morvane --help para ver la lista de comandos.</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>Varias facturas coinciden con %1; indica más del id o el número.</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Factura %1 eliminada; sus horas vuelven a estar sin facturar.</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>No se pudo descargar el PDF: %1</translation>
+    </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>No hay tiempo sin facturar de %1 en este periodo.</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation>, vence el %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>Factura %1 (%2), emitida el %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>Aún no hay facturas.</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>Ninguna factura coincide con %1.</translation>
+    </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>Nombre del destinatario en la nueva factura.</translation>
+    </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Primer día del periodo (aaaa-MM-dd).</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>El archivo donde escribir el PDF.</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>Estado de la nueva factura: draft o sent.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Último día del periodo (aaaa-MM-dd).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>Porcentaje de IVA para las líneas cuyo precio no lo tiene.</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>El PDF de la factura %1 se guardó en %2.</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>borrador</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>pagada</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>enviada</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>anulada</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>La factura %1 ahora está %2.</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotal</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Uso: morvane invoice draft|create &lt;proyecto&gt; [--from DÍA] [--to DÍA] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;factura&gt; | status &lt;factura&gt; draft|sent|paid|void | void &lt;factura&gt; | rm &lt;factura&gt; | pdf &lt;factura&gt; --out ARCHIVO [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>IVA</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>La factura %1 está anulada; sus horas vuelven a estar sin facturar.</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>No se pudo escribir %1: %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>
@@ -979,6 +1087,62 @@
       <source>VAT %1% on %2</source>
       <translation>IVA %1% sobre %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>No se pudo asignar el número de factura: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Algunas de estas horas ya están en otra factura. La lista se actualizó: revísala e inténtalo de nuevo.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>No se pudo eliminar la factura: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>No se pudieron cargar las facturas: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>No se pudieron cargar las líneas de la factura: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Todavía leyendo lo que se facturó antes.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>No se pudo abrir el PDF de la factura: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>No se pudo reemplazar el PDF de la factura: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>No se pudo leer qué trabajo se facturó antes. La facturación espera hasta que funcione, para no cobrar dos veces un precio fijo o un extra.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>No se pudo guardar la factura: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>No se pudo leer qué tiempo sigue sin facturar.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>No se pudo actualizar el estado de la factura: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>No se pudo anular la factura: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>Anular aún no está disponible porque el servidor no se ha actualizado. Inténtalo más tarde.</translation>
+    </message>
     <message id="inv.extrasBilledBefore">
       <source>extras already billed</source>
       <translation>extras ya facturados</translation>
@@ -1059,6 +1223,10 @@
       <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
       <translation>Este trabajo ya se facturó. Su precio fijo o por unidad, el importe mínimo, los gastos de desplazamiento, los materiales y un descuento fijo se facturan una sola vez. Actívalo para facturarlos de nuevo.</translation>
     </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Factura %1 guardada</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Subtotal</translation>
@@ -1126,6 +1294,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>La invitación por correo aún no está disponible. Vuelve a intentarlo más tarde.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Algunos de estos viajes ya están en otra factura. Actualiza e inténtalo de nuevo.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>Esta factura está anulada. Una factura anulada no se puede revertir.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Lister, modifier ou supprimer des entrées de temps : entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>Factures : invoice draft|create|list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>Saisir des minutes de travail sur une tâche : log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,110 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Commande inconnue : %1. Lancez morvane --help pour la liste des commandes.</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>Plusieurs factures correspondent à %1 ; donnez davantage de l'identifiant ou le numéro.</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Facture %1 supprimée ; ses heures sont de nouveau non facturées.</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>Le PDF n'a pas pu être téléchargé : %1</translation>
+    </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>Aucun temps non facturé de %1 sur cette période.</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation>, échéance %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>Facture %1 (%2), émise le %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>Pas encore de factures.</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>Aucune facture ne correspond à %1.</translation>
+    </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>Nom du destinataire sur la nouvelle facture.</translation>
+    </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Premier jour de la période (aaaa-MM-jj).</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>Le fichier où écrire le PDF.</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>Statut de la nouvelle facture : draft ou sent.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Dernier jour de la période (aaaa-MM-jj).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>Taux de TVA des lignes dont le prix n'en a pas.</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>Le PDF de la facture %1 a été enregistré dans %2.</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>brouillon</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>payée</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>envoyée</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>annulée</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>La facture %1 est maintenant %2.</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>Sous-total</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Usage : morvane invoice draft|create &lt;projet&gt; [--from JOUR] [--to JOUR] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;facture&gt; | status &lt;facture&gt; draft|sent|paid|void | void &lt;facture&gt; | rm &lt;facture&gt; | pdf &lt;facture&gt; --out FICHIER [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>TVA</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>La facture %1 est annulée ; ses heures sont de nouveau non facturées.</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Impossible d'écrire %1 : %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>
@@ -979,6 +1087,62 @@
       <source>VAT %1% on %2</source>
       <translation>TVA %1 % sur %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>Échec de l'attribution du numéro de facture : %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Certaines de ces heures figurent déjà sur une autre facture. La liste a été actualisée : vérifiez-la et réessayez.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>Échec de la suppression de la facture : %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>Échec du chargement des factures : %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>Échec du chargement des lignes de facture : %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Lecture de ce qui a déjà été facturé en cours.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>Le PDF de la facture n'a pas pu être ouvert : %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>Le PDF de la facture n'a pas pu être remplacé : %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>Impossible de lire le travail déjà facturé. La facturation attend que cela fonctionne, afin qu'aucun prix fixe ni supplément ne soit facturé deux fois.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>Échec de l'enregistrement de la facture : %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>Impossible de lire le temps encore non facturé.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>Échec de la mise à jour du statut de la facture : %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>L'annulation de la facture a échoué : %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>L'annulation n'est pas encore disponible car le serveur n'a pas été mis à jour. Réessayez plus tard.</translation>
+    </message>
     <message id="inv.extrasBilledBefore">
       <source>extras already billed</source>
       <translation>suppléments déjà facturés</translation>
@@ -1059,6 +1223,10 @@
       <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
       <translation>Ce travail a déjà été facturé. Son prix fixe ou unitaire, le montant minimum, les frais de déplacement, le matériel et une remise fixe ne sont facturés qu'une fois. Activez cette option pour les facturer à nouveau.</translation>
     </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Facture %1 enregistrée</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Sous-total</translation>
@@ -1126,6 +1294,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>L’invitation par e-mail n’est pas encore disponible. Réessayez plus tard.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Certains de ces trajets figurent déjà sur une autre facture. Actualisez et réessayez.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>Cette facture est annulée. Une facture annulée ne peut pas être rétablie.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Elencare, modificare o eliminare voci di tempo: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>Fatture: invoice draft|create|list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>Registrare minuti di lavoro su un’attività: log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,110 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Comando sconosciuto: %1. Esegui morvane --help per l’elenco dei comandi.</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>Più fatture corrispondono a %1; indica più caratteri dell'id o il numero.</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Fattura %1 eliminata; le sue ore tornano da fatturare.</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>Impossibile scaricare il PDF: %1</translation>
+    </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>Nessun tempo non fatturato di %1 in questo periodo.</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation>, scadenza %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>Fattura %1 (%2), emessa il %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>Ancora nessuna fattura.</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>Nessuna fattura corrisponde a %1.</translation>
+    </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>Nome del destinatario sulla nuova fattura.</translation>
+    </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Primo giorno del periodo (aaaa-MM-gg).</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>Il file in cui scrivere il PDF.</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>Stato della nuova fattura: draft o sent.</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>Ultimo giorno del periodo (aaaa-MM-gg).</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>Aliquota IVA per le righe il cui prezzo non ne ha una.</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>Il PDF della fattura %1 è stato salvato in %2.</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>bozza</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>pagata</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>inviata</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>annullata</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>La fattura %1 ora è %2.</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>Subtotale</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>Totale</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>Uso: morvane invoice draft|create &lt;progetto&gt; [--from GIORNO] [--to GIORNO] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;fattura&gt; | status &lt;fattura&gt; draft|sent|paid|void | void &lt;fattura&gt; | rm &lt;fattura&gt; | pdf &lt;fattura&gt; --out FILE [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>IVA</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>La fattura %1 è annullata; le sue ore tornano da fatturare.</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Impossibile scrivere %1: %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>
@@ -979,6 +1087,62 @@
       <source>VAT %1% on %2</source>
       <translation>IVA %1% su %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>Assegnazione del numero di fattura non riuscita: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>Alcune di queste ore sono già su un'altra fattura. L'elenco è stato aggiornato: controllalo e riprova.</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>Eliminazione della fattura non riuscita: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>Caricamento delle fatture non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>Caricamento delle righe della fattura non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>Lettura di quanto già fatturato in corso.</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>Impossibile aprire il PDF della fattura: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>Impossibile sostituire il PDF della fattura: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>Impossibile leggere quale lavoro è già stato fatturato. La fatturazione attende finché non funziona, così nessun prezzo fisso o extra viene fatturato due volte.</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>Salvataggio della fattura non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>Impossibile leggere quale tempo non è ancora fatturato.</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>Aggiornamento dello stato della fattura non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>Annullamento della fattura non riuscito: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>L'annullamento non è ancora disponibile perché il server non è stato aggiornato. Riprova più tardi.</translation>
+    </message>
     <message id="inv.extrasBilledBefore">
       <source>extras already billed</source>
       <translation>extra già fatturati</translation>
@@ -1059,6 +1223,10 @@
       <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
       <translation>Questo lavoro è già stato fatturato. Il prezzo fisso o per unità, l'importo minimo, il diritto di chiamata, i materiali e uno sconto fisso si fatturano una sola volta. Attiva questa opzione per fatturarli di nuovo.</translation>
     </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>Fattura %1 salvata</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Imponibile</translation>
@@ -1126,6 +1294,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>L’invito via email non è ancora disponibile. Riprova più tardi.</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>Alcuni di questi viaggi sono già su un'altra fattura. Aggiorna e riprova.</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>Questa fattura è annullata. Una fattura annullata non può essere ripristinata.</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

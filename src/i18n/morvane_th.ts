@@ -267,6 +267,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>แสดง แก้ไข หรือลบรายการเวลา: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.invoice">
+      <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
+      <translation>ใบแจ้งหนี้: invoice draft|create|list|show|status|void|rm|pdf</translation>
+    </message>
     <message id="cli.command.log">
       <source>Log minutes of work on a task: log &lt;task&gt; &lt;minutes&gt;</source>
       <translation>บันทึกนาทีการทำงานในงาน: log &lt;task&gt; &lt;minutes&gt;</translation>
@@ -374,6 +378,110 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>ไม่รู้จักคำสั่ง: %1 เรียกใช้ morvane --help เพื่อดูรายการคำสั่ง</translation>
+    </message>
+    <message id="cli.invoice.ambiguous">
+      <source>Several invoices match %1; give more of the id or the number.</source>
+      <translation>มีใบแจ้งหนี้หลายรายการที่ตรงกับ %1 โปรดระบุรหัสให้ยาวขึ้นหรือใช้เลขที่</translation>
+    </message>
+    <message id="cli.invoice.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>ลบใบแจ้งหนี้ %1 แล้ว ชั่วโมงของใบนี้กลับเป็นยังไม่ได้เรียกเก็บเงิน</translation>
+    </message>
+    <message id="cli.invoice.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>ไม่สามารถดาวน์โหลด PDF ได้: %1</translation>
+    </message>
+    <message id="cli.invoice.draftEmpty">
+      <source>No unbilled time of %1 in this period.</source>
+      <translation>ไม่มีเวลาที่ยังไม่ได้เรียกเก็บเงินของ %1 ในช่วงนี้</translation>
+    </message>
+    <message id="cli.invoice.due">
+      <source>, due %1</source>
+      <translation> ครบกำหนด %1</translation>
+    </message>
+    <message id="cli.invoice.header">
+      <source>Invoice %1 (%2), issued %3</source>
+      <translation>ใบแจ้งหนี้ %1 (%2) ออกเมื่อ %3</translation>
+    </message>
+    <message id="cli.invoice.none">
+      <source>No invoices yet.</source>
+      <translation>ยังไม่มีใบแจ้งหนี้</translation>
+    </message>
+    <message id="cli.invoice.notFound">
+      <source>No invoice matches %1.</source>
+      <translation>ไม่มีใบแจ้งหนี้ที่ตรงกับ %1</translation>
+    </message>
+    <message id="cli.invoice.option.client">
+      <source>Bill-to name on the new invoice.</source>
+      <translation>ชื่อผู้รับใบแจ้งหนี้ในใบแจ้งหนี้ใหม่</translation>
+    </message>
+    <message id="cli.invoice.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>วันแรกของช่วง (yyyy-MM-dd)</translation>
+    </message>
+    <message id="cli.invoice.option.out">
+      <source>The file to write the PDF to.</source>
+      <translation>ไฟล์ที่จะเขียน PDF</translation>
+    </message>
+    <message id="cli.invoice.option.status">
+      <source>Status of the new invoice: draft or sent.</source>
+      <translation>สถานะของใบแจ้งหนี้ใหม่: draft หรือ sent</translation>
+    </message>
+    <message id="cli.invoice.option.to">
+      <source>Last day of the period (yyyy-MM-dd).</source>
+      <translation>วันสุดท้ายของช่วง (yyyy-MM-dd)</translation>
+    </message>
+    <message id="cli.invoice.option.vat">
+      <source>VAT percentage for lines whose price has none.</source>
+      <translation>อัตราภาษีมูลค่าเพิ่มสำหรับรายการที่ราคาไม่มีอัตรากำหนด</translation>
+    </message>
+    <message id="cli.invoice.pdfSaved">
+      <source>Saved the PDF of invoice %1 to %2.</source>
+      <translation>บันทึก PDF ของใบแจ้งหนี้ %1 ไปที่ %2 แล้ว</translation>
+    </message>
+    <message id="cli.invoice.status.draft">
+      <source>draft</source>
+      <translation>ฉบับร่าง</translation>
+    </message>
+    <message id="cli.invoice.status.paid">
+      <source>paid</source>
+      <translation>ชำระแล้ว</translation>
+    </message>
+    <message id="cli.invoice.status.sent">
+      <source>sent</source>
+      <translation>ส่งแล้ว</translation>
+    </message>
+    <message id="cli.invoice.status.void">
+      <source>void</source>
+      <translation>ยกเลิก</translation>
+    </message>
+    <message id="cli.invoice.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>ใบแจ้งหนี้ %1 ตอนนี้เป็น %2</translation>
+    </message>
+    <message id="cli.invoice.subtotal">
+      <source>Subtotal</source>
+      <translation>ยอดรวมย่อย</translation>
+    </message>
+    <message id="cli.invoice.total">
+      <source>Total</source>
+      <translation>ยอดรวม</translation>
+    </message>
+    <message id="cli.invoice.usage">
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
+      <translation>วิธีใช้: morvane invoice draft|create &lt;โปรเจกต์&gt; [--from วัน] [--to วัน] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;ใบแจ้งหนี้&gt; | status &lt;ใบแจ้งหนี้&gt; draft|sent|paid|void | void &lt;ใบแจ้งหนี้&gt; | rm &lt;ใบแจ้งหนี้&gt; | pdf &lt;ใบแจ้งหนี้&gt; --out ไฟล์ [--json]</translation>
+    </message>
+    <message id="cli.invoice.vat">
+      <source>VAT</source>
+      <translation>ภาษีมูลค่าเพิ่ม</translation>
+    </message>
+    <message id="cli.invoice.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>ใบแจ้งหนี้ %1 ถูกยกเลิกแล้ว ชั่วโมงของใบนี้กลับเป็นยังไม่ได้เรียกเก็บเงิน</translation>
+    </message>
+    <message id="cli.invoice.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>ไม่สามารถเขียน %1 ได้: %2</translation>
     </message>
     <message id="cli.log.logged">
       <source>Logged %1 on %2, %3 in all.</source>
@@ -979,6 +1087,62 @@
       <source>VAT %1% on %2</source>
       <translation>ภาษีมูลค่าเพิ่ม %1% จาก %2</translation>
     </message>
+    <message id="inv.err.allocateNumber">
+      <source>Allocate invoice number failed: %1</source>
+      <translation>กำหนดเลขที่ใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.alreadyBilled">
+      <source>Some of these hours are already on another invoice. The list was refreshed: check it and try again.</source>
+      <translation>ชั่วโมงบางส่วนอยู่ในใบแจ้งหนี้อื่นแล้ว รายการได้รับการรีเฟรชแล้ว โปรดตรวจสอบและลองอีกครั้ง</translation>
+    </message>
+    <message id="inv.err.delete">
+      <source>Delete invoice failed: %1</source>
+      <translation>ลบใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.loadInvoices">
+      <source>Load invoices failed: %1</source>
+      <translation>โหลดใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.loadLines">
+      <source>Load invoice lines failed: %1</source>
+      <translation>โหลดรายการในใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.notReady">
+      <source>Still reading what was billed before.</source>
+      <translation>กำลังอ่านสิ่งที่เคยเรียกเก็บเงินแล้ว</translation>
+    </message>
+    <message id="inv.err.pdfLink">
+      <source>The invoice PDF could not be opened: %1</source>
+      <translation>ไม่สามารถเปิด PDF ของใบแจ้งหนี้ได้: %1</translation>
+    </message>
+    <message id="inv.err.pdfReplace">
+      <source>The invoice PDF could not be replaced: %1</source>
+      <translation>ไม่สามารถแทนที่ PDF ของใบแจ้งหนี้ได้: %1</translation>
+    </message>
+    <message id="inv.err.priorBilling">
+      <source>Could not read which work was billed before. Billing waits until this works, so no fixed price or extra is billed twice.</source>
+      <translation>ไม่สามารถอ่านงานที่เคยเรียกเก็บเงินแล้วได้ การเรียกเก็บเงินจะรอจนกว่าจะอ่านได้ เพื่อไม่ให้ราคาคงที่หรือค่าใช้จ่ายเพิ่มเติมถูกเรียกเก็บซ้ำ</translation>
+    </message>
+    <message id="inv.err.saveFailed">
+      <source>Save invoice failed: %1</source>
+      <translation>บันทึกใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.unbilled">
+      <source>Could not read which time is still unbilled.</source>
+      <translation>ไม่สามารถอ่านเวลาที่ยังไม่ได้เรียกเก็บเงินได้</translation>
+    </message>
+    <message id="inv.err.updateStatus">
+      <source>Update invoice status failed: %1</source>
+      <translation>อัปเดตสถานะใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.voidFailed">
+      <source>Voiding the invoice failed: %1</source>
+      <translation>ยกเลิกใบแจ้งหนี้ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="inv.err.voidUnavailable">
+      <source>Voiding is not available yet because the server has not been updated. Try again later.</source>
+      <translation>ยังยกเลิกไม่ได้เพราะเซิร์ฟเวอร์ยังไม่ได้อัปเดต โปรดลองอีกครั้งภายหลัง</translation>
+    </message>
     <message id="inv.extrasBilledBefore">
       <source>extras already billed</source>
       <translation>เรียกเก็บค่าใช้จ่ายเพิ่มเติมแล้ว</translation>
@@ -1059,6 +1223,10 @@
       <source>This work was billed before. Its fixed or per-unit price, minimum charge, call-out fee, materials and a fixed discount are billed once. Turn this on to bill them again.</source>
       <translation>งานนี้เคยเรียกเก็บเงินแล้ว ราคาเหมาหรือราคาต่อหน่วย ค่าบริการขั้นต่ำ ค่าเดินทาง ค่าวัสดุ และส่วนลดแบบจำนวนเงินจะเรียกเก็บเพียงครั้งเดียว เปิดตัวเลือกนี้เพื่อเรียกเก็บอีกครั้ง</translation>
     </message>
+    <message id="inv.saved">
+      <source>Invoice %1 saved</source>
+      <translation>บันทึกใบแจ้งหนี้ %1 แล้ว</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>ยอดรวมก่อนภาษี</translation>
@@ -1126,6 +1294,14 @@
     <message id="inviteUnavailable">
       <source>Inviting by email is not available yet. Try again later.</source>
       <translation>ยังเชิญทางอีเมลไม่ได้ในขณะนี้ โปรดลองอีกครั้งในภายหลัง</translation>
+    </message>
+    <message id="invoiceErrTripsTaken">
+      <source>Some of these trips are already on another invoice. Refresh and try again.</source>
+      <translation>การเดินทางบางรายการอยู่ในใบแจ้งหนี้อื่นแล้ว โปรดรีเฟรชและลองอีกครั้ง</translation>
+    </message>
+    <message id="invoiceErrVoidFinal">
+      <source>This invoice is void. A void invoice cannot be changed back.</source>
+      <translation>ใบแจ้งหนี้นี้ถูกยกเลิกแล้ว ใบแจ้งหนี้ที่ยกเลิกแล้วไม่สามารถเปลี่ยนกลับได้</translation>
     </message>
     <message id="invoiceFooter">
       <source>Made with Morvane</source>

@@ -388,6 +388,7 @@ void AppStore::clearCollections()
     }
     setTeams({}, {});
     setClients({});
+    clearInvoices();
     setProfile(std::nullopt);
     setSelectedProjectId({});
     setSelectedTaskId({});

@@ -2,6 +2,7 @@
 
 #include "model/client.h"
 #include "model/clock.h"
+#include "model/invoice.h"
 #include "model/profile.h"
 #include "model/project.h"
 #include "model/taskitem.h"
@@ -33,6 +34,33 @@
 
 class AuthStore;
 class MorvaneError;
+
+// Which one-off parts are already on a live invoice: tasks with their own fixed price or extras,
+// and projects whose shared price and extras were billed.
+struct PriorBilling
+{
+    QSet<QString> tasks;
+    QSet<QString> poolProjects;
+    friend bool operator==(const PriorBilling &, const PriorBilling &) = default;
+};
+
+// Everything a save writes, built and rendered beforehand: the store only writes it, in an order
+// that it can undo.
+struct InvoiceSaveRequest
+{
+    // Number, dates, totals, status and bill-to details; `user_id` and `client_id` are set by the
+    // store.
+    InvoiceInsert invoice;
+    // In display order; the store fills `invoice_id` and `order_index`.
+    QList<InvoiceLineInsert> lines;
+    QStringList coveredEntryIds;
+    QStringList tripIds;
+    // When set, the bill-to details become a saved client (an existing one of the same name is reused).
+    std::optional<ClientInsert> saveClient;
+    QByteArray pdf;
+    // The object's file name without ".pdf"; the invoice number when empty.
+    QString pdfFileName;
+};
 
 // What the sidebar shows: one project, the overview of all projects (a project selection
 // without an id), the AI sessions or the earnings.
@@ -258,6 +286,45 @@ public:
     QCoro::Task<std::optional<Team>> createTeam(QString name);
     QCoro::Task<InviteOutcome> inviteMember(QString teamId, QString email, TeamRole role);
 
+    // Invoices. Each operation answers whether it succeeded and sets `lastError` otherwise.
+    [[nodiscard]] const QList<Invoice> &invoices() const { return m_invoices; }
+    [[nodiscard]] std::optional<Invoice> invoice(const QString &invoiceId) const;
+    [[nodiscard]] std::optional<Invoice> invoiceByNumber(const QString &number) const;
+    QCoro::Task<bool> loadInvoices();
+    // The backend hands out numbers; the client never makes one up.
+    QCoro::Task<std::optional<QString>> allocateInvoiceNumber();
+    [[nodiscard]] const QList<TimeEntry> &unbilledEntries() const { return m_unbilledEntries; }
+    [[nodiscard]] bool unbilledReady() const { return m_unbilledReady; }
+    [[nodiscard]] bool unbilledError() const { return m_unbilledError; }
+    QCoro::Task<bool> loadUnbilledEntries();
+    [[nodiscard]] const QSet<QString> &billedEntryIds() const { return m_billedEntryIds; }
+    [[nodiscard]] const PriorBilling &priorBilling() const { return m_priorBilling; }
+    // Invoicing waits for these: a set that was not read would bill a fixed price twice.
+    [[nodiscard]] bool priorBillingReady() const { return m_priorBillingReady; }
+    [[nodiscard]] bool priorBillingError() const { return m_priorBillingError; }
+    QCoro::Task<bool> reloadBilledEntrySet();
+    QCoro::Task<std::optional<QList<InvoiceLine>>> loadInvoiceLines(QString invoiceId);
+    // Draft, sent or paid; a void invoice stays void.
+    QCoro::Task<bool> updateInvoiceStatus(QString invoiceId, InvoiceStatus status);
+    // Voids the invoice and releases its hours and trips.
+    QCoro::Task<bool> voidInvoice(QString invoiceId);
+    QCoro::Task<bool> deleteInvoice(QString invoiceId);
+    // A link to the stored PDF that works for ten minutes without a token.
+    QCoro::Task<std::optional<QUrl>> invoicePdfURL(QString invoiceId);
+    QCoro::Task<bool> replaceInvoicePDF(QString invoiceId, QByteArray pdf);
+    // Writes a composed invoice; on a failure after the invoice row exists the row is deleted
+    // again, so no half invoice stays behind. `invoiceSaveMessage` tells the outcome either way.
+    QCoro::Task<std::optional<Invoice>> saveInvoice(InvoiceSaveRequest request);
+    [[nodiscard]] QString invoiceSaveMessage() const { return m_invoiceSaveMessage; }
+    // The net worth of the unbilled time (of one project, or of all with an empty id).
+    [[nodiscard]] double unbilledTotal(const QString &projectId = {}) const;
+    // Billed tracked seconds ÷ tracked seconds of the project; none when nothing is tracked.
+    [[nodiscard]] std::optional<double> billedFraction(const QString &projectId) const;
+    // Where an invoice of the project should start: the day of its earliest unbilled work.
+    [[nodiscard]] std::optional<QDate> smartInvoiceStartDate(const QString &projectId) const;
+    // The object path of an invoice's PDF: the owner's folder, "invoices", the file.
+    [[nodiscard]] static QString invoicePdfPath(const QString &ownerId, const QString &fileName);
+
 signals:
     void projectsChanged();
     void tasksChanged();
@@ -281,6 +348,10 @@ signals:
     void aiProgressChanged();
     // The running task, or its start, changed: the timer display binds to runningTask() here.
     void runningTaskChanged();
+    void invoicesChanged();
+    void unbilledEntriesChanged();
+    void billedSetChanged();
+    void invoiceSaveMessageChanged();
 
 private:
     // A token and the session it belongs to: an answer that arrives after the user changed is
@@ -341,6 +412,10 @@ private:
     void foldEntries(const QList<TimeEntry> &entries, const QDateTime &windowStart);
     void tasksDidChange();
     [[nodiscard]] QDateTime recentWindowStart() const;
+    void mergeInvoice(const Invoice &invoice);
+    void clearInvoices();
+    void setInvoiceSaveMessage(const QString &message);
+    QCoro::Task<std::optional<QString>> reuseOrCreateClient(Session &session, ClientInsert client);
 
     AuthStore &m_auth;
     std::shared_ptr<QSettings> m_settings;
@@ -388,4 +463,14 @@ private:
     std::shared_ptr<RealtimeScheduler> m_realtimeScheduler = RealtimeScheduler::system();
     std::unique_ptr<RealtimeClient> m_realtime;
     QStringList m_teamProjectIds;
+
+    QList<Invoice> m_invoices;
+    QList<TimeEntry> m_unbilledEntries;
+    bool m_unbilledReady = false;
+    bool m_unbilledError = false;
+    QSet<QString> m_billedEntryIds;
+    PriorBilling m_priorBilling;
+    bool m_priorBillingReady = false;
+    bool m_priorBillingError = false;
+    QString m_invoiceSaveMessage;
 };
