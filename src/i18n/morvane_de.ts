@@ -1155,6 +1155,14 @@
       <source>included in the project price</source>
       <translation>im Projektpreis enthalten</translation>
     </message>
+    <message id="inv.leftOut.many">
+      <source>%1 time entries already billed, left out</source>
+      <translation>%1 Zeiteinträge bereits abgerechnet, ausgelassen</translation>
+    </message>
+    <message id="inv.leftOut.one">
+      <source>1 time entry already billed, left out</source>
+      <translation>1 Zeiteintrag bereits abgerechnet, ausgelassen</translation>
+    </message>
     <message id="inv.line.discount">
       <source>Discount</source>
       <translation>Rabatt</translation>
@@ -1306,6 +1314,22 @@
     <message id="invoiceFooter">
       <source>Made with Morvane</source>
       <translation>Erstellt mit Morvane</translation>
+    </message>
+    <message id="invoicePeriodLast30">
+      <source>Last 30 days</source>
+      <translation>Letzte 30 Tage</translation>
+    </message>
+    <message id="invoicePeriodLast7">
+      <source>Last 7 days</source>
+      <translation>Letzte 7 Tage</translation>
+    </message>
+    <message id="invoicePeriodLastMonth">
+      <source>Last month</source>
+      <translation>Letzter Monat</translation>
+    </message>
+    <message id="invoicePeriodThisMonth">
+      <source>This month</source>
+      <translation>Dieser Monat</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

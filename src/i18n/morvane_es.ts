@@ -1155,6 +1155,14 @@
       <source>included in the project price</source>
       <translation>incluido en el precio del proyecto</translation>
     </message>
+    <message id="inv.leftOut.many">
+      <source>%1 time entries already billed, left out</source>
+      <translation>%1 registros de tiempo ya facturados, omitidos</translation>
+    </message>
+    <message id="inv.leftOut.one">
+      <source>1 time entry already billed, left out</source>
+      <translation>1 registro de tiempo ya facturado, omitido</translation>
+    </message>
     <message id="inv.line.discount">
       <source>Discount</source>
       <translation>Descuento</translation>
@@ -1306,6 +1314,22 @@
     <message id="invoiceFooter">
       <source>Made with Morvane</source>
       <translation>Hecho con Morvane</translation>
+    </message>
+    <message id="invoicePeriodLast30">
+      <source>Last 30 days</source>
+      <translation>Últimos 30 días</translation>
+    </message>
+    <message id="invoicePeriodLast7">
+      <source>Last 7 days</source>
+      <translation>Últimos 7 días</translation>
+    </message>
+    <message id="invoicePeriodLastMonth">
+      <source>Last month</source>
+      <translation>El mes pasado</translation>
+    </message>
+    <message id="invoicePeriodThisMonth">
+      <source>This month</source>
+      <translation>Este mes</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -1155,6 +1155,14 @@
       <source>included in the project price</source>
       <translation>inclus dans le prix du projet</translation>
     </message>
+    <message id="inv.leftOut.many">
+      <source>%1 time entries already billed, left out</source>
+      <translation>%1 saisies de temps déjà facturées, écartées</translation>
+    </message>
+    <message id="inv.leftOut.one">
+      <source>1 time entry already billed, left out</source>
+      <translation>1 saisie de temps déjà facturée, écartée</translation>
+    </message>
     <message id="inv.line.discount">
       <source>Discount</source>
       <translation>Remise</translation>
@@ -1306,6 +1314,22 @@
     <message id="invoiceFooter">
       <source>Made with Morvane</source>
       <translation>Réalisé avec Morvane</translation>
+    </message>
+    <message id="invoicePeriodLast30">
+      <source>Last 30 days</source>
+      <translation>30 derniers jours</translation>
+    </message>
+    <message id="invoicePeriodLast7">
+      <source>Last 7 days</source>
+      <translation>7 derniers jours</translation>
+    </message>
+    <message id="invoicePeriodLastMonth">
+      <source>Last month</source>
+      <translation>Le mois dernier</translation>
+    </message>
+    <message id="invoicePeriodThisMonth">
+      <source>This month</source>
+      <translation>Ce mois-ci</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -1155,6 +1155,14 @@
       <source>included in the project price</source>
       <translation>incluso nel prezzo del progetto</translation>
     </message>
+    <message id="inv.leftOut.many">
+      <source>%1 time entries already billed, left out</source>
+      <translation>%1 registrazioni di tempo già fatturate, escluse</translation>
+    </message>
+    <message id="inv.leftOut.one">
+      <source>1 time entry already billed, left out</source>
+      <translation>1 registrazione di tempo già fatturata, esclusa</translation>
+    </message>
     <message id="inv.line.discount">
       <source>Discount</source>
       <translation>Sconto</translation>
@@ -1306,6 +1314,22 @@
     <message id="invoiceFooter">
       <source>Made with Morvane</source>
       <translation>Realizzato con Morvane</translation>
+    </message>
+    <message id="invoicePeriodLast30">
+      <source>Last 30 days</source>
+      <translation>Ultimi 30 giorni</translation>
+    </message>
+    <message id="invoicePeriodLast7">
+      <source>Last 7 days</source>
+      <translation>Ultimi 7 giorni</translation>
+    </message>
+    <message id="invoicePeriodLastMonth">
+      <source>Last month</source>
+      <translation>Il mese scorso</translation>
+    </message>
+    <message id="invoicePeriodThisMonth">
+      <source>This month</source>
+      <translation>Questo mese</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -1155,6 +1155,14 @@
       <source>included in the project price</source>
       <translation>プロジェクト価格に含まれます</translation>
     </message>
+    <message id="inv.leftOut.many">
+      <source>%1 time entries already billed, left out</source>
+      <translation>%1件の作業時間は請求済みのため除外しました</translation>
+    </message>
+    <message id="inv.leftOut.one">
+      <source>1 time entry already billed, left out</source>
+      <translation>1件の作業時間は請求済みのため除外しました</translation>
+    </message>
     <message id="inv.line.discount">
       <source>Discount</source>
       <translation>割引</translation>
@@ -1306,6 +1314,22 @@
     <message id="invoiceFooter">
       <source>Made with Morvane</source>
       <translation>Morvane で作成</translation>
+    </message>
+    <message id="invoicePeriodLast30">
+      <source>Last 30 days</source>
+      <translation>過去30日間</translation>
+    </message>
+    <message id="invoicePeriodLast7">
+      <source>Last 7 days</source>
+      <translation>過去7日間</translation>
+    </message>
+    <message id="invoicePeriodLastMonth">
+      <source>Last month</source>
+      <translation>先月</translation>
+    </message>
+    <message id="invoicePeriodThisMonth">
+      <source>This month</source>
+      <translation>今月</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>

@@ -1155,6 +1155,14 @@
       <source>included in the project price</source>
       <translation>รวมอยู่ในราคาโครงการ</translation>
     </message>
+    <message id="inv.leftOut.many">
+      <source>%1 time entries already billed, left out</source>
+      <translation>%1 รายการเวลาถูกเรียกเก็บเงินแล้ว จึงไม่รวม</translation>
+    </message>
+    <message id="inv.leftOut.one">
+      <source>1 time entry already billed, left out</source>
+      <translation>1 รายการเวลาถูกเรียกเก็บเงินแล้ว จึงไม่รวม</translation>
+    </message>
     <message id="inv.line.discount">
       <source>Discount</source>
       <translation>ส่วนลด</translation>
@@ -1306,6 +1314,22 @@
     <message id="invoiceFooter">
       <source>Made with Morvane</source>
       <translation>สร้างด้วย Morvane</translation>
+    </message>
+    <message id="invoicePeriodLast30">
+      <source>Last 30 days</source>
+      <translation>30 วันที่ผ่านมา</translation>
+    </message>
+    <message id="invoicePeriodLast7">
+      <source>Last 7 days</source>
+      <translation>7 วันที่ผ่านมา</translation>
+    </message>
+    <message id="invoicePeriodLastMonth">
+      <source>Last month</source>
+      <translation>เดือนที่แล้ว</translation>
+    </message>
+    <message id="invoicePeriodThisMonth">
+      <source>This month</source>
+      <translation>เดือนนี้</translation>
     </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>
