@@ -7,6 +7,7 @@
 #include "billing/money.h"
 #include "billing/moneyinput.h"
 #include "model/isodate.h"
+#include "store/invoicecomposer.h"
 
 #include <QApplication>
 #include <QFile>
@@ -341,19 +342,7 @@ int createInvoice(AppStore &store, const Project &project, const ComposedDraft &
         line.unit = built.unit.value_or(QString());
         line.description = built.description;
         draft.lines << line;
-        InvoiceLineInsert insert;
-        insert.taskId = built.taskId;
-        // A pool's own price and extras belong to its project, so they are billed there only once.
-        if (!built.taskId && built.unitKey.startsWith(u"pool:"_s)) {
-            insert.poolProjectId = built.unitKey.mid(5);
-        }
-        insert.title = built.title;
-        insert.description = built.description;
-        insert.quantity = built.quantity;
-        insert.unit = built.unit;
-        insert.unitPrice = built.unitPrice;
-        insert.amount = built.amount;
-        lines << insert;
+        lines << InvoiceComposer::lineInsert(built);
     }
     InvoiceMetadata metadata;
     metadata.number = *number;

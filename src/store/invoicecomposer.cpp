@@ -375,19 +375,7 @@ std::optional<InvoiceSaveRequest> InvoiceComposer::saveRequest(const QString &nu
     request.invoice.clientEmail = nonEmpty(m_clientEmail);
     request.invoice.clientAddress = nonEmpty(m_clientAddress);
     for (const Earnings::BuiltLine &built : m_built.lines) {
-        InvoiceLineInsert insert;
-        insert.taskId = built.taskId;
-        // A pool's own price and extras belong to its project, so they are billed there only once.
-        if (!built.taskId && built.unitKey.startsWith(u"pool:"_s)) {
-            insert.poolProjectId = built.unitKey.mid(5);
-        }
-        insert.title = built.title;
-        insert.description = built.description;
-        insert.quantity = built.quantity;
-        insert.unit = built.unit;
-        insert.unitPrice = built.unitPrice;
-        insert.amount = built.amount;
-        request.lines << insert;
+        request.lines << lineInsert(built);
     }
     request.coveredEntryIds = m_coveredEntryIds;
     if (m_saveAsClient && request.invoice.clientName) {
@@ -399,4 +387,21 @@ std::optional<InvoiceSaveRequest> InvoiceComposer::saveRequest(const QString &nu
         request.saveClient = client;
     }
     return request;
+}
+
+InvoiceLineInsert InvoiceComposer::lineInsert(const Earnings::BuiltLine &built)
+{
+    InvoiceLineInsert insert;
+    insert.taskId = built.taskId;
+    // A pool's own price and extras belong to its project, so they are billed there only once.
+    if (!built.taskId && built.unitKey.startsWith(u"pool:"_s)) {
+        insert.poolProjectId = built.unitKey.mid(5);
+    }
+    insert.title = built.title;
+    insert.description = built.description;
+    insert.quantity = built.quantity;
+    insert.unit = built.unit;
+    insert.unitPrice = built.unitPrice;
+    insert.amount = built.amount;
+    return insert;
 }

@@ -111,6 +111,8 @@ public:
 
     // What the store's saveInvoice writes, without the PDF, which the caller renders from the same
     // state. Nothing while saving is refused.
+    // The row a built line is saved as (order_index is set by the save).
+    [[nodiscard]] static InvoiceLineInsert lineInsert(const Earnings::BuiltLine &built);
     [[nodiscard]] std::optional<InvoiceSaveRequest> saveRequest(const QString &number, const QDate &issued,
                                                                 const QDate &due, const QString &status) const;
 
