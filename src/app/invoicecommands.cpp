@@ -307,16 +307,93 @@ int showDraft(AppStore &store, const Project &project, std::optional<QDate> from
     return 0;
 }
 
+// The PDF of an invoice in the default style and design, as the composer renders it.
+std::optional<QByteArray> renderPdf(const InvoiceDraft &draft, const InvoiceMetadata &metadata, QTextStream &err)
+{
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance())) {
+        err << qtTrId("cli.renderInvoice.err.noGui") << Qt::endl;
+        return std::nullopt;
+    }
+    const InvoiceStyle style;
+    using namespace InvoiceHTMLRenderer;
+    const Template design = Template::LightMinimalAccent;
+    const QString html = buildHTML(draft, style, brandProfile(style, design), design, metadata);
+    try {
+        InvoicePdfRenderer renderer;
+        return runBlocking(renderer.render(html)).pdf;
+    } catch (const InvoicePdfError &error) {
+        err << qtTrId("cli.renderInvoice.err.failed").arg(error.message()) << Qt::endl;
+        return std::nullopt;
+    }
+}
+
+// Draws a saved invoice again from its stored lines and the template's current details, and puts
+// the new PDF in place of the stored one.
+int replacePdf(AppStore &store, const Invoice &invoice, bool json, QTextStream &out, QTextStream &err)
+{
+    const std::optional<QList<InvoiceLine>> lines = runBlocking(store.loadInvoiceLines(invoice.id));
+    if (!lines) {
+        err << store.lastError() << Qt::endl;
+        return 1;
+    }
+    InvoiceDraft draft;
+    if (invoice.projectId) {
+        if (const std::optional<Project> project = store.project(*invoice.projectId)) {
+            draft.projectName = project->name;
+        }
+    }
+    draft.currency = invoice.currency;
+    for (const InvoiceLine &stored : *lines) {
+        DraftLine line;
+        line.taskId = stored.taskId;
+        line.title = stored.title;
+        line.hours = stored.quantity;
+        line.amount = stored.amount;
+        line.rate = stored.unitPrice;
+        line.unit = stored.unit.value_or(QString());
+        line.description = stored.description;
+        draft.lines << line;
+    }
+    InvoiceMetadata metadata;
+    metadata.number = invoice.number;
+    metadata.issued = invoice.issuedAt;
+    metadata.due = invoice.dueAt;
+    metadata.clientName = invoice.clientName;
+    metadata.clientEmail = invoice.clientEmail;
+    metadata.clientAddress = invoice.clientAddress;
+    metadata.notes = invoice.notes;
+    if (const std::optional<Profile> &profile = store.profile(); profile && profile->displayName) {
+        metadata.senderName = profile->displayName;
+    }
+    metadata.vatAmount = invoice.vatAmount;
+    // One rate is all a stored invoice tells; it is recovered from its totals.
+    if (const std::optional<double> percent = Earnings::inferVatPercent(invoice.subtotal, invoice.vatAmount)) {
+        metadata.vatRate = *percent;
+        metadata.vatGroups = {InvoiceVatGroup{*percent, invoice.subtotal, invoice.vatAmount}};
+    }
+    const std::optional<QByteArray> pdf = renderPdf(draft, metadata, err);
+    if (!pdf) {
+        return 1;
+    }
+    if (!runBlocking(store.replaceInvoicePDF(invoice.id, *pdf))) {
+        err << store.lastError() << Qt::endl;
+        return 1;
+    }
+    if (json) {
+        Cli::printJson(out, invoiceJson(store.invoice(invoice.id).value_or(invoice)));
+    } else {
+        //% "The PDF of invoice %1 was made again."
+        out << qtTrId("cli.invoice.pdfReplaced").arg(invoice.number) << Qt::endl;
+    }
+    return 0;
+}
+
 // Renders the composed invoice as the composer would and saves it with its PDF.
 int createInvoice(AppStore &store, const Project &project, const ComposedDraft &composed, const QString &status,
                   const std::optional<QString> &clientName, bool json, QTextStream &out, QTextStream &err)
 {
     if (composed.built.lines.isEmpty()) {
         err << qtTrId("cli.invoice.draftEmpty").arg(project.name) << Qt::endl;
-        return 1;
-    }
-    if (!qobject_cast<QApplication *>(QCoreApplication::instance())) {
-        err << qtTrId("cli.renderInvoice.err.noGui") << Qt::endl;
         return 1;
     }
     const std::optional<QString> number = runBlocking(store.allocateInvoiceNumber());
@@ -357,16 +434,8 @@ int createInvoice(AppStore &store, const Project &project, const ComposedDraft &
     if (composed.vat.groups.size() == 1) {
         metadata.vatRate = composed.vat.groups.first().percent;
     }
-    const InvoiceStyle style;
-    using namespace InvoiceHTMLRenderer;
-    const Template design = Template::LightMinimalAccent;
-    const QString html = buildHTML(draft, style, brandProfile(style, design), design, metadata);
-    RenderedPdf rendered;
-    try {
-        InvoicePdfRenderer renderer;
-        rendered = runBlocking(renderer.render(html));
-    } catch (const InvoicePdfError &error) {
-        err << qtTrId("cli.renderInvoice.err.failed").arg(error.message()) << Qt::endl;
+    const std::optional<QByteArray> pdf = renderPdf(draft, metadata, err);
+    if (!pdf) {
         return 1;
     }
 
@@ -384,7 +453,7 @@ int createInvoice(AppStore &store, const Project &project, const ComposedDraft &
     request.invoice.clientName = clientName;
     request.lines = lines;
     request.coveredEntryIds = composed.entryIds;
-    request.pdf = rendered.pdf;
+    request.pdf = *pdf;
     const std::optional<Invoice> saved = runBlocking(store.saveInvoice(request));
     if (!saved) {
         err << store.invoiceSaveMessage() << Qt::endl;
@@ -442,7 +511,8 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
                        (action == u"create" && count == 2 && goodDraftOptions &&
                         (newStatus == u"draft" || newStatus == u"sent")) || (action == u"list" && count == 1) || (action == u"show" && count == 2) ||
                        (action == u"status" && count == 3 && status) || (action == u"void" && count == 2) ||
-                       (action == u"rm" && count == 2) || (action == u"pdf" && count == 2 && parser.isSet(outOption));
+                       (action == u"rm" && count == 2) || (action == u"pdf" && count == 2 && parser.isSet(outOption)) ||
+                       (action == u"replace-pdf" && count == 2);
     if (!known) {
         return Cli::usage(err, usageText);
     }
@@ -500,6 +570,9 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     }
     if (action == u"show") {
         return showInvoice(store, *invoice, json, out, err);
+    }
+    if (action == u"replace-pdf") {
+        return replacePdf(store, *invoice, json, out, err);
     }
     if (action == u"status" || action == u"void") {
         const InvoiceStatus target = action == u"void" ? InvoiceStatus::Void : *status;

@@ -71,8 +71,9 @@ bool RenderInvoiceCommand::requested(int argc, char **argv)
             return true;
         }
     }
-    // `morvane invoice create` renders the PDF it stores.
-    return argc > 2 && std::strcmp(argv[1], "invoice") == 0 && std::strcmp(argv[2], "create") == 0;
+    // `morvane invoice create` and `replace-pdf` render the PDF they store.
+    return argc > 2 && std::strcmp(argv[1], "invoice") == 0 &&
+           (std::strcmp(argv[2], "create") == 0 || std::strcmp(argv[2], "replace-pdf") == 0);
 }
 
 std::unique_ptr<QCoreApplication> RenderInvoiceCommand::makeApplication(int &argc, char **argv)

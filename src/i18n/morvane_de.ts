@@ -435,6 +435,10 @@
       <source>VAT percentage for lines whose price has none.</source>
       <translation>USt.-Satz für Positionen, deren Preis keinen hat.</translation>
     </message>
+    <message id="cli.invoice.pdfReplaced">
+      <source>The PDF of invoice %1 was made again.</source>
+      <translation>Das PDF der Rechnung %1 wurde neu erstellt.</translation>
+    </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
       <translation>Das PDF der Rechnung %1 wurde in %2 gespeichert.</translation>
@@ -468,8 +472,8 @@
       <translation>Gesamt</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Aufruf: morvane invoice draft|create &lt;Projekt&gt; [--from TAG] [--to TAG] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;Rechnung&gt; | status &lt;Rechnung&gt; draft|sent|paid|void | void &lt;Rechnung&gt; | rm &lt;Rechnung&gt; | pdf &lt;Rechnung&gt; --out DATEI [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>Aufruf: morvane invoice draft|create &lt;Projekt&gt; [--from TAG] [--to TAG] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;Rechnung&gt; | status &lt;Rechnung&gt; draft|sent|paid|void | void &lt;Rechnung&gt; | rm &lt;Rechnung&gt; | pdf &lt;Rechnung&gt; --out DATEI | replace-pdf &lt;Rechnung&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -435,6 +435,10 @@
       <source>VAT percentage for lines whose price has none.</source>
       <translation>Porcentaje de IVA para las líneas cuyo precio no lo tiene.</translation>
     </message>
+    <message id="cli.invoice.pdfReplaced">
+      <source>The PDF of invoice %1 was made again.</source>
+      <translation>El PDF de la factura %1 se ha vuelto a generar.</translation>
+    </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
       <translation>El PDF de la factura %1 se guardó en %2.</translation>
@@ -468,8 +472,8 @@
       <translation>Total</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Uso: morvane invoice draft|create &lt;proyecto&gt; [--from DÍA] [--to DÍA] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;factura&gt; | status &lt;factura&gt; draft|sent|paid|void | void &lt;factura&gt; | rm &lt;factura&gt; | pdf &lt;factura&gt; --out ARCHIVO [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>Uso: morvane invoice draft|create &lt;proyecto&gt; [--from DÍA] [--to DÍA] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;factura&gt; | status &lt;factura&gt; draft|sent|paid|void | void &lt;factura&gt; | rm &lt;factura&gt; | pdf &lt;factura&gt; --out ARCHIVO | replace-pdf &lt;factura&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

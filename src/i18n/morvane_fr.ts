@@ -435,6 +435,10 @@
       <source>VAT percentage for lines whose price has none.</source>
       <translation>Taux de TVA des lignes dont le prix n'en a pas.</translation>
     </message>
+    <message id="cli.invoice.pdfReplaced">
+      <source>The PDF of invoice %1 was made again.</source>
+      <translation>Le PDF de la facture %1 a été refait.</translation>
+    </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
       <translation>Le PDF de la facture %1 a été enregistré dans %2.</translation>
@@ -468,8 +472,8 @@
       <translation>Total</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Usage : morvane invoice draft|create &lt;projet&gt; [--from JOUR] [--to JOUR] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;facture&gt; | status &lt;facture&gt; draft|sent|paid|void | void &lt;facture&gt; | rm &lt;facture&gt; | pdf &lt;facture&gt; --out FICHIER [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>Usage : morvane invoice draft|create &lt;projet&gt; [--from JOUR] [--to JOUR] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;facture&gt; | status &lt;facture&gt; draft|sent|paid|void | void &lt;facture&gt; | rm &lt;facture&gt; | pdf &lt;facture&gt; --out FICHIER | replace-pdf &lt;facture&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

@@ -435,6 +435,10 @@
       <source>VAT percentage for lines whose price has none.</source>
       <translation>Aliquota IVA per le righe il cui prezzo non ne ha una.</translation>
     </message>
+    <message id="cli.invoice.pdfReplaced">
+      <source>The PDF of invoice %1 was made again.</source>
+      <translation>Il PDF della fattura %1 è stato rigenerato.</translation>
+    </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
       <translation>Il PDF della fattura %1 è stato salvato in %2.</translation>
@@ -468,8 +472,8 @@
       <translation>Totale</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>Uso: morvane invoice draft|create &lt;progetto&gt; [--from GIORNO] [--to GIORNO] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;fattura&gt; | status &lt;fattura&gt; draft|sent|paid|void | void &lt;fattura&gt; | rm &lt;fattura&gt; | pdf &lt;fattura&gt; --out FILE [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>Uso: morvane invoice draft|create &lt;progetto&gt; [--from GIORNO] [--to GIORNO] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;fattura&gt; | status &lt;fattura&gt; draft|sent|paid|void | void &lt;fattura&gt; | rm &lt;fattura&gt; | pdf &lt;fattura&gt; --out FILE | replace-pdf &lt;fattura&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

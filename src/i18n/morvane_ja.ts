@@ -435,6 +435,10 @@
       <source>VAT percentage for lines whose price has none.</source>
       <translation>価格に税率がない明細の消費税率。</translation>
     </message>
+    <message id="cli.invoice.pdfReplaced">
+      <source>The PDF of invoice %1 was made again.</source>
+      <translation>請求書 %1 の PDF を作り直しました。</translation>
+    </message>
     <message id="cli.invoice.pdfSaved">
       <source>Saved the PDF of invoice %1 to %2.</source>
       <translation>請求書 %1 のPDFを %2 に保存しました。</translation>
@@ -468,8 +472,8 @@
       <translation>合計</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE [--json]</source>
-      <translation>使い方: morvane invoice draft|create &lt;プロジェクト&gt; [--from 日付] [--to 日付] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;請求書&gt; | status &lt;請求書&gt; draft|sent|paid|void | void &lt;請求書&gt; | rm &lt;請求書&gt; | pdf &lt;請求書&gt; --out ファイル [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>使い方: morvane invoice draft|create &lt;プロジェクト&gt; [--from 日付] [--to 日付] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;請求書&gt; | status &lt;請求書&gt; draft|sent|paid|void | void &lt;請求書&gt; | rm &lt;請求書&gt; | pdf &lt;請求書&gt; --out ファイル | replace-pdf &lt;請求書&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>

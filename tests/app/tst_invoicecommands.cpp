@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QProcess>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -306,6 +307,33 @@ private slots:
         QCOMPARE(sql("SELECT count(*) FROM invoice_entries WHERE time_entry_id = $1 AND live", {m_entry}), "0");
         const Run again = ann({u"invoice"_s, u"rm"_s, u"2026-0100"_s});
         QCOMPARE(again.code, 1);
+    }
+
+    void replacePdfDrawsTheStoredLinesAgain()
+    {
+        const QByteArray id = addInvoice("2026-0100", "2026-04-01", true);
+        const QByteArray path = sql("SELECT pdf_path FROM invoices WHERE id = $1", {id});
+        const Run run = ann({u"invoice"_s, u"replace-pdf"_s, u"2026-0100"_s});
+        QCOMPARE(run.code, 0);
+        QCOMPARE(run.out.trimmed(), u"The PDF of invoice 2026-0100 was made again."_s);
+        QCOMPARE(sql("SELECT pdf_path FROM invoices WHERE id = $1", {id}), path);
+
+        const QString file = ann.homeFile(u"replaced.pdf"_s);
+        QCOMPARE(ann({u"invoice"_s, u"pdf"_s, u"2026-0100"_s, u"--out"_s, file}).code, 0);
+        QFile pdf(file);
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        const QByteArray bytes = pdf.readAll();
+        QVERIFY(bytes.startsWith("%PDF"));
+        QVERIFY(bytes != pdfBytes);
+        // The new page carries the stored lines and totals.
+        QProcess text;
+        text.start(u"pdftotext"_s, {file, u"-"_s});
+        QVERIFY(text.waitForFinished(30000));
+        const QString words = QString::fromUtf8(text.readAllStandardOutput());
+        QVERIFY2(words.contains(u"Support"_s) && words.contains(u"2026-0100"_s) && words.contains(u"344.85"_s),
+                 qPrintable(words));
+
+        QCOMPARE(ann({u"invoice"_s, u"replace-pdf"_s, u"2099-0001"_s}).code, 1);
     }
 };
 
