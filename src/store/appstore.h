@@ -11,6 +11,7 @@
 #include "backend/realtimeclient.h"
 #include "backend/supabase.h"
 #include "billing/earnings.h"
+#include "store/invoicecontext.h"
 #include "store/inviteoutcome.h"
 #include "store/taskorder.h"
 #include "store/timerrecords.h"
@@ -282,6 +283,12 @@ public:
     // A zero UTC offset written as "Z", the form the filter compares in.
     [[nodiscard]] static QString timestampFilterValue(const QString &instant);
 
+    // The composer a view should show, opened from a project, a selection of tasks or the
+    // earnings view; none while no composer is asked for.
+    [[nodiscard]] const std::optional<InvoiceContext> &pendingInvoiceContext() const { return m_pendingInvoiceContext; }
+    void openInvoiceComposer(const InvoiceContext &context);
+    void closeInvoiceComposer();
+
     // Teams.
     QCoro::Task<std::optional<Team>> createTeam(QString name);
     QCoro::Task<InviteOutcome> inviteMember(QString teamId, QString email, TeamRole role);
@@ -348,6 +355,7 @@ signals:
     void aiProgressChanged();
     // The running task, or its start, changed: the timer display binds to runningTask() here.
     void runningTaskChanged();
+    void pendingInvoiceContextChanged();
     void invoicesChanged();
     void unbilledEntriesChanged();
     void billedSetChanged();
@@ -459,6 +467,7 @@ private:
     QTimer m_pollTimer;
     quint64 m_pollRun = 0;
     std::chrono::milliseconds m_pollInterval = defaultPollInterval;
+    std::optional<InvoiceContext> m_pendingInvoiceContext;
     bool m_realtimeEnabled = true;
     std::shared_ptr<RealtimeScheduler> m_realtimeScheduler = RealtimeScheduler::system();
     std::unique_ptr<RealtimeClient> m_realtime;

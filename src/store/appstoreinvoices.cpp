@@ -851,3 +851,18 @@ std::optional<QDate> AppStore::smartInvoiceStartDate(const QString &projectId) c
     }
     return earliest->toLocalTime().date();
 }
+
+void AppStore::openInvoiceComposer(const InvoiceContext &context)
+{
+    m_pendingInvoiceContext = context;
+    emit pendingInvoiceContextChanged();
+}
+
+void AppStore::closeInvoiceComposer()
+{
+    if (!m_pendingInvoiceContext) {
+        return;
+    }
+    m_pendingInvoiceContext.reset();
+    emit pendingInvoiceContextChanged();
+}

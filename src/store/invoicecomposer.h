@@ -3,6 +3,7 @@
 #include "billing/invoicelines.h"
 #include "model/clock.h"
 #include "store/appstore.h"
+#include "store/invoicecontext.h"
 
 #include <QDate>
 #include <QObject>
@@ -10,16 +11,6 @@
 #include <QStringList>
 
 #include <optional>
-
-// What opens the composer: the projects to bill, optionally only some of their tasks, and
-// optionally a period.
-struct InvoiceContext
-{
-    QStringList projectIds;
-    std::optional<QStringList> taskIds;
-    std::optional<QDate> from;
-    std::optional<QDate> to;
-};
 
 // The invoice composer's state, bound by its view: the period, the selected tasks, billing again,
 // VAT and the client, and everything derived from them (lines, VAT groups, totals, covered

@@ -103,6 +103,24 @@ private slots:
         QVERIFY(runBlocking(store().loadUnbilledEntries()));
     }
 
+    void aViewOpensTheComposerThroughTheStore()
+    {
+        QSignalSpy asked(&store(), &AppStore::pendingInvoiceContextChanged);
+        InvoiceContext context;
+        context.projectIds = {m_project};
+        context.taskIds = QStringList{m_hourlyTask};
+        store().openInvoiceComposer(context);
+        QCOMPARE(asked.size(), 1);
+        QVERIFY(store().pendingInvoiceContext());
+        InvoiceComposer composer(store());
+        composer.open(*store().pendingInvoiceContext());
+        QCOMPARE(composer.selectedTaskIds(), QStringList{m_hourlyTask});
+        store().closeInvoiceComposer();
+        store().closeInvoiceComposer();
+        QCOMPARE(asked.size(), 2);
+        QVERIFY(!store().pendingInvoiceContext());
+    }
+
     void presets_data()
     {
         QTest::addColumn<QDate>("today");
