@@ -216,9 +216,8 @@ ComposedDraft composeDraft(AppStore &store, const Project &project, std::optiona
         tasks << byTask.value(taskId);
         entryIds << byTask.value(taskId).entryIds;
     }
-    const std::optional<Profile> &profile = store.profile();
-    const double defaultRate = profile && profile->defaultHourlyRate ? *profile->defaultHourlyRate : 0.0;
-    const QString currency = profile && profile->currency && !profile->currency->isEmpty() ? *profile->currency : u"EUR"_s;
+    const double defaultRate = store.defaultHourlyRate();
+    const QString currency = store.currency();
     const Earnings::BuildResult built = Earnings::buildInvoiceLines(
         tasks, defaultRate, store.priorBilling().tasks, store.priorBilling().poolProjects, {}, Earnings::lineLabels());
     const Earnings::VatResult vat = Earnings::computeVat(built.lines, built.subtotal, std::nullopt, vatPercent.value_or(0));

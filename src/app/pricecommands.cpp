@@ -21,14 +21,12 @@ struct FieldOption
 
 QString currencyOf(const AppStore &store)
 {
-    const std::optional<Profile> &profile = store.profile();
-    return profile && profile->currency && !profile->currency->isEmpty() ? *profile->currency : u"EUR"_s;
+    return store.currency();
 }
 
 double defaultRateOf(const AppStore &store)
 {
-    const std::optional<Profile> &profile = store.profile();
-    return profile && profile->defaultHourlyRate ? *profile->defaultHourlyRate : 0.0;
+    return store.defaultHourlyRate();
 }
 
 // The resolved setting of a project or task and what its tracked time is worth under it.

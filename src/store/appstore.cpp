@@ -84,6 +84,16 @@ std::optional<TaskItem> AppStore::task(const QString &taskId) const
     return std::nullopt;
 }
 
+QString AppStore::currency() const
+{
+    return m_profile && m_profile->currency && !m_profile->currency->isEmpty() ? *m_profile->currency : u"EUR"_s;
+}
+
+double AppStore::defaultHourlyRate() const
+{
+    return m_profile && m_profile->defaultHourlyRate ? *m_profile->defaultHourlyRate : 0.0;
+}
+
 std::optional<TaskItem> AppStore::runningTask() const
 {
     std::optional<TaskItem> running;

@@ -130,6 +130,9 @@ public:
     [[nodiscard]] const QList<Client> &allClients() const { return m_allClients; }
     [[nodiscard]] const std::optional<Profile> &profile() const { return m_profile; }
 
+    // The profile's money settings, with the defaults a profile without them bills in.
+    [[nodiscard]] QString currency() const;
+    [[nodiscard]] double defaultHourlyRate() const;
     [[nodiscard]] std::optional<Project> project(const QString &projectId) const;
     [[nodiscard]] std::optional<TaskItem> task(const QString &taskId) const;
     [[nodiscard]] QList<TaskItem> tasks(const QString &projectId) const { return m_tasksByProject.value(projectId); }

@@ -803,7 +803,7 @@ double AppStore::unbilledTotal(const QString &projectId) const
             secondsByTask[entry.taskId] += entry.durationSeconds;
         }
     }
-    const double defaultRate = m_profile && m_profile->defaultHourlyRate ? *m_profile->defaultHourlyRate : 0.0;
+    const double defaultRate = defaultHourlyRate();
     double total = 0;
     for (auto it = secondsByTask.cbegin(); it != secondsByTask.cend(); ++it) {
         const std::optional<TaskItem> task = this->task(it.key());

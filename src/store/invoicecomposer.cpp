@@ -245,8 +245,7 @@ void InvoiceComposer::setSaveAsClient(bool save)
 
 QString InvoiceComposer::currency() const
 {
-    const std::optional<Profile> &profile = m_store.profile();
-    return profile && profile->currency && !profile->currency->isEmpty() ? *profile->currency : u"EUR"_s;
+    return m_store.currency();
 }
 
 void InvoiceComposer::clearLeftOutMessage()
@@ -321,8 +320,7 @@ void InvoiceComposer::recompute()
         tasks << byTask.value(taskId);
         m_coveredEntryIds << byTask.value(taskId).entryIds;
     }
-    const std::optional<Profile> &profile = m_store.profile();
-    const double defaultRate = profile && profile->defaultHourlyRate ? *profile->defaultHourlyRate : 0.0;
+    const double defaultRate = m_store.defaultHourlyRate();
     const PriorBilling &prior = m_store.priorBilling();
     m_built = Earnings::buildInvoiceLines(tasks, defaultRate, prior.tasks, prior.poolProjects, m_rebill,
                                           Earnings::lineLabels());
