@@ -1,3 +1,4 @@
+#include "auth/redirectpolicy.h"
 #include "serverapp.h"
 
 #include <QCommandLineParser>
@@ -53,7 +54,11 @@ int main(int argc, char *argv[])
         u"realtime-max-backlog"_s,
         u"Drop a realtime subscriber that leaves more than this many bytes unread (default 16 MiB)."_s, u"bytes"_s,
         QString::number(16 * 1024 * 1024));
-    parser.addOptions({dataDir, port, listen, databaseUrl, migrations, idle, confirmEmail, providers, realtimeBacklog});
+    const QCommandLineOption redirectUrl(
+        u"redirect-url"_s,
+        u"Also allow e-mail links and sign-ins to lead to this address (its origin); may be repeated."_s, u"url"_s);
+    parser.addOptions(
+        {dataDir, port, listen, databaseUrl, migrations, idle, confirmEmail, providers, realtimeBacklog, redirectUrl});
     parser.process(app);
 
     bool portOk = false;
@@ -75,9 +80,17 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "morvane-server: --realtime-max-backlog needs a number of bytes, 1024 or more\n");
         return 2;
     }
+    const QStringList redirectUrls = parser.values(redirectUrl);
+    for (const QString &address : redirectUrls) {
+        if (RedirectPolicy::strictOrigin(address).isEmpty()) {
+            std::fprintf(stderr, "morvane-server: --redirect-url needs an http or https address, not %s\n",
+                         qPrintable(address));
+            return 2;
+        }
+    }
     ServerApp server({parser.value(dataDir), quint16(portNumber), parser.value(listen), parser.value(databaseUrl),
                       parser.value(migrations), idleSeconds, parser.isSet(confirmEmail), parser.value(providers),
-                      backlogBytes});
+                      backlogBytes, redirectUrls});
 
     // Signals arrive on any thread; a pipe turns them into an event of the main loop, where the
     // database can be stopped cleanly.

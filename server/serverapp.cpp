@@ -24,6 +24,8 @@
 #include <QStandardPaths>
 
 #include <cstdio>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +35,33 @@ void say(const QString &line)
 {
     std::fprintf(stderr, "morvane-server: %s\n", qPrintable(line));
     std::fflush(stderr);
+}
+
+// What another local user could have planted must not be trusted: a data folder or secret of
+// theirs, a secret others can read, or a link in place of a file.
+QString untrustedReason(const QString &path, bool mustBePrivate)
+{
+    struct stat info
+    {};
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0) {
+        return {};
+    }
+    if (S_ISLNK(info.st_mode) && mustBePrivate) {
+        return path + u" is a link; a file the server trusts must be a file of its own"_s;
+    }
+    if (S_ISLNK(info.st_mode) && ::stat(QFile::encodeName(path).constData(), &info) != 0) {
+        return path + u" is a link to nothing"_s;
+    }
+    if (info.st_uid != ::geteuid()) {
+        return path + u" belongs to another user"_s;
+    }
+    if (mustBePrivate && (info.st_mode & 077) != 0) {
+        return path + u" can be read or changed by other users (it must have mode 600)"_s;
+    }
+    if (!mustBePrivate && (info.st_mode & 022) != 0) {
+        return path + u" can be changed by other users"_s;
+    }
+    return {};
 }
 
 bool writePrivateFile(const QString &path, const QByteArray &content)
@@ -63,9 +92,13 @@ QString ServerApp::defaultDataDir()
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/morvane/server"_s;
 }
 
-QByteArray ServerApp::loadOrCreateSecret()
+QByteArray ServerApp::loadOrCreateSecret(const QString &name)
 {
-    const QString path = QDir(m_options.dataDir).filePath(u"jwt-secret"_s);
+    const QString path = QDir(m_options.dataDir).filePath(name);
+    if (const QString reason = untrustedReason(path, true); !reason.isEmpty()) {
+        say(u"refusing to start: "_s + reason);
+        return {};
+    }
     QFile existing(path);
     if (existing.open(QIODevice::ReadOnly)) {
         const QByteArray secret = existing.readAll().trimmed();
@@ -82,6 +115,94 @@ QByteArray ServerApp::loadOrCreateSecret()
     return secret;
 }
 
+std::optional<std::pair<QByteArray, QByteArray>> ServerApp::loginRoles(PgConnection &owner, const QByteArray &conninfo)
+{
+    const QByteArray request = PgCluster::requestRole;
+    const QByteArray auth = PgCluster::authRole;
+    try {
+        // Made, and put back in shape, at every start: a login role with rights of its own, or a
+        // membership someone added, would undo what the role is for.
+        owner.execScript(R"SQL(
+DO $roles$
+DECLARE
+    r record;
+BEGIN
+    IF NOT EXISTS (SELECT 1 FROM pg_roles WHERE rolname = 'morvane_authenticator') THEN
+        CREATE ROLE morvane_authenticator LOGIN NOINHERIT;
+    END IF;
+    IF NOT EXISTS (SELECT 1 FROM pg_roles WHERE rolname = 'morvane_auth') THEN
+        CREATE ROLE morvane_auth LOGIN NOINHERIT;
+    END IF;
+    ALTER ROLE morvane_authenticator NOSUPERUSER NOCREATEDB NOCREATEROLE NOBYPASSRLS NOREPLICATION NOINHERIT LOGIN;
+    ALTER ROLE morvane_auth NOSUPERUSER NOCREATEDB NOCREATEROLE NOBYPASSRLS NOREPLICATION NOINHERIT LOGIN;
+    FOR r IN SELECT g.rolname, m.rolname AS member FROM pg_auth_members a
+             JOIN pg_roles g ON g.oid = a.roleid JOIN pg_roles m ON m.oid = a.member
+             WHERE m.rolname IN ('morvane_authenticator', 'morvane_auth')
+               AND NOT (m.rolname = 'morvane_authenticator' AND g.rolname IN ('anon', 'authenticated', 'service_role'))
+    LOOP
+        EXECUTE format('REVOKE %I FROM %I', r.rolname, r.member);
+    END LOOP;
+    FOR r IN SELECT rolname FROM pg_roles WHERE rolname IN ('anon', 'authenticated', 'service_role')
+             AND NOT pg_has_role('morvane_authenticator', oid, 'MEMBER') LOOP
+        EXECUTE format('GRANT %I TO morvane_authenticator', r.rolname);
+    END LOOP;
+    IF to_regnamespace('auth') IS NOT NULL THEN
+        GRANT USAGE ON SCHEMA auth TO morvane_auth;
+        GRANT USAGE, SELECT ON ALL SEQUENCES IN SCHEMA auth TO morvane_auth;
+        FOR r IN SELECT c.relname FROM pg_class c
+                 WHERE c.relnamespace = 'auth'::regnamespace AND c.relkind = 'r'
+                   AND c.relname IN ('users', 'identities', 'sessions', 'refresh_tokens', 'flow_state') LOOP
+            EXECUTE format('GRANT SELECT, INSERT, UPDATE, DELETE ON auth.%I TO morvane_auth', r.relname);
+        END LOOP;
+    END IF;
+    IF to_regnamespace('extensions') IS NOT NULL THEN
+        GRANT USAGE ON SCHEMA extensions TO morvane_auth;
+    END IF;
+END
+$roles$)SQL");
+    } catch (const PgException &error) {
+        say(u"cannot set up the server's login roles (the database user needs the CREATEROLE right): "_s +
+            QString::fromUtf8(error.what()));
+        return std::nullopt;
+    }
+    std::pair<QByteArray, QByteArray> roles;
+    if (m_cluster) {
+        // The private cluster admits only this server's own system user, by its identity.
+        roles = {PgConnection::conninfoAs(conninfo, request), PgConnection::conninfoAs(conninfo, auth)};
+    } else {
+        // Another database is reached over the network: the roles sign in with passwords that
+        // this server keeps in its data folder and sets anew at every start.
+        const QByteArray password = loadOrCreateSecret(u"database-password"_s);
+        if (password.isEmpty()) {
+            return std::nullopt;
+        }
+        try {
+            for (const QByteArray &role : {request, auth}) {
+                const PgResult statement = owner.exec(
+                    "SELECT format('ALTER ROLE %I WITH LOGIN PASSWORD %L', $1::text, $2::text)", {role, password});
+                owner.execScript(statement.value(0, 0));
+            }
+        } catch (const PgException &error) {
+            say(u"the database user of --database-url cannot give the server's login roles (%1, %2) their "
+                u"passwords; it needs the CREATEROLE right: "_s.arg(QString::fromLatin1(request),
+                                                                    QString::fromLatin1(auth)) +
+                QString::fromUtf8(error.what()));
+            return std::nullopt;
+        }
+        roles = {PgConnection::conninfoAs(conninfo, request, password),
+                 PgConnection::conninfoAs(conninfo, auth, password)};
+    }
+    for (const QByteArray &login : {roles.first, roles.second}) {
+        try {
+            PgConnection::open(login)->exec("SELECT 1");
+        } catch (const PgException &error) {
+            say(u"cannot sign in to the database as the server's login roles: "_s + QString::fromUtf8(error.what()));
+            return std::nullopt;
+        }
+    }
+    return roles;
+}
+
 bool ServerApp::writeServerInfo(const QString &url, const QByteArray &anonKey)
 {
     const QJsonObject info{{u"url"_s, url}, {u"anon_key"_s, QString::fromLatin1(anonKey)}};
@@ -95,8 +216,14 @@ bool ServerApp::start()
         say(u"cannot create the data folder "_s + m_options.dataDir);
         return false;
     }
-    QFile::setPermissions(m_options.dataDir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
-                                                 QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+    if (const QString reason = untrustedReason(m_options.dataDir, false); !reason.isEmpty()) {
+        say(u"refusing to start: "_s + reason);
+        return false;
+    }
+    // Others may pass through (the database's system user must, when root runs the server), but
+    // never list or change it; what lies inside is private file by file.
+    QFile::setPermissions(m_options.dataDir,
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
     m_lock = std::make_unique<QLockFile>(QDir(m_options.dataDir).filePath(u"morvane-server.lock"_s));
     m_lock->setStaleLockTime(0);
     if (!m_lock->tryLock(0)) {
@@ -108,9 +235,9 @@ bool ServerApp::start()
         return false;
     }
 
-    const QByteArray secret = loadOrCreateSecret();
+    const QByteArray secret = loadOrCreateSecret(u"jwt-secret"_s);
     if (secret.isEmpty()) {
-        say(u"cannot write the secret into "_s + m_options.dataDir);
+        say(u"cannot use the secret in "_s + m_options.dataDir);
         return false;
     }
 
@@ -127,12 +254,19 @@ bool ServerApp::start()
     }
 
     std::shared_ptr<const Catalog> catalog;
+    QByteArray requestConninfo;
+    QByteArray authConninfo;
     try {
         auto connection = PgConnection::open(conninfo);
         applyMigrations(
             *connection,
             m_options.migrationsDir.isEmpty() ? embeddedMigrations() : migrationsIn(m_options.migrationsDir), say);
         catalog = std::make_shared<const Catalog>(Catalog::load(*connection));
+        const auto roles = loginRoles(*connection, conninfo);
+        if (!roles) {
+            return false;
+        }
+        std::tie(requestConninfo, authConninfo) = *roles;
     } catch (const MigrationError &error) {
         say(QString::fromStdString(error.what()));
         return false;
@@ -141,7 +275,19 @@ bool ServerApp::start()
         return false;
     }
 
-    m_pool = std::make_unique<PgPool>(conninfo, 12);
+    // Requests never run on the owner's connections: their login role can become anon,
+    // authenticated or service_role and nothing else, whatever a statement tries.
+    m_pool = std::make_unique<PgPool>(requestConninfo, 12);
+    // A schema of other migrations than ours may lack the check; tokens are then held to their
+    // signature and expiry alone.
+    bool sessionChecks = false;
+    try {
+        sessionChecks = PgConnection::open(conninfo)
+                            ->exec("SELECT to_regprocedure('app.session_is_live()') IS NOT NULL")
+                            .value(0, 0) == "t";
+    } catch (const PgException &) {
+    }
+    m_authPool = std::make_unique<PgPool>(authConninfo, 4);
     HttpServer::Limits limits;
     limits.idleConnection = std::chrono::seconds(m_options.idleSeconds);
     m_http = std::make_unique<HttpServer>(limits);
@@ -156,13 +302,13 @@ bool ServerApp::start()
         address.protocol() == QAbstractSocket::IPv6Protocol ? u'[' + address.toString() + u']' : address.toString();
     const QString url = u"http://%1:%2"_s.arg(host == u"0.0.0.0" ? u"127.0.0.1"_s : host).arg(port);
 
-    auto rest = std::make_shared<RestService>(*m_pool, secret, catalog);
+    auto rest = std::make_shared<RestService>(*m_pool, secret, catalog, sessionChecks);
     m_http->addService(rest);
     // Objects are never larger than a request may be: the HTTP front refuses those while they arrive.
     const QString storageRoot = QDir(m_options.dataDir).filePath(u"storage"_s);
-    m_http->addService(
-        std::make_shared<StorageService>(*m_pool, secret, storageRoot, StorageService::Limits{limits.maxBodyBytes}));
-    m_http->addService(std::make_shared<FunctionsService>(*m_pool, secret, storageRoot));
+    m_http->addService(std::make_shared<StorageService>(*m_pool, secret, storageRoot,
+                                                        StorageService::Limits{limits.maxBodyBytes}, sessionChecks));
+    m_http->addService(std::make_shared<FunctionsService>(*m_pool, secret, storageRoot, sessionChecks));
     // As PostgREST does: `NOTIFY pgrst, 'reload schema'` after a change of tables or functions.
     m_schemaListener = std::make_unique<PgListener>(conninfo, "pgrst", [conninfo, rest](const QByteArray &payload) {
         if (!payload.isEmpty() && payload != "reload schema") {
@@ -180,6 +326,7 @@ bool ServerApp::start()
     AuthSettings auth;
     auth.autoConfirm = !m_options.confirmEmail;
     auth.outboxDir = QDir(m_options.dataDir).filePath(u"outbox"_s);
+    auth.redirectUrls = m_options.redirectUrls;
     QString providersError;
     const QString providersFile = m_options.authProvidersFile.isEmpty()
                                       ? QDir(m_options.dataDir).filePath(u"auth-providers.json"_s)
@@ -190,10 +337,10 @@ bool ServerApp::start()
     }
     // Links in e-mails and the token issuer name the address the server answers on, known only
     // now that it listens.
-    m_http->addService(std::make_shared<AuthService>(*m_pool, secret, QUrl(url), auth));
+    m_http->addService(std::make_shared<AuthService>(*m_authPool, secret, QUrl(url), auth));
     RealtimeService::Options realtime;
     realtime.maxBacklogBytes = m_options.realtimeMaxBacklog;
-    m_realtime = std::make_unique<RealtimeService>(conninfo, secret, realtime);
+    m_realtime = std::make_unique<RealtimeService>(conninfo, requestConninfo, secret, realtime);
     try {
         if (!m_realtime->start(*m_http)) {
             say(u"realtime: the schema has no change queue (app.realtime_changes); the feed carries no changes"_s);
@@ -222,6 +369,7 @@ void ServerApp::stop()
     m_realtime.reset();
     m_http.reset();
     m_pool.reset();
+    m_authPool.reset();
     if (m_cluster) {
         m_cluster->stop();
         m_cluster.reset();

@@ -2,11 +2,14 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
+#include <optional>
 
 class HttpServer;
 class PgCluster;
+class PgConnection;
 class PgListener;
 class PgPool;
 class RealtimeService;
@@ -29,6 +32,7 @@ public:
         bool confirmEmail = false; // send confirmation mails instead of confirming at once
         QString authProvidersFile; // empty: <data-dir>/auth-providers.json
         qint64 realtimeMaxBacklog = 16 * 1024 * 1024;
+        QStringList redirectUrls; // besides the server's own address
     };
 
     explicit ServerApp(Options options, QObject *parent = nullptr);
@@ -41,13 +45,16 @@ public:
     static QString defaultDataDir();
 
 private:
-    QByteArray loadOrCreateSecret();
+    QByteArray loadOrCreateSecret(const QString &name);
+    // The connection strings of the request role and of the authentication service's role.
+    std::optional<std::pair<QByteArray, QByteArray>> loginRoles(PgConnection &owner, const QByteArray &conninfo);
     bool writeServerInfo(const QString &url, const QByteArray &anonKey);
 
     Options m_options;
     std::unique_ptr<class QLockFile> m_lock;
     std::unique_ptr<PgCluster> m_cluster;
     std::unique_ptr<PgPool> m_pool;
+    std::unique_ptr<PgPool> m_authPool;
     std::unique_ptr<HttpServer> m_http;
     std::unique_ptr<PgListener> m_schemaListener;
     std::unique_ptr<RealtimeService> m_realtime;

@@ -182,6 +182,7 @@ AuthService::AuthService(PgPool &pool, QByteArray jwtSecret, QUrl publicUrl, Aut
     , m_publicUrl(std::move(publicUrl))
     , m_settings(std::move(settings))
     , m_outbox(m_settings.outboxDir)
+    , m_redirects(m_publicUrl, m_settings.redirectUrls)
 {}
 
 HttpResponse AuthService::handle(const HttpRequest &request)
@@ -303,22 +304,6 @@ void AuthService::checkEmailAllowance(const QString &email)
     m_limiter.record(key, QDateTime::currentDateTimeUtc());
 }
 
-QString AuthService::safeRedirect(const QString &requested) const
-{
-    const QUrl url(requested);
-    if (requested.isEmpty() || !url.isValid()) {
-        return m_publicUrl.toString();
-    }
-    // The application's own scheme, a page on this machine, or this server: anything else could
-    // hand a signed-in session to a stranger's site.
-    const QString host = url.host();
-    if (url.scheme() == u"morvane" || host == u"localhost" || host == u"127.0.0.1" || host == u"::1" ||
-        (url.host() == m_publicUrl.host() && url.port() == m_publicUrl.port())) {
-        return requested;
-    }
-    return m_publicUrl.toString();
-}
-
 void AuthService::sendLink(PgConnection &db, const QString &userId, const QString &email, const QString &type,
                            const QString &redirectTo)
 {
@@ -330,7 +315,7 @@ void AuthService::sendLink(PgConnection &db, const QString &userId, const QStrin
     QUrlQuery query;
     query.addQueryItem(u"token"_s, QString::fromLatin1(token));
     query.addQueryItem(u"type"_s, type);
-    query.addQueryItem(u"redirect_to"_s, QString::fromUtf8(QUrl::toPercentEncoding(safeRedirect(redirectTo))));
+    query.addQueryItem(u"redirect_to"_s, QString::fromUtf8(QUrl::toPercentEncoding(m_redirects.target(redirectTo))));
     const QString link = m_publicUrl.toString() + u"/auth/v1/verify?"_s + query.toString(QUrl::FullyEncoded);
     const QString subject = recovery ? u"Reset your password"_s : u"Confirm your signup"_s;
     const QString body = recovery ? u"Follow this link to reset the password of your Morvane account:\n"_s + link
@@ -695,7 +680,7 @@ AuthService::Answer AuthService::verify(const HttpRequest &request)
     const QString token = request.queryValue(u"token"_s);
     const QString type = request.queryValue(u"type"_s);
     const QString landing = request.queryValue(u"redirect_to"_s);
-    const QString target = safeRedirect(landing);
+    const QString target = m_redirects.target(landing);
     if (type != u"signup" && type != u"recovery" && type != u"email") {
         throw Failure(400, u"validation_failed"_s, u"Verify requires a verification type"_s);
     }
@@ -768,7 +753,8 @@ AuthService::Answer AuthService::authorize(const HttpRequest &request)
         return db
             .exec("INSERT INTO auth.flow_state (code_challenge, code_challenge_method, provider_type, redirect_to)"
                   " VALUES ($1, $2, $3, $4) RETURNING id",
-                  {challenge.toUtf8(), method.toUtf8(), chosen->name.toUtf8(), safeRedirect(landing).toUtf8()})
+                  {challenge.toUtf8(), method.toUtf8(), chosen->name.toUtf8(),
+                   m_redirects.target(landing, RedirectPolicy::Loopback::Allowed).toUtf8()})
             .value(0, 0);
     });
     QUrl target = chosen->authorizationEndpoint;
@@ -846,55 +832,71 @@ AuthService::Answer AuthService::callback(const HttpRequest &request)
         return redirectError(u"server_error"_s, u"Error getting user email from external provider"_s);
     }
 
+    const bool verified = profile.value(u"email_verified"_s) == QJsonValue(true);
     const QByteArray authCode = randomToken(32);
-    inTransaction(m_pool, [&](PgConnection &db) {
-        const QByteArray identityData = QJsonDocument(profile).toJson(QJsonDocument::Compact);
-        PgResult identity = db.exec("SELECT user_id FROM auth.identities WHERE provider = $1 AND provider_id = $2",
-                                    {chosen->name.toUtf8(), subject.toUtf8()});
-        QByteArray userId;
-        if (identity.rows() > 0) {
-            userId = identity.value(0, 0);
-            db.exec("UPDATE auth.identities SET identity_data = $3::jsonb, last_sign_in_at = now(), updated_at = now()"
+    try {
+        inTransaction(m_pool, [&](PgConnection &db) {
+            const QByteArray identityData = QJsonDocument(profile).toJson(QJsonDocument::Compact);
+            PgResult identity = db.exec("SELECT user_id FROM auth.identities WHERE provider = $1 AND provider_id = $2",
+                                        {chosen->name.toUtf8(), subject.toUtf8()});
+            QByteArray userId;
+            if (identity.rows() > 0) {
+                userId = identity.value(0, 0);
+                db.exec(
+                    "UPDATE auth.identities SET identity_data = $3::jsonb, last_sign_in_at = now(), updated_at = now()"
                     " WHERE provider = $1 AND provider_id = $2",
                     {chosen->name.toUtf8(), subject.toUtf8(), identityData});
-        } else {
-            // The provider vouches for the address, so an account with it is the same person.
-            const PgResult byEmail = db.exec("SELECT id FROM auth.users WHERE lower(email) = $1", {email.toUtf8()});
-            if (byEmail.rows() > 0) {
-                userId = byEmail.value(0, 0);
-                db.exec("UPDATE auth.users SET email_confirmed_at = coalesce(email_confirmed_at, now()),"
+            } else {
+                const PgResult byEmail = db.exec("SELECT id FROM auth.users WHERE lower(email) = $1", {email.toUtf8()});
+                if (byEmail.rows() > 0) {
+                    // Only a provider that vouches for the address may join the existing account:
+                    // anyone can name any address at a provider that does not check it.
+                    if (!verified) {
+                        throw Failure(409, u"email_exists"_s, u""_s);
+                    }
+                    userId = byEmail.value(0, 0);
+                    db.exec(
+                        "UPDATE auth.users SET email_confirmed_at = coalesce(email_confirmed_at, now()),"
                         " raw_app_meta_data = jsonb_set(coalesce(raw_app_meta_data, '{}'), '{providers}',"
                         " (SELECT to_jsonb(array_agg(DISTINCT p)) FROM jsonb_array_elements_text("
                         "   coalesce(raw_app_meta_data -> 'providers', '[]') || to_jsonb($2::text)) p)) WHERE id = $1",
                         {userId, chosen->name.toUtf8()});
-            } else {
-                QJsonObject metadata;
-                for (const char *key : {"full_name", "name", "display_name", "avatar_url", "picture"}) {
-                    if (profile.contains(QLatin1StringView(key))) {
-                        metadata.insert(QLatin1StringView(key), profile.value(QLatin1StringView(key)));
+                } else {
+                    QJsonObject metadata;
+                    for (const char *key : {"full_name", "name", "display_name", "avatar_url", "picture"}) {
+                        if (profile.contains(QLatin1StringView(key))) {
+                            metadata.insert(QLatin1StringView(key), profile.value(QLatin1StringView(key)));
+                        }
                     }
+                    if (!metadata.contains(u"display_name"_s) && metadata.contains(u"name"_s)) {
+                        metadata.insert(u"display_name"_s, metadata.value(u"name"_s));
+                    }
+                    const QJsonObject app{{u"provider"_s, chosen->name}, {u"providers"_s, QJsonArray{chosen->name}}};
+                    userId =
+                        db.exec("INSERT INTO auth.users (aud, role, email, email_confirmed_at, raw_app_meta_data,"
+                                " raw_user_meta_data) VALUES ('authenticated', 'authenticated', $1,"
+                                " CASE WHEN $4 THEN now() END, $2::jsonb, $3::jsonb) RETURNING id",
+                                {email.toUtf8(), QJsonDocument(app).toJson(QJsonDocument::Compact),
+                                 QJsonDocument(metadata).toJson(QJsonDocument::Compact), verified ? "true" : "false"})
+                            .value(0, 0);
                 }
-                if (!metadata.contains(u"display_name"_s) && metadata.contains(u"name"_s)) {
-                    metadata.insert(u"display_name"_s, metadata.value(u"name"_s));
-                }
-                const QJsonObject app{{u"provider"_s, chosen->name}, {u"providers"_s, QJsonArray{chosen->name}}};
-                userId = db.exec("INSERT INTO auth.users (aud, role, email, email_confirmed_at, raw_app_meta_data,"
-                                 " raw_user_meta_data) VALUES ('authenticated', 'authenticated', $1, now(), $2::jsonb, "
-                                 "$3::jsonb)"
-                                 " RETURNING id",
-                                 {email.toUtf8(), QJsonDocument(app).toJson(QJsonDocument::Compact),
-                                  QJsonDocument(metadata).toJson(QJsonDocument::Compact)})
-                             .value(0, 0);
+                db.exec("INSERT INTO auth.identities (provider_id, user_id, identity_data, provider, last_sign_in_at)"
+                        " VALUES ($1, $2, $3::jsonb, $4, now())",
+                        {subject.toUtf8(), userId, identityData, chosen->name.toUtf8()});
             }
-            db.exec("INSERT INTO auth.identities (provider_id, user_id, identity_data, provider, last_sign_in_at)"
-                    " VALUES ($1, $2, $3::jsonb, $4, now())",
-                    {subject.toUtf8(), userId, identityData, chosen->name.toUtf8()});
+            db.exec("UPDATE auth.flow_state SET user_id = $2, auth_code = $3, auth_code_issued_at = now(), updated_at "
+                    "= now()"
+                    " WHERE id = $1",
+                    {state.toUtf8(), userId, authCode});
+        });
+    } catch (const Failure &failure) {
+        if (failure.code != u"email_exists") {
+            throw;
         }
-        db.exec(
-            "UPDATE auth.flow_state SET user_id = $2, auth_code = $3, auth_code_issued_at = now(), updated_at = now()"
-            " WHERE id = $1",
-            {state.toUtf8(), userId, authCode});
-    });
+        return redirectError(u"access_denied"_s,
+                             u"An account with this e-mail address already exists, and %1 did not confirm that the "
+                             u"address is yours. Sign in with your password instead."_s.arg(chosen->name));
+    }
     Answer answer;
     answer.status = 302;
     answer.noBody = true;

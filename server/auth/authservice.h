@@ -2,6 +2,7 @@
 
 #include "auth/mailoutbox.h"
 #include "auth/ratelimiter.h"
+#include "auth/redirectpolicy.h"
 #include "http/httpmessage.h"
 
 #include <QJsonObject>
@@ -38,6 +39,8 @@ struct AuthSettings
     std::chrono::seconds passwordFailureWindow{300};
     std::chrono::seconds emailInterval{60};
     QList<IdentityProvider> providers;
+    // Addresses besides the server's own to which e-mail links and sign-ins may lead.
+    QStringList redirectUrls;
 
     // Providers from a JSON file: {"name": {"client_id", "client_secret", "authorization_endpoint",
     // "token_endpoint", "userinfo_endpoint", "scope"?}}. A missing file means none.
@@ -81,7 +84,6 @@ private:
     void sendLink(PgConnection &db, const QString &userId, const QString &email, const QString &type,
                   const QString &redirectTo);
     void checkEmailAllowance(const QString &email);
-    [[nodiscard]] QString safeRedirect(const QString &requested) const;
     [[nodiscard]] const IdentityProvider *provider(const QString &name) const;
 
     PgPool &m_pool;
@@ -90,4 +92,5 @@ private:
     AuthSettings m_settings;
     MailOutbox m_outbox;
     RateLimiter m_limiter;
+    RedirectPolicy m_redirects;
 };

@@ -40,8 +40,8 @@ std::variant<RequestIdentity, HttpResponse> callerOf(const HttpRequest &request,
 
 } // namespace
 
-FunctionsService::FunctionsService(PgPool &pool, QByteArray jwtSecret, QString storageRoot)
-    : m_scope{pool}
+FunctionsService::FunctionsService(PgPool &pool, QByteArray jwtSecret, QString storageRoot, bool checkSessions)
+    : m_scope{pool, checkSessions}
     , m_secret(std::move(jwtSecret))
     , m_files(std::move(storageRoot))
 {}
@@ -93,6 +93,9 @@ HttpResponse FunctionsService::deleteAccount(const HttpRequest &request)
     } catch (const ApiError &error) {
         if (error.code() == u"P0002") {
             return failure(404, u"user_not_found"_s, u"This account does not exist (any more)."_s);
+        }
+        if (error.status() == 401) {
+            return failure(401, u"session_ended"_s, error.message(), {{"WWW-Authenticate", "Bearer"}});
         }
         qCWarning(lcFunctions) << "account deletion failed:" << error.what();
         return failure(error.status() >= 500 ? error.status() : 500, u"deletion_failed"_s,

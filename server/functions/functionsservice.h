@@ -10,7 +10,7 @@
 class FunctionsService : public HttpService
 {
 public:
-    FunctionsService(PgPool &pool, QByteArray jwtSecret, QString storageRoot);
+    FunctionsService(PgPool &pool, QByteArray jwtSecret, QString storageRoot, bool checkSessions = true);
 
     [[nodiscard]] QString prefix() const override { return QStringLiteral("/functions/v1"); }
     HttpResponse handle(const HttpRequest &request) override;

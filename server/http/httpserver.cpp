@@ -228,6 +228,17 @@ void HttpServer::write(QTcpSocket *socket, const HttpResponse &response, bool cl
     if (!socket->isOpen()) {
         return;
     }
+    // A line break in a header would let whoever chose the value write headers or a body of
+    // their own; every value is checked where it is made, and this is the last line of defence.
+    const bool splits = std::any_of(response.headers.cbegin(), response.headers.cend(), [](const auto &header) {
+        return header.first.contains('\r') || header.first.contains('\n') || header.second.contains('\r') ||
+               header.second.contains('\n') || header.second.contains('\0');
+    });
+    if (splits) {
+        qCWarning(lcHttp) << "refused to write an answer with a line break in a header";
+        write(socket, HttpResponse::error(500, u"PGRST000"_s, u"Internal server error"_s), close);
+        return;
+    }
     QByteArray out = "HTTP/1.1 " + QByteArray::number(response.status) + ' ' + reasonPhrase(response.status) + "\r\n";
     for (const auto &[name, value] : response.headers) {
         out += name + ": " + value + "\r\n";

@@ -8,7 +8,9 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <fcntl.h>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -96,10 +98,23 @@ void PgCluster::chooseClusterDir()
     }
     m_log(u"running as root: the database runs as the system user 'postgres'"_s);
 
+    // Never through a link: a 'postgres' entry that another user planted as a link to a folder of
+    // theirs (or to /etc) would otherwise be handed to the database's user by root.
     auto prepare = [user](const QString &dir) {
+        const QByteArray path = QFile::encodeName(dir);
+        struct stat info
+        {};
+        if (::lstat(path.constData(), &info) == 0 && !S_ISDIR(info.st_mode)) {
+            throw Error(u"refusing to use "_s + dir + u": it is a link or a file, not a folder"_s);
+        }
         QDir().mkpath(dir);
-        return chown(QFile::encodeName(dir).constData(), user->pw_uid, user->pw_gid) == 0 &&
-               QFile::setPermissions(dir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        const int fd = ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        if (fd < 0) {
+            return false;
+        }
+        const bool done = ::fchown(fd, user->pw_uid, user->pw_gid) == 0 && ::fchmod(fd, 0700) == 0;
+        ::close(fd);
+        return done;
     };
     if (prepare(m_clusterDir)) {
         QProcess test;
@@ -129,7 +144,7 @@ void PgCluster::initialise()
     m_log(u"creating the database cluster in "_s + m_clusterDir);
     QString output;
     const int code = run(u"initdb"_s,
-                         {u"-D"_s, m_clusterDir, u"-U"_s, QString::fromLatin1(superuser), u"--auth=trust"_s,
+                         {u"-D"_s, m_clusterDir, u"-U"_s, QString::fromLatin1(superuser), u"--auth=peer"_s,
                           u"--encoding=UTF8"_s, u"--locale=C.UTF-8"_s, u"--no-instructions"_s},
                          &output);
     if (code != 0) {
@@ -142,6 +157,30 @@ void PgCluster::initialise()
     QFile conf(m_clusterDir + u"/postgresql.conf"_s);
     if (!conf.open(QIODevice::Append) || conf.write(settings.toUtf8()) < 0) {
         throw Error(u"cannot write "_s + conf.fileName());
+    }
+}
+
+void PgCluster::restrictAccess()
+{
+    // Only the user this server runs as, and only as the server's own roles. Trusting the socket
+    // would let every process of the database's system user in, which, when root runs the server,
+    // is every cluster and tool that runs as 'postgres'.
+    const passwd *self = getpwuid(geteuid());
+    if (!self) {
+        throw Error(u"cannot tell which user this server runs as"_s);
+    }
+    const QByteArray name = self->pw_name;
+    const QByteArray hba = "# morvane-server: rewritten at every start\nlocal all all peer map=morvane\n";
+    QByteArray ident = "# morvane-server: rewritten at every start\n";
+    for (const char *role : {superuser, requestRole, authRole}) {
+        ident += "morvane " + name + ' ' + role + '\n';
+    }
+    // Rewritten in place, so the files keep the owner the database needs.
+    for (const auto &[file, text] : {std::pair{u"pg_hba.conf"_s, hba}, std::pair{u"pg_ident.conf"_s, ident}}) {
+        QFile conf(m_clusterDir + u'/' + file);
+        if (!conf.open(QIODevice::WriteOnly | QIODevice::Truncate) || conf.write(text) != text.size()) {
+            throw Error(u"cannot write "_s + conf.fileName());
+        }
     }
 }
 
@@ -207,6 +246,7 @@ void PgCluster::start()
         throw Error(u"the data folder path is too long for the database's socket: "_s + m_clusterDir);
     }
     initialise();
+    restrictAccess();
     startServer();
     try {
         ensureDatabase();

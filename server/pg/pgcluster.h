@@ -33,11 +33,15 @@ public:
 
     static constexpr const char *databaseName = "morvane";
     static constexpr const char *superuser = "morvane";
+    // The login roles of the request connections and of the authentication service.
+    static constexpr const char *requestRole = "morvane_authenticator";
+    static constexpr const char *authRole = "morvane_auth";
 
 private:
     int run(const QString &program, const QStringList &arguments, QString *output = nullptr) const;
     void chooseClusterDir();
     void initialise();
+    void restrictAccess();
     void startServer();
     void ensureDatabase();
     [[nodiscard]] QString logTail() const;

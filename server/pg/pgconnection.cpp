@@ -76,6 +76,36 @@ std::unique_ptr<PgConnection> PgConnection::open(const QByteArray &conninfo)
     return connection;
 }
 
+QByteArray PgConnection::conninfoAs(const QByteArray &conninfo, const QByteArray &user, const QByteArray &password)
+{
+    char *error = nullptr;
+    PQconninfoOption *options = PQconninfoParse(conninfo.constData(), &error);
+    if (!options) {
+        const QString message = error ? QString::fromUtf8(error).trimmed() : QStringLiteral("out of memory");
+        PQfreemem(error);
+        throw PgException({{}, message, {}, {}});
+    }
+    auto quote = [](QByteArray value) -> QByteArray {
+        value.replace('\\', "\\\\").replace('\'', "\\'");
+        return "'" + value + "'";
+    };
+    QByteArray rebuilt;
+    for (PQconninfoOption *option = options; option->keyword; ++option) {
+        QByteArray value = option->val ? QByteArray(option->val) : QByteArray();
+        const QByteArray keyword = option->keyword;
+        if (keyword == "user") {
+            value = user;
+        } else if (keyword == "password" && !password.isEmpty()) {
+            value = password;
+        }
+        if (!value.isEmpty()) {
+            rebuilt += keyword + '=' + quote(value) + ' ';
+        }
+    }
+    PQconninfoFree(options);
+    return rebuilt.trimmed();
+}
+
 PgConnection::~PgConnection()
 {
     PQfinish(m_conn);

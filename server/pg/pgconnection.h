@@ -59,6 +59,9 @@ class PgConnection
 public:
     // Throws PgException when the server cannot be reached.
     static std::unique_ptr<PgConnection> open(const QByteArray &conninfo);
+    // The same connection string (key=value or URI form) for another login role; an empty
+    // password keeps the one given, if any. Throws PgException when the string cannot be read.
+    static QByteArray conninfoAs(const QByteArray &conninfo, const QByteArray &user, const QByteArray &password = {});
     ~PgConnection();
 
     // One statement with text parameters ($1, $2, ...; std::nullopt is NULL). Throws PgException.

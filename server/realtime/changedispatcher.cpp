@@ -32,6 +32,11 @@ QJsonObject parseObject(const QByteArray &text)
     return QJsonDocument::fromJson(text).object();
 }
 
+QByteArray readerKey(const ChannelSubscription &subscription)
+{
+    return subscription.role.toUtf8() + '\n' + QJsonDocument(subscription.claims).toJson(QJsonDocument::Compact);
+}
+
 } // namespace
 
 struct ChangeDispatcher::Change
@@ -47,8 +52,9 @@ struct ChangeDispatcher::Change
     [[nodiscard]] const QJsonObject &row() const { return type == u"DELETE" ? oldRecord : record; }
 };
 
-ChangeDispatcher::ChangeDispatcher(QByteArray conninfo, Hooks hooks)
-    : m_conninfo(std::move(conninfo))
+ChangeDispatcher::ChangeDispatcher(QByteArray queueConninfo, QByteArray checkConninfo, Hooks hooks)
+    : m_conninfo(std::move(queueConninfo))
+    , m_checkConninfo(std::move(checkConninfo))
     , m_hooks(std::move(hooks))
     , m_thread([this] { run(); })
 {}
@@ -81,6 +87,7 @@ void ChangeDispatcher::forgetTables()
 void ChangeDispatcher::run()
 {
     std::unique_ptr<PgConnection> connection;
+    std::unique_ptr<PgConnection> checks;
     bool failing = false;
     for (;;) {
         {
@@ -100,10 +107,16 @@ void ChangeDispatcher::run()
                 connection->execScript("SET application_name = 'morvane realtime'");
                 m_tables.clear();
             }
+            // The read checks run as the subscribers, through the login role that can become
+            // nothing else, never as the queue's owner.
+            if (!checks || !checks->isHealthy()) {
+                checks = PgConnection::open(m_checkConninfo);
+                checks->execScript("SET application_name = 'morvane realtime checks'");
+            }
             if (m_tablesStale.exchange(false)) {
                 m_tables.clear();
             }
-            while (drainOnce(*connection)) {
+            while (drainOnce(*connection, *checks)) {
                 std::lock_guard lock(m_mutex);
                 if (m_stop) {
                     return;
@@ -116,6 +129,7 @@ void ChangeDispatcher::run()
             }
         } catch (const PgException &error) {
             connection.reset();
+            checks.reset();
             if (!failing) {
                 failing = true;
                 qCWarning(lcDispatch) << "cannot read the change queue:" << error.what();
@@ -125,7 +139,7 @@ void ChangeDispatcher::run()
     }
 }
 
-bool ChangeDispatcher::drainOnce(PgConnection &connection)
+bool ChangeDispatcher::drainOnce(PgConnection &connection, PgConnection &checks)
 {
     // A slice holds at most batchSize changes and about batchBytes of rows (always one, however
     // large), so that a burst of big rows never sits in memory whole.
@@ -163,7 +177,7 @@ bool ChangeDispatcher::drainOnce(PgConnection &connection)
         changes.append(std::move(change));
     }
     ids += '}';
-    QList<ChangeDelivery> deliveries = route(connection, changes);
+    QList<ChangeDelivery> deliveries = route(connection, checks, changes);
     if (!deliveries.isEmpty()) {
         m_hooks.deliver(std::move(deliveries));
     }
@@ -245,24 +259,36 @@ QString ChangeDispatcher::visibilityCondition(PgConnection &connection, TableInf
     return condition;
 }
 
-QList<ChangeDelivery> ChangeDispatcher::route(PgConnection &connection, const QList<Change> &changes)
+QList<ChangeDelivery> ChangeDispatcher::route(PgConnection &queue, PgConnection &checks, const QList<Change> &changes)
 {
     const SubscriptionSnapshot subscriptions = m_hooks.subscriptions();
     QList<ChangeDelivery> deliveries;
     if (!subscriptions || subscriptions->isEmpty()) {
         return deliveries;
     }
+    struct Candidate
+    {
+        qsizetype change;
+        QJsonArray ids;
+        QStringList filterColumns;
+    };
+    // Channels that listen as the same identity (one person's windows and devices, or one socket
+    // with many channels) see the same rows: whether they may is asked once per identity and
+    // table, not once per channel.
+    struct Reader
+    {
+        QString role;
+        QJsonObject claims;
+        QSet<qsizetype> wanted;
+        QSet<qsizetype> readable;
+    };
+    QHash<QByteArray, Reader> readers;
+    QList<std::pair<const ChannelSubscription *, QList<Candidate>>> listening;
     const qint64 now = QDateTime::currentSecsSinceEpoch();
     for (const ChannelSubscription &subscription : *subscriptions) {
         if (subscription.expiresAt != 0 && subscription.expiresAt <= now) {
             continue;
         }
-        struct Candidate
-        {
-            qsizetype change;
-            QJsonArray ids;
-            QStringList filterColumns;
-        };
         QList<Candidate> candidates;
         for (qsizetype i = 0; i < changes.size(); ++i) {
             const Change &change = changes.at(i);
@@ -280,75 +306,92 @@ QList<ChangeDelivery> ChangeDispatcher::route(PgConnection &connection, const QL
         if (candidates.isEmpty()) {
             continue;
         }
-
-        // Which candidates this subscriber may read, one query per table in one transaction
-        // that runs as the subscriber.
-        QHash<QString, QList<qsizetype>> byTable; // "schema.table" -> positions in candidates
-        for (qsizetype c = 0; c < candidates.size(); ++c) {
-            const Change &change = changes.at(candidates.at(c).change);
-            byTable[change.schema + u'.' + change.table].append(c);
+        Reader &reader = readers[readerKey(subscription)];
+        reader.role = subscription.role;
+        reader.claims = subscription.claims;
+        for (const Candidate &candidate : std::as_const(candidates)) {
+            reader.wanted.insert(candidate.change);
         }
-        QSet<qsizetype> readable;
-        bool inTransaction = false;
+        listening.append({&subscription, std::move(candidates)});
+    }
+    if (listening.isEmpty()) {
+        return deliveries;
+    }
+
+    // One read-only transaction for the whole slice; each identity's claims are set in turn.
+    bool inTransaction = false;
+    for (Reader &reader : readers) {
+        QHash<QString, QList<qsizetype>> byTable; // "schema.table" -> changes
+        for (qsizetype c : std::as_const(reader.wanted)) {
+            byTable[changes.at(c).schema + u'.' + changes.at(c).table].append(c);
+        }
         try {
+            bool claimsSet = false;
             for (auto it = byTable.cbegin(); it != byTable.cend(); ++it) {
-                const Change &first = changes.at(candidates.at(it->first()).change);
-                TableInfo &info = tableInfo(connection, first.schema, first.table);
-                const QString condition =
-                    visibilityCondition(connection, info, first.schema, first.table, subscription.role);
+                const Change &first = changes.at(it->first());
+                TableInfo &info = tableInfo(queue, first.schema, first.table);
+                const QString condition = visibilityCondition(queue, info, first.schema, first.table, reader.role);
                 if (condition.isEmpty()) {
                     continue;
                 }
                 if (condition == u"true") {
                     for (qsizetype c : *it) {
-                        readable.insert(c);
+                        reader.readable.insert(c);
                     }
                     continue;
                 }
                 if (!inTransaction) {
-                    connection.execScript("BEGIN ISOLATION LEVEL READ COMMITTED READ ONLY");
+                    checks.execScript("BEGIN ISOLATION LEVEL READ COMMITTED READ ONLY");
+                    checks.exec("SELECT set_config('statement_timeout', '5000', true)");
                     inTransaction = true;
-                    connection.exec("SELECT set_config('role', $1, true), set_config('request.jwt.claims', $2, true),"
-                                    " set_config('statement_timeout', '5000', true)",
-                                    {subscription.role.toUtf8(),
-                                     QJsonDocument(subscription.claims).toJson(QJsonDocument::Compact)});
+                }
+                if (!claimsSet) {
+                    checks.exec("SELECT set_config('role', $1, true), set_config('request.jwt.claims', $2, true)",
+                                {reader.role.toUtf8(), QJsonDocument(reader.claims).toJson(QJsonDocument::Compact)});
+                    claimsSet = true;
                 }
                 QJsonArray rows;
                 for (qsizetype c : *it) {
-                    rows.append(changes.at(candidates.at(c).change).row());
+                    rows.append(changes.at(c).row());
                 }
+                // An account that was deleted, or a session that ended, reads nothing more.
+                const QByteArray live = reader.role == u"authenticated" ? " AND (SELECT app.session_is_live())" : "";
                 const QByteArray sql =
                     "SELECT q.ord FROM jsonb_array_elements($1::jsonb) WITH ORDINALITY AS q(rec, ord)"
                     " CROSS JOIN LATERAL jsonb_populate_record(NULL::" +
                     quoteIdentifier(first.schema) + '.' + quoteIdentifier(first.table) + ", q.rec) AS " +
-                    quoteIdentifier(first.table) + " WHERE " + condition.toUtf8();
-                const PgResult visible = connection.exec(sql, {QJsonDocument(rows).toJson(QJsonDocument::Compact)});
+                    quoteIdentifier(first.table) + " WHERE (" + condition.toUtf8() + ')' + live;
+                const PgResult visible = checks.exec(sql, {QJsonDocument(rows).toJson(QJsonDocument::Compact)});
                 for (int r = 0; r < visible.rows(); ++r) {
-                    readable.insert(it->at(visible.value(r, 0).toLongLong() - 1));
+                    reader.readable.insert(it->at(visible.value(r, 0).toLongLong() - 1));
                 }
             }
-            if (inTransaction) {
-                connection.execScript("COMMIT");
-            }
         } catch (const PgException &error) {
-            if (!connection.isHealthy()) {
+            if (!checks.isHealthy()) {
                 throw;
             }
-            // A policy that fails for this subscriber hides the rows from them, as it would on a read.
-            qCWarning(lcDispatch) << "read check failed for" << subscription.topic << error.what();
-            if (connection.inTransaction()) {
-                connection.execScript("ROLLBACK");
+            // A policy that fails for this identity hides the rows from them, as it would on a
+            // read; the transaction it broke is begun afresh for the others.
+            qCWarning(lcDispatch) << "read check failed for" << reader.role << error.what();
+            reader.readable.clear();
+            if (checks.inTransaction()) {
+                checks.execScript("ROLLBACK");
             }
-            continue;
+            inTransaction = false;
         }
+    }
+    if (inTransaction) {
+        checks.execScript("COMMIT");
+    }
 
-        for (qsizetype c = 0; c < candidates.size(); ++c) {
-            if (!readable.contains(c)) {
+    for (const auto &[subscription, candidates] : std::as_const(listening)) {
+        const Reader &reader = readers[readerKey(*subscription)];
+        for (const Candidate &candidate : candidates) {
+            if (!reader.readable.contains(candidate.change)) {
                 continue;
             }
-            const Candidate &candidate = candidates.at(c);
             const Change &change = changes.at(candidate.change);
-            const TableInfo &info = tableInfo(connection, change.schema, change.table);
+            const TableInfo &info = tableInfo(queue, change.schema, change.table);
             QJsonObject data{{u"schema"_s, change.schema},
                              {u"table"_s, change.table},
                              {u"commit_timestamp"_s, change.committedAt},
@@ -369,7 +412,7 @@ QList<ChangeDelivery> ChangeDispatcher::route(PgConnection &connection, const QL
                 }
                 data.insert(u"old_record"_s, old);
             }
-            deliveries.append({subscription.connection, subscription.serial, subscription.topic,
+            deliveries.append({subscription->connection, subscription->serial, subscription->topic,
                                QJsonObject{{u"ids"_s, candidate.ids}, {u"data"_s, data}}});
         }
     }

@@ -31,7 +31,9 @@ public:
         std::function<void()> recovered;
     };
 
-    ChangeDispatcher(QByteArray conninfo, Hooks hooks);
+    // `queueConninfo` reads and empties the queue (its owner); `checkConninfo` logs in as the
+    // role that becomes each subscriber for the read checks.
+    ChangeDispatcher(QByteArray queueConninfo, QByteArray checkConninfo, Hooks hooks);
     ~ChangeDispatcher();
 
     ChangeDispatcher(const ChangeDispatcher &) = delete;
@@ -55,13 +57,14 @@ private:
     };
 
     void run();
-    bool drainOnce(PgConnection &connection);
+    bool drainOnce(PgConnection &connection, PgConnection &checks);
     TableInfo &tableInfo(PgConnection &connection, const QString &schema, const QString &table);
     QString visibilityCondition(PgConnection &connection, TableInfo &info, const QString &schema, const QString &table,
                                 const QString &role);
-    QList<ChangeDelivery> route(PgConnection &connection, const QList<Change> &changes);
+    QList<ChangeDelivery> route(PgConnection &queue, PgConnection &checks, const QList<Change> &changes);
 
     QByteArray m_conninfo;
+    QByteArray m_checkConninfo;
     Hooks m_hooks;
     QHash<QString, TableInfo> m_tables;
     std::mutex m_mutex;

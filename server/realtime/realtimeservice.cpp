@@ -33,9 +33,11 @@ QString subtopic(const QString &topic)
 
 } // namespace
 
-RealtimeService::RealtimeService(QByteArray conninfo, QByteArray jwtSecret, Options options, QObject *parent)
+RealtimeService::RealtimeService(QByteArray conninfo, QByteArray checkConninfo, QByteArray jwtSecret, Options options,
+                                 QObject *parent)
     : QObject(parent)
     , m_conninfo(std::move(conninfo))
+    , m_checkConninfo(std::move(checkConninfo))
     , m_secret(std::move(jwtSecret))
     , m_options(options)
     , m_snapshot(std::make_shared<const QList<ChannelSubscription>>())
@@ -103,7 +105,7 @@ bool RealtimeService::start(QAbstractHttpServer &server)
             this, [this, reason] { feedFailed(reason); }, Qt::QueuedConnection);
     };
     hooks.recovered = [] {};
-    m_dispatcher = std::make_unique<ChangeDispatcher>(m_conninfo, std::move(hooks));
+    m_dispatcher = std::make_unique<ChangeDispatcher>(m_conninfo, m_checkConninfo, std::move(hooks));
     ChangeDispatcher *dispatcher = m_dispatcher.get();
     m_listener = std::make_unique<PgListener>(m_conninfo, "morvane_realtime",
                                               [dispatcher](const QByteArray &) { dispatcher->wake(); });
@@ -267,9 +269,18 @@ void RealtimeService::join(Connection &connection, const PhoenixMessage &message
         return;
     }
 
+    if (connection.channels.size() >= std::size_t(m_options.maxChannels) &&
+        connection.channels.find(message.topic) == connection.channels.end()) {
+        refuse(u"Too many channels: a connection may join at most %1"_s.arg(m_options.maxChannels));
+        return;
+    }
     auto channel = std::make_unique<Channel>();
     QJsonArray answered;
     const QJsonArray asked = message.payload.value(u"config").toObject().value(u"postgres_changes").toArray();
+    if (asked.size() > m_options.maxBindings) {
+        refuse(u"Unable to subscribe to changes: at most %1 postgres_changes per channel"_s.arg(m_options.maxBindings));
+        return;
+    }
     for (const QJsonValue &value : asked) {
         const QJsonObject params = value.toObject();
         ChangeBinding binding;

@@ -34,9 +34,15 @@ public:
         qint64 maxIncomingMessageBytes = 1024 * 1024;
         // A socket that sends nothing for this long (not even a heartbeat) is closed.
         int silenceSeconds = 90;
+        // One socket joins at most this many channels, each with at most this many bindings: every
+        // binding is matched against every change.
+        int maxChannels = 100;
+        int maxBindings = 100;
     };
 
-    RealtimeService(QByteArray conninfo, QByteArray jwtSecret, Options options, QObject *parent = nullptr);
+    // `conninfo` owns the change queue; `checkConninfo` is the login role the read checks run as.
+    RealtimeService(QByteArray conninfo, QByteArray checkConninfo, QByteArray jwtSecret, Options options,
+                    QObject *parent = nullptr);
     ~RealtimeService() override;
 
     // Serves the WebSockets that `server` accepts and switches the capture of changes on; false
@@ -91,6 +97,7 @@ private:
     SubscriptionSnapshot snapshot() const;
 
     QByteArray m_conninfo;
+    QByteArray m_checkConninfo;
     QByteArray m_secret;
     Options m_options;
     bool m_capturing = false;

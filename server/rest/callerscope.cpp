@@ -33,6 +33,10 @@ void CallerScope::run(const RequestIdentity &identity, const HttpRequest &reques
                         {identity.role.toUtf8(), QJsonDocument(identity.claims).toJson(QJsonDocument::Compact),
                          request.method, request.path.toUtf8(), QJsonDocument(headers).toJson(QJsonDocument::Compact),
                          QByteArray::number(qint64(statementTimeout.count()))});
+        if (checkSessions && identity.role == u"authenticated" &&
+            connection.exec("SELECT app.session_is_live()").value(0, 0) != "t") {
+            throw ApiError(401, u"PGRST301"_s, u"The session has ended or the account is gone; sign in again."_s);
+        }
         if (work(connection)) {
             connection.execScript("COMMIT");
         } else {

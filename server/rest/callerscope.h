@@ -11,6 +11,9 @@
 struct CallerScope
 {
     PgPool &pool;
+    // Whether a user's token must still have its account and session (the schema provides
+    // app.session_is_live()).
+    bool checkSessions = true;
     std::chrono::milliseconds poolWait{std::chrono::seconds(10)};
     std::chrono::milliseconds statementTimeout{std::chrono::seconds(30)};
 

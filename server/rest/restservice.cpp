@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 struct RestService::Preferences
@@ -160,8 +162,8 @@ ApiError unknownColumn(const QString &column, const QString &table)
 
 } // namespace
 
-RestService::RestService(PgPool &pool, QByteArray jwtSecret, std::shared_ptr<const Catalog> catalog)
-    : m_scope{pool}
+RestService::RestService(PgPool &pool, QByteArray jwtSecret, std::shared_ptr<const Catalog> catalog, bool checkSessions)
+    : m_scope{pool, checkSessions}
     , m_secret(std::move(jwtSecret))
     , m_catalog(std::move(catalog))
 {}
@@ -249,10 +251,10 @@ HttpResponse RestService::read(const HttpRequest &request, const RequestIdentity
         }
     }
     const qint64 offset = top.offset.value_or(0);
-    SqlBuilder builder(catalog);
-    const SqlBuilder::Statement statement = builder.read(relation, query, preferences.countExact);
     Rows rows;
     m_scope.run(identity, request, true, [&](PgConnection &connection) {
+        SqlBuilder builder(catalog, SqlBuilder::resolveCasts(connection, query.select));
+        const SqlBuilder::Statement statement = builder.read(relation, query, preferences.countExact);
         rows = readRows(connection.exec(statement.sql, statement.params));
         return true;
     });
@@ -284,8 +286,8 @@ HttpResponse RestService::write(const HttpRequest &request, const RequestIdentit
                                 const CatalogRelation &relation, const Preferences &preferences)
 {
     const ParsedQuery query = parseQuery(request.query);
-    SqlBuilder builder(catalog);
-    SqlBuilder::Statement statement;
+    // Built once the casts of the select are known, inside the request's transaction.
+    std::function<SqlBuilder::Statement(SqlBuilder &)> build;
     const bool inserting = request.method == "POST";
 
     if (inserting) {
@@ -327,7 +329,7 @@ HttpResponse RestService::write(const HttpRequest &request, const RequestIdentit
             throw ApiError(400, u"PGRST102"_s, u"All object keys must match"_s,
                            u"Rows without columns cannot be bulk inserted."_s);
         }
-        statement = builder.insert(relation, query, rows, options);
+        build = [&, rows, options](SqlBuilder &builder) { return builder.insert(relation, query, rows, options); };
     } else if (request.method == "PATCH") {
         const QJsonValue body = parseBody(request.body);
         if (!body.isObject()) {
@@ -339,13 +341,15 @@ HttpResponse RestService::write(const HttpRequest &request, const RequestIdentit
                 throw unknownColumn(it.key(), relation.name);
             }
         }
-        statement = builder.update(relation, query, patch);
+        build = [&, patch](SqlBuilder &builder) { return builder.update(relation, query, patch); };
     } else {
-        statement = builder.remove(relation, query);
+        build = [&](SqlBuilder &builder) { return builder.remove(relation, query); };
     }
 
     Rows rows;
     m_scope.run(identity, request, false, [&](PgConnection &connection) {
+        SqlBuilder builder(catalog, SqlBuilder::resolveCasts(connection, query.select));
+        const SqlBuilder::Statement statement = build(builder);
         rows = readRows(connection.exec(statement.sql, statement.params));
         // A single object was asked for: anything else undoes the write.
         if (preferences.singleObject && rows.count != 1) {

@@ -12,7 +12,7 @@
 class RestService : public HttpService
 {
 public:
-    RestService(PgPool &pool, QByteArray jwtSecret, std::shared_ptr<const Catalog> catalog);
+    RestService(PgPool &pool, QByteArray jwtSecret, std::shared_ptr<const Catalog> catalog, bool checkSessions = true);
 
     [[nodiscard]] QString prefix() const override { return QStringLiteral("/rest/v1"); }
     HttpResponse handle(const HttpRequest &request) override;

@@ -2,6 +2,7 @@
 
 #include "rest/apierror.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
 
@@ -14,10 +15,19 @@ QString joined(const QStringList &parts, const QString &separator)
     return parts.join(separator);
 }
 
-bool isSafeTypeName(const QString &type)
+void collectCasts(const QList<SelectItem> &items, QStringList &casts)
 {
-    static const QRegularExpression pattern(u"^[A-Za-z_][A-Za-z0-9_ ]{0,62}(\\[\\])?$"_s);
-    return pattern.match(type).hasMatch();
+    for (const SelectItem &item : items) {
+        if (!item.cast.isEmpty() && !casts.contains(item.cast)) {
+            casts.append(item.cast);
+        }
+        collectCasts(item.children, casts);
+    }
+}
+
+ApiError unsupportedCast(const QString &cast)
+{
+    return ApiError::badQuery(u"\"failed to parse select parameter\""_s, u"unsupported cast \"%1\""_s.arg(cast));
 }
 
 } // namespace
@@ -27,6 +37,38 @@ QString SqlBuilder::quoteIdentifier(const QString &name)
     QString quoted = name;
     quoted.replace(u'"', u"\"\""_s);
     return u'"' + quoted + u'"';
+}
+
+SqlBuilder::CastTypes SqlBuilder::resolveCasts(PgConnection &connection, const QList<SelectItem> &select)
+{
+    QStringList casts;
+    collectCasts(select, casts);
+    CastTypes types;
+    if (casts.isEmpty()) {
+        return types;
+    }
+    QJsonArray names;
+    for (const QString &cast : std::as_const(casts)) {
+        // Longer than any type name with its schema; the database need not read it at all.
+        if (cast.size() > 2 * 64 + 3) {
+            throw unsupportedCast(cast);
+        }
+        names.append(cast);
+    }
+    const PgResult found =
+        connection.exec("SELECT c.name, n.nspname, t.typname FROM json_array_elements_text($1::json) AS c(name)"
+                        " LEFT JOIN pg_catalog.pg_type t ON t.oid = pg_catalog.to_regtype(c.name)"
+                        " LEFT JOIN pg_catalog.pg_namespace n ON n.oid = t.typnamespace",
+                        {QJsonDocument(names).toJson(QJsonDocument::Compact)});
+    for (int row = 0; row < found.rows(); ++row) {
+        const QString cast = QString::fromUtf8(found.value(row, 0));
+        if (found.isNull(row, 1)) {
+            throw unsupportedCast(cast);
+        }
+        types.insert(cast, quoteIdentifier(QString::fromUtf8(found.value(row, 1))) + u'.' +
+                               quoteIdentifier(QString::fromUtf8(found.value(row, 2))));
+    }
+    return types;
 }
 
 QString SqlBuilder::param(const std::optional<QByteArray> &value)
@@ -231,11 +273,11 @@ QString SqlBuilder::levelSql(const CatalogRelation &relation, const QString &sou
         case SelectItem::Kind::Column: {
             QString ref = columnRef(relation, alias, item.name);
             if (!item.cast.isEmpty()) {
-                if (!isSafeTypeName(item.cast)) {
-                    throw ApiError::badQuery(u"\"failed to parse select parameter\""_s,
-                                             u"unsupported cast \"%1\""_s.arg(item.cast));
+                const auto type = m_castTypes.constFind(item.cast);
+                if (type == m_castTypes.cend()) {
+                    throw unsupportedCast(item.cast);
                 }
-                ref += u"::" + item.cast;
+                ref = u"CAST(" + ref + u" AS " + *type + u')';
             }
             fields.append(ref + u" AS " + quoteIdentifier(item.key()));
             break;

@@ -30,9 +30,18 @@ public:
         bool missingAsDefault = false;
     };
 
-    explicit SqlBuilder(const Catalog &catalog)
+    // A cast named in select= ("col::text") and the type it stands for, written quoted and
+    // schema-qualified as the catalog knows it.
+    using CastTypes = QHash<QString, QString>;
+
+    explicit SqlBuilder(const Catalog &catalog, CastTypes castTypes = {})
         : m_catalog(catalog)
+        , m_castTypes(std::move(castTypes))
     {}
+
+    // Asks the database which type each cast of the select names, as it would read the type name
+    // itself; a cast it cannot resolve is refused. Nothing of the cast's text reaches a statement.
+    static CastTypes resolveCasts(PgConnection &connection, const QList<SelectItem> &select);
 
     Statement read(const CatalogRelation &relation, const ParsedQuery &query, bool withTotal);
     Statement insert(const CatalogRelation &relation, const ParsedQuery &query, const QJsonArray &rows,
@@ -73,6 +82,7 @@ private:
     QString limitedTo(const CatalogRelation &relation, const QString &alias, const ParsedQuery &query);
 
     const Catalog &m_catalog;
+    const CastTypes m_castTypes;
     PgParams m_params;
     int m_aliases = 0;
     QSet<QString> m_usedLevels;

@@ -204,8 +204,8 @@ Bucket bucketOf(PgConnection &db, const QString &bucket)
 
 } // namespace
 
-StorageService::StorageService(PgPool &pool, QByteArray jwtSecret, QString filesRoot, Limits limits)
-    : m_scope{pool}
+StorageService::StorageService(PgPool &pool, QByteArray jwtSecret, QString filesRoot, Limits limits, bool checkSessions)
+    : m_scope{pool, checkSessions}
     , m_secret(std::move(jwtSecret))
     , m_files(std::move(filesRoot))
     , m_limits(limits)

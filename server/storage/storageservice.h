@@ -17,7 +17,7 @@ public:
         qint64 maxObjectBytes = 10 * 1024 * 1024;
     };
 
-    StorageService(PgPool &pool, QByteArray jwtSecret, QString filesRoot, Limits limits);
+    StorageService(PgPool &pool, QByteArray jwtSecret, QString filesRoot, Limits limits, bool checkSessions = true);
 
     [[nodiscard]] QString prefix() const override { return QStringLiteral("/storage/v1"); }
     HttpResponse handle(const HttpRequest &request) override;

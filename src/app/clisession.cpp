@@ -15,7 +15,7 @@ namespace {
 // Shortest id start accepted as a reference: shorter ones would match by accident.
 constexpr qsizetype minimumIdPrefix = 4;
 
-template <typename T, typename NameOf, typename IdOf>
+template<typename T, typename NameOf, typename IdOf>
 std::optional<T> pick(const QList<T> &items, const QString &reference, NameOf nameOf, IdOf idOf, QTextStream &err,
                       const QString &noMatch)
 {
@@ -118,6 +118,14 @@ std::optional<Team> CliSession::team(const QString &reference, QTextStream &err)
     return pick(
         m_store->teams(), reference, [](const Team &t) { return t.name; }, [](const Team &t) { return t.id; }, err,
         qtTrId("cli.ref.noTeam"));
+}
+
+std::optional<TeamInvitation> CliSession::invitation(const QString &reference, QTextStream &err) const
+{
+    //% "No invitation to a team matches \"%1\". See them with: morvane teams invitations"
+    return pick(
+        m_store->invitations(), reference, [](const TeamInvitation &i) { return i.teamName; },
+        [](const TeamInvitation &i) { return i.teamId; }, err, qtTrId("cli.ref.noInvitation"));
 }
 
 namespace Cli {

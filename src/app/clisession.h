@@ -37,6 +37,8 @@ public:
     [[nodiscard]] std::optional<Project> project(const QString &reference, QTextStream &err) const;
     [[nodiscard]] std::optional<TaskItem> task(const QString &reference, QTextStream &err) const;
     [[nodiscard]] std::optional<Team> team(const QString &reference, QTextStream &err) const;
+    // An open invitation, by its team's name or id.
+    [[nodiscard]] std::optional<TeamInvitation> invitation(const QString &reference, QTextStream &err) const;
 
 private:
     std::unique_ptr<AuthStore> m_auth;

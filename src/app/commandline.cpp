@@ -103,7 +103,7 @@ QList<Command> commands()
         {u"projects"_s, [] { return qtTrId("cli.command.projects"); }, runProjectsCommand},
         //% "List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm"
         {u"tasks"_s, [] { return qtTrId("cli.command.tasks"); }, runTasksCommand},
-        //% "Teams and their members: teams list|create|invite|assign"
+        //% "Teams and their members: teams list|create|invite|invitations|accept|decline|assign"
         {u"teams"_s, [] { return qtTrId("cli.command.teams"); }, runTeamsCommand},
         //% "Start, stop or show the timer: timer start|stop|status"
         {u"timer"_s, [] { return qtTrId("cli.command.timer"); }, runTimerCommand},
@@ -114,7 +114,7 @@ QList<Command> commands()
         //% "Show or set the price of a project or task: price show|set"
         {u"price"_s, [] { return qtTrId("cli.command.price"); }, runPriceCommand},
         //% "Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore |
-        //reimport | track"
+        // reimport | track"
         {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
         //% "Invoices: invoice draft|create|list|show|status|void|rm|pdf"
         {u"invoice"_s, [] { return qtTrId("cli.command.invoice"); }, runInvoiceCommand},

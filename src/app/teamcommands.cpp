@@ -84,6 +84,36 @@ int listTeams(const AppStore &store, bool json, QTextStream &out)
     return 0;
 }
 
+int listInvitations(const AppStore &store, bool json, QTextStream &out)
+{
+    if (json) {
+        QJsonArray rows;
+        for (const TeamInvitation &invitation : store.invitations()) {
+            rows.append(Wire::encode(invitation));
+        }
+        Cli::printJson(out, rows);
+        return 0;
+    }
+    if (store.invitations().isEmpty()) {
+        //% "No invitations wait for your answer."
+        out << qtTrId("cli.teams.noInvitations") << Qt::endl;
+        return 0;
+    }
+    for (const TeamInvitation &invitation : store.invitations()) {
+        const QString from =
+            invitation.invitedByName.value_or(QString()).isEmpty()
+                ? invitation.invitedByEmail.value_or(QString())
+                : *invitation.invitedByName + u" <"_s + invitation.invitedByEmail.value_or(QString()) + u'>';
+        //% "%1 (%2): as %3, from %4"
+        out << qtTrId("cli.teams.invitation")
+                   .arg(invitation.teamName, Cli::shortId(invitation.teamId), roleText(invitation.role), from)
+            << u'\n';
+    }
+    //% "Answer with: morvane teams accept <team> or morvane teams decline <team>"
+    out << qtTrId("cli.teams.answerHint") << Qt::endl;
+    return 0;
+}
+
 } // namespace
 
 int runTeamsCommand(const QStringList &arguments, QTextStream &out, QTextStream &err)
@@ -98,11 +128,14 @@ int runTeamsCommand(const QStringList &arguments, QTextStream &out, QTextStream 
     }
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
-    //% "Usage: morvane teams list | create <name> | invite <team> <e-mail> [--role editor|viewer] | assign <project> <team>|none [--json]"
+    //% "Usage: morvane teams list | create <name> | invite <team> <e-mail> [--role editor|viewer] | invitations |
+    // accept <team> | decline <team> | assign <project> <team>|none [--json]"
     const QString usageText = qtTrId("cli.teams.usage");
     const qsizetype count = positional.size();
     const bool known = (action == u"list" && count == 1) || (action == u"create" && count == 2) ||
-                       (action == u"invite" && count == 3) || (action == u"assign" && count == 3);
+                       (action == u"invite" && count == 3) || (action == u"assign" && count == 3) ||
+                       (action == u"invitations" && count == 1) || (action == u"accept" && count == 2) ||
+                       (action == u"decline" && count == 2);
     const std::optional<TeamRole> roleValue = Wire::enumFromName<TeamRole>(parser.value(role));
     if (!known || !roleValue || *roleValue == TeamRole::Owner) {
         return Cli::usage(err, usageText);
@@ -117,6 +150,31 @@ int runTeamsCommand(const QStringList &arguments, QTextStream &out, QTextStream 
 
     if (action == u"list") {
         return listTeams(store, json, out);
+    }
+    if (action == u"invitations") {
+        return listInvitations(store, json, out);
+    }
+    if (action == u"accept" || action == u"decline") {
+        const std::optional<TeamInvitation> invitation = session.invitation(positional.at(1), err);
+        if (!invitation) {
+            return 1;
+        }
+        const bool accept = action == u"accept";
+        if (!runBlocking(accept ? store.acceptInvitation(invitation->teamId)
+                                : store.declineInvitation(invitation->teamId))) {
+            return session.failed(err);
+        }
+        if (json) {
+            Cli::printJson(out, QJsonObject{{u"team_id"_s, invitation->teamId},
+                                            {u"status"_s, accept ? u"accepted"_s : u"declined"_s}});
+        } else if (accept) {
+            //% "You are now in team %1, as %2."
+            out << qtTrId("cli.teams.accepted").arg(invitation->teamName, roleText(invitation->role)) << Qt::endl;
+        } else {
+            //% "You declined the invitation to %1."
+            out << qtTrId("cli.teams.declined").arg(invitation->teamName) << Qt::endl;
+        }
+        return 0;
     }
     if (action == u"create") {
         const QString name = positional.at(1).trimmed();
@@ -141,10 +199,11 @@ int runTeamsCommand(const QStringList &arguments, QTextStream &out, QTextStream 
             return 1;
         }
         const InviteOutcome outcome = runBlocking(store.inviteMember(team->id, positional.at(2), *roleValue));
-        const bool ok = outcome.kind == InviteOutcome::Kind::Invited || outcome.kind == InviteOutcome::Kind::AlreadyMember;
+        const bool ok =
+            outcome.kind == InviteOutcome::Kind::Invited || outcome.kind == InviteOutcome::Kind::AlreadyMember;
         if (json) {
-            static const char *const kinds[] = {"invited",     "already_member", "no_account", "not_allowed",
-                                                "team_full",   "unavailable",    "failed"};
+            static const char *const kinds[] = {"invited",   "already_member", "no_account",   "not_allowed",
+                                                "team_full", "unavailable",    "rate_limited", "failed"};
             Cli::printJson(out, QJsonObject{{u"outcome"_s, QString::fromLatin1(kinds[int(outcome.kind)])},
                                             {u"email"_s, outcome.email},
                                             {u"user_id"_s, outcome.userId ? QJsonValue(*outcome.userId) : QJsonValue()},

@@ -693,7 +693,16 @@ QCoro::Task<bool> AuthStore::signInWithOAuth(QString provider, BrowserOpener ope
         setWorking(false);
         co_return false;
     }
-    const QString code = QUrlQuery(landing).queryItemValue(u"code"_s);
+    const QUrlQuery answer(landing);
+    const QString code = answer.queryItemValue(u"code"_s);
+    // The server says why it refused, for instance an address that the provider did not confirm.
+    if (const QString refused = answer.queryItemValue(u"error_description"_s, QUrl::FullyDecoded).simplified();
+        code.isEmpty() && !refused.isEmpty()) {
+        //% "The sign-in was refused: %1"
+        setLastError(qtTrId("auth.err.oauthRefused").arg(refused.left(300)));
+        setWorking(false);
+        co_return false;
+    }
     if (code.isEmpty()) {
         //% "The sign-in came back without a code."
         setLastError(qtTrId("auth.err.oauthNoCode"));

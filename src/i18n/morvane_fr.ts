@@ -31,6 +31,10 @@
       <source>The sign-in came back without a code.</source>
       <translation>La connexion est revenue sans code.</translation>
     </message>
+    <message id="auth.err.oauthRefused">
+      <source>The sign-in was refused: %1</source>
+      <translation>La connexion a été refusée : %1</translation>
+    </message>
     <message id="auth.err.rateLimit">
       <source>Too many attempts. Wait a few minutes, then try again.</source>
       <translation>Trop de tentatives. Attendez quelques minutes, puis réessayez.</translation>
@@ -296,8 +300,8 @@
       <translation>Lister, ajouter, modifier, déplacer ou supprimer des tâches : tasks list|add|edit|move|status|rm</translation>
     </message>
     <message id="cli.command.teams">
-      <source>Teams and their members: teams list|create|invite|assign</source>
-      <translation>Les équipes et leurs membres : teams list|create|invite|assign</translation>
+      <source>Teams and their members: teams list|create|invite|invitations|accept|decline|assign</source>
+      <translation>Les équipes et leurs membres : teams list|create|invite|invitations|accept|decline|assign</translation>
     </message>
     <message id="cli.command.timer">
       <source>Start, stop or show the timer: timer start|stop|status</source>
@@ -619,6 +623,10 @@
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>« %1 » correspond à plusieurs éléments : %2. Utilisez l’identifiant.</translation>
     </message>
+    <message id="cli.ref.noInvitation">
+      <source>No invitation to a team matches "%1". See them with: morvane teams invitations</source>
+      <translation>Aucune invitation à une équipe ne correspond à « %1 ». Consultez-les avec : morvane teams invitations</translation>
+    </message>
     <message id="cli.ref.noProject">
       <source>No project matches "%1".</source>
       <translation>Aucun projet ne correspond à « %1 ».</translation>
@@ -875,6 +883,14 @@
       <source>Usage: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</source>
       <translation>Utilisation : morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</translation>
     </message>
+    <message id="cli.teams.accepted">
+      <source>You are now in team %1, as %2.</source>
+      <translation>Vous faites maintenant partie de l'équipe %1, en tant que %2.</translation>
+    </message>
+    <message id="cli.teams.answerHint">
+      <source>Answer with: morvane teams accept &lt;team&gt; or morvane teams decline &lt;team&gt;</source>
+      <translation>Répondez avec : morvane teams accept &lt;team&gt; ou morvane teams decline &lt;team&gt;</translation>
+    </message>
     <message id="cli.teams.assigned">
       <source>%1 now belongs to team %2.</source>
       <translation>%1 appartient maintenant à l’équipe %2.</translation>
@@ -883,9 +899,21 @@
       <source>Created team %1 (%2).</source>
       <translation>Équipe %1 (%2) créée.</translation>
     </message>
+    <message id="cli.teams.declined">
+      <source>You declined the invitation to %1.</source>
+      <translation>Vous avez refusé l'invitation à %1.</translation>
+    </message>
     <message id="cli.teams.editor">
       <source>editor</source>
       <translation>éditeur</translation>
+    </message>
+    <message id="cli.teams.invitation">
+      <source>%1 (%2): as %3, from %4</source>
+      <translation>%1 (%2) : en tant que %3, de la part de %4</translation>
+    </message>
+    <message id="cli.teams.noInvitations">
+      <source>No invitations wait for your answer.</source>
+      <translation>Aucune invitation n'attend votre réponse.</translation>
     </message>
     <message id="cli.teams.none">
       <source>No teams. Create one with: morvane teams create &lt;name&gt;</source>
@@ -912,8 +940,8 @@
       <translation>%1 n’appartient plus à aucune équipe.</translation>
     </message>
     <message id="cli.teams.usage">
-      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
-      <translation>Utilisation : morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
+      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | invitations | accept &lt;team&gt; | decline &lt;team&gt; | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
+      <translation>Utilisation : morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | invitations | accept &lt;team&gt; | decline &lt;team&gt; | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
     </message>
     <message id="cli.teams.viewer">
       <source>viewer</source>
@@ -1295,6 +1323,10 @@
       <source>Only the team owner and editors can invite people.</source>
       <translation>Seuls le propriétaire et les éditeurs de l’équipe peuvent inviter des personnes.</translation>
     </message>
+    <message id="inviteRateLimited">
+      <source>You have sent many invitations in the last hour. Try again later.</source>
+      <translation>Vous avez envoyé de nombreuses invitations au cours de la dernière heure. Réessayez plus tard.</translation>
+    </message>
     <message id="inviteSent">
       <source>%1 is invited to this team.</source>
       <translation>Invitation envoyée à %1 pour cette équipe.</translation>
@@ -1442,6 +1474,10 @@
     <message id="task.useProject">
       <source>Use project price</source>
       <translation>Utiliser le prix du projet</translation>
+    </message>
+    <message id="team.err.invitationNotAnswered">
+      <source>The invitation could not be answered. Try again.</source>
+      <translation>Impossible de répondre à l'invitation. Réessayez.</translation>
     </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>

@@ -31,6 +31,10 @@
       <source>The sign-in came back without a code.</source>
       <translation>サインインからコードが返されませんでした。</translation>
     </message>
+    <message id="auth.err.oauthRefused">
+      <source>The sign-in was refused: %1</source>
+      <translation>サインインが拒否されました: %1</translation>
+    </message>
     <message id="auth.err.rateLimit">
       <source>Too many attempts. Wait a few minutes, then try again.</source>
       <translation>試行回数が多すぎます。数分待ってからもう一度お試しください。</translation>
@@ -296,8 +300,8 @@
       <translation>タスクの一覧・追加・編集・移動・削除: tasks list|add|edit|move|status|rm</translation>
     </message>
     <message id="cli.command.teams">
-      <source>Teams and their members: teams list|create|invite|assign</source>
-      <translation>チームとメンバー: teams list|create|invite|assign</translation>
+      <source>Teams and their members: teams list|create|invite|invitations|accept|decline|assign</source>
+      <translation>チームとメンバー: teams list|create|invite|invitations|accept|decline|assign</translation>
     </message>
     <message id="cli.command.timer">
       <source>Start, stop or show the timer: timer start|stop|status</source>
@@ -619,6 +623,10 @@
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>「%1」は複数に一致します: %2。IDを使ってください。</translation>
     </message>
+    <message id="cli.ref.noInvitation">
+      <source>No invitation to a team matches "%1". See them with: morvane teams invitations</source>
+      <translation>「%1」に一致するチームへの招待はありません。一覧は morvane teams invitations で確認できます</translation>
+    </message>
     <message id="cli.ref.noProject">
       <source>No project matches "%1".</source>
       <translation>「%1」に一致するプロジェクトはありません。</translation>
@@ -875,6 +883,14 @@
       <source>Usage: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</source>
       <translation>使い方: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</translation>
     </message>
+    <message id="cli.teams.accepted">
+      <source>You are now in team %1, as %2.</source>
+      <translation>チーム %1 に %2 として参加しました。</translation>
+    </message>
+    <message id="cli.teams.answerHint">
+      <source>Answer with: morvane teams accept &lt;team&gt; or morvane teams decline &lt;team&gt;</source>
+      <translation>返答するには: morvane teams accept &lt;team&gt; または morvane teams decline &lt;team&gt;</translation>
+    </message>
     <message id="cli.teams.assigned">
       <source>%1 now belongs to team %2.</source>
       <translation>%1 はチーム %2 に属するようになりました。</translation>
@@ -883,9 +899,21 @@
       <source>Created team %1 (%2).</source>
       <translation>チーム %1 (%2) を作成しました。</translation>
     </message>
+    <message id="cli.teams.declined">
+      <source>You declined the invitation to %1.</source>
+      <translation>%1 への招待を辞退しました。</translation>
+    </message>
     <message id="cli.teams.editor">
       <source>editor</source>
       <translation>編集者</translation>
+    </message>
+    <message id="cli.teams.invitation">
+      <source>%1 (%2): as %3, from %4</source>
+      <translation>%1 (%2): %3 として、%4 から</translation>
+    </message>
+    <message id="cli.teams.noInvitations">
+      <source>No invitations wait for your answer.</source>
+      <translation>返答待ちの招待はありません。</translation>
     </message>
     <message id="cli.teams.none">
       <source>No teams. Create one with: morvane teams create &lt;name&gt;</source>
@@ -912,8 +940,8 @@
       <translation>%1 はどのチームにも属さなくなりました。</translation>
     </message>
     <message id="cli.teams.usage">
-      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
-      <translation>使い方: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
+      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | invitations | accept &lt;team&gt; | decline &lt;team&gt; | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
+      <translation>使い方: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | invitations | accept &lt;team&gt; | decline &lt;team&gt; | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
     </message>
     <message id="cli.teams.viewer">
       <source>viewer</source>
@@ -1295,6 +1323,10 @@
       <source>Only the team owner and editors can invite people.</source>
       <translation>メンバーを招待できるのは、チームのオーナーと編集者だけです。</translation>
     </message>
+    <message id="inviteRateLimited">
+      <source>You have sent many invitations in the last hour. Try again later.</source>
+      <translation>この1時間に多くの招待を送信しました。しばらくしてからもう一度お試しください。</translation>
+    </message>
     <message id="inviteSent">
       <source>%1 is invited to this team.</source>
       <translation>%1 をこのチームに招待しました。</translation>
@@ -1442,6 +1474,10 @@
     <message id="task.useProject">
       <source>Use project price</source>
       <translation>プロジェクトの価格を使う</translation>
+    </message>
+    <message id="team.err.invitationNotAnswered">
+      <source>The invitation could not be answered. Try again.</source>
+      <translation>招待に応答できませんでした。もう一度お試しください。</translation>
     </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>

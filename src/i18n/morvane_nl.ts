@@ -31,6 +31,10 @@
       <source>The sign-in came back without a code.</source>
       <translation>Het inloggen kwam terug zonder code.</translation>
     </message>
+    <message id="auth.err.oauthRefused">
+      <source>The sign-in was refused: %1</source>
+      <translation>De aanmelding is geweigerd: %1</translation>
+    </message>
     <message id="auth.err.rateLimit">
       <source>Too many attempts. Wait a few minutes, then try again.</source>
       <translation>Te veel pogingen. Wacht een paar minuten en probeer het opnieuw.</translation>
@@ -296,8 +300,8 @@
       <translation>Taken tonen, toevoegen, bewerken, verplaatsen of verwijderen: tasks list|add|edit|move|status|rm</translation>
     </message>
     <message id="cli.command.teams">
-      <source>Teams and their members: teams list|create|invite|assign</source>
-      <translation>Teams en hun leden: teams list|create|invite|assign</translation>
+      <source>Teams and their members: teams list|create|invite|invitations|accept|decline|assign</source>
+      <translation>Teams en hun leden: teams list|create|invite|invitations|accept|decline|assign</translation>
     </message>
     <message id="cli.command.timer">
       <source>Start, stop or show the timer: timer start|stop|status</source>
@@ -619,6 +623,10 @@
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>"%1" past bij meerdere: %2. Gebruik de id.</translation>
     </message>
+    <message id="cli.ref.noInvitation">
+      <source>No invitation to a team matches "%1". See them with: morvane teams invitations</source>
+      <translation>Geen uitnodiging voor een team komt overeen met "%1". Bekijk ze met: morvane teams invitations</translation>
+    </message>
     <message id="cli.ref.noProject">
       <source>No project matches "%1".</source>
       <translation>Geen project past bij "%1".</translation>
@@ -875,6 +883,14 @@
       <source>Usage: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</source>
       <translation>Gebruik: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</translation>
     </message>
+    <message id="cli.teams.accepted">
+      <source>You are now in team %1, as %2.</source>
+      <translation>Je zit nu in team %1, als %2.</translation>
+    </message>
+    <message id="cli.teams.answerHint">
+      <source>Answer with: morvane teams accept &lt;team&gt; or morvane teams decline &lt;team&gt;</source>
+      <translation>Antwoord met: morvane teams accept &lt;team&gt; of morvane teams decline &lt;team&gt;</translation>
+    </message>
     <message id="cli.teams.assigned">
       <source>%1 now belongs to team %2.</source>
       <translation>%1 hoort nu bij team %2.</translation>
@@ -883,9 +899,21 @@
       <source>Created team %1 (%2).</source>
       <translation>Team %1 (%2) aangemaakt.</translation>
     </message>
+    <message id="cli.teams.declined">
+      <source>You declined the invitation to %1.</source>
+      <translation>Je hebt de uitnodiging voor %1 afgeslagen.</translation>
+    </message>
     <message id="cli.teams.editor">
       <source>editor</source>
       <translation>bewerker</translation>
+    </message>
+    <message id="cli.teams.invitation">
+      <source>%1 (%2): as %3, from %4</source>
+      <translation>%1 (%2): als %3, van %4</translation>
+    </message>
+    <message id="cli.teams.noInvitations">
+      <source>No invitations wait for your answer.</source>
+      <translation>Er wachten geen uitnodigingen op je antwoord.</translation>
     </message>
     <message id="cli.teams.none">
       <source>No teams. Create one with: morvane teams create &lt;name&gt;</source>
@@ -912,8 +940,8 @@
       <translation>%1 hoort niet meer bij een team.</translation>
     </message>
     <message id="cli.teams.usage">
-      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
-      <translation>Gebruik: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
+      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | invitations | accept &lt;team&gt; | decline &lt;team&gt; | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
+      <translation>Gebruik: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | invitations | accept &lt;team&gt; | decline &lt;team&gt; | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
     </message>
     <message id="cli.teams.viewer">
       <source>viewer</source>
@@ -1295,6 +1323,10 @@
       <source>Only the team owner and editors can invite people.</source>
       <translation>Alleen de eigenaar en de bewerkers van het team kunnen mensen uitnodigen.</translation>
     </message>
+    <message id="inviteRateLimited">
+      <source>You have sent many invitations in the last hour. Try again later.</source>
+      <translation>Je hebt het afgelopen uur veel uitnodigingen verstuurd. Probeer het later opnieuw.</translation>
+    </message>
     <message id="inviteSent">
       <source>%1 is invited to this team.</source>
       <translation>%1 is uitgenodigd voor dit team.</translation>
@@ -1442,6 +1474,10 @@
     <message id="task.useProject">
       <source>Use project price</source>
       <translation>Projectprijs gebruiken</translation>
+    </message>
+    <message id="team.err.invitationNotAnswered">
+      <source>The invitation could not be answered. Try again.</source>
+      <translation>De uitnodiging kon niet worden beantwoord. Probeer het opnieuw.</translation>
     </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>

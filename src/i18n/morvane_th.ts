@@ -31,6 +31,10 @@
       <source>The sign-in came back without a code.</source>
       <translation>การลงชื่อเข้าใช้กลับมาโดยไม่มีรหัส</translation>
     </message>
+    <message id="auth.err.oauthRefused">
+      <source>The sign-in was refused: %1</source>
+      <translation>การลงชื่อเข้าใช้ถูกปฏิเสธ: %1</translation>
+    </message>
     <message id="auth.err.rateLimit">
       <source>Too many attempts. Wait a few minutes, then try again.</source>
       <translation>ลองหลายครั้งเกินไป โปรดรอสักครู่แล้วลองอีกครั้ง</translation>
@@ -296,8 +300,8 @@
       <translation>แสดง เพิ่ม แก้ไข ย้าย หรือลบงาน: tasks list|add|edit|move|status|rm</translation>
     </message>
     <message id="cli.command.teams">
-      <source>Teams and their members: teams list|create|invite|assign</source>
-      <translation>ทีมและสมาชิก: teams list|create|invite|assign</translation>
+      <source>Teams and their members: teams list|create|invite|invitations|accept|decline|assign</source>
+      <translation>ทีมและสมาชิก: teams list|create|invite|invitations|accept|decline|assign</translation>
     </message>
     <message id="cli.command.timer">
       <source>Start, stop or show the timer: timer start|stop|status</source>
@@ -619,6 +623,10 @@
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>"%1" ตรงกับหลายรายการ: %2 โปรดใช้ id</translation>
     </message>
+    <message id="cli.ref.noInvitation">
+      <source>No invitation to a team matches "%1". See them with: morvane teams invitations</source>
+      <translation>ไม่มีคำเชิญเข้าทีมที่ตรงกับ "%1" ดูคำเชิญได้ด้วย: morvane teams invitations</translation>
+    </message>
     <message id="cli.ref.noProject">
       <source>No project matches "%1".</source>
       <translation>ไม่มีโปรเจกต์ที่ตรงกับ "%1"</translation>
@@ -875,6 +883,14 @@
       <source>Usage: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</source>
       <translation>วิธีใช้: morvane tasks list [&lt;project&gt;] [--filter F] [--sort S] | add &lt;project&gt; &lt;title&gt; [--description TEXT] [--due DAY] | edit &lt;task&gt; [--title T] [--description TEXT] [--due DAY] | move &lt;task&gt; &lt;project&gt; | status &lt;task&gt; not_started|in_progress|completed | rm &lt;task&gt; [--json]</translation>
     </message>
+    <message id="cli.teams.accepted">
+      <source>You are now in team %1, as %2.</source>
+      <translation>ตอนนี้คุณอยู่ในทีม %1 ในฐานะ %2</translation>
+    </message>
+    <message id="cli.teams.answerHint">
+      <source>Answer with: morvane teams accept &lt;team&gt; or morvane teams decline &lt;team&gt;</source>
+      <translation>ตอบด้วย: morvane teams accept &lt;team&gt; หรือ morvane teams decline &lt;team&gt;</translation>
+    </message>
     <message id="cli.teams.assigned">
       <source>%1 now belongs to team %2.</source>
       <translation>%1 อยู่ในทีม %2 แล้ว</translation>
@@ -883,9 +899,21 @@
       <source>Created team %1 (%2).</source>
       <translation>สร้างทีม %1 (%2) แล้ว</translation>
     </message>
+    <message id="cli.teams.declined">
+      <source>You declined the invitation to %1.</source>
+      <translation>คุณปฏิเสธคำเชิญเข้าร่วม %1 แล้ว</translation>
+    </message>
     <message id="cli.teams.editor">
       <source>editor</source>
       <translation>ผู้แก้ไข</translation>
+    </message>
+    <message id="cli.teams.invitation">
+      <source>%1 (%2): as %3, from %4</source>
+      <translation>%1 (%2): ในฐานะ %3 จาก %4</translation>
+    </message>
+    <message id="cli.teams.noInvitations">
+      <source>No invitations wait for your answer.</source>
+      <translation>ไม่มีคำเชิญที่รอคำตอบจากคุณ</translation>
     </message>
     <message id="cli.teams.none">
       <source>No teams. Create one with: morvane teams create &lt;name&gt;</source>
@@ -912,8 +940,8 @@
       <translation>%1 ไม่ได้อยู่ในทีมใดแล้ว</translation>
     </message>
     <message id="cli.teams.usage">
-      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
-      <translation>วิธีใช้: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
+      <source>Usage: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | invitations | accept &lt;team&gt; | decline &lt;team&gt; | assign &lt;project&gt; &lt;team&gt;|none [--json]</source>
+      <translation>วิธีใช้: morvane teams list | create &lt;name&gt; | invite &lt;team&gt; &lt;e-mail&gt; [--role editor|viewer] | invitations | accept &lt;team&gt; | decline &lt;team&gt; | assign &lt;project&gt; &lt;team&gt;|none [--json]</translation>
     </message>
     <message id="cli.teams.viewer">
       <source>viewer</source>
@@ -1295,6 +1323,10 @@
       <source>Only the team owner and editors can invite people.</source>
       <translation>เฉพาะเจ้าของทีมและผู้แก้ไขเท่านั้นที่เชิญคนอื่นได้</translation>
     </message>
+    <message id="inviteRateLimited">
+      <source>You have sent many invitations in the last hour. Try again later.</source>
+      <translation>คุณส่งคำเชิญจำนวนมากในชั่วโมงที่ผ่านมา โปรดลองอีกครั้งภายหลัง</translation>
+    </message>
     <message id="inviteSent">
       <source>%1 is invited to this team.</source>
       <translation>เชิญ %1 เข้าทีมนี้แล้ว</translation>
@@ -1442,6 +1474,10 @@
     <message id="task.useProject">
       <source>Use project price</source>
       <translation>ใช้ราคาของโปรเจกต์</translation>
+    </message>
+    <message id="team.err.invitationNotAnswered">
+      <source>The invitation could not be answered. Try again.</source>
+      <translation>ไม่สามารถตอบคำเชิญได้ โปรดลองอีกครั้ง</translation>
     </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>

@@ -57,3 +57,30 @@ struct TeamMember
     }
     friend bool operator==(const TeamMember &, const TeamMember &) = default;
 };
+
+// An invitation waiting for the signed-in user's answer, with what a person needs to decide: the
+// team's rows stay out of reach until it is accepted.
+struct TeamInvitation
+{
+    QString teamId;
+    QString teamName;
+    TeamRole role = TeamRole::Viewer;
+    std::optional<QString> invitedAt;
+    std::optional<QString> invitedByName;
+    std::optional<QString> invitedByEmail;
+
+    static constexpr std::string_view wireName = "TeamInvitation";
+    static constexpr auto wireFields()
+    {
+        using Wire::field;
+        return std::tuple{
+            field("team_id", &TeamInvitation::teamId),
+            field("team_name", &TeamInvitation::teamName),
+            field("role", &TeamInvitation::role),
+            field("invited_at", &TeamInvitation::invitedAt),
+            field("invited_by_name", &TeamInvitation::invitedByName),
+            field("invited_by_email", &TeamInvitation::invitedByEmail),
+        };
+    }
+    friend bool operator==(const TeamInvitation &, const TeamInvitation &) = default;
+};

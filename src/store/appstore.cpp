@@ -335,6 +335,15 @@ void AppStore::setTeams(QList<Team> teams, QHash<QString, QList<TeamMember>> mem
     emit teamsChanged();
 }
 
+void AppStore::setInvitations(QList<TeamInvitation> invitations)
+{
+    if (m_invitations == invitations) {
+        return;
+    }
+    m_invitations = std::move(invitations);
+    emit invitationsChanged();
+}
+
 void AppStore::setClients(QList<Client> all)
 {
     QList<Client> active;
@@ -397,6 +406,7 @@ void AppStore::clearCollections()
         emit entriesChanged();
     }
     setTeams({}, {});
+    setInvitations({});
     setClients({});
     clearInvoices();
     setProfile(std::nullopt);
@@ -620,7 +630,7 @@ QCoro::Task<bool> AppStore::loadTeams()
         }
         QStringList memberOf;
         for (const TeamMember &member : members) {
-            if (member.userId == m_currentUserId && !owned.contains(member.teamId) &&
+            if (member.userId == m_currentUserId && !member.isPending() && !owned.contains(member.teamId) &&
                 !memberOf.contains(member.teamId)) {
                 memberOf.append(member.teamId);
             }
@@ -642,8 +652,26 @@ QCoro::Task<bool> AppStore::loadTeams()
             });
         }
 
+        QList<TeamInvitation> invitations;
+        try {
+            const auto invitationsRequest = [&](const QString &token) {
+                return client.callRPCReturning<QList<TeamInvitation>>(u"my_team_invitations"_s, token,
+                                                                      JSONValue(JSONValue::Object{}));
+            };
+            invitations = co_await authorized(*session, invitationsRequest);
+        } catch (const SupabaseError &error) {
+            // A backend without invitations to answer has none waiting.
+            if (error.errorCode() != u"PGRST202") {
+                throw;
+            }
+        }
+
         QHash<QString, QList<TeamMember>> byTeam;
         for (const TeamMember &member : members) {
+            // Our own open invitation is not a team we are in; it shows among the invitations.
+            if (member.userId == m_currentUserId && member.isPending()) {
+                continue;
+            }
             byTeam[member.teamId].append(member);
         }
         for (QList<TeamMember> &list : byTeam) {
@@ -653,6 +681,7 @@ QCoro::Task<bool> AppStore::loadTeams()
             co_return false;
         }
         setTeams(std::move(teams), std::move(byTeam));
+        setInvitations(std::move(invitations));
         co_return true;
     } catch (const MorvaneError &error) {
         failed("Load teams failed: ", error.message(), StoreText::teamsNotLoaded());
@@ -839,7 +868,7 @@ std::optional<TeamRole> AppStore::roleInTeam(const QString &teamId) const
     if (m_currentUserId.isEmpty()) {
         return std::nullopt;
     }
-    // The backend counts an invitation not yet accepted with its role, and so does this.
+    // An invitation grants nothing until it is accepted, on the backend and here.
     std::optional<TeamRole> role;
     for (const Team &team : m_teams) {
         if (team.id == teamId && team.ownerId == m_currentUserId) {
@@ -847,7 +876,7 @@ std::optional<TeamRole> AppStore::roleInTeam(const QString &teamId) const
         }
     }
     for (const TeamMember &member : m_membersByTeam.value(teamId)) {
-        if (member.userId == m_currentUserId && (!role || member.role < *role)) {
+        if (member.userId == m_currentUserId && !member.isPending() && (!role || member.role < *role)) {
             role = member.role;
         }
     }
@@ -1696,6 +1725,46 @@ QCoro::Task<std::optional<Team>> AppStore::createTeam(QString name)
     co_return created;
 }
 
+QCoro::Task<bool> AppStore::acceptInvitation(QString teamId)
+{
+    return answerInvitation(std::move(teamId), true);
+}
+
+QCoro::Task<bool> AppStore::declineInvitation(QString teamId)
+{
+    return answerInvitation(std::move(teamId), false);
+}
+
+QCoro::Task<bool> AppStore::answerInvitation(QString teamId, bool accept)
+{
+    const char *prefix = accept ? "Accept invitation failed: " : "Decline invitation failed: ";
+    std::optional<Session> session = co_await openSession(prefix);
+    if (!session) {
+        co_return false;
+    }
+    try {
+        const TeamInvitationArgs args{teamId};
+        const auto answerRequest = [&, client = m_auth.client()](const QString &token) {
+            return client.callRPC(accept ? u"accept_team_invitation"_s : u"decline_team_invitation"_s, token, args);
+        };
+        co_await authorized(*session, answerRequest);
+    } catch (const MorvaneError &error) {
+        failed(prefix, error.message(), StoreText::invitationNotAnswered());
+        co_return false;
+    }
+    if (!isCurrent(*session)) {
+        co_return false;
+    }
+    // A new team brings its members, projects, tasks and time: everything is read again.
+    if (accept) {
+        co_return co_await refreshAll();
+    }
+    QList<TeamInvitation> open = m_invitations;
+    open.removeIf([&](const TeamInvitation &invitation) { return invitation.teamId == teamId; });
+    setInvitations(std::move(open));
+    co_return true;
+}
+
 QCoro::Task<InviteOutcome> AppStore::inviteMember(QString teamId, QString email, TeamRole role)
 {
     const QString address = email.trimmed();
@@ -1716,7 +1785,7 @@ QCoro::Task<InviteOutcome> AppStore::inviteMember(QString teamId, QString email,
             qCWarning(lcStore).noquote() << u"invite_team_member_by_email failed: unexpected status "_s + result.status;
         }
     } catch (const SupabaseError &error) {
-        outcome = InviteOutcome::fromErrorCode(error.errorCode(), address);
+        outcome = InviteOutcome::fromError(error.errorCode(), error.body(), address);
         if (outcome.kind == InviteOutcome::Kind::Failed || outcome.kind == InviteOutcome::Kind::Unavailable) {
             qCWarning(lcStore).noquote() << u"invite_team_member_by_email failed: "_s + error.message();
         }

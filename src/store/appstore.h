@@ -1,5 +1,8 @@
 #pragma once
 
+#include "backend/realtimeclient.h"
+#include "backend/supabase.h"
+#include "billing/earnings.h"
 #include "model/client.h"
 #include "model/clock.h"
 #include "model/invoice.h"
@@ -8,11 +11,8 @@
 #include "model/taskitem.h"
 #include "model/team.h"
 #include "model/timeentry.h"
-#include "backend/realtimeclient.h"
-#include "backend/supabase.h"
-#include "billing/earnings.h"
-#include "store/invoicecontext.h"
 #include "store/inviteoutcome.h"
+#include "store/invoicecontext.h"
 #include "store/taskorder.h"
 #include "store/timerrecords.h"
 #include "store/timerstore.h"
@@ -125,6 +125,8 @@ public:
     [[nodiscard]] const QList<Team> &teams() const { return m_teams; }
     // Each team's members: owners, then editors, then viewers, each group by address.
     [[nodiscard]] const QHash<QString, QList<TeamMember>> &membersByTeam() const { return m_membersByTeam; }
+    // Invitations to teams that wait for this user's answer; they grant nothing until accepted.
+    [[nodiscard]] const QList<TeamInvitation> &invitations() const { return m_invitations; }
     [[nodiscard]] const QList<TimeEntry> &recentEntries() const { return m_recentEntries; }
     [[nodiscard]] const QList<Client> &clients() const { return m_clients; }
     [[nodiscard]] const QList<Client> &allClients() const { return m_allClients; }
@@ -190,7 +192,10 @@ public:
     void setPollInterval(std::chrono::milliseconds interval) { m_pollInterval = interval; }
     // A one-shot command has no use for live changes; the desktop keeps the feed on.
     void setRealtimeEnabled(bool enabled) { m_realtimeEnabled = enabled; }
-    void setRealtimeScheduler(std::shared_ptr<RealtimeScheduler> scheduler) { m_realtimeScheduler = std::move(scheduler); }
+    void setRealtimeScheduler(std::shared_ptr<RealtimeScheduler> scheduler)
+    {
+        m_realtimeScheduler = std::move(scheduler);
+    }
     [[nodiscard]] RealtimeClient *realtimeClient() const { return m_realtime.get(); }
     // Merges one change of the feed by id; a task change rebinds the timer to the running task.
     void applyRealtimeChange(const RealtimeChange &change);
@@ -295,6 +300,9 @@ public:
     // Teams.
     QCoro::Task<std::optional<Team>> createTeam(QString name);
     QCoro::Task<InviteOutcome> inviteMember(QString teamId, QString email, TeamRole role);
+    // Accepting brings the team, its members and its projects in; declining removes the invitation.
+    QCoro::Task<bool> acceptInvitation(QString teamId);
+    QCoro::Task<bool> declineInvitation(QString teamId);
 
     // Invoices. Each operation answers whether it succeeded and sets `lastError` otherwise.
     [[nodiscard]] const QList<Invoice> &invoices() const { return m_invoices; }
@@ -340,6 +348,7 @@ signals:
     void tasksChanged();
     void entriesChanged();
     void teamsChanged();
+    void invitationsChanged();
     void clientsChanged();
     void profileChanged();
     void currentUserIdChanged();
@@ -379,7 +388,7 @@ private:
     // Runs `call(token)`. A 401 means the backend no longer takes the token (revoked, or expired
     // early by the clocks' disagreement), not that the user may not do this: the call runs once
     // more with a fresh token, and only a second refusal reaches the caller.
-    template <typename Call>
+    template<typename Call>
     auto authorized(Session &session, Call call) -> decltype(call(QString()));
     [[nodiscard]] bool isCurrent(const Session &session) const { return session.generation == m_generation; }
     void adoptUser(const QString &userId);
@@ -414,6 +423,8 @@ private:
     void setProfile(const std::optional<Profile> &profile);
     void setProjects(QList<Project> projects);
     void setTeams(QList<Team> teams, QHash<QString, QList<TeamMember>> members);
+    void setInvitations(QList<TeamInvitation> invitations);
+    QCoro::Task<bool> answerInvitation(QString teamId, bool accept);
     void setClients(QList<Client> all);
     void setSelectedTaskIds(QSet<QString> ids);
     void mergeProject(const Project &project);
@@ -438,6 +449,7 @@ private:
     QHash<QString, QList<TimeEntry>> m_entriesByTask;
     QList<Team> m_teams;
     QHash<QString, QList<TeamMember>> m_membersByTeam;
+    QList<TeamInvitation> m_invitations;
     QList<TimeEntry> m_recentEntries;
     QList<Client> m_clients;
     QList<Client> m_allClients;

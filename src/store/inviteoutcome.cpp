@@ -15,10 +15,12 @@ InviteOutcome InviteOutcome::fromStatus(const QString &status, const QString &em
     return {kind, email, std::nullopt};
 }
 
-InviteOutcome InviteOutcome::fromErrorCode(const std::optional<QString> &code, const QString &email)
+InviteOutcome InviteOutcome::fromError(const std::optional<QString> &code, const QString &message, const QString &email)
 {
     Kind kind = Kind::Failed;
-    if (code == u"42501") {
+    if (message.contains(u"invitation_rate_limit")) {
+        kind = Kind::RateLimited;
+    } else if (code == u"42501") {
         kind = Kind::NotAllowed;
     } else if (code == u"23514") {
         kind = Kind::TeamFull;
@@ -49,6 +51,9 @@ QString InviteOutcome::text() const
     case Kind::Unavailable:
         //% "Inviting by email is not available yet. Try again later."
         return qtTrId("inviteUnavailable");
+    case Kind::RateLimited:
+        //% "You have sent many invitations in the last hour. Try again later."
+        return qtTrId("inviteRateLimited");
     case Kind::Failed:
         //% "Could not send the invite. Try again."
         return qtTrId("inviteFailed");

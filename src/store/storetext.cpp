@@ -81,6 +81,12 @@ QString onboardingNotSaved()
     return qtTrId("onboarding.err.notSaved");
 }
 
+QString invitationNotAnswered()
+{
+    //% "The invitation could not be answered. Try again."
+    return qtTrId("team.err.invitationNotAnswered");
+}
+
 QString teamNotCreated()
 {
     //% "The team was not created. Try again."

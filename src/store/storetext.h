@@ -22,5 +22,6 @@ QString entryNotLogged();
 QString profileNotSaved();
 QString onboardingNotSaved();
 QString teamNotCreated();
+QString invitationNotAnswered();
 
 } // namespace StoreText

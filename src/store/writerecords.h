@@ -277,6 +277,20 @@ struct InviteByEmailArgs
     friend bool operator==(const InviteByEmailArgs &, const InviteByEmailArgs &) = default;
 };
 
+// The argument of accept_team_invitation and decline_team_invitation.
+struct TeamInvitationArgs
+{
+    QString teamIdParam;
+
+    static constexpr std::string_view wireName = "TeamInvitationArgs";
+    static constexpr auto wireFields()
+    {
+        using Wire::field;
+        return std::tuple{field("team_id_param", &TeamInvitationArgs::teamIdParam)};
+    }
+    friend bool operator==(const TeamInvitationArgs &, const TeamInvitationArgs &) = default;
+};
+
 struct InviteByEmailResult
 {
     QString status;

@@ -75,7 +75,8 @@ private slots:
         QTest::newRow("unknown status") << QStringList{u"tasks"_s, u"status"_s, u"x"_s, u"flying"_s};
         QTest::newRow("day not ISO") << QStringList{u"tasks"_s, u"add"_s, u"p"_s, u"t"_s, u"--due"_s, u"31-12-2026"_s};
         QTest::newRow("edit without change") << QStringList{u"tasks"_s, u"edit"_s, u"x"_s};
-        QTest::newRow("invite as owner") << QStringList{u"teams"_s, u"invite"_s, u"t"_s, u"a@b.nl"_s, u"--role"_s, u"owner"_s};
+        QTest::newRow("invite as owner") << QStringList{u"teams"_s,  u"invite"_s, u"t"_s,
+                                                        u"a@b.nl"_s, u"--role"_s, u"owner"_s};
         QTest::newRow("unknown action") << QStringList{u"teams"_s, u"leave"_s};
     }
 
@@ -98,11 +99,13 @@ private slots:
         Run run = ann({u"projects"_s, u"rename"_s, id.left(8), u"Harbour portal"_s});
         QCOMPARE(run.code, 0);
         QCOMPARE(run.out, u"Renamed Harbour app to Harbour portal.\n"_s);
-        QCOMPARE(sql("SELECT name || '|' || description || '|' || hourly_rate FROM projects WHERE id = '" + id.toUtf8() + "'"),
+        QCOMPARE(sql("SELECT name || '|' || description || '|' || hourly_rate FROM projects WHERE id = '" +
+                     id.toUtf8() + "'"),
                  "Harbour portal|Mobile app for the harbour|95");
 
         QCOMPARE(ann({u"projects"_s, u"archive"_s, u"harbour PORTAL"_s}).code, 0);
-        QCOMPARE(sql("SELECT status || '|' || hourly_rate FROM projects WHERE id = '" + id.toUtf8() + "'"), "archived|95");
+        QCOMPARE(sql("SELECT status || '|' || hourly_rate FROM projects WHERE id = '" + id.toUtf8() + "'"),
+                 "archived|95");
 
         run = ann({u"projects"_s, u"list"_s, u"--json"_s});
         QCOMPARE(run.code, 0);
@@ -181,11 +184,13 @@ private slots:
     void editKeepsWhatItDoesNotChange()
     {
         const QString project = addProject(u"Editing"_s);
-        const QString task = addTask(project, u"Draft contract"_s,
-                                     {u"--description"_s, u"Two pages"_s, u"--due"_s, u"2026-12-01"_s});
+        const QString task =
+            addTask(project, u"Draft contract"_s, {u"--description"_s, u"Two pages"_s, u"--due"_s, u"2026-12-01"_s});
         QVERIFY(!task.isEmpty());
-        const QByteArray row = "SELECT title || '|' || coalesce(description, '-') || '|' || coalesce(due_date::text, '-') "
-                               "FROM tasks WHERE id = '" + task.toUtf8() + "'";
+        const QByteArray row =
+            "SELECT title || '|' || coalesce(description, '-') || '|' || coalesce(due_date::text, '-') "
+            "FROM tasks WHERE id = '" +
+            task.toUtf8() + "'";
 
         QCOMPARE(ann({u"tasks"_s, u"edit"_s, task, u"--due"_s, u""_s}).code, 0);
         QCOMPARE(sql(row), "Draft contract|Two pages|-");
@@ -220,6 +225,17 @@ private slots:
         QCOMPARE(run.code, 0);
         QCOMPARE(run.out, u"ben@example.nl is invited to this team.\n"_s);
         QCOMPARE(ann({u"teams"_s, u"assign"_s, u"Shared site"_s, u"Studio North"_s}).code, 0);
+
+        // Ben sees the invitation, and the team only once he accepts it.
+        run = ben({u"teams"_s, u"invitations"_s});
+        QCOMPARE(run.code, 0);
+        QVERIFY2(run.out.startsWith(u"Studio North ("_s + team.left(8) + u"): as viewer, from "_s),
+                 qPrintable(run.out));
+        QVERIFY(ben({u"projects"_s, u"list"_s, u"--json"_s}).json().array().isEmpty());
+        QCOMPARE(ben({u"teams"_s, u"accept"_s, u"nowhere"_s}).code, 1);
+        run = ben({u"teams"_s, u"accept"_s, u"studio north"_s});
+        QCOMPARE(run.code, 0);
+        QCOMPARE(run.out, u"You are now in team Studio North, as viewer.\n"_s);
 
         run = ann({u"teams"_s, u"list"_s, u"--json"_s});
         const QJsonObject listed = run.json().array().first().toObject();

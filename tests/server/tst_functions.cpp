@@ -342,11 +342,11 @@ private slots:
             m_bobToken);
         QCOMPARE(his.body, QByteArray("%PDF his"));
 
-        // The same token again finds no account.
+        // The same token no longer speaks for anyone.
         const HttpResult again =
             m_backend.request("POST", "/functions/v1/delete-account", m_annaToken, "{\"confirm\":\"DELETE\"}");
-        QCOMPARE(again.status, 404);
-        QCOMPARE(again.json().object().value(u"error"_s).toString(), u"user_not_found"_s);
+        QCOMPARE(again.status, 401);
+        QCOMPARE(again.json().object().value(u"error"_s).toString(), u"session_ended"_s);
     }
 };
 

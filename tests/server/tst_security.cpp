@@ -202,6 +202,14 @@ private:
             {});
     }
 
+    void accept(const QString &invitee, const QByteArray &team)
+    {
+        const HttpResult accepted =
+            send(invitee, "POST", "rpc/accept_team_invitation", {{u"team_id_param"_s, QString::fromLatin1(team)}}, {});
+        QCOMPARE(accepted.status, 200);
+        QCOMPARE(accepted.json().object().value(u"status"_s).toString(), u"accepted"_s);
+    }
+
     QByteArray add(const QByteArray &table, const Columns &columns)
     {
         QByteArrayList names;
@@ -353,8 +361,8 @@ private:
         } else if (table == "teams") {
             // Same members as the fixture's team, so that roles and not membership decide.
             row = add(table, {{"owner_id", id(who)}, {"name", "scratch"}});
-            db().exec("INSERT INTO public.team_members (team_id, user_id, email, role)"
-                      " VALUES ($1, $2, 'e', 'editor'), ($1, $3, 'v', 'viewer')",
+            db().exec("INSERT INTO public.team_members (team_id, user_id, email, role, accepted_at)"
+                      " VALUES ($1, $2, 'e', 'editor', now()), ($1, $3, 'v', 'viewer', now())",
                       {row, id(u"editor"_s), id(u"viewer"_s)});
         } else {
             qFatal("no target for %s", table.constData());
@@ -405,6 +413,8 @@ private:
             QCOMPARE(invited.status, 200);
             QCOMPARE(invited.json().object().value(u"status"_s).toString(), u"invited"_s);
         }
+        accept(u"editor"_s, id(u"team"_s));
+        accept(u"viewer"_s, id(u"team"_s));
         created = send(u"stranger"_s, "POST", "teams", {{u"name"_s, u"Solo"_s}});
         QCOMPARE(created.status, 201);
         remember(u"strangerTeam"_s, created.json().array().first().toObject().value(u"id"_s).toString().toUtf8());
@@ -472,6 +482,8 @@ private:
         remember(u"inviteTeam"_s, created.json().array().first().toObject().value(u"id"_s).toString().toUtf8());
         QCOMPARE(invite(u"olga"_s, id(u"inviteTeam"_s), u"eddy@example.nl"_s, u"editor"_s).status, 200);
         QCOMPARE(invite(u"olga"_s, id(u"inviteTeam"_s), u"vera@example.nl"_s, u"viewer"_s).status, 200);
+        accept(u"eddy"_s, id(u"inviteTeam"_s));
+        accept(u"vera"_s, id(u"inviteTeam"_s));
     }
 
     QString newUser()
@@ -725,6 +737,13 @@ private slots:
                  teamEntry, 201, true);
         addWrite(u"time_entries: editor logs time for the owner"_s, u"time_entries"_s, u"editor"_s, "POST", {},
                  merged(teamEntry, {{u"user_id"_s, u"$owner"_s}, {u"logged_by_user_id"_s, u"$editor"_s}}), 201, true);
+        // Never a third person's time: rows planted in another account could not be removed by its owner.
+        addWrite(u"time_entries: editor cannot log time for the viewer"_s, u"time_entries"_s, u"editor"_s, "POST", {},
+                 merged(teamEntry, {{u"user_id"_s, u"$viewer"_s}}), 403, false);
+        addWrite(u"time_entries: editor cannot log time in the viewer's name"_s, u"time_entries"_s, u"editor"_s, "POST",
+                 {}, merged(teamEntry, {{u"logged_by_user_id"_s, u"$viewer"_s}}), 403, false);
+        addWrite(u"time_entries: owner cannot log time for a stranger"_s, u"time_entries"_s, u"owner"_s, "POST", {},
+                 merged(entry, {{u"user_id"_s, u"$stranger"_s}}), 403, false);
         addWrite(u"time_entries: viewer cannot log time on a team task"_s, u"time_entries"_s, u"viewer"_s, "POST", {},
                  teamEntry, 403, false);
         addWrite(u"time_entries: editor cannot log time on the owner's private task"_s, u"time_entries"_s, u"editor"_s,
@@ -791,16 +810,19 @@ private slots:
         addWrite(u"teams: stranger cannot create a team in the owner's name"_s, u"teams"_s, u"stranger"_s, "POST", {},
                  merged(defaults[u"teams"_s].insert, {{u"owner_id"_s, u"$owner"_s}}), 403, false);
 
+        // Members come only through an invitation that its invitee accepts: nobody writes the row.
         const QJsonObject member = defaults[u"team_members"_s].insert;
-        addWrite(u"team_members: owner adds a member"_s, u"team_members"_s, u"owner"_s, "POST", {}, member, 201, true);
-        addWrite(u"team_members: editor adds a viewer"_s, u"team_members"_s, u"editor"_s, "POST", {}, member, 201,
-                 true);
-        addWrite(u"team_members: editor cannot add an owner"_s, u"team_members"_s, u"editor"_s, "POST", {},
-                 merged(member, {{u"role"_s, u"owner"_s}}), 403, false);
-        addWrite(u"team_members: viewer cannot add a member"_s, u"team_members"_s, u"viewer"_s, "POST", {}, member, 403,
-                 false);
+        const QJsonObject accepted = merged(member, {{u"accepted_at"_s, u"$time"_s}});
+        for (const QString &caller : {u"owner"_s, u"editor"_s, u"viewer"_s}) {
+            addWrite(u"team_members: %1 cannot add a member directly"_s.arg(caller), u"team_members"_s, caller, "POST",
+                     {}, accepted, 403, false);
+        }
         addWrite(u"team_members: stranger cannot join the team"_s, u"team_members"_s, u"stranger"_s, "POST", {},
-                 merged(member, {{u"user_id"_s, u"$stranger"_s}, {u"email"_s, u"ben@example.nl"_s}}), 403, false);
+                 merged(accepted, {{u"user_id"_s, u"$stranger"_s}, {u"email"_s, u"ben@example.nl"_s}}), 403, false);
+        addWrite(u"team_members: owner cannot accept for the invitee"_s, u"team_members"_s, u"owner"_s, "PATCH",
+                 u"owner/team"_s, {{u"accepted_at"_s, u"$time"_s}}, 403, false);
+        addWrite(u"team_members: owner cannot swap the member"_s, u"team_members"_s, u"owner"_s, "PATCH",
+                 u"owner/team"_s, {{u"user_id"_s, u"$stranger"_s}}, 403, false);
 
         addWrite(u"trips: owner records a trip"_s, u"trips"_s, u"owner"_s, "POST", {}, defaults[u"trips"_s].insert, 201,
                  true);
@@ -943,9 +965,16 @@ private slots:
         QTest::newRow("no token at all") << QByteArray() << Headers{} << 401 << u"42501"_s << QStringList();
         QTest::newRow("signed without a role acts as anon")
             << Jwt::sign(noRole, secret) << Headers{} << 401 << u"42501"_s << QStringList();
-        QTest::newRow("signed without a user sees nothing")
-            << Jwt::sign({{u"role"_s, u"authenticated"_s}, {u"exp"_s, now + 600}}, secret) << Headers{} << 200
-            << QString() << QStringList();
+        QTest::newRow("signed without a user speaks for nobody")
+            << Jwt::sign({{u"role"_s, u"authenticated"_s}, {u"exp"_s, now + 600}}, secret) << Headers{} << 401
+            << badToken << QStringList();
+        QTest::newRow("signed for an account that does not exist")
+            << Jwt::sign(merged(claims, {{u"sub"_s, QUuid::createUuid().toString(QUuid::WithoutBraces)}}), secret)
+            << Headers{} << 401 << badToken << QStringList();
+        QTest::newRow("signed for a session that ended")
+            << Jwt::sign(merged(claims, {{u"session_id"_s, QUuid::createUuid().toString(QUuid::WithoutBraces)}}),
+                         secret)
+            << Headers{} << 401 << badToken << QStringList();
     }
 
     void tokens()
@@ -1074,6 +1103,71 @@ private slots:
         }
     }
 
+    void anInvitationGrantsNothingUntilAccepted()
+    {
+        const QString invitee = newUser();
+        const HttpResult created = send(u"olga"_s, "POST", "teams", {{u"name"_s, u"Pending"_s}});
+        QCOMPARE(created.status, 201);
+        const QByteArray team = created.json().array().first().toObject().value(u"id"_s).toString().toUtf8();
+        const QByteArray project = add("projects", {{"user_id", id(u"olga"_s)}, {"team_id", team}, {"name", "Work"}});
+        QCOMPARE(invite(u"olga"_s, team, invitee + u"@example.nl"_s, u"editor"_s).status, 200);
+
+        auto rows = [&](const QString &caller, const QByteArray &target) {
+            return send(caller, "GET", target, {}, {}).json().array().size();
+        };
+        auto sees = [&](bool member) {
+            QCOMPARE(rows(invitee, "teams?id=eq." + team), member ? 1 : 0);
+            QCOMPARE(rows(invitee, "projects?id=eq." + project), member ? 1 : 0);
+            QCOMPARE(rows(invitee, "profiles?id=eq." + id(u"olga"_s)), member ? 1 : 0);
+            QCOMPARE(rows(u"olga"_s, "profiles?id=eq." + id(invitee)), member ? 1 : 0);
+            QCOMPARE(
+                send(invitee, "PATCH", "projects?id=eq." + project, {{u"description"_s, u"x"_s}}).json().array().size(),
+                member ? 1 : 0);
+        };
+        sees(false);
+        const QJsonArray waiting = send(invitee, "POST", "rpc/my_team_invitations", {}, {}).json().array();
+        QCOMPARE(waiting.size(), 1);
+        QCOMPARE(waiting.first()[u"team_name"_s].toString(), u"Pending"_s);
+        QCOMPARE(waiting.first()[u"role"_s].toString(), u"editor"_s);
+        QCOMPARE(waiting.first()[u"invited_by_email"_s].toString(), u"olga@example.nl"_s);
+
+        // Nobody answers for the invitee, and the invitation is the invitee's to accept.
+        auto answer = [&](const QString &caller, const char *procedure) {
+            return send(caller, "POST", QByteArray("rpc/") + procedure,
+                        {{u"team_id_param"_s, QString::fromLatin1(team)}}, {});
+        };
+        QCOMPARE(answer(u"stranger"_s, "accept_team_invitation").status, 400);
+        QCOMPARE(answer(u"olga"_s, "decline_team_invitation").status, 400);
+        accept(invitee, team);
+        sees(true);
+        QCOMPARE(answer(invitee, "accept_team_invitation").json().object()[u"status"_s].toString(),
+                 u"already_member"_s);
+        QCOMPARE(answer(invitee, "decline_team_invitation").status, 400);
+
+        // Declining removes the invitation and nothing else.
+        const QString other = newUser();
+        QCOMPARE(invite(u"olga"_s, team, other + u"@example.nl"_s, u"viewer"_s).status, 200);
+        QCOMPARE(answer(other, "decline_team_invitation").json().object()[u"status"_s].toString(), u"declined"_s);
+        QCOMPARE(count("SELECT count(*) FROM team_members WHERE team_id = $1 AND user_id = $2", {team, id(other)}), 0);
+        QCOMPARE(send(other, "POST", "rpc/my_team_invitations", {}, {}).json().array().size(), 0);
+    }
+
+    void invitationsAreLimitedPerInviter()
+    {
+        const QString inviter = newUser();
+        const HttpResult created = send(inviter, "POST", "teams", {{u"name"_s, u"Busy"_s}});
+        const QByteArray team = created.json().array().first().toObject().value(u"id"_s).toString().toUtf8();
+        // Every answer counts, also "no account": the answers tell which addresses have one.
+        for (int i = 0; i < 30; ++i) {
+            QCOMPARE(invite(inviter, team, u"probe-%1@example.nl"_s.arg(i), u"viewer"_s).status, 200);
+        }
+        const HttpResult limited = invite(inviter, team, u"probe-31@example.nl"_s, u"viewer"_s);
+        QCOMPARE(limited.status, 400);
+        QVERIFY(limited.json().object()[u"message"_s].toString().contains(u"invitation_rate_limit"_s));
+        // Another inviter is not held back by this one.
+        QCOMPARE(invite(u"olga"_s, id(u"inviteTeam"_s), u"probe-31@example.nl"_s, u"viewer"_s).status, 200);
+    }
+
     void teamHoldsAtMostTenMembers()
     {
         const HttpResult created = send(u"olga"_s, "POST", "teams", {{u"name"_s, u"Full house"_s}});
@@ -1094,19 +1188,20 @@ private slots:
         QCOMPARE(members(), 10);
 
         const QString eleventh = newUser();
-        HttpResult refused = invite(u"olga"_s, team, eleventh + u"@example.nl"_s, u"viewer"_s);
+        const HttpResult refused = invite(u"olga"_s, team, eleventh + u"@example.nl"_s, u"viewer"_s);
         QCOMPARE(refused.status, 400);
         QCOMPARE(refused.code(), u"23514"_s);
         QCOMPARE(members(), 10);
 
-        // The limit is the table's, not just the procedure's.
-        refused = send(u"olga"_s, "POST", "team_members",
-                       {{u"team_id"_s, QString::fromLatin1(team)},
-                        {u"user_id"_s, QString::fromLatin1(id(eleventh))},
-                        {u"email"_s, QString(eleventh + u"@example.nl"_s)},
-                        {u"role"_s, u"viewer"_s}});
-        QCOMPARE(refused.status, 400);
-        QCOMPARE(refused.code(), u"23514"_s);
+        // The limit is the table's, not just the procedure's: even its owner cannot go past it.
+        QByteArray state;
+        try {
+            db().exec("INSERT INTO team_members (team_id, user_id, email, role) VALUES ($1, $2, 'x', 'viewer')",
+                      {team, id(eleventh)});
+        } catch (const PgException &error) {
+            state = error.error().sqlstate;
+        }
+        QCOMPARE(state, QByteArray("23514"));
         QCOMPARE(members(), 10);
 
         // Someone already in a full team is told so, not that the team is full.

@@ -127,6 +127,7 @@ private slots:
                  InviteOutcome::Kind::Invited);
         QVERIFY(runBlocking(m_laptop->store->assignProjectToTeam(m_project, team->id)));
         QVERIFY(m_mate->refresh());
+        QVERIFY(runBlocking(m_mate->store->acceptInvitation(team->id)));
         const std::optional<TaskItem> task = createTask(*m_laptop, m_project, u"Shared copy"_s);
         QVERIFY(task);
         QTRY_VERIFY(m_mate->store->task(task->id).has_value());

@@ -79,8 +79,17 @@ private slots:
             emails << member.email;
         }
         QCOMPARE(emails, (QStringList{u"olga@example.nl"_s, u"ed@example.nl"_s, u"vera@example.nl"_s}));
-        QVERIFY(m_editor->refresh());
-        QVERIFY(m_viewer->refresh());
+
+        // Until they accept, the invitees have an invitation to answer and no team.
+        for (StoreDevice *invitee : {m_editor.get(), m_viewer.get()}) {
+            QVERIFY(invitee->refresh());
+            QCOMPARE(invitee->store->invitations().size(), 1);
+            QCOMPARE(invitee->store->invitations().first().teamName, owner.teams().first().name);
+            QVERIFY(invitee->store->teams().isEmpty());
+            QVERIFY(!invitee->store->project(m_project));
+            QVERIFY(runBlocking(invitee->store->acceptInvitation(m_team)));
+            QVERIFY(invitee->store->invitations().isEmpty());
+        }
     }
 
     void membersSeeTheSharedProject_data()
