@@ -6,6 +6,7 @@
 #include <QSocketNotifier>
 
 #include <csignal>
+#include <malloc.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -25,6 +26,11 @@ void onSignal(int)
 
 int main(int argc, char *argv[])
 {
+    // Request bodies of several megabytes come and go. Left to itself the allocator raises its
+    // threshold for mapping memory to the largest block freed, keeps later large blocks on the heap
+    // and never gives them back; a fixed threshold returns each one when it is freed.
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(u"morvane-server"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(MORVANE_VERSION));

@@ -62,9 +62,18 @@ QByteArray sha256Hex(const QByteArray &text)
     return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex();
 }
 
+// One account per address, however it is typed: the same letters composed or decomposed
+// (NFC and NFD), in any case, with spaces around.
+QString normalizedEmail(const QString &text)
+{
+    return text.trimmed().normalized(QString::NormalizationForm_C).toLower();
+}
+
 bool isEmail(const QString &text)
 {
-    static const QRegularExpression pattern(u"^[^@\\s]+@[^@\\s]+\\.[^@\\s]+$"_s);
+    // No control characters: a NUL or a line break has no place in an address, a file name or a mail header.
+    static const QRegularExpression pattern(
+        u"^[^@\\s\\x00-\\x1f\\x7f]+@[^@\\s\\x00-\\x1f\\x7f]+\\.[^@\\s\\x00-\\x1f\\x7f]+$"_s);
     return text.size() <= maxEmailLength && pattern.match(text).hasMatch();
 }
 
@@ -137,6 +146,14 @@ QJsonObject fetchJson(const QNetworkRequest &request, const QByteArray &method, 
         throw std::runtime_error("the identity provider answered " + std::to_string(status));
     }
     return QJsonDocument::fromJson(answer).object();
+}
+
+// Who asks, for the limits: one address, whether it arrives as IPv4 or mapped into IPv6.
+QString clientOf(const HttpRequest &request)
+{
+    bool isV4 = false;
+    const quint32 v4 = request.remote.toIPv4Address(&isV4);
+    return isV4 ? QHostAddress(v4).toString() : request.remote.toString();
 }
 
 QString withQuery(const QString &address, const QString &query)
@@ -217,6 +234,10 @@ HttpResponse AuthService::handle(const HttpRequest &request)
     } catch (const PgPool::Busy &) {
         return failure(503, u"unexpected_failure"_s, u"The server is busy; try again."_s);
     } catch (const PgException &error) {
+        // Text the database cannot hold (a NUL character) is the request's fault, not ours.
+        if (error.error().sqlstate == "22021") {
+            return failure(400, u"validation_failed"_s, u"Text may not contain NUL characters"_s);
+        }
         qCWarning(lcAuth) << request.method << request.path << "database:" << error.what();
         return failure(500, u"unexpected_failure"_s, u"Database error"_s);
     } catch (const std::runtime_error &error) {
@@ -328,7 +349,7 @@ void AuthService::sendLink(PgConnection &db, const QString &userId, const QStrin
 AuthService::Answer AuthService::signUp(const HttpRequest &request)
 {
     const QJsonObject body = readJsonBody(request);
-    const QString email = body.value(u"email"_s).toString().trimmed().toLower();
+    const QString email = normalizedEmail(body.value(u"email"_s).toString());
     const QString password = body.value(u"password"_s).toString();
     const QJsonValue data = body.value(u"data"_s);
     if (!isEmail(email)) {
@@ -345,6 +366,12 @@ AuthService::Answer AuthService::signUp(const HttpRequest &request)
         throw Failure(400, u"validation_failed"_s, u"User metadata is too large"_s);
     }
     const QString landing = request.queryValue(u"redirect_to"_s);
+    const QString signUpKey = u"signup:"_s + clientOf(request);
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    if (m_limiter.count(signUpKey, m_settings.signUpWindow, now) >= m_settings.signUpsPerClient) {
+        throw Failure(429, u"over_request_rate_limit"_s, u"Too many sign-ups from this address; try again later."_s);
+    }
+    m_limiter.record(signUpKey, now);
 
     return inTransaction(m_pool, [&](PgConnection &db) -> Answer {
         const PgResult existing =
@@ -405,7 +432,7 @@ AuthService::Answer AuthService::token(const HttpRequest &request)
     const QString grant = request.queryValue(u"grant_type"_s);
     const QJsonObject body = readJsonBody(request);
     if (grant == u"password") {
-        return passwordGrant(body);
+        return passwordGrant(body, clientOf(request));
     }
     if (grant == u"refresh_token") {
         return refreshGrant(body);
@@ -416,16 +443,20 @@ AuthService::Answer AuthService::token(const HttpRequest &request)
     throw Failure(400, u"validation_failed"_s, u"unsupported_grant_type"_s);
 }
 
-AuthService::Answer AuthService::passwordGrant(const QJsonObject &body)
+AuthService::Answer AuthService::passwordGrant(const QJsonObject &body, const QString &client)
 {
-    const QString email = body.value(u"email"_s).toString().trimmed().toLower();
+    const QString email = normalizedEmail(body.value(u"email"_s).toString());
     const QString password = body.value(u"password"_s).toString();
     if (email.isEmpty() || password.isEmpty() || email.size() > maxEmailLength || password.size() > 1024) {
         throw Failure(400, u"validation_failed"_s, u"A valid email and password are required"_s);
     }
-    const QString key = u"password:"_s + email;
+    // Wrong passwords are counted per client, so that a stranger's guesses lock out only the
+    // stranger: per account and client, and for all accounts from one client.
+    const QString key = u"password:"_s + email + u'|' + client;
+    const QString clientKey = u"password-client:"_s + client;
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    if (m_limiter.count(key, m_settings.passwordFailureWindow, now) >= m_settings.passwordFailuresAllowed) {
+    if (m_limiter.count(key, m_settings.passwordFailureWindow, now) >= m_settings.passwordFailuresAllowed ||
+        m_limiter.count(clientKey, m_settings.passwordFailureWindow, now) >= m_settings.clientPasswordFailures) {
         throw Failure(429, u"over_request_rate_limit"_s, u"Request rate limit reached"_s);
     }
     return inTransaction(m_pool, [&](PgConnection &db) -> Answer {
@@ -439,6 +470,7 @@ AuthService::Answer AuthService::passwordGrant(const QJsonObject &body)
         }
         if (found.rows() == 0 || found.value(0, 1) != "t") {
             m_limiter.record(key, now);
+            m_limiter.record(clientKey, now);
             throw Failure(400, u"invalid_credentials"_s, u"Invalid login credentials"_s);
         }
         // Checked only after the password, so that a stranger cannot learn which addresses wait
@@ -463,17 +495,20 @@ AuthService::Answer AuthService::refreshGrant(const QJsonObject &body)
         // The row lock makes two refreshes with one token line up: the second finds the token
         // revoked and its child active, and is given that child.
         const PgResult found =
-            db.exec("SELECT id, user_id, session_id, revoked FROM auth.refresh_tokens WHERE token = $1 FOR UPDATE",
-                    {presented});
+            db.exec("SELECT id, user_id, session_id, revoked, updated_at > now() - make_interval(secs => $2)"
+                    " FROM auth.refresh_tokens WHERE token = $1 FOR UPDATE",
+                    {presented, QByteArray::number(qint64(m_settings.refreshReuseWindow.count()))});
         if (found.rows() == 0) {
             throw Failure(400, u"refresh_token_not_found"_s, u"Invalid Refresh Token: Refresh Token Not Found"_s);
         }
         const QString userId = QString::fromLatin1(found.value(0, 1));
         const QByteArray session = found.value(0, 2);
         if (found.value(0, 3) == "t") {
+            // A client whose answer got lost asks again at once; a thief who copied the token
+            // comes later. Only the first is given the token that replaced it.
             const PgResult active =
                 db.exec("SELECT token FROM auth.refresh_tokens WHERE parent = $1 AND NOT revoked", {presented});
-            if (active.rows() > 0) {
+            if (active.rows() > 0 && found.value(0, 4) == "t") {
                 return {200,
                         tokenAnswer(db, userId, QString::fromLatin1(session), active.value(0, 0), u"token_refresh"_s)};
             }
@@ -536,7 +571,7 @@ AuthService::Answer AuthService::pkceGrant(const QJsonObject &body)
 AuthService::Answer AuthService::recover(const HttpRequest &request)
 {
     const QJsonObject body = readJsonBody(request);
-    const QString email = body.value(u"email"_s).toString().trimmed().toLower();
+    const QString email = normalizedEmail(body.value(u"email"_s).toString());
     if (!isEmail(email)) {
         throw Failure(400, u"validation_failed"_s, u"Unable to validate email address: invalid format"_s);
     }
@@ -557,7 +592,7 @@ AuthService::Answer AuthService::resend(const HttpRequest &request)
 {
     const QJsonObject body = readJsonBody(request);
     const QString type = body.value(u"type"_s).toString();
-    const QString email = body.value(u"email"_s).toString().trimmed().toLower();
+    const QString email = normalizedEmail(body.value(u"email"_s).toString());
     if (type != u"signup") {
         throw Failure(400, u"validation_failed"_s, u"Missing one of these types: signup"_s);
     }
@@ -654,15 +689,25 @@ AuthService::Answer AuthService::updateUser(const HttpRequest &request)
             db.exec("UPDATE auth.users SET encrypted_password = extensions.crypt($2, extensions.gen_salt('bf', 10)),"
                     " updated_at = now() WHERE id = $1",
                     {userId, password.toUtf8()});
+            // Whoever held another session, a stolen refresh token included, must sign in with the
+            // new password; the device that changed it stays signed in.
+            db.exec("DELETE FROM auth.sessions WHERE user_id = $1 AND id::text IS DISTINCT FROM $2",
+                    {userId, claims.value(u"session_id"_s).toString().toUtf8()});
         }
         if (body.contains(u"data"_s)) {
             const QByteArray data = QJsonDocument(body.value(u"data"_s).toObject()).toJson(QJsonDocument::Compact);
             if (data.size() > maxMetadataBytes) {
                 throw Failure(400, u"validation_failed"_s, u"User metadata is too large"_s);
             }
-            db.exec("UPDATE auth.users SET raw_user_meta_data = coalesce(raw_user_meta_data, '{}') || $2::jsonb,"
-                    " updated_at = now() WHERE id = $1",
-                    {userId, data});
+            // The merged whole is limited, not just each change: small changes must not add up.
+            const PgResult merged =
+                db.exec("UPDATE auth.users SET raw_user_meta_data = coalesce(raw_user_meta_data, '{}') || $2::jsonb,"
+                        " updated_at = now() WHERE id = $1"
+                        " AND octet_length((coalesce(raw_user_meta_data, '{}') || $2::jsonb)::text) <= $3 RETURNING 1",
+                        {userId, data, QByteArray::number(maxMetadataBytes)});
+            if (merged.rows() == 0 && db.exec("SELECT 1 FROM auth.users WHERE id = $1", {userId}).rows() == 1) {
+                throw Failure(400, u"validation_failed"_s, u"User metadata is too large"_s);
+            }
         }
         if (body.contains(u"email"_s)) {
             throw Failure(422, u"email_change_not_supported"_s, u"Changing the address is not supported"_s);
@@ -827,7 +872,7 @@ AuthService::Answer AuthService::callback(const HttpRequest &request)
         return redirectError(u"server_error"_s, u"Error getting user profile from external provider"_s);
     }
     const QString subject = profile.value(u"sub"_s).toVariant().toString();
-    const QString email = profile.value(u"email"_s).toString().trimmed().toLower();
+    const QString email = normalizedEmail(profile.value(u"email"_s).toString());
     if (subject.isEmpty() || !isEmail(email)) {
         return redirectError(u"server_error"_s, u"Error getting user email from external provider"_s);
     }

@@ -38,6 +38,13 @@ struct AuthSettings
     int passwordFailuresAllowed = 10;
     std::chrono::seconds passwordFailureWindow{300};
     std::chrono::seconds emailInterval{60};
+    // A rotated refresh token still gives its successor this long after, for a client whose
+    // answer was lost; later it counts as reuse.
+    std::chrono::seconds refreshReuseWindow{10};
+    // Per client address: wrong passwords (for one account, and for all together) and sign-ups.
+    int clientPasswordFailures = 30;
+    int signUpsPerClient = 30;
+    std::chrono::seconds signUpWindow{3600};
     QList<IdentityProvider> providers;
     // Addresses besides the server's own to which e-mail links and sign-ins may lead.
     QStringList redirectUrls;
@@ -64,7 +71,7 @@ private:
     Answer route(const HttpRequest &request);
     Answer signUp(const HttpRequest &request);
     Answer token(const HttpRequest &request);
-    Answer passwordGrant(const QJsonObject &body);
+    Answer passwordGrant(const QJsonObject &body, const QString &client);
     Answer refreshGrant(const QJsonObject &body);
     Answer pkceGrant(const QJsonObject &body);
     Answer recover(const HttpRequest &request);

@@ -38,7 +38,7 @@ QString RedirectPolicy::strictOrigin(const QString &address)
     // plainAscii already refused.
     static const QRegularExpression shape(u"^(https?)://([^/?#]*)(?:[/?#]|$)"_s,
                                           QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression hostPort(u"^([a-z0-9-]+(?:\\.[a-z0-9-]+)*|\\[[0-9a-f:.]+\\])(?::([0-9]{1,5}))?$"_s,
+    static const QRegularExpression hostPort(u"^([a-z0-9-]+(?:\\.[a-z0-9-]+)*|\\[[0-9a-f:.]+\\])(?::([0-9]{1,10}))?$"_s,
                                              QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch parts = shape.match(address);
     if (!parts.hasMatch()) {
@@ -52,7 +52,8 @@ QString RedirectPolicy::strictOrigin(const QString &address)
     }
     const QString scheme = parts.captured(1).toLower();
     const int defaultPort = scheme == u"https" ? 443 : 80;
-    const int port = authority.captured(2).isEmpty() ? defaultPort : authority.captured(2).toInt();
+    // A browser reads leading zeros away ("054321" is 54321); so does toLongLong.
+    const qint64 port = authority.captured(2).isEmpty() ? defaultPort : authority.captured(2).toLongLong();
     if (port < 1 || port > 65535) {
         return {};
     }

@@ -1,23 +1,40 @@
 #pragma once
 
+#include "http/requestframing.h"
+
+#include <QHash>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
 
 #include <chrono>
 
-// A socket that counts the bytes a client sent since it was last answered, so that an oversized
-// request is refused while it arrives instead of after it has been buffered whole.
+// A socket that follows its requests as they arrive (RequestFraming), so that an oversized request
+// line, head or body is refused while it arrives instead of after it has been buffered whole, and
+// that tells its server whether it waits for a request.
 class GuardedSocket : public QTcpSocket
 {
     Q_OBJECT
 
 public:
-    GuardedSocket(qint64 maxUnansweredBytes, std::chrono::milliseconds idleLimit, QObject *parent = nullptr);
+    struct Limits
+    {
+        RequestFraming::Limits framing;
+        std::chrono::milliseconds idle{std::chrono::seconds(60)};
+        // A head that has begun must be complete within this, however slowly it trickles in.
+        std::chrono::milliseconds headDeadline{std::chrono::seconds(10)};
+    };
+
+    GuardedSocket(const Limits &limits, QObject *parent = nullptr);
+
+    [[nodiscard]] bool awaitingRequest() const { return m_framing.awaitingHead(); }
+    // Writes a refusal with this status and closes the connection.
+    void refuse(int status, const QString &message);
 
 signals:
     // Nothing arrived or left for the idle limit.
     void idle();
+    void awaitingRequestChanged();
 
 protected:
     qint64 writeData(const char *data, qint64 size) override;
@@ -25,19 +42,24 @@ protected:
 private:
     void onArrival();
 
-    qint64 m_limit;
+    RequestFraming::Limits m_limits;
+    RequestFraming m_framing;
+    qint64 m_maxUnanswered;
     qint64 m_unanswered = 0;
     bool m_refused = false;
+    bool m_awaiting = true;
     QTimer m_idle;
+    QTimer m_headDeadline;
 };
 
-// Accepts connections as GuardedSockets for QAbstractHttpServer::bind().
+// Accepts connections as GuardedSockets for QAbstractHttpServer::bind(), at most a number of them
+// waiting for a request per client address.
 class GuardedTcpServer : public QTcpServer
 {
     Q_OBJECT
 
 public:
-    GuardedTcpServer(qint64 maxUnansweredBytes, std::chrono::milliseconds idleLimit, QObject *parent = nullptr);
+    GuardedTcpServer(const GuardedSocket::Limits &limits, int maxWaitingPerClient, QObject *parent = nullptr);
 
 signals:
     void socketIdle(QTcpSocket *socket);
@@ -46,6 +68,9 @@ protected:
     void incomingConnection(qintptr descriptor) override;
 
 private:
-    qint64 m_limit;
-    std::chrono::milliseconds m_idleLimit;
+    void track(GuardedSocket *socket);
+
+    GuardedSocket::Limits m_limits;
+    int m_maxWaiting;
+    QHash<QString, int> m_waiting; // client address -> connections waiting for a request
 };

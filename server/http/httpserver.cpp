@@ -98,8 +98,10 @@ HttpServer::~HttpServer()
 
 quint16 HttpServer::listenGuarded(const QHostAddress &address, quint16 port)
 {
-    // Headers come on top of the body; the guard only has to stop what no request could need.
-    auto *server = new GuardedTcpServer(m_limits.maxBodyBytes + 64 * 1024, m_limits.idleConnection, this);
+    GuardedSocket::Limits limits;
+    limits.framing.maxBody = m_limits.maxBodyBytes;
+    limits.idle = m_limits.idleConnection;
+    auto *server = new GuardedTcpServer(limits, m_limits.maxWaitingPerClient, this);
     if (!server->listen(address, port)) {
         delete server;
         return 0;

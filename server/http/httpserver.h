@@ -29,6 +29,9 @@ public:
         // More threads than database connections, so that requests waiting on a lock leave room for
         // the others.
         int workerThreads = 16;
+        // Connections from one client address that may wait to send a request at the same time:
+        // a browser opens six, a team behind one address a few each.
+        int maxWaitingPerClient = 64;
     };
 
     explicit HttpServer(Limits limits, QObject *parent = nullptr);

@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr qint64 maxSignedSeconds = 7 * 24 * 3600;
+
 // Names are the database's business, but the unique index on them has a size limit, and control
 // characters, empty or dot segments only ever come from a broken or hostile client.
 constexpr qsizetype maxNameBytes = 1024;
@@ -413,6 +415,15 @@ HttpResponse StorageService::download(const HttpRequest &request, const RequestI
         const QJsonObject metadata = jsonObject(metadataJson);
         const QString mimeType = metadata.value(u"mimetype"_s).toString(u"application/octet-stream"_s);
         HttpHeaders headers{{"Content-Type", mimeType.toLatin1()}};
+        // Uploads are anyone's content served from the API's own origin: a browser must neither
+        // guess a more active type nor run what it shows (HTML, SVG). Only passive types show inline.
+        static const QStringList passive{u"image/png"_s,  u"image/jpeg"_s,      u"image/gif"_s,
+                                         u"image/webp"_s, u"application/pdf"_s, u"text/plain"_s};
+        headers.emplaceBack("X-Content-Type-Options", "nosniff");
+        headers.emplaceBack("Content-Security-Policy", "default-src 'none'; sandbox");
+        if (!passive.contains(mimeType.section(u';', 0, 0).trimmed().toLower())) {
+            headers.emplaceBack("Content-Disposition", "attachment");
+        }
         if (const QString cacheControl = metadata.value(u"cacheControl"_s).toString(); !cacheControl.isEmpty()) {
             headers.append({"Cache-Control", cacheControl.toLatin1()});
         }
@@ -432,9 +443,12 @@ HttpResponse StorageService::sign(const HttpRequest &request, const ObjectPath &
     const RequestIdentity identity = caller(request);
     const QJsonValue expiresIn = bodyObject(request).value(u"expiresIn"_s);
     const double seconds = expiresIn.toDouble(0);
-    // Whole seconds, up to the largest number a token's expiry comfortably holds.
-    if (!expiresIn.isDouble() || seconds < 1 || seconds > 2147483647.0 || seconds != double(qint64(seconds))) {
-        throw StorageError::invalidRequest(u"expiresIn must be a whole number of seconds, 1 or more"_s);
+    // Whole seconds, up to a week: an address that works without a token must not outlive the
+    // reason it was handed out for.
+    if (!expiresIn.isDouble() || seconds < 1 || seconds > double(maxSignedSeconds) ||
+        seconds != double(qint64(seconds))) {
+        throw StorageError::invalidRequest(
+            u"expiresIn must be a whole number of seconds from 1 to %1 (a week)"_s.arg(maxSignedSeconds));
     }
     // Only an object the caller can read may be handed out.
     m_scope.run(identity, request, true, [&](PgConnection &db) {

@@ -14,6 +14,7 @@
 #include <QTest>
 
 #include <csignal>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -106,6 +107,27 @@ QByteArray readFile(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The status line a server at `url` answers a raw request with.
+QByteArray firstLine(const QUrl &url, const QByteArray &request)
+{
+    QTcpSocket socket;
+    socket.connectToHost(url.host(), quint16(url.port()));
+    socket.waitForConnected(10000);
+    socket.write(request);
+    QByteArray reply;
+    while (!reply.contains("\r\n") && socket.waitForReadyRead(10000)) {
+        reply += socket.readAll();
+    }
+    return reply.left(reply.indexOf("\r\n"));
+}
+
+// One server for the checks that need nothing but a running one.
+TestBackend &sharedBackend()
+{
+    static TestBackend backend;
+    return backend;
 }
 
 bool postmasterRunning(const DataDir &dir)
@@ -218,6 +240,26 @@ private slots:
         QCOMPARE(db->exec("SELECT count(*) FROM morvane_meta.migrations").value(0, 0), "2");
     }
 
+    // A root-run server's cluster runs as the system user 'postgres', which other clusters and
+    // tools share: only the server's own user gets in, by its identity, never by the socket alone.
+    void onlyTheServersUserReachesItsDatabase()
+    {
+        if (::geteuid() != 0) {
+            QSKIP("needs root, to be another system user");
+        }
+        TestBackend backend;
+        QVERIFY2(backend.isReady(), qPrintable(backend.startupLog()));
+        QProcess psql;
+        psql.setProcessChannelMode(QProcess::MergedChannels);
+        psql.start(u"runuser"_s,
+                   {u"-u"_s, u"postgres"_s, u"--"_s, u"psql"_s,
+                    u"host=%1/postgres dbname=morvane user=morvane"_s.arg(backend.dataDir()), u"-c"_s, u"select 1"_s});
+        QVERIFY(psql.waitForFinished(30000));
+        QVERIFY(psql.exitCode() != 0);
+        QVERIFY2(psql.readAll().contains("authentication failed"), "psql got in as the system user 'postgres'");
+        QCOMPARE(backend.database().exec("SELECT 1").value(0, 0), "1");
+    }
+
     void aGivenDatabaseIsShared()
     {
         TestBackend owner;
@@ -262,9 +304,8 @@ private slots:
         QFETCH(QByteArray, method);
         QFETCH(QByteArray, target);
         QFETCH(QByteArray, body);
-        static TestBackend backend;
-        QVERIFY(backend.isReady());
-        const HttpResult result = backend.request(method, target, {}, body);
+        QVERIFY(sharedBackend().isReady());
+        const HttpResult result = sharedBackend().request(method, target, {}, body);
         QTEST(result.status, "status");
         QVERIFY(result.header("Content-Type").startsWith("application/json"));
         QVERIFY(!result.code().isEmpty());
@@ -304,15 +345,82 @@ private slots:
         answer += big.readAll();
         QVERIFY2(answer.startsWith("HTTP/1.1 413"), answer.left(200).constData());
         QVERIFY(answer.contains("\"code\":\"PGRST413\""));
+
+        // The head of a request is held to a few tens of KiB, and refused with its own status as it arrives.
+        QCOMPARE(firstLine(url, "GET /rest/v1/tasks?x=" + QByteArray(40 * 1024, 'a')), "HTTP/1.1 414 URI Too Long");
+        QCOMPARE(firstLine(url, "GET / HTTP/1.1\r\nX-Big: " + QByteArray(70 * 1024, 'a')),
+                 "HTTP/1.1 431 Request Header Fields Too Large");
+        QCOMPARE(firstLine(url, "GET /nowhere HTTP/1.1\r\nX-Fine: " + QByteArray(20 * 1024, 'a') + "\r\n\r\n"),
+                 "HTTP/1.1 404 Not Found");
+    }
+
+    void connectionsWaitingPerClientAreLimited()
+    {
+        const QUrl url = sharedBackend().url();
+        // One address cannot hold more than 64 connections waiting to send a request.
+        std::vector<std::unique_ptr<QTcpSocket>> waiting;
+        for (int i = 0; i < 64; ++i) {
+            waiting.push_back(std::make_unique<QTcpSocket>());
+            waiting.back()->connectToHost(url.host(), quint16(url.port()));
+            QVERIFY(waiting.back()->waitForConnected(10000));
+            waiting.back()->write("GET / HTTP/1.1\r\n");
+            waiting.back()->flush();
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(firstLine(url, "GET /nowhere HTTP/1.1\r\n\r\n"), "HTTP/1.1 503 Service Unavailable",
+                                  10000);
+        waiting.clear();
+        QTRY_COMPARE_WITH_TIMEOUT(firstLine(url, "GET /nowhere HTTP/1.1\r\n\r\n"), "HTTP/1.1 404 Not Found", 10000);
+    }
+
+    // What another local user could have planted is refused, not trusted.
+    void untrustedFilesAreRefused_data()
+    {
+        QTest::addColumn<QString>("plant"); // what to do to the data folder before the start
+        QTest::newRow("a secret others can read") << u"secret-644"_s;
+        QTest::newRow("a secret that is a link") << u"secret-link"_s;
+        QTest::newRow("a folder others can change") << u"folder-777"_s;
+        if (::geteuid() == 0) {
+            QTest::newRow("a folder of another user") << u"folder-nobody"_s;
+            QTest::newRow("a database folder that is a link") << u"postgres-link"_s;
+        }
+    }
+
+    void untrustedFilesAreRefused()
+    {
+        QFETCH(QString, plant);
+        DataDir dir;
+        QTemporaryDir elsewhere;
+        QVERIFY(QDir().mkpath(dir.path()));
+        const QString secret = dir.path() + u"/jwt-secret"_s;
+        QFile file(plant == u"secret-link" ? elsewhere.filePath(u"secret"_s) : secret);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray(48, 's'));
+        file.close();
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        if (plant == u"secret-644") {
+            file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+        } else if (plant == u"secret-link") {
+            QVERIFY(QFile::link(file.fileName(), secret));
+        } else if (plant == u"folder-777") {
+            QVERIFY(QFile::setPermissions(dir.path(), QFileDevice::Permissions(0x7777)));
+        } else if (plant == u"folder-nobody") {
+            QCOMPARE(::chown(QFile::encodeName(dir.path()).constData(), 65534, 65534), 0);
+        } else if (plant == u"postgres-link") {
+            QVERIFY(QFile::link(elsewhere.path(), dir.path() + u"/postgres"_s));
+        }
+        ServerProcess server(dir.path());
+        QVERIFY(server.waitExit() != 0);
+        QVERIFY2(server.log().contains(u"refusing"_s), qPrintable(server.log()));
+        // Nothing was handed to the database's user through the link.
+        QCOMPARE(QFileInfo(elsewhere.path()).ownerId(), ::geteuid());
     }
 
     void preflightAllowsBrowsers()
     {
-        static TestBackend backend;
-        const HttpResult result = backend.request("OPTIONS", "/rest/v1/tasks", {}, {},
-                                                  {{"Origin", "http://localhost:5173"},
-                                                   {"Access-Control-Request-Method", "PATCH"},
-                                                   {"Access-Control-Request-Headers", "authorization,prefer"}});
+        const HttpResult result = sharedBackend().request("OPTIONS", "/rest/v1/tasks", {}, {},
+                                                          {{"Origin", "http://localhost:5173"},
+                                                           {"Access-Control-Request-Method", "PATCH"},
+                                                           {"Access-Control-Request-Headers", "authorization,prefer"}});
         QCOMPARE(result.status, 204);
         QCOMPARE(result.header("Access-Control-Allow-Origin"), "*");
         QVERIFY(result.header("Access-Control-Allow-Methods").contains("PATCH"));

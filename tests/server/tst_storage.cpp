@@ -311,23 +311,25 @@ private slots:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QByteArray>("contentType");
         QTest::addColumn<QByteArray>("cacheControl");
+        QTest::addColumn<QByteArray>("disposition"); // how a browser is told to show it
 
         const QByteArray pdf = QByteArray("%PDF-1.7\n") + QByteArray(3000, '\0') + "\r\n--not-a-boundary\r\n%%EOF";
-        QTest::newRow("raw body with its type") << Headers{{"Content-Type", "application/pdf"}} << pdf << pdf
-                                                << QByteArray("application/pdf") << QByteArray("no-cache");
+        QTest::newRow("raw body with its type")
+            << Headers{{"Content-Type", "application/pdf"}} << pdf << pdf << QByteArray("application/pdf")
+            << QByteArray("no-cache") << QByteArray();
         QTest::newRow("raw body with cache control")
             << Headers{{"Content-Type", "text/plain;charset=UTF-8"}, {"Cache-Control", "max-age=3600"}}
             << QByteArray("hello") << QByteArray("hello") << QByteArray("text/plain;charset=UTF-8")
-            << QByteArray("max-age=3600");
+            << QByteArray("max-age=3600") << QByteArray();
         QTest::newRow("empty raw body") << Headers{{"Content-Type", "text/plain"}} << QByteArray() << QByteArray()
-                                        << QByteArray("text/plain") << QByteArray("no-cache");
+                                        << QByteArray("text/plain") << QByteArray("no-cache") << QByteArray();
         QTest::newRow("form with a named file and cache control")
             << Headers{{"Content-Type", "multipart/form-data; boundary=XyZ"}}
             << multipartBody("XyZ", {"Content-Disposition: form-data; name=\"cacheControl\"\r\n\r\n600",
                                      "Content-Disposition: form-data; name=\"file\"; filename=\"a.pdf\"\r\n"
                                      "Content-Type: application/pdf\r\n\r\n" +
                                          pdf})
-            << pdf << QByteArray("application/pdf") << QByteArray("max-age=600");
+            << pdf << QByteArray("application/pdf") << QByteArray("max-age=600") << QByteArray();
         // As the JavaScript client sends a Blob: an unnamed field, a made-up file name.
         QTest::newRow("form as the JavaScript client sends it")
             << Headers{{"Content-Type", "multipart/form-data; boundary=----formdata-undici-0123"}}
@@ -335,17 +337,25 @@ private slots:
                              {"Content-Disposition: form-data; name=\"cacheControl\"\r\n\r\n3600",
                               "Content-Disposition: form-data; name=\"\"; filename=\"blob\"\r\n"
                               "Content-Type: image/png\r\n\r\n\x89PNG\r\n\x1a\n"})
-            << QByteArray("\x89PNG\r\n\x1a\n") << QByteArray("image/png") << QByteArray("max-age=3600");
+            << QByteArray("\x89PNG\r\n\x1a\n") << QByteArray("image/png") << QByteArray("max-age=3600") << QByteArray();
         QTest::newRow("quoted boundary, preamble, no type on the part")
             << Headers{{"Content-Type", "multipart/form-data; boundary=\"a;b c\""}}
             << multipartBody("a;b c", {"Content-Disposition: form-data; name=\"file\"; filename=\"x\"\r\n\r\nbody"},
                              "ignored preamble\r\n")
-            << QByteArray("body") << QByteArray("application/octet-stream") << QByteArray("no-cache");
+            << QByteArray("body") << QByteArray("application/octet-stream") << QByteArray("no-cache")
+            << QByteArray("attachment");
         QTest::newRow("file content that looks like a delimiter")
             << Headers{{"Content-Type", "multipart/form-data; boundary=b"}}
             << multipartBody("b", {"Content-Disposition: form-data; name=\"file\"; filename=\"x\"\r\n"
                                    "Content-Type: text/plain\r\n\r\nline\r\n--bx\r\n--"})
-            << QByteArray("line\r\n--bx\r\n--") << QByteArray("text/plain") << QByteArray("no-cache");
+            << QByteArray("line\r\n--bx\r\n--") << QByteArray("text/plain") << QByteArray("no-cache") << QByteArray();
+        // Anyone's upload, served from the API's own origin: never run as a page there.
+        for (const QByteArray &active : {QByteArray("text/html"), QByteArray("image/svg+xml")}) {
+            QTest::newRow(active.constData())
+                << Headers{{"Content-Type", active}} << QByteArray("<script>alert(1)</script>")
+                << QByteArray("<script>alert(1)</script>") << active << QByteArray("no-cache")
+                << QByteArray("attachment");
+        }
     }
 
     void uploadsRawAndMultipart()
@@ -369,6 +379,9 @@ private slots:
         QCOMPARE(fetched.body, content);
         QCOMPARE(fetched.header("Content-Type"), contentType);
         QCOMPARE(fetched.header("Cache-Control"), cacheControl);
+        QTEST(fetched.header("Content-Disposition"), "disposition");
+        QCOMPARE(fetched.header("X-Content-Type-Options"), QByteArray("nosniff"));
+        QVERIFY(fetched.header("Content-Security-Policy").contains("sandbox"));
         // The file on disk holds exactly the content, under the row's version.
         QFile file(m_backend.dataDir() + u"/storage/"_s + QString::fromLatin1(bucket) + u'/' + versionOf(name));
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -597,12 +610,14 @@ private slots:
         // Signing asks the caller's rights; an invalid expiry is refused.
         QCOMPARE(innerStatus(sign(m_bobToken, name, 60)), u"404"_s);
         for (const QByteArray &expiresIn :
-             {QByteArray("0"), QByteArray("-5"), QByteArray("1.5"), QByteArray("\"60\"")}) {
+             {QByteArray("0"), QByteArray("-5"), QByteArray("1.5"), QByteArray("\"60\""), QByteArray("604801")}) {
             const HttpResult invalid =
                 m_backend.request("POST", "/storage/v1/object/sign/" + bucket + '/' + encodedName(name), m_annaToken,
                                   "{\"expiresIn\":" + expiresIn + '}');
             QVERIFY2(innerStatus(invalid) == u"400", expiresIn.constData());
         }
+
+        QCOMPARE(sign(m_annaToken, name, 7 * 24 * 3600).status, 200);
 
         // A short-lived address stops working once it expires.
         const QByteArray brief = signedTarget(sign(m_annaToken, other, 1));

@@ -15,6 +15,7 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QRegularExpression>
+#include <QTcpSocket>
 #include <QTemporaryFile>
 #include <QTest>
 #include <QTimeZone>
@@ -67,6 +68,25 @@ HttpResult openLink(const TestBackend &backend, const QString &link)
 {
     const QByteArray target = QUrl(link).toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority);
     return backend.request("GET", target);
+}
+
+// The status of one request from another address of this machine, as a second client sends it.
+int statusFrom(const QString &client, const TestBackend &backend, const QByteArray &target, const QByteArray &body)
+{
+    QTcpSocket socket;
+    socket.bind(QHostAddress(client));
+    socket.connectToHost(QHostAddress::LocalHost, quint16(backend.url().port()));
+    if (!socket.waitForConnected(5000)) {
+        return 0;
+    }
+    socket.write("POST " + target +
+                 " HTTP/1.1\r\nHost: x\r\nContent-Type: application/json\r\napikey: " + backend.anonKey() +
+                 "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body);
+    QByteArray answer;
+    while (socket.state() == QAbstractSocket::ConnectedState && socket.waitForReadyRead(10000)) {
+        answer += socket.readAll();
+    }
+    return answer.split(' ').value(1).toInt();
 }
 
 QUrlQuery fragmentOf(const QByteArray &location)
@@ -128,12 +148,20 @@ private slots:
         QTest::newRow("empty password") << u"pim@example.nl"_s << QString() << u"validation_failed"_s << 400;
         QTest::newRow("absurdly long address")
             << QString(20000, u'a') + u"@example.nl"_s << u"x"_s << u"validation_failed"_s << 400;
+        QTest::newRow("a NUL in the address")
+            << u"pim\u0000@example.nl"_s << u"s3cret-pim"_s << u"validation_failed"_s << 400;
+        // One account whether the letters come composed (NFC) or decomposed (NFD).
+        QTest::newRow("the address decomposed") << u"zoe\u0308@example.nl"_s << u"s3cret-zoe"_s << QString() << 0;
     }
 
     void signInAndItsRefusals()
     {
         static const bool made =
-            runBlocking(m_client->signUp(u"pim@example.nl"_s, u"s3cret-pim"_s, u"Pim"_s)).session.has_value();
+            runBlocking(m_client->signUp(u"pim@example.nl"_s, u"s3cret-pim"_s, u"Pim"_s)).session.has_value() &&
+            runBlocking(m_client->signUp(u"zo\u00eb@example.nl"_s, u"s3cret-zoe"_s, u"Zo\u00eb"_s))
+                .session.has_value() &&
+            runBlocking(m_client->signUp(u"ZOE\u0308@example.nl"_s, u"s3cret-two"_s, {})).kind ==
+                SignUpOutcome::Kind::EmailExists;
         QVERIFY(made);
         QFETCH(QString, email);
         QFETCH(QString, password);
@@ -179,10 +207,29 @@ private slots:
         // An answer that got lost: the old token gives the active one again.
         QCOMPARE(runBlocking(m_client->refresh(first.refreshToken)).refreshToken, second.refreshToken);
         const RefreshResponse third = runBlocking(m_client->refresh(second.refreshToken));
-        // A token two rotations old is reuse: it fails and takes the whole session with it.
-        QCOMPARE(failureCode(m_client->refresh(first.refreshToken)), u"refresh_token_already_used"_s);
+        // Only briefly: the same token ten seconds after it was replaced is someone else's copy.
+        m_backend.database().exec("UPDATE auth.refresh_tokens SET updated_at = now() - interval '11 seconds'"
+                                  " WHERE token = $1",
+                                  {second.refreshToken.toUtf8()});
+        QCOMPARE(failureCode(m_client->refresh(second.refreshToken)), u"refresh_token_already_used"_s);
+        // It takes the whole session with it.
         QVERIFY(!failureCode(m_client->refresh(third.refreshToken)).isEmpty());
         QCOMPARE(failureCode(m_client->refresh(u"never-issued"_s)), u"refresh_token_not_found"_s);
+    }
+
+    void aPasswordChangeEndsEveryOtherSession()
+    {
+        runBlocking(m_client->signUp(u"moved@example.nl"_s, u"first password"_s, {}));
+        const AuthTokens mine = runBlocking(m_client->signInPassword(u"moved@example.nl"_s, u"first password"_s));
+        const AuthTokens stolen = runBlocking(m_client->signInPassword(u"moved@example.nl"_s, u"first password"_s));
+        QCOMPARE(m_backend.request("PUT", "/auth/v1/user", mine.accessToken.toLatin1(), "{\"password\":\"second one\"}")
+                     .status,
+                 200);
+        // The other session ends at once, its access token too, not an hour later.
+        QCOMPARE(failureCode(m_client->refresh(stolen.refreshToken)), u"refresh_token_not_found"_s);
+        QCOMPARE(m_backend.request("GET", "/rest/v1/projects", stolen.accessToken.toLatin1()).status, 401);
+        QCOMPARE(m_backend.request("GET", "/rest/v1/projects", mine.accessToken.toLatin1()).status, 200);
+        QVERIFY(failureCode(m_client->refresh(mine.refreshToken)).isEmpty());
     }
 
     void logoutScopes()
@@ -224,6 +271,15 @@ private slots:
         QCOMPARE(user.value(u"user_metadata"_s).toObject().value(u"display_name"_s).toString(), u"Me"_s);
         QCOMPARE(user.value(u"identities"_s).toArray().first().toObject().value(u"provider"_s).toString(), u"email"_s);
         QVERIFY(!user.contains(u"encrypted_password"_s));
+
+        // Metadata is limited as a whole: changes that are each small cannot add up.
+        auto store = [&](const char *key) {
+            const QJsonObject data{{QString::fromLatin1(key), QString(10000, u'm')}};
+            return m_backend.request("PUT", "/auth/v1/user", tokens.accessToken.toLatin1(),
+                                     QJsonDocument(QJsonObject{{u"data"_s, data}}).toJson());
+        };
+        QCOMPARE(store("notes").status, 200);
+        QCOMPARE(store("more_notes").status, 400);
 
         // A token of another project's secret, and no token at all.
         result = m_backend.request(
@@ -291,10 +347,46 @@ private slots:
                      u"invalid_credentials"_s);
         }
         int status = 0;
-        // Past the limit even the right password waits.
+        // Past the limit even the right password waits, from this client...
         QCOMPARE(failureCode(m_client->signInPassword(u"target@example.nl"_s, u"the real one"_s), &status),
                  u"over_request_rate_limit"_s);
         QCOMPARE(status, 429);
+        // ...but a stranger's guesses do not lock the owner out elsewhere.
+        const QByteArray right = "{\"email\":\"target@example.nl\",\"password\":\"the real one\"}";
+        QCOMPARE(statusFrom(u"127.0.0.2"_s, m_backend, "/auth/v1/token?grant_type=password", right), 200);
+    }
+
+    void signUpsAreLimitedPerClient()
+    {
+        auto signUp = [&](const QString &client, int n) {
+            return statusFrom(client, m_backend, "/auth/v1/signup",
+                              "{\"email\":\"many" + QByteArray::number(n) + "@example.nl\",\"password\":\"123456\"}");
+        };
+        for (int n = 0; n < 30; ++n) {
+            QCOMPARE(signUp(u"127.0.0.3"_s, n), 200);
+        }
+        QCOMPARE(signUp(u"127.0.0.3"_s, 30), 429);
+        QCOMPARE(signUp(u"127.0.0.4"_s, 30), 200);
+    }
+
+    void hostileRedirectsLandOnTheSite_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::newRow("backslash before user-info") << u"http://evil.example\\@127.0.0.1/"_s;
+        QTest::newRow("a stranger's site") << u"https://evil.example/"_s;
+        QTest::newRow("a header of its own") << u"morvane://x\r\nSet-Cookie: a=b"_s;
+        QTest::newRow("a loopback port, for an e-mail link") << u"http://127.0.0.1:9/"_s;
+    }
+
+    void hostileRedirectsLandOnTheSite()
+    {
+        QFETCH(QString, address);
+        const HttpResult answer = m_backend.request(
+            "GET", "/auth/v1/verify?token=no-such-token&type=recovery&redirect_to=" + QUrl::toPercentEncoding(address));
+        QCOMPARE(answer.status, 303);
+        QVERIFY2(answer.header("Location").startsWith(QByteArray(m_backend.url().toEncoded() + '#')),
+                 answer.header("Location").constData());
+        QVERIFY(!answer.header("Set-Cookie").size());
     }
 
     void confirmationByMailedLink()
@@ -331,8 +423,9 @@ private slots:
 
     void signInThroughAnOutsideProvider()
     {
-        // A small OpenID Connect provider: it signs in whoever asks and vouches for one address.
-        ScriptedHttpServer provider([](const RecordedRequest &request) {
+        // A small OpenID Connect provider: it signs in whoever asks, with the profile it is given.
+        QByteArray profile = R"({"sub":"idp-42","email":"Olive@Example.nl","email_verified":true,"name":"Olive"})";
+        ScriptedHttpServer provider([&profile](const RecordedRequest &request) {
             if (request.path() == "/authorize") {
                 const QString back = request.queryValue(u"redirect_uri"_s) + u"?code=provider-code&state="_s +
                                      request.queryValue(u"state"_s);
@@ -347,9 +440,7 @@ private slots:
                 return ScriptedHttpServer::json(200, "{\"access_token\":\"provider-token\",\"token_type\":\"Bearer\"}");
             }
             if (request.path() == "/userinfo" && request.header("Authorization") == "Bearer provider-token") {
-                return ScriptedHttpServer::json(
-                    200,
-                    "{\"sub\":\"idp-42\",\"email\":\"Olive@Example.nl\",\"email_verified\":true,\"name\":\"Olive\"}");
+                return ScriptedHttpServer::json(200, profile);
             }
             return ScriptedHttpServer::json(401, "{}");
         });
@@ -372,6 +463,7 @@ private slots:
         const QByteArray verifier = QByteArray("a-verifier-of-the-right-length-").repeated(2);
         const QByteArray challenge = QCryptographicHash::hash(verifier, QCryptographicHash::Sha256)
                                          .toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
+        QUrl lastLanding;
         auto signIn = [&]() -> QString {
             const HttpResult authorize = backend.request(
                 "GET", "/auth/v1/authorize?provider=testidp&redirect_to=morvane://auth-callback&code_challenge=" +
@@ -394,6 +486,7 @@ private slots:
             const HttpResult back =
                 backend.request("GET", callback.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority));
             const QUrl landing = QUrl::fromEncoded(back.header("Location"));
+            lastLanding = landing;
             return landing.scheme() == u"morvane" ? QUrlQuery(landing).queryItemValue(u"code"_s) : QString();
         };
 
@@ -415,6 +508,30 @@ private slots:
         const HttpResult me = backend.request("GET", "/auth/v1/user", again.accessToken.toLatin1());
         QCOMPARE(me.json().object().value(u"identities"_s).toArray().first().toObject().value(u"provider"_s).toString(),
                  u"testidp"_s);
+
+        // An account made with a password joins a provider's sign-in only when the provider
+        // vouches for the address; otherwise anyone could name it there and take the account over.
+        runBlocking(client.signUp(u"owned@example.nl"_s, u"mine alone"_s, {}));
+        for (const QByteArray &vouch :
+             {QByteArray(), QByteArray(",\"email_verified\":false"), QByteArray(",\"email_verified\":\"true\"")}) {
+            profile = R"({"sub":"idp-66","email":"owned@example.nl")" + vouch + '}';
+            QVERIFY(signIn().isEmpty());
+            QVERIFY2(QUrlQuery(lastLanding)
+                         .queryItemValue(u"error_description"_s, QUrl::FullyDecoded)
+                         .contains(u"did not confirm"_s),
+                     qPrintable(lastLanding.toString()));
+            QCOMPARE(backend.database()
+                         .exec("SELECT count(*) FROM auth.identities WHERE provider_id = 'idp-66'")
+                         .value(0, 0),
+                     "0");
+        }
+        profile = R"({"sub":"idp-66","email":"owned@example.nl","email_verified":true})";
+        const AuthTokens joined = runBlocking(client.exchangeCodeForSession(signIn(), QString::fromLatin1(verifier)));
+        QCOMPARE(joined.user->email, u"owned@example.nl"_s);
+        QCOMPARE(backend.database()
+                     .exec("SELECT count(*) FROM auth.identities WHERE user_id = $1", {joined.user->id.toUtf8()})
+                     .value(0, 0),
+                 "2");
     }
 
     void unknownProvider()

@@ -374,6 +374,41 @@ private slots:
         QVERIFY(!client->has(PhoenixClient::change(topic, u"INSERT"_s, another)));
     }
 
+    // Every binding is matched against every change and every identity checked against every
+    // readable row: one socket cannot make that work grow without bound, and a deleted account
+    // reads nothing more.
+    void channelsPerSocketAreCappedAndAccountsEnd()
+    {
+        const QString mia = m_backend.createUser(u"mia@example.nl"_s);
+        const QByteArray project =
+            db().exec("INSERT INTO projects (user_id, name) VALUES ($1, 'Mia') RETURNING id", {mia.toUtf8()})
+                .value(0, 0);
+        auto client = connected();
+        QVERIFY(client);
+        QStringList topics;
+        for (int i = 0; i < 100; ++i) {
+            topics.append(nextTopic());
+            QCOMPARE(client->join(topics.last(), {changesOf(u"tasks"_s)}, m_backend.tokenFor(mia)).value(u"status"),
+                     u"ok"_s);
+        }
+        const QJsonObject refused = client->join(nextTopic(), {changesOf(u"tasks"_s)}, m_backend.tokenFor(mia));
+        QVERIFY(refused[u"response"_s][u"reason"_s].toString().contains(u"Too many channels"_s));
+        const QString task = QString::fromLatin1(insertTask(mia, project, u"Mia's task"_s));
+        for (const QString &topic : std::as_const(topics)) {
+            QVERIFY(client->take(PhoenixClient::change(topic, u"INSERT"_s, task)));
+        }
+
+        // Changes arrive in order: once a later one reached another subscriber, Mia's would have too.
+        auto watcher = connected();
+        const QString watched = nextTopic();
+        QCOMPARE(watcher->join(watched, {changesOf(u"tasks"_s)}, m_backend.tokenFor(m_anna)).value(u"status"), u"ok"_s);
+        db().exec("DELETE FROM auth.users WHERE id = $1", {mia.toUtf8()});
+        db().exec("UPDATE tasks SET title = 'After Mia' WHERE id = $1", {task.toUtf8()});
+        const QString marker = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"Later"_s));
+        QVERIFY(watcher->take(PhoenixClient::change(watched, u"INSERT"_s, marker)));
+        QVERIFY(!client->has(PhoenixClient::change(topics.first(), u"UPDATE"_s, task)));
+    }
+
     void policiesChangedWhileRunningApply()
     {
         auto client = connected();

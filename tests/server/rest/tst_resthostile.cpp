@@ -1,6 +1,7 @@
 #include "pg/pgconnection.h"
 #include "support/testbackend.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QTest>
@@ -71,6 +72,18 @@ private slots:
             {"unbalanced embed", "GET", "/rest/v1/tasks?select=*,project:projects(name", {}, 400},
             {"stray parenthesis", "GET", "/rest/v1/tasks?select=id)", {}, 400},
             {"cast carrying SQL", "GET", "/rest/v1/tasks?select=id::text);drop%20table%20tasks;--", {}, 400},
+            // A quoted cast may hold anything; only a type the catalog knows passes, and written quoted.
+            {"quoted cast carrying keywords",
+             "GET",
+             "/rest/v1/tasks?select=title::%22text%20from%20pg_authid%22",
+             {},
+             400},
+            {"quoted cast carrying a statement",
+             "GET",
+             "/rest/v1/tasks?select=title::%22text)%20as%20x%20from%20pg_authid;--%22",
+             {},
+             400},
+            {"cast to no type at all", "GET", "/rest/v1/tasks?select=title::nosuchtype", {}, 400},
             {"embedding nested beyond reason", "GET", deepSelect, {}, 400},
             {"logic nested beyond reason", "GET", deepOr, {}, 400},
             {"statement in order", "GET", "/rest/v1/tasks?order=id;delete%20from%20tasks", {}, 400},
@@ -152,9 +165,36 @@ private slots:
 
     void theServerKeepsServing()
     {
-        const HttpResult result = m_backend.request("GET", "/rest/v1/tasks?select=title", m_token);
+        const HttpResult result = m_backend.request(
+            "GET", "/rest/v1/tasks?select=title::%22character%20varying%22,n:time_spent_seconds::float8", m_token);
         QCOMPARE(result.status, 200);
         QCOMPARE(result.json().array().first().toObject().value(u"title"_s).toString(), u"canary task"_s);
+        QVERIFY(result.json().array().first().toObject().value(u"n"_s).isDouble());
+    }
+
+    // Whatever a statement tried, the connection it runs on can become the request roles and
+    // nothing else: its login role owns nothing and is no superuser.
+    void requestsRunAsARoleThatOwnsNothing()
+    {
+        PgConnection &owner = m_backend.database();
+        owner.execScript("CREATE FUNCTION public.whoami() RETURNS text LANGUAGE sql AS 'SELECT session_user::text';"
+                         "GRANT EXECUTE ON FUNCTION public.whoami() TO authenticated; NOTIFY pgrst, 'reload schema';");
+        HttpResult answer;
+        QTRY_COMPARE_WITH_TIMEOUT((answer = m_backend.request("POST", "/rest/v1/rpc/whoami", m_token, "{}")).status,
+                                  200, 10000);
+        QCOMPARE(answer.body, QByteArray("\"morvane_authenticator\""));
+
+        const auto login = PgConnection::open("host='" + QFile::encodeName(m_backend.dataDir()) +
+                                              "/postgres' dbname=morvane user=morvane_authenticator");
+        QCOMPARE(login
+                     ->exec("SELECT rolsuper::text || rolbypassrls::text || rolcreaterole::text FROM pg_roles"
+                            " WHERE rolname = session_user")
+                     .value(0, 0),
+                 "falsefalsefalse");
+        for (const char *role : {"morvane", "morvane_auth", "pg_read_server_files"}) {
+            QVERIFY_THROWS_EXCEPTION(PgException, login->exec("SELECT set_config('role', $1, false)", {role}));
+        }
+        QCOMPARE(login->exec("SELECT set_config('role', 'authenticated', false)").value(0, 0), "authenticated");
     }
 };
 
