@@ -24,6 +24,15 @@ void RateLimiter::record(const QString &key, const QDateTime &now)
 {
     QMutexLocker lock(&m_mutex);
     m_events[key].append(now);
+    // Keys that are never asked about again (addresses tried once) would otherwise stay for good;
+    // no window is longer than a day.
+    if (++m_recorded % 256 == 0) {
+        const QDateTime oldest = now.addDays(-1);
+        for (auto it = m_events.begin(); it != m_events.end();) {
+            it->removeIf([&](const QDateTime &at) { return at <= oldest; });
+            it = it->isEmpty() ? m_events.erase(it) : std::next(it);
+        }
+    }
 }
 
 qint64 RateLimiter::secondsUntilFree(const QString &key, std::chrono::seconds window, const QDateTime &now)

@@ -24,4 +24,5 @@ private:
 
     QMutex m_mutex;
     QHash<QString, QList<QDateTime>> m_events;
+    quint64 m_recorded = 0;
 };
