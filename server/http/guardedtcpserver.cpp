@@ -90,6 +90,10 @@ void GuardedSocket::refuse(int status, const QString &message)
     out +=
         "Content-Length: " + QByteArray::number(refusal.body.size()) + "\r\nConnection: close\r\n\r\n" + refusal.body;
     write(out);
+    if (isTransactionStarted()) {
+        commitTransaction();
+    }
+    skip(bytesAvailable());
     returnFreedMemory();
     // The client may still be sending the request: what comes is read and dropped for a moment, so
     // that it gets to read this answer instead of a reset connection; then the connection closes.
@@ -107,7 +111,12 @@ void GuardedSocket::onArrival()
 {
     m_idle.start();
     if (m_refused) {
-        // Whatever else comes is not read into memory.
+        // Whatever else comes is dropped as it arrives. The HTTP reader keeps what it reads in a
+        // transaction until a request is complete, which a refused one never is: end that first,
+        // or every dropped byte would stay in memory.
+        if (isTransactionStarted()) {
+            commitTransaction();
+        }
         skip(bytesAvailable());
         return;
     }

@@ -57,7 +57,8 @@ SqlBuilder::CastTypes SqlBuilder::resolveCasts(PgConnection &connection, const Q
     }
     const PgResult found =
         connection.exec("SELECT c.name, n.nspname, t.typname FROM json_array_elements_text($1::json) AS c(name)"
-                        " LEFT JOIN pg_catalog.pg_type t ON t.oid = pg_catalog.to_regtype(c.name)"
+                        // Pseudo-types (unknown, internal, cstring, ...) are no type a value can be read as.
+        " LEFT JOIN pg_catalog.pg_type t ON t.oid = pg_catalog.to_regtype(c.name) AND t.typtype <> 'p'"
                         " LEFT JOIN pg_catalog.pg_namespace n ON n.oid = t.typnamespace",
                         {QJsonDocument(names).toJson(QJsonDocument::Compact)});
     for (int row = 0; row < found.rows(); ++row) {

@@ -84,6 +84,7 @@ private slots:
              {},
              400},
             {"cast to no type at all", "GET", "/rest/v1/tasks?select=title::nosuchtype", {}, 400},
+            {"cast to a pseudo-type", "GET", "/rest/v1/tasks?select=title::unknown", {}, 400},
             {"embedding nested beyond reason", "GET", deepSelect, {}, 400},
             {"logic nested beyond reason", "GET", deepOr, {}, 400},
             {"statement in order", "GET", "/rest/v1/tasks?order=id;delete%20from%20tasks", {}, 400},
