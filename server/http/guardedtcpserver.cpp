@@ -175,7 +175,9 @@ void GuardedTcpServer::incomingConnection(qintptr descriptor)
         return;
     }
     const QString client = clientKey(socket->peerAddress());
-    if (m_waiting.value(client) >= m_maxWaiting) {
+    // Past the waiting ones, a connection in the middle of a body also holds memory: in all, a
+    // client address holds at most four times as many.
+    if (m_waiting.value(client) >= m_maxWaiting || m_open.value(client) >= 4 * m_maxWaiting) {
         socket->refuse(503, u"Too many connections from this address wait to send a request."_s);
         connect(socket, &QAbstractSocket::disconnected, socket, &QObject::deleteLater);
         return;
@@ -189,6 +191,12 @@ void GuardedTcpServer::track(GuardedSocket *socket)
 {
     const QString client = clientKey(socket->peerAddress());
     ++m_waiting[client];
+    ++m_open[client];
+    connect(socket, &QObject::destroyed, this, [this, client] {
+        if (--m_open[client] <= 0) {
+            m_open.remove(client);
+        }
+    });
     auto counted = std::make_shared<bool>(true);
     auto release = [this, client] {
         if (--m_waiting[client] <= 0) {

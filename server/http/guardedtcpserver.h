@@ -73,4 +73,5 @@ private:
     GuardedSocket::Limits m_limits;
     int m_maxWaiting;
     QHash<QString, int> m_waiting; // client address -> connections waiting for a request
+    QHash<QString, int> m_open;    // client address -> connections
 };

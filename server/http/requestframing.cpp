@@ -140,6 +140,11 @@ RequestFraming::Verdict RequestFraming::endOfHead(QByteArrayView head)
     const QList<QByteArray> lines = head.toByteArray().split('\n');
     for (qsizetype i = 1; i < lines.size(); ++i) {
         const QByteArray &line = lines.at(i);
+        // A folded line continues the header before it for some readers and starts a header for
+        // others: refused, so that no two readers of this connection can see different requests.
+        if (line.startsWith(' ') || line.startsWith('\t')) {
+            return refuse(Verdict::Malformed);
+        }
         const qsizetype colon = line.indexOf(':');
         if (colon <= 0) {
             continue;

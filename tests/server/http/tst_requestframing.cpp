@@ -33,25 +33,26 @@ private slots:
         const QByteArray post = "POST / HTTP/1.1\r\nContent-Length: 5\r\n\r\nhello";
         QTest::newRow("one request") << get << Verdict::Ok << true;
         QTest::newRow("pipelined requests, each within the limits") << get + post + get + post << Verdict::Ok << true;
-        QTest::newRow("a body still to come") << QByteArray("POST / HTTP/1.1\r\nContent-Length: 9\r\n\r\nhel")
-                                              << Verdict::Ok << false;
+        QTest::newRow("a body still to come")
+            << QByteArray("POST / HTTP/1.1\r\nContent-Length: 9\r\n\r\nhel") << Verdict::Ok << false;
         QTest::newRow("empty lines before a request") << "\r\n\r\n" + get << Verdict::Ok << true;
-        QTest::newRow("a request line too long")
-            << "GET /" + QByteArray(80, 'a') + " HTTP/1.1\r\n\r\n" << Verdict::RequestLineTooLong << false;
-        QTest::newRow("a request line too long, no end yet") << "GET /" + QByteArray(80, 'a') << Verdict::RequestLineTooLong
-                                                             << false;
-        QTest::newRow("headers too large")
-            << "GET / HTTP/1.1\r\nX: " + QByteArray(200, 'a') + "\r\n\r\n" << Verdict::HeadTooLarge << false;
+        QTest::newRow("a request line too long") << "GET /" + QByteArray(80, 'a') + " HTTP/1.1\r\n\r\n"
+                                                 << Verdict::RequestLineTooLong << false;
+        QTest::newRow("a request line too long, no end yet")
+            << "GET /" + QByteArray(80, 'a') << Verdict::RequestLineTooLong << false;
+        QTest::newRow("headers too large") << "GET / HTTP/1.1\r\nX: " + QByteArray(200, 'a') + "\r\n\r\n"
+                                           << Verdict::HeadTooLarge << false;
         QTest::newRow("headers too large in a later request")
             << get + post + "GET / HTTP/1.1\r\nX: " + QByteArray(200, 'a') << Verdict::HeadTooLarge << false;
-        QTest::newRow("a body's bytes are no head") << "POST / HTTP/1.1\r\nContent-Length: 90\r\n\r\n" +
-                                                           QByteArray(90, 'a') + get
-                                                    << Verdict::Ok << true;
+        QTest::newRow("a body's bytes are no head")
+            << "POST / HTTP/1.1\r\nContent-Length: 90\r\n\r\n" + QByteArray(90, 'a') + get << Verdict::Ok << true;
         QTest::newRow("a declared body too large, refused before it comes")
             << QByteArray("POST / HTTP/1.1\r\nContent-Length: 101\r\n\r\n") << Verdict::BodyTooLarge << false;
         QTest::newRow("two lengths that disagree")
             << QByteArray("POST / HTTP/1.1\r\nContent-Length: 1\r\nContent-Length: 2\r\n\r\n") << Verdict::Malformed
             << false;
+        QTest::newRow("a folded header line")
+            << QByteArray("POST / HTTP/1.1\r\nX: a\r\n Content-Length: 5\r\n\r\n") << Verdict::Malformed << false;
         QTest::newRow("a length that is no number")
             << QByteArray("POST / HTTP/1.1\r\nContent-Length: 1e3\r\n\r\n") << Verdict::Malformed << false;
         QTest::newRow("an encoding that cannot be framed")
@@ -59,10 +60,11 @@ private slots:
         const QByteArray chunked = "POST / HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n";
         QTest::newRow("chunks, a trailer, then the next request")
             << chunked + "5;ext=1\r\nhello\r\n3\r\nabc\r\n0\r\nX-Sum: 8\r\n\r\n" + get << Verdict::Ok << true;
-        QTest::newRow("chunks adding up to too much")
-            << chunked + "3c\r\n" + QByteArray(60, 'a') + "\r\n3c\r\n" << Verdict::BodyTooLarge << false;
+        QTest::newRow("chunks adding up to too much") << chunked + "3c\r\n" + QByteArray(60, 'a') + "\r\n3c\r\n"
+                                                      << Verdict::BodyTooLarge << false;
         QTest::newRow("a chunk size that is no number") << chunked + "zz\r\n" << Verdict::Malformed << false;
-        QTest::newRow("a chunk size line without end") << chunked + QByteArray(2000, '1') << Verdict::Malformed << false;
+        QTest::newRow("a chunk size line without end")
+            << chunked + QByteArray(2000, '1') << Verdict::Malformed << false;
         QTest::newRow("an upgrade leaves HTTP behind")
             << "GET /ws HTTP/1.1\r\nUpgrade: websocket\r\nConnection: Upgrade\r\n\r\n" + QByteArray(500, 'x')
             << Verdict::Ok << false;
