@@ -48,6 +48,17 @@ inline Billing withExtras(Billing billing, Opt minCharge, Opt surcharge, Opt mat
     return billing;
 }
 
+inline Billing discounted(Billing billing, double discount, std::optional<bool> percent = std::nullopt)
+{
+    return withExtras(std::move(billing), std::nullopt, std::nullopt, std::nullopt, discount, percent);
+}
+
+inline Billing withVat(Billing billing, double rate)
+{
+    billing.vatRate = rate;
+    return billing;
+}
+
 inline TaskItem task(Opt rate, std::optional<Billing> billing = std::nullopt)
 {
     TaskItem item;
