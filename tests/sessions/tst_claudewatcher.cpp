@@ -6,7 +6,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QJsonDocument>
-#include <QRandomGenerator>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -145,67 +144,41 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<std::optional<ParsedSession>>("expected");
 
+        const auto session = [](const QString &id, const QString &cwd, std::optional<QString> title,
+                                const QString &from, const QString &to, qint64 active, int prompts,
+                                QList<SessionSegment> segments = {}) {
+            return std::optional(
+                ParsedSession{id, cwd, std::move(title), at(from), at(to), active, prompts, std::move(segments)});
+        };
         const QString checkout = u"4f1c2a9e-7b3d-4e2a-9c1f-0a5b6c7d8e9f"_s;
+        const QString vat = u"Refactor the checkout so that VAT is computed per line"_s;
         // Prompts at 10:00, 10:10 and 10:25 are one burst (the last gap is exactly the idle gap);
         // 10:41:01 is 961 s later and starts another. The 901 s before it count nowhere, and the
         // agent's answers after the last prompt count for the session only.
         QTest::newRow("two bursts, mixed time stamp forms")
             << u"-home-ana-code-webshop/"_s + checkout
-            << std::optional(
-                   ParsedSession{checkout,
-                                 webshop,
-                                 u"Refactor the checkout so that VAT is computed per line"_s,
-                                 at(u"2025-03-01T10:00:00.000Z"_s),
-                                 at(u"2025-03-01T10:42:00.000Z"_s),
-                                 1615,
-                                 4,
-                                 {burst(checkout, 0, u"Refactor the checkout so that VAT is computed per line"_s,
-                                        u"2025-03-01T10:00:00Z"_s, u"2025-03-01T10:25:00Z"_s, 1497, 3),
-                                  burst(checkout, 1, u"Commit with a clear message"_s, u"2025-03-01T10:41:01Z"_s,
-                                        u"2025-03-01T10:41:01Z"_s, 60, 1)}});
-
+            << session(checkout, webshop, vat, u"2025-03-01T10:00:00Z"_s, u"2025-03-01T10:42:00Z"_s, 1615, 4,
+                       {burst(checkout, 0, vat, u"2025-03-01T10:00:00Z"_s, u"2025-03-01T10:25:00Z"_s, 1497, 3),
+                        burst(checkout, 1, u"Commit with a clear message"_s, u"2025-03-01T10:41:01Z"_s,
+                              u"2025-03-01T10:41:01Z"_s, 60, 1)});
         const QString tools = u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s;
         // Tool results are no prompt, and a blank first text part is not replaced by a later one.
         QTest::newRow("no prompts, a 30 minute pause dropped whole")
             << u"-home-ana-code-webshop/"_s + tools
-            << std::optional(ParsedSession{tools,
-                                           webshop,
-                                           std::nullopt,
-                                           at(u"2025-03-02T09:00:00Z"_s),
-                                           at(u"2025-03-02T09:36:30Z"_s),
-                                           390,
-                                           0,
-                                           {}});
-
+            << session(tools, webshop, std::nullopt, u"2025-03-02T09:00:00Z"_s, u"2025-03-02T09:36:30Z"_s, 390, 0);
         const QString numbering = u"c0ffee00-1234-4abc-9def-000000000003"_s;
         const QString cut141 = u"Rename every invoice number column so that the yearly sequence, the prefix and the "
-                               u"padding live in one place and the old migration still app"_s;
-        QCOMPARE(cut141.size(), 140);
+                               u"padding live in one place and the old migration still app..."_s;
         QTest::newRow("prompt rules and undecodable lines")
             << u"-home-ana-code-invoicer/"_s + numbering
-            << std::optional(ParsedSession{numbering,
-                                           invoicer,
-                                           cut141 + u"..."_s,
-                                           at(u"2025-03-03T14:00:00Z"_s),
-                                           at(u"2025-03-03T14:01:10Z"_s),
-                                           70,
-                                           7,
-                                           {burst(numbering, 0, cut141 + u"..."_s, u"2025-03-03T14:00:10Z"_s,
-                                                  u"2025-03-03T14:01:10Z"_s, 60, 7)}});
-
+            << session(numbering, invoicer, cut141, u"2025-03-03T14:00:00Z"_s, u"2025-03-03T14:01:10Z"_s, 70, 7,
+                       {burst(numbering, 0, cut141, u"2025-03-03T14:00:10Z"_s, u"2025-03-03T14:01:10Z"_s, 60, 7)});
         const QString truncated = u"7e57a11e-0000-4000-8000-000000000006"_s;
+        const QString ledger = u"Export the ledger as CSV"_s;
         QTest::newRow("last line still being written")
             << u"-home-ana-code-invoicer/"_s + truncated
-            << std::optional(ParsedSession{truncated,
-                                           invoicer,
-                                           u"Export the ledger as CSV"_s,
-                                           at(u"2025-03-04T08:00:00Z"_s),
-                                           at(u"2025-03-04T08:00:20Z"_s),
-                                           20,
-                                           1,
-                                           {burst(truncated, 0, u"Export the ledger as CSV"_s,
-                                                  u"2025-03-04T08:00:00Z"_s, u"2025-03-04T08:00:00Z"_s, 60, 1)}});
-
+            << session(truncated, invoicer, ledger, u"2025-03-04T08:00:00Z"_s, u"2025-03-04T08:00:20Z"_s, 20, 1,
+                       {burst(truncated, 0, ledger, u"2025-03-04T08:00:00Z"_s, u"2025-03-04T08:00:00Z"_s, 60, 1)});
         QTest::newRow("no working directory, even with prompts")
             << u"-home-ana-code-invoicer/d00d0000-0000-4000-8000-000000000004"_s << std::optional<ParsedSession>();
         QTest::newRow("one byte that is not UTF-8")
@@ -259,7 +232,6 @@ private Q_SLOTS:
 
         const auto t = [](const char *time) { return ms(u"2025-03-01T"_s + QLatin1String(time) + u"Z"_s); };
         QTest::newRow("none") << QList<LogInstant>{} << 900 << qint64(0);
-        QTest::newRow("one") << QList<LogInstant>{t("10:00:00")} << 900 << qint64(0);
         QTest::newRow("30 minute gap dropped whole")
             << QList<LogInstant>{t("10:00:00"), t("10:10:00"), t("10:40:00")} << 900 << qint64(600);
         QTest::newRow("gap of exactly the idle gap counts")
@@ -270,7 +242,6 @@ private Q_SLOTS:
             << QList<LogInstant>{t("10:00:00.000"), t("10:00:00.999"), t("10:00:02.998")} << 900 << qint64(1);
         QTest::newRow("900.999 s is 900 whole seconds")
             << QList<LogInstant>{t("10:00:00.000"), t("10:15:00.999")} << 900 << qint64(900);
-        QTest::newRow("equal instants") << QList<LogInstant>{t("10:00:00"), t("10:00:00")} << 900 << qint64(0);
         QTest::newRow("another idle gap")
             << QList<LogInstant>{t("10:00:00"), t("10:01:00"), t("10:03:00")} << 60 << qint64(60);
     }
@@ -332,15 +303,12 @@ private Q_SLOTS:
     void fallbackCoversTheWholeSession()
     {
         ParsedSession session{
-            u"abc"_s, u"/w"_s, std::nullopt, at(u"2025-03-01T10:00:00Z"_s), at(u"2025-03-01T11:00:00Z"_s), 1234, 0, {}};
-        QList<SessionSegment> expected{
-            burst(u"abc"_s, 0, u"Claude session"_s, u"2025-03-01T10:00:00Z"_s, u"2025-03-01T11:00:00Z"_s, 1234, 0)};
-        QVERIFY(ClaudeWatcher::fallbackSingleSegment(session) == expected);
-        session.firstUserMessage = u"Fix it"_s;
-        session.promptCount = 3;
-        expected[0].title = u"Fix it"_s;
-        expected[0].promptCount = 3;
-        QVERIFY(ClaudeWatcher::fallbackSingleSegment(session) == expected);
+            u"abc"_s, u"/w"_s, u"Fix it"_s, at(u"2025-03-01T10:00:00Z"_s), at(u"2025-03-01T11:00:00Z"_s), 1234, 3, {}};
+        QVERIFY(ClaudeWatcher::fallbackSingleSegment(session) ==
+                (QList<SessionSegment>{
+                    burst(u"abc"_s, 0, u"Fix it"_s, u"2025-03-01T10:00:00Z"_s, u"2025-03-01T11:00:00Z"_s, 1234, 3)}));
+        session.firstUserMessage.reset();
+        QCOMPARE(ClaudeWatcher::fallbackSingleSegment(session).first().title, u"Claude session"_s);
     }
 
     void timestampForms_data()
@@ -350,16 +318,12 @@ private Q_SLOTS:
 
         QTest::newRow("fraction, Z") << u"2025-03-01T10:15:30.123Z"_s << u"2025-03-01T10:15:30.123Z"_s;
         QTest::newRow("no fraction") << u"2025-03-01T10:15:30Z"_s << u"2025-03-01T10:15:30.000Z"_s;
-        QTest::newRow("one digit") << u"2025-03-01T10:15:30.5Z"_s << u"2025-03-01T10:15:30.500Z"_s;
         QTest::newRow("microseconds") << u"2025-03-01T10:15:30.123456Z"_s << u"2025-03-01T10:15:30.123Z"_s;
         QTest::newRow("offset") << u"2025-03-01T00:15:30+01:00"_s << u"2025-02-28T23:15:30.000Z"_s;
         QTest::newRow("negative offset") << u"2024-02-29T22:00:00.250-03:30"_s << u"2024-03-01T01:30:00.250Z"_s;
         QTest::newRow("no zone") << u"2025-03-01T10:15:30"_s << QString();
-        QTest::newRow("space for T") << u"2025-03-01 10:15:30Z"_s << QString();
         QTest::newRow("empty fraction") << u"2025-03-01T10:15:30.Z"_s << QString();
         QTest::newRow("no leap day") << u"2025-02-29T10:15:30Z"_s << QString();
-        QTest::newRow("hour 24") << u"2025-03-01T24:00:00Z"_s << QString();
-        QTest::newRow("date only") << u"2025-03-01"_s << QString();
         QTest::newRow("trailing text") << u"2025-03-01T10:15:30Zx"_s << QString();
     }
 
@@ -490,10 +454,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("extended"); // the last step read only new bytes
 
         const QByteArray start = userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) + agentLine(u"2025-03-01T10:00:10Z"_s);
-        QTest::newRow("new lines") << start
-                                   << QList<QByteArray>{userLine(u"2025-03-01T10:05:00Z"_s, u"second"_s),
-                                                        agentLine(u"2025-03-01T10:30:00Z"_s)}
-                                   << true;
         QTest::newRow("a line finished after being read half")
             << start
             << QList<QByteArray>{userLine(u"2025-03-01T10:05:00Z"_s, u"second"_s).left(40),
@@ -509,7 +469,6 @@ private Q_SLOTS:
                    "{\"type\":\"user\",\"timestamp\":\"2025-03-01T10:00:00Z\",\"message\":{\"content\":\"x\"}}\n"
                    "{\"type\":\"user\",\"timestamp\":\"2025-03-01T10:00:05Z\",\"message\":{\"content\":\"y\"}}\n")
             << QList<QByteArray>{agentLine(u"2025-03-01T10:01:00Z"_s)} << true;
-        QTest::newRow("invalid UTF-8 appended") << start << QList<QByteArray>{QByteArray("{\"a\":\"\xff\"}\n")} << true;
         QTest::newRow("a file that was only a partial line")
             << QByteArray("{\"type\":\"us") << QList<QByteArray>{QByteArray("er\"}\n") + start} << false;
     }
@@ -579,51 +538,6 @@ private Q_SLOTS:
         QCOMPARE(stats.filesReadWhole, 1);
         QCOMPARE(walked.size(), 1);
         COMPARE_SESSION(std::optional(walked.first()), ClaudeWatcher::parse(path, u"s"_s, 900));
-    }
-
-    // Random logs cut at random bytes: every growing step equals a full read of the same bytes.
-    void randomGrowthEqualsFullReads()
-    {
-        QRandomGenerator random(20250301);
-        for (int round = 0; round < 12; ++round) {
-            QByteArray log;
-            LogInstant t = ms(u"2025-03-01T08:00:00Z"_s);
-            const int lines = 50 + int(random.bounded(300));
-            for (int i = 0; i < lines; ++i) {
-                t += random.bounded(1400) * 1000 + random.bounded(1000);
-                // Now and then a line dated a little earlier than the one before.
-                const LogInstant when = random.bounded(10) == 0 ? t - 5000 : t;
-                const QString stamp = random.bounded(2)
-                                          ? SessionJson::instant(QDateTime::fromMSecsSinceEpoch(when, Qt::UTC))
-                                          : QDateTime::fromMSecsSinceEpoch(when, Qt::UTC).toString(Qt::ISODate);
-                switch (random.bounded(6)) {
-                case 0:
-                    log += userLine(stamp, u"prompt %1"_s.arg(i));
-                    break;
-                case 1:
-                    log += "{\"type\":\"summary\",\"summary\":\"s\"}\n";
-                    break;
-                case 2:
-                    log += "not json\n";
-                    break;
-                default:
-                    log += agentLine(stamp, QByteArray(int(random.bounded(200)), 'a'));
-                }
-            }
-            QTemporaryDir dir;
-            const QString path = dir.filePath(u"p/s.jsonl"_s);
-            write(path, {});
-            qint64 written = 0;
-            int step = 0;
-            while (written < log.size()) {
-                const qint64 piece = std::min<qint64>(log.size() - written, 1 + random.bounded(4000));
-                append(path, log.mid(written, piece), ++step);
-                written += piece;
-                const QList<ParsedSession> walked = ClaudeWatcher::enumerateSessions(dir.path(), 900, 30);
-                const std::optional<ParsedSession> full = ClaudeWatcher::parse(path, u"s"_s, 900);
-                COMPARE_SESSION(walked.isEmpty() ? std::nullopt : std::optional(walked.first()), full);
-            }
-        }
     }
 
     void liveSessionsAreNewestFirst()
