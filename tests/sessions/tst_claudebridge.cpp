@@ -150,60 +150,42 @@ private Q_SLOTS:
         QCOMPARE(ClaudeBridge::claudeCLIPath(settings, environment, paths), inDir(expected));
     }
 
-    void defaultPlacesInOrder()
+    // Each of the three ways of running the program, as the program sees it.
+    void commandLines()
     {
-        QCOMPARE(ClaudeBridge::defaultCandidates(u"/home/ana"_s),
-                 (QStringList{u"/opt/homebrew/bin/claude"_s, u"/usr/local/bin/claude"_s, u"/usr/bin/claude"_s,
-                              u"/home/ana/.local/bin/claude"_s}));
-    }
-
-    void commandLineOfParse()
-    {
-        const QJsonObject answer =
-            runBlocking(bridge(u"structured"_s)
-                            .parse({u"2 uur aan de webshop gisteren"_s, {u"Webshop"_s, u"Invoicer"_s}, u"2025-03-05"_s},
-                                   QTimeZone("Europe/Amsterdam")));
+        const QStringList print{u"--print"_s, u"--model"_s};
+        const QStringList plainText{u"--output-format"_s, u"json"_s, u"--disable-slash-commands"_s,
+                                    u"--input-format"_s,  u"text"_s, u"--system-prompt"_s};
+        const QTimeZone amsterdam("Europe/Amsterdam");
+        const QStringList projects{u"Webshop"_s, u"Invoicer"_s};
+        const QJsonObject answer = runBlocking(
+            bridge(u"structured"_s).parse({u"2 uur aan de webshop gisteren"_s, projects, u"2025-03-05"_s}, amsterdam));
         QCOMPARE(answer[u"intent"].toString(), u"create_task"_s);
-        const QStringList arguments = recordedArguments();
-        QCOMPARE(arguments.mid(0, 8),
-                 (QStringList{u"--print"_s, u"--model"_s, u"sonnet"_s, u"--output-format"_s, u"json"_s,
-                              u"--disable-slash-commands"_s, u"--input-format"_s, u"text"_s}));
-        QCOMPARE(arguments.value(8), u"--system-prompt"_s);
-        QCOMPARE(arguments.value(9), ClaudeBridge::parseSystemPrompt({u"Webshop"_s, u"Invoicer"_s}, u"2025-03-05"_s,
-                                                                     QTimeZone("Europe/Amsterdam")));
-        QCOMPARE(arguments.mid(10),
-                 (QStringList{u"--json-schema"_s, ClaudeBridge::jsonSchema(), u"--no-session-persistence"_s}));
+        QCOMPARE(recordedArguments(),
+                 print + QStringList(u"sonnet"_s) + plainText +
+                     QStringList(ClaudeBridge::parseSystemPrompt(projects, u"2025-03-05"_s, amsterdam)) +
+                     (QStringList{u"--json-schema"_s, ClaudeBridge::jsonSchema(), u"--no-session-persistence"_s}));
         QCOMPARE(recorded("stdin"), u"User input: 2 uur aan de webshop gisteren"_s);
-        QCOMPARE(recorded("no_color"), u"1"_s);
         QVERIFY(QJsonDocument::fromJson(ClaudeBridge::jsonSchema().toUtf8()).isObject());
-    }
 
-    void commandLineOfPlainText()
-    {
-        const QString answer =
+        QCOMPARE(
             runBlocking(bridge(u"result"_s, u"Vandaag: 3 taken af."_s)
-                            .parsePlain(u"FACTS: 3 tasks done"_s, u"haiku"_s, 30, u"Write the stand-up."_s, u"low"_s));
-        QCOMPARE(answer, u"Vandaag: 3 taken af."_s);
-        QCOMPARE(recordedArguments(),
-                 (QStringList{u"--print"_s, u"--model"_s, u"haiku"_s, u"--output-format"_s, u"json"_s,
-                              u"--disable-slash-commands"_s, u"--input-format"_s, u"text"_s, u"--system-prompt"_s,
-                              u"Write the stand-up."_s, u"--no-session-persistence"_s}));
+                            .parsePlain(u"FACTS: 3 tasks done"_s, u"haiku"_s, 30, u"Write the stand-up."_s, u"low"_s)),
+            u"Vandaag: 3 taken af."_s);
+        const QStringList standUp{u"Write the stand-up."_s, u"--no-session-persistence"_s};
+        QCOMPARE(recordedArguments(), print + QStringList(u"haiku"_s) + plainText + standUp);
         QCOMPARE(recorded("stdin"), u"FACTS: 3 tasks done"_s);
-        QCOMPARE(recorded("no_color"), u"1"_s);
-    }
 
-    void commandLineOfWorkspaceRun()
-    {
         QTemporaryDir workspace;
-        const QString html = runBlocking(bridge(u"write"_s)
-                                             .parseWithWorkspace(u"Design the invoice from brand.json"_s,
-                                                                 workspace.path(), u"template.html"_s, u"opus"_s, 30));
-        QCOMPARE(html, u"<!doctype html><html><body>Invoice</body></html>\n"_s);
+        QCOMPARE(runBlocking(bridge(u"write"_s)
+                                 .parseWithWorkspace(u"Design the invoice from brand.json"_s, workspace.path(),
+                                                     u"template.html"_s, u"opus"_s, 30)),
+                 u"<!doctype html><html><body>Invoice</body></html>\n"_s);
         QCOMPARE(recordedArguments(),
-                 (QStringList{u"--print"_s, u"--model"_s, u"opus"_s, u"--add-dir"_s, workspace.path(),
-                              u"--allowedTools"_s, u"Read,Write,Edit,Glob,Grep"_s, u"--permission-mode"_s,
-                              u"bypassPermissions"_s, u"--disable-slash-commands"_s, u"--input-format"_s, u"text"_s,
-                              u"--no-session-persistence"_s}));
+                 (print + QStringList{u"opus"_s, u"--add-dir"_s, workspace.path(), u"--allowedTools"_s,
+                                      u"Read,Write,Edit,Glob,Grep"_s, u"--permission-mode"_s, u"bypassPermissions"_s,
+                                      u"--disable-slash-commands"_s, u"--input-format"_s, u"text"_s,
+                                      u"--no-session-persistence"_s}));
         QCOMPARE(recorded("cwd"), workspace.path());
         QCOMPARE(recorded("stdin"), u"Design the invoice from brand.json"_s);
         QCOMPARE(recorded("no_color"), u"1"_s);
@@ -223,8 +205,6 @@ private Q_SLOTS:
         QTest::newRow("non-zero exit") << u"fail"_s
                                        << u"Claude exited 2: Error: the API is overloaded, try again later"_s
                                        << QString();
-        QTest::newRow("non-zero exit, nothing on standard output")
-            << u"failquiet"_s << u"Claude produced no output"_s << QString();
         QTest::newRow("not JSON") << u"notjson"_s
                                   << u"Bad JSON from Claude (illegal value) Welcome to Claude Code! Run claude "
                                      u"--help for usage.\n"_s
@@ -253,8 +233,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expected");
         QTest::newRow("result") << u"result"_s << u"Done: 4 tasks"_s;
         QTest::newRow("response where result is missing") << u"response"_s << u"Done: 4 tasks"_s;
-        QTest::newRow("is_error") << u"error"_s << u"claude returned is_error=true"_s;
-        QTest::newRow("no output") << u"empty"_s << u"Claude produced no output"_s;
     }
 
     void readsTheAnswerOfPlainText()
@@ -274,7 +252,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("mode");
         QTest::addColumn<bool>("workspace");
         QTest::addColumn<QString>("failure");
-        QTest::newRow("request") << u"sleep"_s << false << u"Claude request timed out after 1 s"_s;
         QTest::newRow("workspace task") << u"sleep"_s << true << u"Claude workspace task timed out after 1 s"_s;
         // Ignores the polite signal and is killed a little later.
         QTest::newRow("deaf to SIGTERM") << u"stubborn"_s << false << u"Claude request timed out after 1 s"_s;
@@ -375,12 +352,6 @@ private Q_SLOTS:
         QTest::newRow("relay") << u"morvaneAIOnly"_s
                                << u"Morvane AI is not available in this version of Morvane. Choose the Claude CLI "
                                   u"in the AI settings."_s;
-        QTest::newRow("Anthropic") << u"anthropicCustom"_s
-                                   << u"The Anthropic API is not available in this version of Morvane. Choose the "
-                                      u"Claude CLI in the AI settings."_s;
-        QTest::newRow("OpenAI") << u"openAICustom"_s
-                                << u"The OpenAI API is not available in this version of Morvane. Choose the Claude "
-                                   u"CLI in the AI settings."_s;
         QTest::newRow("Gemini") << u"geminiCustom"_s
                                 << u"The Google Gemini API is not available in this version of Morvane. Choose the "
                                    u"Claude CLI in the AI settings."_s;
@@ -442,21 +413,13 @@ private Q_SLOTS:
         QCOMPARE(found ? QString::fromUtf8(QJsonDocument(*found).toJson(QJsonDocument::Compact)) : QString(), expected);
     }
 
+    // The calendar runs into the next year, which is what the rule against past years needs.
     void capturePromptStatesTheDateRules()
     {
         const QString prompt =
             ClaudeBridge::parseSystemPrompt({u"Webshop"_s}, u"2025-12-29"_s, QTimeZone("Europe/Amsterdam"));
-        QVERIFY(prompt.startsWith(u"You are a strict JSON extractor for a time-tracking app called Morvane. Convert "
-                                  u"the user's freeform input (Dutch or English) into ONE JSON object matching the "
-                                  u"schema. No markdown fences. No commentary."_s));
         for (const QString &part :
-             {u"Return EXACTLY one JSON object with these top-level keys (use null when missing):"_s,
-              u"create_project|create_projects|create_task|start_timer|stop_timer|log_time|unknown"_s,
-              u"Dates: use the TODAY and CALENDAR lines below. Write every date as YYYY-MM-DD from that calendar; "
-              u"never use another year or a date before today."_s,
-              u"\"morgen\"/\"tomorrow\" = the day after today"_s, u"\n  - Webshop"_s, u"TODAY: 2025-12-29 (Monday)"_s,
-              u"TIME ZONE: Europe/Amsterdam"_s,
-              // The calendar runs into the next year, which is what the year rule needs.
+             {u"\n  - Webshop"_s, u"TODAY: 2025-12-29 (Monday)"_s, u"TIME ZONE: Europe/Amsterdam"_s,
               u"\n  2026-01-01 Thursday"_s, u"\n  2026-01-11 Sunday\n"_s}) {
             QVERIFY2(prompt.contains(part), qPrintable(part));
         }
