@@ -1,6 +1,8 @@
 #include "pg/pgconnection.h"
+#include "support/localservers.h"
 #include "support/morvanecli.h"
 #include "support/testbackend.h"
+#include "support/testdata.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -8,8 +10,29 @@
 
 using namespace Qt::StringLiterals;
 
-// `morvane projects|tasks|teams ...` as people run them: separate invocations, each restoring the
-// session and loading the store, against a real backend.
+namespace {
+
+const QString checkout = u"4f1c2a9e-7b3d-4e2a-9c1f-0a5b6c7d8e9f"_s;
+const QString quiet = u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s;
+const QString webshop = u"/home/ana/code/webshop"_s;
+
+// Copies a fixture session log into a person's ~/.claude/projects as if the agent had just written it.
+void copyLog(const MorvaneCli &person, const QString &folder, const QString &sessionId)
+{
+    const QString target = person.homeFile(u".claude/projects/"_s + folder);
+    QVERIFY(QDir().mkpath(target));
+    QFile file(target + u'/' + sessionId + u".jsonl"_s);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.write(readTestData(u"sessions/projects/"_s + folder + u'/' + sessionId + u".jsonl"_s));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-120), QFileDevice::FileModificationTime));
+}
+
+} // namespace
+
+// The commands that read and write the store (`auth`, `projects`, `tasks`, `teams`, `timer`, `log`,
+// `entries`, `price`, `sessions scan`) as people run them: separate invocations, each restoring the
+// session and loading the store, against one real backend. The store's rules are tested in
+// tests/store; here the arguments, the words and the exit codes.
 class TestStoreCommands : public QObject
 {
     Q_OBJECT
@@ -19,65 +42,50 @@ private:
     MorvaneCli ann{m_backend};
     MorvaneCli ben{m_backend};
     using Run = MorvaneCli::Run;
+    QString m_studio;
 
-    QByteArray sql(const QByteArray &query) { return m_backend.database().exec(query).value(0, 0); }
-
-    // Creates a project and answers its id.
-    QString addProject(const QString &name, const QStringList &extra = {})
+    QByteArray sql(const QByteArray &query, const QString &id = {})
     {
-        const Run run = ann(QStringList{u"projects"_s, u"add"_s, name, u"--json"_s} + extra);
-        if (run.code != 0) {
-            qWarning() << run.err;
-            return {};
-        }
-        return run.json().object().value(u"id"_s).toString();
+        return m_backend.database().exec(query, id.isNull() ? PgParams{} : PgParams{id.toUtf8()}).value(0, 0);
     }
 
     QString addTask(const QString &project, const QString &title, const QStringList &extra = {})
     {
-        const Run run = ann(QStringList{u"tasks"_s, u"add"_s, project, title, u"--json"_s} + extra);
-        return run.code == 0 ? run.json().object().value(u"id"_s).toString() : QString();
-    }
-
-    static QStringList titles(const Run &run)
-    {
-        QStringList list;
-        for (const QJsonValue &row : run.json().array()) {
-            list << row.toObject().value(u"title"_s).toString();
-        }
-        return list;
+        return ann(QStringList{u"tasks"_s, u"add"_s, project, title, u"--json"_s} + extra).id();
     }
 
 private slots:
     void initTestCase()
     {
         QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
-        // Before anyone signs up: every data command needs a session.
-        for (const QString &command : {u"projects"_s, u"tasks"_s, u"teams"_s}) {
-            const Run run = ann({command, u"list"_s});
-            QCOMPARE(run.code, 1);
-            QVERIFY2(run.err.startsWith(u"Not signed in."_s), qPrintable(run.err));
-        }
         QCOMPARE(ann({u"auth"_s, u"signup"_s, u"ann@example.nl"_s}, "ann's secret\n").code, 0);
         QCOMPARE(ben({u"auth"_s, u"signup"_s, u"ben@example.nl"_s}, "ben's secret\n").code, 0);
+        m_studio = ann({u"projects"_s, u"add"_s, u"Studio"_s, u"--json"_s}).id();
+        QVERIFY(!m_studio.isEmpty());
     }
 
     void wrongCallsExitWithUsage_data()
     {
         QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("no action") << QStringList{u"projects"_s};
-        QTest::newRow("add without name") << QStringList{u"projects"_s, u"add"_s};
-        QTest::newRow("rename without new name") << QStringList{u"projects"_s, u"rename"_s, u"x"_s};
-        QTest::newRow("archive both ways") << QStringList{u"projects"_s, u"archive"_s, u"x"_s, u"--idle"_s, u"5"_s};
-        QTest::newRow("idle days zero") << QStringList{u"projects"_s, u"archive"_s, u"--idle"_s, u"0"_s};
-        QTest::newRow("unknown sort") << QStringList{u"tasks"_s, u"list"_s, u"--sort"_s, u"random"_s};
-        QTest::newRow("unknown filter") << QStringList{u"tasks"_s, u"list"_s, u"--filter"_s, u"late"_s};
-        QTest::newRow("unknown status") << QStringList{u"tasks"_s, u"status"_s, u"x"_s, u"flying"_s};
-        QTest::newRow("day not ISO") << QStringList{u"tasks"_s, u"add"_s, u"p"_s, u"t"_s, u"--due"_s, u"31-12-2026"_s};
-        QTest::newRow("edit without change") << QStringList{u"tasks"_s, u"edit"_s, u"x"_s};
-        QTest::newRow("invite as owner") << QStringList{u"teams"_s,  u"invite"_s, u"t"_s,
-                                                        u"a@b.nl"_s, u"--role"_s, u"owner"_s};
-        QTest::newRow("unknown action") << QStringList{u"teams"_s, u"leave"_s};
+        const auto row = [](const char *name, const QString &line) { QTest::newRow(name) << line.split(u' '); };
+        row("no action", u"projects"_s);
+        row("add without name", u"projects add"_s);
+        row("rename without new name", u"projects rename x"_s);
+        row("archive both ways", u"projects archive x --idle 5"_s);
+        row("idle days zero", u"projects archive --idle 0"_s);
+        row("unknown sort", u"tasks list --sort random"_s);
+        row("unknown filter", u"tasks list --filter late"_s);
+        row("unknown status", u"tasks status x flying"_s);
+        row("day not ISO", u"tasks add p t --due 31-12-2026"_s);
+        row("edit without change", u"tasks edit x"_s);
+        row("invite as owner", u"teams invite t a@b.nl --role owner"_s);
+        row("unknown teams action", u"teams leave"_s);
+        row("zero minutes", u"log Studio 0"_s);
+        row("negative minutes", u"log Studio -5"_s);
+        row("minutes not a number", u"log Studio half"_s);
+        row("not an amount", u"price set Studio --rate eighty"_s);
+        row("unknown price model", u"price set Studio --model barter"_s);
+        row("unknown auth action", u"auth fly"_s);
     }
 
     void wrongCallsExitWithUsage()
@@ -85,185 +93,337 @@ private slots:
         QFETCH(QStringList, arguments);
         const Run run = ann(arguments);
         QCOMPARE(run.code, 2);
-        QVERIFY(!run.err.isEmpty());
         QVERIFY(run.out.isEmpty());
+        QVERIFY(!run.err.isEmpty());
     }
 
-    void projectLifeCycle()
+    void aSessionLastsAcrossInvocations()
     {
-        const QString id = addProject(u"Harbour app"_s, {u"--description"_s, u"Mobile app for the harbour"_s});
+        const MorvaneCli cleo(m_backend);
+        Run run = cleo({u"projects"_s, u"list"_s});
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.err.startsWith(u"Not signed in."_s), qPrintable(run.err));
+
+        run = cleo({u"auth"_s, u"signup"_s, u"cli@example.nl"_s, u"--name"_s, u"Cleo"_s}, "terminal secret\n");
+        QCOMPARE(run.out, u"Signed in as cli@example.nl.\n"_s);
+        QCOMPARE(sql("SELECT display_name FROM profiles WHERE email = 'cli@example.nl'"), "Cleo");
+        const QJsonObject status = cleo({u"auth"_s, u"status"_s, u"--json"_s}).object();
+        QCOMPARE(status.value(u"signed_in"_s).toBool(), true);
+        QCOMPARE(status.value(u"email"_s).toString(), u"cli@example.nl"_s);
+        // The secrets file is the user's alone.
+        const QString secrets = cleo.homeFile(u"config/morvane/secrets.json"_s);
+        QVERIFY(QFile::exists(secrets));
+        QCOMPARE(QFile::permissions(secrets) &
+                     (QFile::ReadOther | QFile::ReadGroup | QFile::WriteOther | QFile::WriteGroup),
+                 QFile::Permissions());
+
+        run = cleo({u"auth"_s, u"signin"_s, u"cli@example.nl"_s}, "not it\n");
+        QCOMPARE(run.code, 1);
+        QCOMPARE(run.err, u"The e-mail address or the password is not right.\n"_s);
+        QCOMPARE(cleo({u"auth"_s, u"signup"_s, u"second@example.nl"_s}, "second secret\n").code, 0);
+        const QJsonArray accounts = cleo({u"auth"_s, u"accounts"_s, u"--json"_s}).json().array();
+        QCOMPARE(jsonColumn(accounts, u"email"_s), (QStringList{u"second@example.nl"_s, u"cli@example.nl"_s}));
+        QVERIFY(accounts.first()[u"current"_s].toBool());
+        QCOMPARE(cleo({u"auth"_s, u"switch"_s, u"CLI@example.nl"_s}).out, u"Signed in as cli@example.nl.\n"_s);
+        QCOMPARE(cleo({u"auth"_s, u"switch"_s, u"stranger@example.nl"_s}).code, 1);
+        QCOMPARE(cleo({u"auth"_s, u"accounts"_s}).out, u"* cli@example.nl\n  second@example.nl\n"_s);
+
+        QCOMPARE(cleo({u"auth"_s, u"signout"_s}).out, u"Signed out.\n"_s);
+        run = cleo({u"auth"_s, u"status"_s});
+        QCOMPARE(run.code, 1);
+        QCOMPARE(run.out, u"Not signed in.\n"_s);
+    }
+
+    void projectsAreFoundByIdPrefixOrName()
+    {
+        const QString id = ann({u"projects"_s, u"add"_s, u"Harbour app"_s, u"--json"_s}).id();
         QVERIFY(!id.isEmpty());
-        m_backend.database().exec("UPDATE projects SET hourly_rate = 95 WHERE id = $1", {id.toUtf8()});
-
-        // A rename must not clear what the project form owns.
         Run run = ann({u"projects"_s, u"rename"_s, id.left(8), u"Harbour portal"_s});
-        QCOMPARE(run.code, 0);
         QCOMPARE(run.out, u"Renamed Harbour app to Harbour portal.\n"_s);
-        QCOMPARE(sql("SELECT name || '|' || description || '|' || hourly_rate FROM projects WHERE id = '" +
-                     id.toUtf8() + "'"),
-                 "Harbour portal|Mobile app for the harbour|95");
-
         QCOMPARE(ann({u"projects"_s, u"archive"_s, u"harbour PORTAL"_s}).code, 0);
-        QCOMPARE(sql("SELECT status || '|' || hourly_rate FROM projects WHERE id = '" + id.toUtf8() + "'"),
-                 "archived|95");
-
-        run = ann({u"projects"_s, u"list"_s, u"--json"_s});
-        QCOMPARE(run.code, 0);
-        const QJsonArray rows = run.json().array();
+        const QJsonArray rows = ann({u"projects"_s, u"list"_s, u"--json"_s}).json().array();
         const auto listed = std::find_if(rows.begin(), rows.end(),
                                          [&](const QJsonValue &row) { return row[u"id"_s].toString() == id; });
         QVERIFY(listed != rows.end());
+        QCOMPARE((*listed)[u"name"_s].toString(), u"Harbour portal"_s);
         QCOMPARE((*listed)[u"status"_s].toString(), u"archived"_s);
 
-        QCOMPARE(ann({u"projects"_s, u"rm"_s, id}).code, 0);
-        QCOMPARE(sql("SELECT count(*) FROM projects WHERE id = '" + id.toUtf8() + "'"), "0");
-    }
-
-    void referencesAreResolvedOrRefused()
-    {
-        const QString first = addProject(u"Shop"_s);
-        const QString second = addProject(u"shop"_s);
-        QVERIFY(!first.isEmpty() && !second.isEmpty());
-
-        Run run = ann({u"tasks"_s, u"add"_s, u"SHOP"_s, u"Checkout"_s});
+        const QString twin = ann({u"projects"_s, u"add"_s, u"harbour Portal"_s, u"--json"_s}).id();
+        run = ann({u"tasks"_s, u"add"_s, u"HARBOUR PORTAL"_s, u"Checkout"_s});
         QCOMPARE(run.code, 1);
-        QVERIFY2(run.err.contains(u"matches several"_s), qPrintable(run.err));
-        QVERIFY(run.err.contains(first.left(8)) && run.err.contains(second.left(8)));
-
-        run = ann({u"tasks"_s, u"add"_s, u"Shopping"_s, u"Checkout"_s});
+        QVERIFY2(run.err.contains(u"matches several"_s) && run.err.contains(id.left(8)) &&
+                     run.err.contains(twin.left(8)),
+                 qPrintable(run.err));
+        run = ann({u"tasks"_s, u"add"_s, u"Harbours"_s, u"Checkout"_s});
         QCOMPARE(run.code, 1);
-        QCOMPARE(run.err, u"No project matches \"Shopping\".\n"_s);
-
+        QCOMPARE(run.err, u"No project matches \"Harbours\".\n"_s);
         // Too short a start of an id would match by accident.
-        run = ann({u"projects"_s, u"rm"_s, first.left(3)});
-        QCOMPARE(run.code, 1);
+        QCOMPARE(ann({u"projects"_s, u"rm"_s, id.left(3)}).code, 1);
 
-        QVERIFY(!addTask(second.left(6), u"Checkout"_s).isEmpty());
-        QCOMPARE(sql("SELECT count(*) FROM tasks WHERE project_id = '" + second.toUtf8() + "'"), "1");
-        QCOMPARE(ann({u"projects"_s, u"rm"_s, first}).code, 0);
-        QCOMPARE(ann({u"projects"_s, u"rm"_s, second}).code, 0);
+        QCOMPARE(ann({u"projects"_s, u"rm"_s, id}).code, 0);
+        QCOMPARE(ann({u"projects"_s, u"rm"_s, twin}).code, 0);
+        QCOMPARE(sql("SELECT count(*) FROM projects WHERE name ILIKE 'harbour%'"), "0");
     }
 
-    void listsFollowFilterAndSort_data()
+    void tasksAreEditedMovedAndListed()
     {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QStringList>("expected");
-        // Created in this order: "Task 10", "task 2", "Alpha" (completed), "Beta".
-        QTest::newRow("alpha: numbers by value, completed last")
-            << QStringList{u"--sort"_s, u"alpha"_s} << QStringList{u"Beta"_s, u"task 2"_s, u"Task 10"_s, u"Alpha"_s};
-        QTest::newRow("newest first") << QStringList{u"--sort"_s, u"createdDesc"_s}
-                                      << QStringList{u"Beta"_s, u"task 2"_s, u"Task 10"_s, u"Alpha"_s};
-        QTest::newRow("due first, undated last")
-            << QStringList{u"--sort"_s, u"dueAsc"_s} << QStringList{u"task 2"_s, u"Task 10"_s, u"Beta"_s, u"Alpha"_s};
-        QTest::newRow("done only") << QStringList{u"--filter"_s, u"done"_s} << QStringList{u"Alpha"_s};
-        QTest::newRow("active only") << QStringList{u"--filter"_s, u"active"_s, u"--sort"_s, u"alpha"_s}
-                                     << QStringList{u"Beta"_s, u"task 2"_s, u"Task 10"_s};
-    }
-
-    void listsFollowFilterAndSort()
-    {
-        QFETCH(QStringList, options);
-        QFETCH(QStringList, expected);
-        static QString project;
-        if (project.isEmpty()) {
-            project = addProject(u"Ordering"_s);
-            QVERIFY(!addTask(project, u"Task 10"_s, {u"--due"_s, u"2026-12-20"_s}).isEmpty());
-            QTest::qWait(5);
-            QVERIFY(!addTask(project, u"task 2"_s, {u"--due"_s, u"2026-12-03"_s}).isEmpty());
-            QTest::qWait(5);
-            QVERIFY(!addTask(project, u"Alpha"_s).isEmpty());
-            QTest::qWait(5);
-            QVERIFY(!addTask(project, u"Beta"_s).isEmpty());
-            QCOMPARE(ann({u"tasks"_s, u"status"_s, u"Alpha"_s, u"completed"_s}).code, 0);
-        }
-        const Run run = ann(QStringList{u"tasks"_s, u"list"_s, project, u"--json"_s} + options);
-        QCOMPARE(run.code, 0);
-        QCOMPARE(titles(run), expected);
-    }
-
-    void editKeepsWhatItDoesNotChange()
-    {
-        const QString project = addProject(u"Editing"_s);
+        const QString project = ann({u"projects"_s, u"add"_s, u"Editing"_s, u"--json"_s}).id();
         const QString task =
             addTask(project, u"Draft contract"_s, {u"--description"_s, u"Two pages"_s, u"--due"_s, u"2026-12-01"_s});
         QVERIFY(!task.isEmpty());
-        const QByteArray row =
-            "SELECT title || '|' || coalesce(description, '-') || '|' || coalesce(due_date::text, '-') "
-            "FROM tasks WHERE id = '" +
-            task.toUtf8() + "'";
-
-        QCOMPARE(ann({u"tasks"_s, u"edit"_s, task, u"--due"_s, u""_s}).code, 0);
-        QCOMPARE(sql(row), "Draft contract|Two pages|-");
-        QCOMPARE(ann({u"tasks"_s, u"edit"_s, u"draft CONTRACT"_s, u"--title"_s, u"Final contract"_s}).code, 0);
-        QCOMPARE(sql(row), "Final contract|Two pages|-");
+        const QByteArray row = "SELECT title || '|' || coalesce(description, '-') || '|' || coalesce(due_date::text, "
+                               "'-') FROM tasks WHERE id = $1";
+        // An option left out keeps its field; an empty one clears it.
+        QCOMPARE(ann({u"tasks"_s, u"edit"_s, u"draft CONTRACT"_s, u"--title"_s, u"Final"_s, u"--due"_s, u""_s}).code,
+                 0);
+        QCOMPARE(sql(row, task), "Final|Two pages|-");
         QCOMPARE(ann({u"tasks"_s, u"edit"_s, task, u"--description"_s, u""_s, u"--due"_s, u"2027-01-15"_s}).code, 0);
-        QVERIFY(sql(row).startsWith("Final contract|-|2027-01-15"));
+        QCOMPARE(sql(row, task), "Final|-|2027-01-15");
 
-        const QString other = addProject(u"Legal"_s);
-        const Run run = ann({u"tasks"_s, u"move"_s, task, u"Legal"_s});
-        QCOMPARE(run.code, 0);
-        QCOMPARE(run.out, u"Moved Final contract to Legal.\n"_s);
-        QCOMPARE(sql("SELECT project_id FROM tasks WHERE id = '" + task.toUtf8() + "'"), other.toUtf8());
-
+        const QString legal = ann({u"projects"_s, u"add"_s, u"Legal"_s, u"--json"_s}).id();
+        QCOMPARE(ann({u"tasks"_s, u"move"_s, task, u"Legal"_s}).out, u"Moved Final to Legal.\n"_s);
+        QCOMPARE(sql("SELECT project_id FROM tasks WHERE id = $1", task), legal.toUtf8());
         QCOMPARE(ann({u"tasks"_s, u"rm"_s, task}).code, 0);
-        QCOMPARE(sql("SELECT count(*) FROM tasks WHERE id = '" + task.toUtf8() + "'"), "0");
         QCOMPARE(ann({u"tasks"_s, u"rm"_s, task}).code, 1);
+
+        // Each sort and filter option reaches the list.
+        QVERIFY(!addTask(project, u"Task 10"_s, {u"--due"_s, u"2026-12-20"_s}).isEmpty());
+        QTest::qWait(5);
+        QVERIFY(!addTask(project, u"task 2"_s, {u"--due"_s, u"2026-12-03"_s}).isEmpty());
+        QTest::qWait(5);
+        QVERIFY(!addTask(project, u"Alpha"_s).isEmpty());
+        QTest::qWait(5);
+        QVERIFY(!addTask(project, u"Beta"_s).isEmpty());
+        QCOMPARE(ann({u"tasks"_s, u"status"_s, u"Alpha"_s, u"completed"_s}).code, 0);
+        const std::pair<QString, QStringList> lists[] = {
+            {u"--sort alpha"_s, {u"Beta"_s, u"task 2"_s, u"Task 10"_s, u"Alpha"_s}},
+            {u"--sort createdDesc"_s, {u"Beta"_s, u"task 2"_s, u"Task 10"_s, u"Alpha"_s}},
+            {u"--sort dueAsc"_s, {u"task 2"_s, u"Task 10"_s, u"Beta"_s, u"Alpha"_s}},
+            {u"--filter done"_s, {u"Alpha"_s}},
+            {u"--filter active --sort alpha"_s, {u"Beta"_s, u"task 2"_s, u"Task 10"_s}},
+        };
+        for (const auto &[options, titles] : lists) {
+            const Run run = ann(QStringList{u"tasks"_s, u"list"_s, project, u"--json"_s} + options.split(u' '));
+            QCOMPARE(run.code, 0);
+            QCOMPARE(jsonColumn(run.json().array(), u"title"_s), titles);
+        }
     }
 
     void teamsAcrossPeople()
     {
-        const QString project = addProject(u"Shared site"_s);
-        Run run = ann({u"teams"_s, u"create"_s, u"Studio North"_s, u"--json"_s});
-        QCOMPARE(run.code, 0);
-        const QString team = run.json().object().value(u"id"_s).toString();
-
-        run = ann({u"teams"_s, u"invite"_s, u"studio north"_s, u"nobody@example.nl"_s});
+        const QString project = ann({u"projects"_s, u"add"_s, u"Shared site"_s, u"--json"_s}).id();
+        const QString team = ann({u"teams"_s, u"create"_s, u"Studio North"_s, u"--json"_s}).id();
+        QVERIFY(!team.isEmpty());
+        Run run = ann({u"teams"_s, u"invite"_s, u"studio north"_s, u"nobody@example.nl"_s});
         QCOMPARE(run.code, 1);
         QCOMPARE(run.err, u"No Morvane account uses that email yet. Ask them to sign up first.\n"_s);
-
         run = ann({u"teams"_s, u"invite"_s, team, u"ben@example.nl"_s, u"--role"_s, u"viewer"_s});
-        QCOMPARE(run.code, 0);
         QCOMPARE(run.out, u"ben@example.nl is invited to this team.\n"_s);
         QCOMPARE(ann({u"teams"_s, u"assign"_s, u"Shared site"_s, u"Studio North"_s}).code, 0);
 
-        // Ben sees the invitation, and the team only once he accepts it.
         run = ben({u"teams"_s, u"invitations"_s});
-        QCOMPARE(run.code, 0);
         QVERIFY2(run.out.startsWith(u"Studio North ("_s + team.left(8) + u"): as viewer, from "_s),
                  qPrintable(run.out));
-        QVERIFY(ben({u"projects"_s, u"list"_s, u"--json"_s}).json().array().isEmpty());
         QCOMPARE(ben({u"teams"_s, u"accept"_s, u"nowhere"_s}).code, 1);
-        run = ben({u"teams"_s, u"accept"_s, u"studio north"_s});
-        QCOMPARE(run.code, 0);
-        QCOMPARE(run.out, u"You are now in team Studio North, as viewer.\n"_s);
-
-        run = ann({u"teams"_s, u"list"_s, u"--json"_s});
-        const QJsonObject listed = run.json().array().first().toObject();
+        QCOMPARE(ben({u"teams"_s, u"accept"_s, u"studio north"_s}).out,
+                 u"You are now in team Studio North, as viewer.\n"_s);
+        const QJsonObject listed = ann({u"teams"_s, u"list"_s, u"--json"_s}).json().array().first().toObject();
         QCOMPARE(listed[u"my_role"_s].toString(), u"owner"_s);
-        QStringList members;
-        for (const QJsonValue &member : listed[u"members"_s].toArray()) {
-            members << member[u"email"_s].toString() + u':' + member[u"role"_s].toString();
-        }
-        QCOMPARE(members, (QStringList{u"ann@example.nl:owner"_s, u"ben@example.nl:viewer"_s}));
+        QCOMPARE(jsonColumn(listed[u"members"_s].toArray(), u"email"_s),
+                 (QStringList{u"ann@example.nl"_s, u"ben@example.nl"_s}));
+        QCOMPARE(jsonColumn(listed[u"members"_s].toArray(), u"role"_s), (QStringList{u"owner"_s, u"viewer"_s}));
 
-        // The viewer sees the project and its tasks but may change nothing.
         QVERIFY(!addTask(project, u"Homepage"_s).isEmpty());
-        run = ben({u"tasks"_s, u"list"_s, u"Shared site"_s, u"--json"_s});
-        QCOMPARE(run.code, 0);
-        QCOMPARE(titles(run), QStringList{u"Homepage"_s});
-        run = ben({u"projects"_s, u"rename"_s, u"Shared site"_s, u"Mine now"_s});
-        QCOMPARE(run.code, 1);
-        QVERIFY(!run.err.isEmpty());
-        QCOMPARE(sql("SELECT name FROM projects WHERE id = '" + project.toUtf8() + "'"), "Shared site");
+        QCOMPARE(jsonColumn(ben({u"tasks"_s, u"list"_s, u"Shared site"_s, u"--json"_s}).json().array(), u"title"_s),
+                 QStringList{u"Homepage"_s});
+        // The store's refusal reaches the viewer as a failure with its words.
         run = ben({u"teams"_s, u"invite"_s, u"Studio North"_s, u"ann@example.nl"_s});
         QCOMPARE(run.code, 1);
         QCOMPARE(run.err, u"Only the team owner and editors can invite people.\n"_s);
-
-        // Out of the team, the project is the owner's alone again.
         QCOMPARE(ann({u"teams"_s, u"assign"_s, project, u"none"_s}).code, 0);
-        run = ben({u"projects"_s, u"list"_s, u"--json"_s});
+        QVERIFY(ben({u"projects"_s, u"list"_s, u"--json"_s}).json().array().isEmpty());
+    }
+
+    void timerRunsAndStops()
+    {
+        const QString task = addTask(m_studio, u"Sketches"_s);
+        QCOMPARE(ann({u"timer"_s, u"status"_s}).out, u"No timer runs.\n"_s);
+        QCOMPARE(ann({u"timer"_s, u"stop"_s}).out, u"No timer runs.\n"_s);
+        QCOMPARE(ann({u"timer"_s, u"start"_s, u"sketches"_s}).out, u"Timer started on Sketches.\n"_s);
+        const QJsonObject status = ann({u"timer"_s, u"status"_s, u"--json"_s}).object();
+        QCOMPARE(status[u"running"_s].toBool(), true);
+        QCOMPARE(status[u"task_id"_s].toString(), task);
+        QVERIFY(ann({u"timer"_s, u"status"_s}).out.startsWith(u"Sketches (Studio): 0:0"_s));
+
+        const Run run = ann({u"timer"_s, u"stop"_s, u"--json"_s});
         QCOMPARE(run.code, 0);
-        QVERIFY(run.json().array().isEmpty());
+        QCOMPARE(sql("SELECT count(*) || '|' || sum(duration_seconds) FROM time_entries WHERE task_id = $1", task),
+                 "1|" + QByteArray::number(run.object()[u"logged_seconds"_s].toInteger()));
+    }
+
+    void logReadsMinutesAsTyped_data()
+    {
+        QTest::addColumn<QString>("minutes");
+        QTest::addColumn<QByteArray>("seconds");
+        QTest::newRow("fraction with a point") << u"1.5"_s << QByteArray("90");
+        QTest::newRow("fraction with a comma") << u"2,25"_s << QByteArray("135");
+        QTest::newRow("whole minutes") << u"120"_s << QByteArray("7200");
+    }
+
+    void logReadsMinutesAsTyped()
+    {
+        QFETCH(QString, minutes);
+        QFETCH(QByteArray, seconds);
+        const QString task = addTask(m_studio, u"Log "_s + QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(ann({u"log"_s, task, minutes}).code, 0);
+        QCOMPARE(sql("SELECT sum(duration_seconds) FROM time_entries WHERE task_id = $1", task), seconds);
+    }
+
+    void entriesAreEditedAndRemoved()
+    {
+        const QString task = addTask(m_studio, u"Calls"_s);
+        QCOMPARE(ann({u"log"_s, task, u"30"_s}).code, 0);
+        QCOMPARE(ann({u"log"_s, task, u"15"_s}).code, 0);
+        const QJsonArray entries = ann({u"entries"_s, u"--task"_s, u"Calls"_s, u"--json"_s}).json().array();
+        QCOMPARE(entries.size(), 2);
+        // Both may end in the same second, so the order says nothing here.
+        const QString shortOne =
+            entries[entries[0][u"duration_seconds"_s].toInteger() == 900 ? 0 : 1][u"id"_s].toString();
+        QCOMPARE(sql("SELECT duration_seconds FROM time_entries WHERE id = $1", shortOne), "900");
+
+        QCOMPARE(ann({u"entries"_s, u"edit"_s, shortOne.left(8), u"--minutes"_s, u"20"_s}).code, 0);
+        QCOMPARE(sql("SELECT duration_seconds || '|' || extract(epoch FROM ended_at - started_at)::int FROM "
+                     "time_entries WHERE id = $1",
+                     shortOne),
+                 "1200|1200");
+        const Run reversed = ann({u"entries"_s, u"edit"_s, shortOne, u"--start"_s, u"2026-01-05T10:00:00Z"_s,
+                                  u"--end"_s, u"2026-01-05T09:00:00Z"_s});
+        QCOMPARE(reversed.code, 2);
+        QCOMPARE(reversed.err, u"An entry must end after it starts.\n"_s);
+        QCOMPARE(ann({u"entries"_s, u"rm"_s, shortOne}).code, 0);
+        const Run again = ann({u"entries"_s, u"rm"_s, shortOne});
+        QCOMPARE(again.code, 1);
+        QVERIFY(again.err.startsWith(u"No single time entry matches"_s));
+    }
+
+    void priceSetWritesWhatTheFormWrites()
+    {
+        const QString project = ann({u"projects"_s, u"add"_s, u"Pricing"_s, u"--json"_s}).id();
+        const QString task = addTask(project, u"Pricing work"_s);
+        QVERIFY(!task.isEmpty());
+        const QByteArray hourly = R"({"model": "hourly", "vat_rate": 0.21, "unit_price": 85}|85|-)";
+        const struct
+        {
+            QStringList arguments;
+            QByteArray project;
+            QByteArray task;
+        } steps[] = {
+            {{u"Pricing"_s, u"--rate"_s, u"85"_s, u"--vat"_s, u"21"_s}, hourly, "-|-|-"},
+            {{u"--task"_s, u"Pricing work"_s, u"--model"_s, u"fixed"_s, u"--amount"_s, u"1.250,50"_s},
+             hourly,
+             R"({"model": "fixed", "amount": 1250.5, "vat_rate": 0.21, "unit_price": 85}|-|-)"},
+            {{u"--task"_s, u"Pricing work"_s, u"--inherit"_s}, hourly, "-|-|-"},
+            {{u"Pricing"_s, u"--model"_s, u"per_unit"_s, u"--unit-label"_s, u"visit"_s, u"--rate"_s, u"40"_s,
+              u"--quantity"_s, u"3"_s},
+             R"({"model": "per_unit", "vat_rate": 0.21, "unit_label": "visit", "unit_price": 40, "unit_quantity": 3}|-|-)",
+             "-|-|-"},
+        };
+        const QByteArray columns = "SELECT coalesce(billing::text, '-') || '|' || coalesce(hourly_rate::text, '-') || "
+                                   "'|' || coalesce(total_price::text, '-') FROM ";
+        for (const auto &step : steps) {
+            QCOMPARE(ann(QStringList{u"price"_s, u"set"_s} + step.arguments).code, 0);
+            QCOMPARE(sql(columns + "projects WHERE id = $1", project), step.project);
+            QCOMPARE(sql(columns + "tasks WHERE id = $1", task), step.task);
+        }
+
+        // What the time is worth at the project's rate, which an unchanged save leaves alone.
+        QCOMPARE(ann({u"price"_s, u"set"_s, u"Studio"_s, u"--rate"_s, u"80"_s}).code, 0);
+        QVERIFY(ann({u"price"_s, u"set"_s, u"Studio"_s, u"--rate"_s, u"80"_s}).out.startsWith(u"Nothing changed.\n"_s));
+        const QString worth = addTask(m_studio, u"Worth"_s);
+        QCOMPARE(ann({u"log"_s, worth, u"90"_s}).code, 0);
+        const QJsonObject price = ann({u"price"_s, u"show"_s, u"--task"_s, worth, u"--json"_s}).object();
+        QCOMPARE(price[u"inherited"_s].toBool(), true);
+        QCOMPARE(price[u"tracked_seconds"_s].toInteger(), 5400);
+        QCOMPARE(price[u"amount"_s].toDouble(), 120.0);
+    }
+
+    void sessionsScanLogsEachBurstOnce()
+    {
+        const MorvaneCli ana(m_backend);
+        copyLog(ana, u"-home-ana-code-webshop"_s, checkout);
+        copyLog(ana, u"-home-ana-code-webshop"_s, quiet);
+        QCOMPARE(ana({u"sessions"_s, u"map"_s, webshop, u"00000000-0000-4000-8000-000000000001"_s}).code, 0);
+        Run run = ana({u"sessions"_s, u"scan"_s});
+        QCOMPARE(run.code, 1);
+        QCOMPARE(run.err, u"Not signed in. Sign in with: morvane auth signin <e-mail>\n"_s);
+
+        QCOMPARE(ana({u"auth"_s, u"signup"_s, u"ana@example.nl"_s}, "ana's secret\n").code, 0);
+        const QString project = ana({u"projects"_s, u"add"_s, u"Webshop"_s, u"--json"_s}).id();
+        QCOMPARE(ana({u"sessions"_s, u"map"_s, webshop, project}).code, 0);
+        // The time of each task logged, by title.
+        const auto totals = [&] {
+            return sql("SELECT string_agg(time_spent_seconds::text, ',' ORDER BY title, created_at) FROM tasks "
+                       "WHERE project_id = $1",
+                       project);
+        };
+        run = ana({u"sessions"_s, u"scan"_s});
+        QVERIFY2(run.code == 0, qPrintable(run.err));
+        // 1497 + 60 + 390 seconds: two bursts of the checkout session, the quiet session whole.
+        QCOMPARE(run.out, u"Sessions seen: 2 · work bursts logged: 3 · time logged: 0:32:27 (32.45 minutes) · "
+                          u"failed: 0\n"_s);
+        QCOMPARE(totals(), "390,60,1497");
+        const QJsonObject figures = ana({u"sessions"_s, u"scan"_s, u"--json"_s}).object();
+        QCOMPARE(figures[u"foundSessions"_s].toInt(), 2);
+        QCOMPARE(figures[u"loggedSessions"_s].toInt(), 0);
+        QCOMPARE(totals(), "390,60,1497");
+
+        copyLog(ana, u"-home-ana-code-invoicer"_s, u"7e57a11e-0000-4000-8000-000000000006"_s);
+        run = ana({u"sessions"_s, u"scan"_s});
+        QVERIFY2(run.out.contains(u"\nNot mapped to a project: /home/ana/code/invoicer · sessions: 1 · active "_s),
+                 qPrintable(run.out));
+        QCOMPARE(ana({u"sessions"_s, u"reimport"_s, quiet}).out,
+                 u"Session "_s + quiet + u" logged again: 1 of 1 work bursts.\n"_s);
+        QCOMPARE(totals(), "390,390,60,1497");
+
+        QCOMPARE(ana({u"sessions"_s, u"map"_s, u"/home/ana/code/invoicer"_s, u"00000000-0000-4000-8000-00000000dead"_s})
+                     .code,
+                 0);
+        run = ana({u"sessions"_s, u"scan"_s});
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.out.startsWith(u"Sessions seen: 3 · work bursts logged: 0 · "_s) &&
+                     run.out.contains(u"failed: 1\n"_s),
+                 qPrintable(run.out));
+        // The store's own words reach the user.
+        QVERIFY2(run.err.endsWith(u"\nCreate task failed: The task was not created: you may not add tasks to this "
+                                  u"project.\n"_s),
+                 qPrintable(run.err));
+    }
+
+    // With no backend configured the program starts the user's own, as every logging command does.
+    void sessionsScanStartsTheLocalBackend()
+    {
+        const MorvaneCli bo(m_backend);
+        copyLog(bo, u"-home-ana-code-webshop"_s, checkout);
+        const ScratchServerDir scratch(u"data/morvane/server"_s);
+        QProcessEnvironment environment = bo.environment();
+        environment.remove(u"SUPABASE_URL"_s);
+        environment.remove(u"SUPABASE_ANON_KEY"_s);
+        environment.insert(u"XDG_DATA_HOME"_s, scratch.base() + u"/data"_s);
+        environment.insert(u"XDG_CONFIG_HOME"_s, scratch.base() + u"/config"_s);
+        environment.insert(u"MORVANE_SERVER_PORT"_s, u"0"_s);
+        const auto morvane = [&](const QStringList &arguments, const QByteArray &input = {}) {
+            return MorvaneCli::finish(*bo.start(arguments, environment), input);
+        };
+
+        QCOMPARE(morvane({u"auth"_s, u"signup"_s, u"bo@example.nl"_s}, "bo's secret\n").code, 0);
+        const QString project = morvane({u"projects"_s, u"add"_s, u"Shop"_s, u"--json"_s}).id();
+        QCOMPARE(morvane({u"sessions"_s, u"map"_s, webshop, project}).code, 0);
+        // As after a restart of the machine: no server runs until a command needs one.
+        QCOMPARE(morvane({u"server"_s, u"stop"_s}).code, 0);
+        QVERIFY(serversOn(scratch.path()).isEmpty());
+        const Run run = morvane({u"sessions"_s, u"scan"_s});
+        QVERIFY2(run.out.contains(u" · work bursts logged: 2 · "_s), qPrintable(run.out + run.err));
+        QCOMPARE(serversOn(scratch.path()).size(), 1);
     }
 };
 

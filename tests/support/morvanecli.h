@@ -3,6 +3,7 @@
 #include "support/testbackend.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -21,12 +22,17 @@ public:
         QString err;
 
         [[nodiscard]] QJsonDocument json() const { return QJsonDocument::fromJson(out.toUtf8()); }
+        [[nodiscard]] QJsonObject object() const { return json().object(); }
+        // The id of what a `... add --json` made, empty when it failed.
+        [[nodiscard]] QString id() const
+        {
+            return code == 0 ? object().value(QStringLiteral("id")).toString() : QString();
+        }
     };
 
     explicit MorvaneCli(const TestBackend &backend)
         : m_backend(backend)
-    {
-    }
+    {}
 
     [[nodiscard]] QString home() const { return m_home.path(); }
     [[nodiscard]] QString homeFile(const QString &relative) const { return m_home.filePath(relative); }
