@@ -62,74 +62,62 @@ class TestRecords : public QObject
 private slots:
     void fixturesRoundTrip_data()
     {
+        using Check = std::function<void(const QByteArray &)>;
         QTest::addColumn<QString>("file");
-        QTest::addColumn<std::function<void(const QByteArray &)>>("check");
-        QTest::newRow("profiles") << QStringLiteral("records/profiles.json")
-                                  << std::function<void(const QByteArray &)>(checkRoundTrip<Profile>);
-        QTest::newRow("projects with every billing model")
-            << QStringLiteral("records/projects.json")
-            << std::function<void(const QByteArray &)>(checkRoundTrip<Project>);
-        QTest::newRow("tasks with side data") << QStringLiteral("records/tasks.json")
-                                              << std::function<void(const QByteArray &)>(checkRoundTrip<TaskItem>);
-        QTest::newRow("time entries") << QStringLiteral("records/time_entries.json")
-                                      << std::function<void(const QByteArray &)>(checkRoundTrip<TimeEntry>);
-        QTest::newRow("clients") << QStringLiteral("records/clients.json")
-                                 << std::function<void(const QByteArray &)>(checkRoundTrip<Client>);
-        QTest::newRow("teams") << QStringLiteral("records/teams.json")
-                               << std::function<void(const QByteArray &)>(checkRoundTrip<Team>);
-        QTest::newRow("team members") << QStringLiteral("records/team_members.json")
-                                      << std::function<void(const QByteArray &)>(checkRoundTrip<TeamMember>);
-        QTest::newRow("invoices, live and void") << QStringLiteral("records/invoices.json")
-                                                 << std::function<void(const QByteArray &)>(checkRoundTrip<Invoice>);
+        QTest::addColumn<Check>("check");
+        QTest::newRow("profiles") << u"profiles"_s << Check(checkRoundTrip<Profile>);
+        QTest::newRow("projects with every billing model") << u"projects"_s << Check(checkRoundTrip<Project>);
+        QTest::newRow("tasks with side data") << u"tasks"_s << Check(checkRoundTrip<TaskItem>);
+        QTest::newRow("time entries") << u"time_entries"_s << Check(checkRoundTrip<TimeEntry>);
+        QTest::newRow("clients") << u"clients"_s << Check(checkRoundTrip<Client>);
+        QTest::newRow("teams") << u"teams"_s << Check(checkRoundTrip<Team>);
+        QTest::newRow("team members") << u"team_members"_s << Check(checkRoundTrip<TeamMember>);
+        QTest::newRow("invoices, live and void") << u"invoices"_s << Check(checkRoundTrip<Invoice>);
         QTest::newRow("invoice lines of a task, a pool and a discount")
-            << QStringLiteral("records/invoice_lines.json")
-            << std::function<void(const QByteArray &)>(checkRoundTrip<InvoiceLine>);
+            << u"invoice_lines"_s << Check(checkRoundTrip<InvoiceLine>);
         QTest::newRow("invoice templates with and without a style")
-            << QStringLiteral("records/invoice_templates.json")
-            << std::function<void(const QByteArray &)>(checkRoundTrip<InvoiceTemplate>);
+            << u"invoice_templates"_s << Check(checkRoundTrip<InvoiceTemplate>);
         QTest::newRow("billed entries with embedded invoice and task")
-            << QStringLiteral("records/billed_entries.json")
-            << std::function<void(const QByteArray &)>(checkRoundTrip<BilledEntryRow>);
-        QTest::newRow("billed lines") << QStringLiteral("records/billed_lines.json")
-                                      << std::function<void(const QByteArray &)>(checkRoundTrip<BilledLineRow>);
+            << u"billed_entries"_s << Check(checkRoundTrip<BilledEntryRow>);
+        QTest::newRow("billed lines") << u"billed_lines"_s << Check(checkRoundTrip<BilledLineRow>);
     }
 
     void fixturesRoundTrip()
     {
         QFETCH(QString, file);
         QFETCH(std::function<void(const QByteArray &)>, check);
-        check(readTestData(file));
+        check(readTestData(u"records/"_s + file + u".json"_s));
     }
 
+    // A key read into the wrong field still round-trips, so a few values are looked at where they land.
     void fixtureValuesLandInTheRightFields()
     {
         const QList<TaskItem> tasks = decodeRows<TaskItem>(readTestData(u"records/tasks.json"_s));
-        const TaskItem &photo = tasks[0];
-        QCOMPARE(photo.status, TaskStatus::InProgress);
-        QCOMPARE(photo.priority, TaskPriority::High);
-        QCOMPARE(photo.timeSpentSeconds, Q_INT64_C(27450));
-        QCOMPARE(photo.startedAt, u"2025-03-01T09:30:00Z"_s);
-        QCOMPARE(photo.attachments->notes->at(1).authorEmail, std::nullopt);
-        QCOMPARE(photo.attachments->subtasks->at(0).done, true);
-        QCOMPARE(photo.attachments->assignees->at(0).email, u"joris@example.nl"_s);
-        QCOMPARE(photo.attachments->position, 2);
-        QCOMPARE(photo.billing->unitPrice, 75.0);
+        QCOMPARE(tasks[0].status, TaskStatus::InProgress);
+        QCOMPARE(tasks[0].priority, TaskPriority::High);
+        QCOMPARE(tasks[0].startedAt, u"2025-03-01T09:30:00Z"_s);
+        QCOMPARE(tasks[0].attachments->assignees->at(0).email, u"joris@example.nl"_s);
+        QCOMPARE(tasks[0].attachments->position, 2);
+        QCOMPARE(tasks[0].billing->unitPrice, 75.0);
         QCOMPARE(tasks[1].attachments->category, TaskCategory::InternalWork);
-        // Totals beyond 32 bits stay exact.
-        QCOMPARE(tasks[2].timeSpentSeconds, Q_INT64_C(9000000000));
+        QCOMPARE(tasks[2].timeSpentSeconds, Q_INT64_C(9000000000)); // beyond 32 bits
 
         const QList<Project> projects = decodeRows<Project>(readTestData(u"records/projects.json"_s));
-        QCOMPARE(projects[0].billing->discountIsPct, true);
         QCOMPARE(projects[0].billing->travel->value(u"mode"_s).toString(), u"per_km"_s);
         QCOMPARE(projects[1].teamId, u"7e7e7e7e-1111-4222-8333-444455556666"_s);
-        QCOMPARE(projects[2].billing->model, BillingModel::Daily);
-        QCOMPARE(projects[3].billing->model, BillingModel::PerUnit);
         QCOMPARE(projects[3].billing->unitLabel, u"poster"_s);
+        QVERIFY(decodeRows<Client>(readTestData(u"records/clients.json"_s))[1].isArchived());
 
-        const QList<Client> clients = decodeRows<Client>(readTestData(u"records/clients.json"_s));
-        QVERIFY(!clients[0].isArchived());
-        QVERIFY(clients[1].isArchived());
-        QCOMPARE(clients[0].lat, 52.0907374);
+        const QList<Invoice> invoices = decodeRows<Invoice>(readTestData(u"records/invoices.json"_s));
+        QCOMPARE(invoices[0].status, InvoiceStatus::Sent);
+        QCOMPARE(invoices[0].dueAt, u"2025-04-14"_s);
+        QVERIFY(!invoices[1].isLive());
+        const QList<InvoiceLine> lines = decodeRows<InvoiceLine>(readTestData(u"records/invoice_lines.json"_s));
+        QCOMPARE(lines[1].poolProjectId, u"5d1f0c2e-7a6b-4c3d-9e8f-0a1b2c3d4e5f"_s);
+        QCOMPARE(lines[2].orderIndex, 2);
+        const auto templates = decodeRows<InvoiceTemplate>(readTestData(u"records/invoice_templates.json"_s));
+        QCOMPARE(templates[0].style.bankName, u"ABN AMRO"_s);
+        QVERIFY(templates[1].style == InvoiceStyle{});
     }
 
     void nullsAndUnknownKeysAreDropped()
@@ -162,34 +150,19 @@ private slots:
         QTest::newRow("status outside its list")
             << taskWith(R"("title":"x","status":"paused")")
             << QByteArray("TaskItem.status: \"paused\" is not one of not_started, in_progress, completed");
-        QTest::newRow("required key holding null") << taskWith(R"("title":null,"status":"completed")")
-                                                   << QByteArray("TaskItem.title: expected a string, found null");
         QTest::newRow("number where text belongs") << taskWith(R"("title":42,"status":"completed")")
                                                    << QByteArray("TaskItem.title: expected a string, found a number");
         QTest::newRow("fractional seconds") << std::function<void()>([] {
             Wire::decodeJson<TimeEntry>(R"({"id":"e","user_id":"u","task_id":"t","project_id":"p",
                        "started_at":"a","ended_at":"b","duration_seconds":12.5})");
         }) << QByteArray("TimeEntry.duration_seconds: expected an integer, found 12.5");
-        QTest::newRow("seconds as text") << std::function<void()>([] {
-            Wire::decodeJson<TimeEntry>(R"({"id":"e","user_id":"u","task_id":"t","project_id":"p",
-                       "started_at":"a","ended_at":"b","duration_seconds":"60"})");
-        }) << QByteArray("TimeEntry.duration_seconds: expected an integer, found a string");
         QTest::newRow("nested note without text")
             << taskWith(R"("title":"x","status":"completed","attachments":{"_notes":[{"id":"n","created_at":"c"}]})")
             << QByteArray("TaskItem.attachments._notes[0].text: required key is missing");
-        QTest::newRow("category outside its list")
-            << taskWith(R"("title":"x","status":"completed","attachments":{"_category":"personal"})")
-            << QByteArray("TaskItem.attachments._category: \"personal\" is not one of billable, internal, admin");
-        QTest::newRow("fractional position")
-            << taskWith(R"("title":"x","status":"completed","attachments":{"_position":2.5})")
-            << QByteArray("TaskItem.attachments._position: expected an integer, found 2.5");
         QTest::newRow("billing model outside its list") << std::function<void()>([] {
             Wire::decodeJson<Project>(
                 R"({"id":"p","user_id":"u","name":"n","status":"active","billing":{"model":"monthly"}})");
         }) << QByteArray("Project.billing.model: \"monthly\" is not one of hourly, fixed, per_unit, daily");
-        QTest::newRow("member role outside its list") << std::function<void()>([] {
-            Wire::decodeJson<TeamMember>(R"({"team_id":"t","user_id":"u","email":"e","role":"admin"})");
-        }) << QByteArray("TeamMember.role: \"admin\" is not one of owner, editor, viewer");
         QTest::newRow("archived as text") << std::function<void()>([] {
             Wire::decodeJson<Client>(R"({"id":"c","user_id":"u","name":"n","archived":"yes"})");
         }) << QByteArray("Client.archived: expected a boolean, found a string");
@@ -199,21 +172,10 @@ private slots:
             Wire::decodeJson<QList<Team>>(
                 R"([{"id":"a","owner_id":"o","name":"A"},{"id":"b","owner_id":"o","name":"B"},{"id":"c","owner_id":"o"}])");
         }) << QByteArray("Team[2].name: required key is missing");
-        QTest::newRow("invoice status outside its list") << std::function<void()>([] {
-            Wire::decodeJson<Invoice>(R"({"id":"i","user_id":"u","number":"1","issued_at":"2025-01-01",
-                       "currency":"EUR","subtotal":0,"vat_amount":0,"total":0,"status":"overdue"})");
-        }) << QByteArray("Invoice.status: \"overdue\" is not one of draft, sent, paid, void");
-        QTest::newRow("invoice without a number") << std::function<void()>([] {
-            Wire::decodeJson<Invoice>(R"({"id":"i","user_id":"u","issued_at":"2025-01-01",
-                       "currency":"EUR","subtotal":0,"vat_amount":0,"total":0,"status":"draft"})");
-        }) << QByteArray("Invoice.number: required key is missing");
         QTest::newRow("money as text on a line") << std::function<void()>([] {
             Wire::decodeJson<InvoiceLine>(R"({"id":"l","invoice_id":"i","title":"t","quantity":1,
                        "unit_price":"85.00","amount":85,"order_index":0})");
         }) << QByteArray("InvoiceLine.unit_price: expected a number, found a string");
-        QTest::newRow("style colour that is not text") << std::function<void()>([] {
-            Wire::decodeJson<InvoiceTemplate>(R"({"id":"t","user_id":"u","name":"n","style":{"accent_hex":255}})");
-        }) << QByteArray("InvoiceTemplate.style.accent_hex: expected a string, found a number");
         QTest::newRow("draft line without an amount") << std::function<void()>([] {
             Wire::decodeJson<InvoiceDraft>(R"({"lines":[{"title":"Design"},{"title":"Build"}]})");
         }) << QByteArray("InvoiceDraft.lines[0].amount: required key is missing");
@@ -239,10 +201,8 @@ private slots:
         categorised.category = TaskCategory::Admin;
         categorised.subtasks = QList<Subtask>{{u"s1"_s, u"Call"_s, false}};
 
-        QTest::newRow("older empty array") << QByteArray("[]") << TaskAttachments{};
         QTest::newRow("older array of anything")
             << QByteArray(R"([1,"two",{"_position":9},null])") << TaskAttachments{};
-        QTest::newRow("empty object") << QByteArray("{}") << TaskAttachments{};
         QTest::newRow("only a position") << QByteArray(R"({"_position":3})") << positioned;
         QTest::newRow("nulls count as absent") << QByteArray(R"({"_position":3,"_notes":null})") << positioned;
         QTest::newRow("category and checklist")
@@ -273,7 +233,6 @@ private slots:
     void enumerationsKeepTheirOrder()
     {
         constexpr auto categories = Wire::allCases<TaskCategory>();
-        QCOMPARE(categories.size(), std::size_t(3));
         QCOMPARE(Wire::enumName(categories[1]), u"internal"_s);
         QCOMPARE(Wire::allCases<ProjectStatus>()[2], ProjectStatus::Completed);
         QCOMPARE(Wire::enumName(BillingModel::PerUnit), u"per_unit"_s);
@@ -307,39 +266,6 @@ private slots:
         QVERIFY(qHash(changed, 0) != qHash(tasks[0], 0));
     }
 
-    void clientInsertLeavesBackendColumnsOut()
-    {
-        ClientInsert insert;
-        insert.userId = u"u1"_s;
-        insert.name = u"Gemeente Houten"_s;
-        insert.lat = 52.03;
-        const QJsonObject encoded = Wire::encode(insert).toObject();
-        QCOMPARE(encoded.keys(), (QStringList{u"lat"_s, u"name"_s, u"user_id"_s}));
-    }
-
-    void invoiceFixtureValuesLandInTheRightFields()
-    {
-        const QList<Invoice> invoices = decodeRows<Invoice>(readTestData(u"records/invoices.json"_s));
-        QCOMPARE(invoices[0].status, InvoiceStatus::Sent);
-        QCOMPARE(invoices[0].vatAmount, 384.41);
-        QCOMPARE(invoices[0].dueAt, u"2025-04-14"_s);
-        QVERIFY(invoices[0].isLive());
-        QVERIFY(!invoices[1].isLive());
-        QCOMPARE(invoices[1].dueAt, std::nullopt);
-
-        const QList<InvoiceLine> lines = decodeRows<InvoiceLine>(readTestData(u"records/invoice_lines.json"_s));
-        QCOMPARE(lines[1].poolProjectId, u"5d1f0c2e-7a6b-4c3d-9e8f-0a1b2c3d4e5f"_s);
-        QCOMPARE(lines[1].taskId, std::nullopt);
-        QCOMPARE(lines[2].amount, -32.0);
-        QCOMPARE(lines[2].orderIndex, 2);
-
-        const auto templates = decodeRows<InvoiceTemplate>(readTestData(u"records/invoice_templates.json"_s));
-        QCOMPARE(templates[0].style.htmlTemplate, u"signatureEditorial"_s);
-        QCOMPARE(templates[0].style.paymentTermsDays, 14);
-        QCOMPARE(templates[0].style.bankName, u"ABN AMRO"_s);
-        QVERIFY(templates[1].style == InvoiceStyle{});
-    }
-
     // Only a void invoice releases what it billed; a status this client does not know still
     // holds its work, so nothing is billed twice because of a newer backend.
     void billedRowsKnowWhetherTheirInvoiceStands()
@@ -348,50 +274,40 @@ private slots:
         QVERIFY(entries[0].invoice->isLive());
         QVERIFY(!entries[1].invoice->isLive());
         QCOMPARE(entries[0].entry->task->billing->value(u"amount"_s).toDouble(), 1200.0);
-        QCOMPARE(entries[1].entry->task->billing, std::nullopt);
         QCOMPARE(entries[2].invoice, std::nullopt);
-
         const auto lines = decodeRows<BilledLineRow>(readTestData(u"records/billed_lines.json"_s));
-        QVERIFY(lines[0].invoice->isLive());
-        QCOMPARE(lines[1].poolProjectId, u"5d1f0c2e-7a6b-4c3d-9e8f-0a1b2c3d4e5f"_s);
         QVERIFY(lines[2].invoice->isLive());
     }
 
-    void invoiceInsertCarriesTheRawStatusAndClient()
+    // Inserts name only the columns they fill; lines go in one bulk insert, where every object must
+    // carry the same keys.
+    void insertsNameTheirColumns()
     {
-        InvoiceInsert insert;
-        insert.userId = u"u1"_s;
-        insert.clientId = u"c1"_s;
-        insert.number = u"2025-0001"_s;
-        insert.issuedAt = u"2025-03-01"_s;
-        insert.currency = u"EUR"_s;
-        insert.status = u"sent"_s;
-        const QJsonObject encoded = Wire::encode(insert).toObject();
+        ClientInsert client;
+        client.userId = u"u1"_s;
+        client.name = u"Gemeente Houten"_s;
+        client.lat = 52.03;
+        QCOMPARE(Wire::encode(client).toObject().keys(), (QStringList{u"lat"_s, u"name"_s, u"user_id"_s}));
+
+        InvoiceInsert invoice;
+        invoice.userId = u"u1"_s;
+        invoice.clientId = u"c1"_s;
+        invoice.number = u"2025-0001"_s;
+        invoice.issuedAt = u"2025-03-01"_s;
+        invoice.currency = u"EUR"_s;
+        invoice.status = u"sent"_s;
+        const QJsonObject encoded = Wire::encode(invoice).toObject();
         QCOMPARE(encoded.value(u"status"_s).toString(), u"sent"_s);
-        QCOMPARE(encoded.value(u"client_id"_s).toString(), u"c1"_s);
-        QVERIFY(!encoded.contains(u"id"_s));
-        QVERIFY(!encoded.contains(u"due_at"_s));
         QCOMPARE(encoded.keys(), (QStringList{u"client_id"_s, u"currency"_s, u"issued_at"_s, u"number"_s, u"status"_s,
                                               u"subtotal"_s, u"total"_s, u"user_id"_s, u"vat_amount"_s}));
+        QCOMPARE(Wire::encode(InvoiceTripInsert{u"i1"_s, u"t1"_s}).toObject(),
+                 (QJsonObject{{u"invoice_id"_s, u"i1"_s}, {u"trip_id"_s, u"t1"_s}}));
 
-        const QJsonObject link = Wire::encode(InvoiceEntryInsert{u"i1"_s, u"e1"_s}).toObject();
-        QCOMPARE(link, (QJsonObject{{u"invoice_id"_s, u"i1"_s}, {u"time_entry_id"_s, u"e1"_s}}));
-        const QJsonObject trip = Wire::encode(InvoiceTripInsert{u"i1"_s, u"t1"_s}).toObject();
-        QCOMPARE(trip, (QJsonObject{{u"invoice_id"_s, u"i1"_s}, {u"trip_id"_s, u"t1"_s}}));
-    }
-
-    // Lines go in one bulk insert, where every object must carry the same keys.
-    void lineInsertsShareTheirKeys()
-    {
         InvoiceLineInsert work;
-        work.invoiceId = u"i1"_s;
         work.taskId = u"t1"_s;
-        work.title = u"Support"_s;
         work.unit = u"h"_s;
         InvoiceLineInsert pool;
-        pool.invoiceId = u"i1"_s;
         pool.poolProjectId = u"p1"_s;
-        pool.title = u"Project price"_s;
         const QJsonObject a = Wire::encode(work).toObject();
         const QJsonObject b = Wire::encode(pool).toObject();
         QCOMPARE(a.keys(), b.keys());
@@ -406,7 +322,6 @@ private slots:
             {"title":"Design","amount":450},
             {"title":"Hosting","amount":20,"hours":2,"rate":10,"unit":"month","included":false}]})");
         QCOMPARE(draft.currency, u"GBP"_s);
-        QCOMPARE(draft.projectName, QString());
         QCOMPARE(draft.lines[0].hours, 0.0);
         QVERIFY(draft.lines[0].included);
         QCOMPARE(draft.lines[1].unit, u"month"_s);
