@@ -35,15 +35,6 @@ void edit(BillingEditor &editor, const QStringList &edits)
     }
 }
 
-QStringList fieldNames(const QVariantList &fields)
-{
-    QStringList names;
-    for (const QVariant &entry : fields) {
-        names << entry.toMap().value(u"name"_s).toString();
-    }
-    return names;
-}
-
 } // namespace
 
 class TestBillingEditor : public QObject
@@ -55,19 +46,6 @@ private slots:
     {
         Language::apply(u"en"_s);
         QLocale::setDefault(QLocale(u"en_US"_s));
-    }
-
-    void offersTheModelsInOrder()
-    {
-        BillingEditor editor;
-        QStringList values;
-        QStringList labels;
-        for (const QVariant &option : editor.modelOptions()) {
-            values << option.toMap().value(u"value"_s).toString();
-            labels << option.toMap().value(u"label"_s).toString();
-        }
-        QCOMPARE(values, (QStringList{u"hourly"_s, u"fixed"_s, u"per_unit"_s, u"daily"_s}));
-        QCOMPARE(labels, (QStringList{u"Per hour"_s, u"Fixed price"_s, u"Per unit"_s, u"Per day"_s}));
     }
 
     void showsTheFieldsOfEachModel_data()
@@ -87,23 +65,21 @@ private slots:
     void showsTheFieldsOfEachModel()
     {
         QFETCH(QString, model);
-        QFETCH(QStringList, labels);
         BillingEditor editor;
         editor.setModelName(u"per_unit"_s); // from another model, so that every row is a switch
         QSignalSpy shown(&editor, &BillingEditor::shownFieldsChanged);
         editor.setModelName(model);
-        QCOMPARE(editor.modelName(), model);
         QCOMPARE(shown.isEmpty(), model == u"per_unit");
-        QTEST(fieldNames(editor.shownFields()), "names");
-        QStringList shownLabels;
+        QStringList names;
+        QStringList labels;
         for (const QVariant &entry : editor.shownFields()) {
-            shownLabels << entry.toMap().value(u"label"_s).toString();
+            names << entry.toMap().value(u"name"_s).toString();
+            labels << entry.toMap().value(u"label"_s).toString();
+            QVERIFY2(editor.property(names.last().toLatin1().constData()).isValid(), qPrintable(names.last()));
         }
-        QCOMPARE(shownLabels, labels);
+        QTEST(names, "names");
+        QTEST(labels, "labels");
         QTEST(editor.showsDayNote(), "dayNote");
-        for (const QString &name : fieldNames(editor.shownFields())) {
-            QVERIFY2(editor.property(name.toLatin1().constData()).isValid(), qPrintable(name));
-        }
     }
 
     void foldsTheExtrasUntilOpened()
@@ -124,17 +100,12 @@ private slots:
     {
         QTest::addColumn<QStringList>("edits");
         QTest::addColumn<bool>("invalid");
-        QTest::newRow("nothing typed") << QStringList{} << false;
-        QTest::newRow("a good rate") << QStringList{u"unitPrice=85"_s} << false;
         QTest::newRow("words around a rate are dropped") << QStringList{u"unitPrice=85 per hour?"_s} << false;
-        QTest::newRow("letters only") << QStringList{u"unitPrice=abc"_s} << true;
-        QTest::newRow("a bad extra in the folded section") << QStringList{u"materials=lots"_s} << true;
         QTest::newRow("one of two corrected")
             << QStringList{u"surcharge=x"_s, u"discount=y"_s, u"surcharge=20"_s} << true;
         QTest::newRow("both corrected") << QStringList{u"surcharge=x"_s, u"discount=y"_s, u"surcharge=20"_s,
                                                        u"discount=5"_s}
                                         << false;
-        QTest::newRow("a percentage with its sign") << QStringList{u"vatPercent=21%"_s} << false;
         QTest::newRow("emptied: no value, not invalid") << QStringList{u"unitPrice=85"_s, u"unitPrice="_s} << false;
         QTest::newRow("bad text in a model left behind is dropped")
             << QStringList{u"unitPrice=abc"_s, u"model=fixed"_s} << false;
@@ -185,16 +156,11 @@ private slots:
         QTest::addColumn<double>("vat");
         QTest::addColumn<QString>("grossText");
         // Every row starts from a project billed hourly at the legacy rate of 60.
-        QTest::newRow("legacy rate") << QStringList{} << qint64(7200) << 120.0 << 0.0 << u"€120.00"_s;
         QTest::newRow("own rate and VAT")
             << QStringList{u"unitPrice=85"_s, u"vatPercent=21"_s} << qint64(7200) << 170.0 << 35.7 << u"€205.70"_s;
         QTest::newRow("fixed with extras") << QStringList{u"model=fixed"_s, u"amount=1.000"_s, u"surcharge=50"_s,
                                                           u"discount=10"_s, u"pct=1"_s,        u"vatPercent=9"_s}
                                            << qint64(0) << 945.0 << 85.05 << u"€1,030.05"_s;
-        QTest::newRow("daily, half a day")
-            << QStringList{u"model=daily"_s, u"dayRate=600"_s} << qint64(4 * 3600) << 300.0 << 0.0 << u"€300.00"_s;
-        QTest::newRow("minimum charge") << QStringList{u"minCharge=100"_s} << qint64(600) << 100.0 << 0.0
-                                        << u"€100.00"_s;
     }
 
     void previewsNetVatAndGross()
@@ -261,7 +227,6 @@ private slots:
         QTest::addColumn<bool>("saves");
         QTest::addColumn<Opt>("hourlyRate");
         const std::optional<Billing> hourly85 = hourly(85);
-        QTest::newRow("opened and saved") << hourly85 << Opt() << QStringList{} << false << Opt();
         QTest::newRow("the same rate typed again")
             << hourly85 << Opt() << QStringList{u"unitPrice=85,00"_s} << false << Opt();
         QTest::newRow("another model and back")
@@ -269,16 +234,11 @@ private slots:
         QTest::newRow("an extra typed and removed")
             << hourly85 << Opt() << QStringList{u"surcharge=25"_s, u"surchargeLabel=Parking"_s, u"surcharge="_s}
             << false << Opt();
-        QTest::newRow("rate 0 means no rate, like before")
-            << std::optional<Billing>(Billing{}) << Opt() << QStringList{u"unitPrice=0"_s} << false << Opt();
         QTest::newRow("bad text is not a change")
             << hourly85 << Opt() << QStringList{u"unitPrice=abc"_s} << false << Opt();
         QTest::newRow("a new rate") << hourly85 << Opt() << QStringList{u"unitPrice=95"_s} << true << Opt(95);
-        QTest::newRow("rate cleared") << hourly85 << Opt() << QStringList{u"unitPrice="_s} << true << Opt();
         QTest::newRow("a legacy project is written on its first save")
             << std::optional<Billing>() << Opt(70) << QStringList{} << true << Opt(70);
-        QTest::newRow("a fixed price writes no hourly rate")
-            << hourly85 << Opt() << QStringList{u"model=fixed"_s, u"amount=900"_s} << true << Opt();
     }
 
     void savesAProjectOnlyWhenSomethingChanged()
@@ -309,28 +269,24 @@ private slots:
 
         BillingEditor editor;
         editor.loadTask(task, &p, 50);
-        QVERIFY(editor.allowInherit());
-        QVERIFY(editor.isInheriting());
+        QVERIFY(editor.allowInherit() && editor.isInheriting() && !editor.hasChanges());
         QCOMPARE(editor.billing(), shared);
         QCOMPARE(editor.net(), 300.0);
-        QVERIFY(!editor.hasChanges());
         QCOMPARE(editor.taskPrice(), Earnings::PriceColumns{});
 
         // Editing the inherited price makes it the task's own copy.
         QSignalSpy cleared(&editor, &BillingEditor::inheritanceCleared);
         edit(editor, {u"dayRate=650"_s});
         QCOMPARE(cleared.size(), 1);
-        QVERIFY(!editor.isInheriting());
-        QVERIFY(editor.hasChanges());
+        QVERIFY(!editor.isInheriting() && editor.hasChanges());
         Billing own = shared;
         own.dayRate = 650;
         QCOMPARE(editor.taskPrice(), (Earnings::PriceColumns{own, std::nullopt, std::nullopt}));
         QCOMPARE(p.billing, std::optional<Billing>(shared)); // the project is not touched
 
         editor.useProjectPrice();
-        QVERIFY(editor.isInheriting());
+        QVERIFY(editor.isInheriting() && !editor.hasChanges());
         QCOMPARE(editor.billing(), shared);
-        QVERIFY(!editor.hasChanges());
     }
 
     void aTaskWithItsOwnPriceCanInheritAgain()
@@ -343,8 +299,7 @@ private slots:
 
         BillingEditor editor;
         editor.loadTask(task, &p, 50);
-        QVERIFY(!editor.isInheriting());
-        QVERIFY(!editor.hasChanges());
+        QVERIFY(!editor.isInheriting() && !editor.hasChanges());
         // A custom hourly price without a rate of its own writes no rate column.
         QCOMPARE(editor.taskPrice(), (Earnings::PriceColumns{hourly(), std::nullopt, std::nullopt}));
         edit(editor, {u"unitPrice=75"_s});
@@ -353,8 +308,6 @@ private slots:
         editor.useProjectPrice();
         QVERIFY(editor.hasChanges()); // the task's own setting is to be removed
         QCOMPARE(editor.taskPrice(), Earnings::PriceColumns{});
-        editor.clearInheritance();
-        QVERIFY(!editor.isInheriting());
     }
 
     void projectEditorNeverInherits()
