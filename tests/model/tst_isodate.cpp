@@ -29,19 +29,15 @@ private slots:
 
         QTest::newRow("fractional, Z") << u"2025-03-01T09:30:00.123Z"_s << utc(2025, 3, 1, 9, 30, 0, 123);
         QTest::newRow("fractional, offset") << u"2025-03-01T09:30:00.123+01:00"_s << utc(2025, 3, 1, 8, 30, 0, 123);
-        QTest::newRow("one fractional digit") << u"2025-03-01T09:30:00.5Z"_s << utc(2025, 3, 1, 9, 30, 0, 500);
         QTest::newRow("microseconds as the database prints them")
             << u"2025-03-01T09:30:00.123456+00:00"_s << utc(2025, 3, 1, 9, 30, 0, 123);
         QTest::newRow("microseconds, offset without colon")
             << u"2025-03-01T09:30:00.123456+0000"_s << utc(2025, 3, 1, 9, 30, 0, 123);
-        QTest::newRow("plain, Z") << u"2025-03-01T09:30:00Z"_s << utc(2025, 3, 1, 9, 30, 0);
         QTest::newRow("plain, negative offset") << u"2025-03-01T09:30:00-05:30"_s << utc(2025, 3, 1, 15, 0, 0);
         QTest::newRow("offset without colon") << u"2025-03-01T09:30:00-0530"_s << utc(2025, 3, 1, 15, 0, 0);
         QTest::newRow("hour-only offset") << u"2025-03-01T09:30:00+02"_s << utc(2025, 3, 1, 7, 30, 0);
         QTest::newRow("space instead of T") << u"2025-03-01 09:30:00+00:00"_s << utc(2025, 3, 1, 9, 30, 0);
-        QTest::newRow("space, short offset") << u"2025-03-01 09:30:00+00"_s << utc(2025, 3, 1, 9, 30, 0);
         QTest::newRow("offset crosses midnight") << u"2025-01-01T00:30:00+01:00"_s << utc(2024, 12, 31, 23, 30, 0);
-        QTest::newRow("leap day") << u"2024-02-29T12:00:00Z"_s << utc(2024, 2, 29, 12, 0, 0);
     }
 
     void parses()
@@ -49,28 +45,22 @@ private slots:
         QFETCH(QString, text);
         QFETCH(QDateTime, expected);
         const std::optional<QDateTime> instant = isoDate(text);
-        QVERIFY2(instant.has_value(), qPrintable(text));
-        QCOMPARE(*instant, expected);
+        QCOMPARE(instant, std::optional(expected));
         QCOMPARE(instant->timeSpec(), Qt::UTC);
     }
 
     void refuses_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("empty") << QString();
-        QTest::newRow("date only") << u"2025-03-01"_s;
         QTest::newRow("no zone") << u"2025-03-01T09:30:00"_s;
         QTest::newRow("fraction without zone") << u"2025-03-01T09:30:00.123"_s;
         QTest::newRow("space with fraction") << u"2025-03-01 09:30:00.5+00:00"_s;
         QTest::newRow("dot without digits") << u"2025-03-01T09:30:00.Z"_s;
         QTest::newRow("five digits, offset without colon") << u"2025-03-01T09:30:00.12345+0000"_s;
         QTest::newRow("no such day") << u"2025-02-29T09:30:00Z"_s;
-        QTest::newRow("hour 24") << u"2025-03-01T24:00:00Z"_s;
         QTest::newRow("offset out of range") << u"2025-03-01T09:30:00+25:00"_s;
         QTest::newRow("trailing text") << u"2025-03-01T09:30:00Zjunk"_s;
-        QTest::newRow("two-digit year") << u"25-03-01T09:30:00Z"_s;
         QTest::newRow("lower-case z") << u"2025-03-01T09:30:00z"_s;
-        QTest::newRow("words") << u"yesterday"_s;
         QTest::newRow("non-ASCII digits") << u"٢٠٢٥-03-01T09:30:00Z"_s;
     }
 
@@ -80,14 +70,9 @@ private slots:
         QCOMPARE(isoDate(text), std::nullopt);
     }
 
-    void absentTextGivesNoInstant()
-    {
-        QCOMPARE(isoDate(std::optional<QString>()), std::nullopt);
-        QCOMPARE(isoDate(std::optional<QString>(u"2025-03-01T09:30:00Z"_s)), utc(2025, 3, 1, 9, 30, 0));
-    }
-
     void writesWhatItReads()
     {
+        QCOMPARE(isoDate(std::optional<QString>()), std::nullopt);
         const QDateTime instant = utc(2025, 3, 1, 9, 30, 0, 999);
         // Whole seconds in UTC, whatever zone the instant was made in.
         QCOMPARE(isoString(instant), u"2025-03-01T09:30:00Z"_s);
@@ -101,7 +86,6 @@ private slots:
         QTest::addColumn<QDateTime>("instant");
         QTest::addColumn<QString>("key");
         const QDateTime lateEvening = utc(2025, 3, 1, 23, 30, 0);
-        QTest::newRow("UTC") << QByteArray("UTC") << lateEvening << u"2025-03-01"_s;
         QTest::newRow("Amsterdam is already tomorrow")
             << QByteArray("Europe/Amsterdam") << lateEvening << u"2025-03-02"_s;
         QTest::newRow("New York is still today") << QByteArray("America/New_York") << lateEvening << u"2025-03-01"_s;
