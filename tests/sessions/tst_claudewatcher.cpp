@@ -89,35 +89,23 @@ void write(const QString &path, const QByteArray &bytes)
     file.write(bytes);
 }
 
-QByteArray userLine(const QString &timestamp, const QString &text, const QString &cwd = u"/w"_s)
+QByteArray userLine(const QString &timestamp, const QString &text)
 {
-    return QJsonDocument(QJsonObject{{u"type"_s, u"user"_s},
-                                     {u"cwd"_s, cwd},
-                                     {u"timestamp"_s, timestamp},
-                                     {u"message"_s, QJsonObject{{u"role"_s, u"user"_s}, {u"content"_s, text}}}})
-               .toJson(QJsonDocument::Compact) +
-           '\n';
+    return u"{\"type\":\"user\",\"cwd\":\"/w\",\"timestamp\":\"%1\",\"message\":{\"role\":\"user\",\"content\":\"%2\"}}\n"_s
+        .arg(timestamp, text)
+        .toUtf8();
 }
 
 QByteArray agentLine(const QString &timestamp, const QByteArray &padding = {})
 {
-    return QJsonDocument(
-               QJsonObject{{u"type"_s, u"assistant"_s},
-                           {u"cwd"_s, u"/w"_s},
-                           {u"timestamp"_s, timestamp},
-                           {u"message"_s, QJsonObject{{u"content"_s, QJsonArray{QJsonObject{
-                                                                         {u"type"_s, u"text"_s},
-                                                                         {u"text"_s, QString::fromLatin1(padding)},
-                                                                     }}}}}})
-               .toJson(QJsonDocument::Compact) +
-           '\n';
+    return "{\"type\":\"assistant\",\"cwd\":\"/w\",\"timestamp\":\"" + timestamp.toUtf8() +
+           "\",\"message\":{\"content\":[{\"type\":\"text\",\"text\":\"" + padding + "\"}]}}\n";
 }
 
-QList<ParsedSession> byId(QList<ParsedSession> sessions)
+ParsedSession firstById(const QList<ParsedSession> &sessions)
 {
-    std::sort(sessions.begin(), sessions.end(),
-              [](const ParsedSession &a, const ParsedSession &b) { return a.sessionId < b.sessionId; });
-    return sessions;
+    return *std::min_element(sessions.cbegin(), sessions.cend(),
+                             [](const auto &a, const auto &b) { return a.sessionId < b.sessionId; });
 }
 
 QStringList ids(const QList<ParsedSession> &sessions)
@@ -367,7 +355,7 @@ private Q_SLOTS:
         // Unchanged: nothing is opened, not even the files that gave no session.
         const QList<ParsedSession> second =
             ClaudeWatcher::enumerateSessions(projects, 900, 30, QDateTime::currentDateTimeUtc(), &stats);
-        QVERIFY(byId(second) == byId(first));
+        QCOMPARE(ids(second), ids(first));
         QCOMPARE(stats.filesFromCache, 6);
         QCOMPARE(stats.bytesRead, qint64(0));
 
@@ -375,7 +363,7 @@ private Q_SLOTS:
         const QList<ParsedSession> regapped =
             ClaudeWatcher::enumerateSessions(projects, 1000, 30, QDateTime::currentDateTimeUtc(), &stats);
         QCOMPARE(stats.filesReadWhole, 6);
-        const ParsedSession checkout = byId(regapped).first();
+        const ParsedSession checkout = firstById(regapped);
         QCOMPARE(checkout.activeSeconds, 1615 + 901);
         QCOMPARE(checkout.segments.size(), 1);
     }
@@ -389,21 +377,18 @@ private Q_SLOTS:
         setModified(old, now.addDays(-31));
         ClaudeWatcher::ScanStats stats;
 
-        QVERIFY(!ids(ClaudeWatcher::enumerateSessions(projects, 900, 60, now, &stats)).isEmpty());
-        QCOMPARE(stats.filesSeen, 6);
-        const QStringList recent = ids(ClaudeWatcher::enumerateSessions(projects, 900, 30, now, &stats));
-        QVERIFY(!recent.contains(u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s));
+        const QString id = u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s;
+        QVERIFY(ids(ClaudeWatcher::enumerateSessions(projects, 900, 60, now, &stats)).contains(id));
+        QVERIFY(!ids(ClaudeWatcher::enumerateSessions(projects, 900, 30, now, &stats)).contains(id));
         QCOMPARE(stats.filesSeen, 5);
         QCOMPARE(stats.filesFromCache, 5);
         // The 30-day walk dropped the old file from the cache, so the next 60-day walk reads it.
-        const QStringList all = ids(ClaudeWatcher::enumerateSessions(projects, 900, 60, now, &stats));
-        QVERIFY(all.contains(u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s));
+        QVERIFY(ids(ClaudeWatcher::enumerateSessions(projects, 900, 60, now, &stats)).contains(id));
         QCOMPARE(stats.filesReadWhole, 1);
         QCOMPARE(stats.filesFromCache, 5);
         // Exactly at the cut-off is still recent.
         setModified(old, now.addDays(-30));
-        QVERIFY(ids(ClaudeWatcher::enumerateSessions(projects, 900, 30, now, &stats))
-                    .contains(u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s));
+        QVERIFY(ids(ClaudeWatcher::enumerateSessions(projects, 900, 30, now, &stats)).contains(id));
     }
 
     void badInputNeverStopsAWalk()
@@ -440,7 +425,7 @@ private Q_SLOTS:
         }
         expected.sort();
         QCOMPARE(ids(sessions), expected);
-        const ParsedSession dump = byId(sessions).first();
+        const ParsedSession dump = firstById(sessions);
         // The broken line in the middle gives no time stamp; the lines around it do.
         QCOMPARE(dump.activeSeconds, 60);
         QCOMPARE(dump.endedAt, at(u"2025-03-05T10:01:00Z"_s));
