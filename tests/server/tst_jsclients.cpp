@@ -112,14 +112,12 @@ private slots:
 
     void authClient() { runNode(u"auth-client.test.js"_s, u"@supabase/auth-js"_s, {}, 3); }
 
-    void storageClient()
-    {
-        runNode(u"storage-client.test.js"_s, u"@supabase/storage-js"_s, {{u"user"_s, m_anna}}, 3);
-    }
+    void storageClient() { runNode(u"storage-client.test.js"_s, u"@supabase/storage-js"_s, {{u"user"_s, m_anna}}, 3); }
 
     void realtimeClient()
     {
-        const QByteArray project = insert("INSERT INTO projects (user_id, name) VALUES ($1, 'Live')", {m_anna.toUtf8()});
+        const QByteArray project =
+            insert("INSERT INTO projects (user_id, name) VALUES ($1, 'Live')", {m_anna.toUtf8()});
         runNode(u"realtime-client.test.js"_s, u"@supabase/realtime-js"_s,
                 {{u"user"_s, m_anna}, {u"project"_s, QString::fromLatin1(project)}}, 2);
     }

@@ -11,13 +11,14 @@
 #include <QTimer>
 
 // An identity provider outside the backend, as the backend's authorize flow talks to it: it sends
-// the browser straight back with a code and answers the token and user-info calls for Pia.
-// A backend started with backendArguments() knows it as "idp".
+// the browser straight back with a code and answers the token and user-info calls with the
+// profile it is given (Pia's unless told otherwise). A backend started with backendArguments()
+// knows it as "idp".
 class OutsideProvider
 {
 public:
     OutsideProvider()
-        : m_server([](const RecordedRequest &request) {
+        : m_server([this](const RecordedRequest &request) {
             using namespace Qt::StringLiterals;
             if (request.path() == "/authorize") {
                 const QString back =
@@ -27,7 +28,7 @@ public:
             if (request.path() == "/token") {
                 return ScriptedHttpServer::json(200, "{\"access_token\":\"t\",\"token_type\":\"Bearer\"}");
             }
-            return ScriptedHttpServer::json(200, "{\"sub\":\"p-7\",\"email\":\"pia@example.nl\",\"name\":\"Pia\"}");
+            return ScriptedHttpServer::json(200, m_profile);
         })
     {
         using namespace Qt::StringLiterals;
@@ -40,6 +41,8 @@ public:
         m_config.write(QJsonDocument(QJsonObject{{u"idp"_s, idp}}).toJson());
         m_config.flush();
     }
+
+    void setProfile(const QByteArray &profile) { m_profile = profile; }
 
     [[nodiscard]] QStringList backendArguments() const
     {
@@ -79,6 +82,7 @@ public:
     }
 
 private:
+    QByteArray m_profile = R"({"sub":"p-7","email":"pia@example.nl","name":"Pia"})";
     ScriptedHttpServer m_server;
     QTemporaryFile m_config;
 };

@@ -3,23 +3,18 @@
 #include "backend/supabase.h"
 #include "i18n/language.h"
 #include "pg/pgconnection.h"
-#include "support/scriptedhttpserver.h"
+#include "support/outsideprovider.h"
 #include "support/testbackend.h"
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QRegularExpression>
 #include <QTcpSocket>
-#include <QTemporaryFile>
 #include <QTest>
 #include <QTimeZone>
-#include <QTimer>
 #include <QUrlQuery>
 
 using namespace Qt::StringLiterals;
@@ -66,8 +61,12 @@ int mailCount(const QString &outbox)
 // Follows one link as a browser's address bar would, without following the redirect.
 HttpResult openLink(const TestBackend &backend, const QString &link)
 {
-    const QByteArray target = QUrl(link).toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority);
-    return backend.request("GET", target);
+    return backend.request("GET", QUrl(link).toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority));
+}
+
+QUrlQuery fragmentOf(const QByteArray &location)
+{
+    return QUrlQuery(QUrl::fromEncoded(location).fragment(QUrl::FullyEncoded));
 }
 
 // The status of one request from another address of this machine, as a second client sends it.
@@ -89,11 +88,6 @@ int statusFrom(const QString &client, const TestBackend &backend, const QByteArr
     return answer.split(' ').value(1).toInt();
 }
 
-QUrlQuery fragmentOf(const QByteArray &location)
-{
-    return QUrlQuery(QUrl::fromEncoded(location).fragment(QUrl::FullyEncoded));
-}
-
 } // namespace
 
 class TestAuth : public QObject
@@ -106,6 +100,18 @@ private:
 
     QString outbox() const { return m_backend.dataDir() + u"/outbox"_s; }
 
+    AuthTokens signUp(const QString &email, const QString &password, const QString &name = {})
+    {
+        return *runBlocking(m_client->signUp(email, password, name)).session;
+    }
+
+    AuthTokens signIn(const QString &email, const QString &password)
+    {
+        return runBlocking(m_client->signInPassword(email, password));
+    }
+
+    bool refreshes(const AuthTokens &tokens) { return failureCode(m_client->refresh(tokens.refreshToken)).isEmpty(); }
+
 private slots:
     void initTestCase()
     {
@@ -116,20 +122,14 @@ private slots:
 
     void signUpSignsInAtOnceAndFillsTheProfile()
     {
-        const SignUpOutcome outcome =
-            runBlocking(m_client->signUp(u"Sara@Example.nl"_s, u"correct horse"_s, u"Sara"_s));
-        QCOMPARE(outcome.kind, SignUpOutcome::Kind::Session);
-        const AuthTokens &tokens = *outcome.session;
+        const AuthTokens tokens = signUp(u"Sara@Example.nl"_s, u"correct horse"_s, u"Sara"_s);
         QCOMPARE(tokens.user->email, u"sara@example.nl"_s);
         QCOMPARE(tokens.expiresIn, Q_INT64_C(3600));
-        // The access token works for the data, and the profile took the name and time zone.
-        const HttpResult profile = m_backend.request("GET", "/rest/v1/profiles?select=display_name,timezone,email",
-                                                     tokens.accessToken.toLatin1());
-        QCOMPARE(profile.status, 200);
-        const QJsonObject row = profile.json().array().first().toObject();
-        QCOMPARE(row.value(u"display_name"_s).toString(), u"Sara"_s);
-        QCOMPARE(row.value(u"timezone"_s).toString(), QString::fromUtf8(QTimeZone::systemTimeZoneId()));
-
+        const HttpResult profile =
+            m_backend.request("GET", "/rest/v1/profiles?select=display_name,timezone", tokens.accessToken.toLatin1());
+        QCOMPARE(profile.json().array().first().toObject(),
+                 (QJsonObject{{u"display_name"_s, u"Sara"_s},
+                              {u"timezone"_s, QString::fromUtf8(QTimeZone::systemTimeZoneId())}}));
         // The same address again, in any case, is an existing account.
         QCOMPARE(runBlocking(m_client->signUp(u"sara@EXAMPLE.nl"_s, u"another one"_s, u"Sara"_s)).kind,
                  SignUpOutcome::Kind::EmailExists);
@@ -158,16 +158,14 @@ private slots:
     {
         static const bool made =
             runBlocking(m_client->signUp(u"pim@example.nl"_s, u"s3cret-pim"_s, u"Pim"_s)).session.has_value() &&
-            runBlocking(m_client->signUp(u"zo\u00eb@example.nl"_s, u"s3cret-zoe"_s, u"Zo\u00eb"_s))
-                .session.has_value() &&
+            runBlocking(m_client->signUp(u"zo\u00eb@example.nl"_s, u"s3cret-zoe"_s, {})).session.has_value() &&
             runBlocking(m_client->signUp(u"ZOE\u0308@example.nl"_s, u"s3cret-two"_s, {})).kind ==
                 SignUpOutcome::Kind::EmailExists;
         QVERIFY(made);
         QFETCH(QString, email);
         QFETCH(QString, password);
-        QFETCH(QString, code);
         int status = 0;
-        QCOMPARE(failureCode(m_client->signInPassword(email, password), &status), code);
+        QTEST(failureCode(m_client->signInPassword(email, password), &status), "code");
         QTEST(status, "status");
     }
 
@@ -201,27 +199,27 @@ private slots:
 
     void refreshTokensRotate()
     {
-        const AuthTokens first = *runBlocking(m_client->signUp(u"rota@example.nl"_s, u"rotation!"_s, {})).session;
+        const AuthTokens first = signUp(u"rota@example.nl"_s, u"rotation!"_s);
         const RefreshResponse second = runBlocking(m_client->refresh(first.refreshToken));
         QVERIFY(second.refreshToken != first.refreshToken);
         // An answer that got lost: the old token gives the active one again.
         QCOMPARE(runBlocking(m_client->refresh(first.refreshToken)).refreshToken, second.refreshToken);
         const RefreshResponse third = runBlocking(m_client->refresh(second.refreshToken));
-        // Only briefly: the same token ten seconds after it was replaced is someone else's copy.
+        // Only briefly: the same token ten seconds after it was replaced is someone else's copy,
+        // and it takes the whole session with it.
         m_backend.database().exec("UPDATE auth.refresh_tokens SET updated_at = now() - interval '11 seconds'"
                                   " WHERE token = $1",
                                   {second.refreshToken.toUtf8()});
         QCOMPARE(failureCode(m_client->refresh(second.refreshToken)), u"refresh_token_already_used"_s);
-        // It takes the whole session with it.
         QVERIFY(!failureCode(m_client->refresh(third.refreshToken)).isEmpty());
         QCOMPARE(failureCode(m_client->refresh(u"never-issued"_s)), u"refresh_token_not_found"_s);
     }
 
     void aPasswordChangeEndsEveryOtherSession()
     {
-        runBlocking(m_client->signUp(u"moved@example.nl"_s, u"first password"_s, {}));
-        const AuthTokens mine = runBlocking(m_client->signInPassword(u"moved@example.nl"_s, u"first password"_s));
-        const AuthTokens stolen = runBlocking(m_client->signInPassword(u"moved@example.nl"_s, u"first password"_s));
+        signUp(u"moved@example.nl"_s, u"first password"_s);
+        const AuthTokens mine = signIn(u"moved@example.nl"_s, u"first password"_s);
+        const AuthTokens stolen = signIn(u"moved@example.nl"_s, u"first password"_s);
         QCOMPARE(m_backend.request("PUT", "/auth/v1/user", mine.accessToken.toLatin1(), "{\"password\":\"second one\"}")
                      .status,
                  200);
@@ -229,102 +227,73 @@ private slots:
         QCOMPARE(failureCode(m_client->refresh(stolen.refreshToken)), u"refresh_token_not_found"_s);
         QCOMPARE(m_backend.request("GET", "/rest/v1/projects", stolen.accessToken.toLatin1()).status, 401);
         QCOMPARE(m_backend.request("GET", "/rest/v1/projects", mine.accessToken.toLatin1()).status, 200);
-        QVERIFY(failureCode(m_client->refresh(mine.refreshToken)).isEmpty());
+        QVERIFY(refreshes(mine));
     }
 
     void logoutScopes()
     {
-        runBlocking(m_client->signUp(u"scopes@example.nl"_s, u"many devices"_s, {}));
+        signUp(u"scopes@example.nl"_s, u"many devices"_s);
         QList<AuthTokens> devices;
         for (int i = 0; i < 4; ++i) {
-            devices.append(runBlocking(m_client->signInPassword(u"scopes@example.nl"_s, u"many devices"_s)));
+            devices.append(signIn(u"scopes@example.nl"_s, u"many devices"_s));
         }
-        auto alive = [&](int device) { return failureCode(m_client->refresh(devices[device].refreshToken)).isEmpty(); };
         auto logout = [&](int device, const QByteArray &scope) {
-            return m_backend.request("POST", "/auth/v1/logout?scope=" + scope, devices[device].accessToken.toLatin1());
+            return m_backend.request("POST", "/auth/v1/logout?scope=" + scope, devices[device].accessToken.toLatin1())
+                .status;
         };
-
         // The application signs out with scope local: only that device.
         runBlocking(m_client->signOut(devices[0].accessToken));
-        QVERIFY(!alive(0));
-        QVERIFY(alive(1));
+        QVERIFY(!refreshes(devices[0]));
         QCOMPARE(m_backend.request("GET", "/auth/v1/user", devices[0].accessToken.toLatin1()).status, 403);
-
-        devices[1] = runBlocking(m_client->signInPassword(u"scopes@example.nl"_s, u"many devices"_s));
-        QCOMPARE(logout(1, "others").status, 204);
-        QVERIFY(alive(1));
-        QVERIFY(!alive(2));
-        QVERIFY(!alive(3));
-        QCOMPARE(logout(1, "everything").status, 400);
-        QCOMPARE(logout(1, "global").status, 204);
-        QVERIFY(!alive(1));
+        QCOMPARE(logout(1, "others"), 204);
+        QVERIFY(refreshes(devices[1]));
+        QVERIFY(!refreshes(devices[2]));
+        QVERIFY(!refreshes(devices[3]));
+        QCOMPARE(logout(1, "everything"), 400);
+        QCOMPARE(logout(1, "global"), 204);
+        QVERIFY(!refreshes(devices[1]));
         QCOMPARE(m_backend.request("POST", "/auth/v1/logout?scope=local").status, 401);
     }
 
     void currentUser()
     {
-        const AuthTokens tokens = *runBlocking(m_client->signUp(u"me@example.nl"_s, u"it is me"_s, u"Me"_s)).session;
-        HttpResult result = m_backend.request("GET", "/auth/v1/user", tokens.accessToken.toLatin1());
-        QCOMPARE(result.status, 200);
-        const QJsonObject user = result.json().object();
-        QCOMPARE(user.value(u"email"_s).toString(), u"me@example.nl"_s);
-        QCOMPARE(user.value(u"user_metadata"_s).toObject().value(u"display_name"_s).toString(), u"Me"_s);
+        const AuthTokens tokens = signUp(u"me@example.nl"_s, u"it is me"_s, u"Me"_s);
+        const QByteArray access = tokens.accessToken.toLatin1();
+        const QJsonObject user = m_backend.request("GET", "/auth/v1/user", access).json().object();
         QCOMPARE(user.value(u"identities"_s).toArray().first().toObject().value(u"provider"_s).toString(), u"email"_s);
         QVERIFY(!user.contains(u"encrypted_password"_s));
 
         // Metadata is limited as a whole: changes that are each small cannot add up.
-        auto store = [&](const char *key) {
-            const QJsonObject data{{QString::fromLatin1(key), QString(10000, u'm')}};
-            return m_backend.request("PUT", "/auth/v1/user", tokens.accessToken.toLatin1(),
-                                     QJsonDocument(QJsonObject{{u"data"_s, data}}).toJson());
+        auto store = [&](const QString &key) {
+            const QJsonObject data{{key, QString(10000, u'm')}};
+            return m_backend
+                .request("PUT", "/auth/v1/user", access, QJsonDocument(QJsonObject{{u"data"_s, data}}).toJson())
+                .status;
         };
-        QCOMPARE(store("notes").status, 200);
-        QCOMPARE(store("more_notes").status, 400);
+        QCOMPARE(store(u"notes"_s), 200);
+        QCOMPARE(store(u"more_notes"_s), 400);
 
-        // A token of another project's secret, and no token at all.
-        result = m_backend.request(
+        const HttpResult foreign = m_backend.request(
             "GET", "/auth/v1/user",
             Jwt::sign({{u"sub"_s, user.value(u"id"_s)}, {u"role"_s, u"authenticated"_s}}, "another project's secret"));
-        QCOMPARE(result.status, 403);
-        QCOMPARE(result.header("x-sb-error-code"), "bad_jwt");
+        QCOMPARE(foreign.status, 403);
+        QCOMPARE(foreign.header("x-sb-error-code"), "bad_jwt");
         QCOMPARE(m_backend.request("GET", "/auth/v1/user").header("x-sb-error-code"), "no_authorization");
-    }
-
-    void bothErrorDialects()
-    {
-        const QByteArray body = "{\"email\":\"pim@example.nl\",\"password\":\"nope-nope\"}";
-        HttpResult old = m_backend.request("POST", "/auth/v1/token?grant_type=password", {}, body);
-        QCOMPARE(old.status, 400);
-        QCOMPARE(old.json().object(), (QJsonObject{{u"code"_s, 400},
-                                                   {u"error_code"_s, u"invalid_credentials"_s},
-                                                   {u"msg"_s, u"Invalid login credentials"_s}}));
-        HttpResult versioned = m_backend.request("POST", "/auth/v1/token?grant_type=password", {}, body,
-                                                 {{"X-Supabase-Api-Version", "2024-01-01"}});
-        QCOMPARE(versioned.json().object(),
-                 (QJsonObject{{u"code"_s, u"invalid_credentials"_s}, {u"message"_s, u"Invalid login credentials"_s}}));
-        QCOMPARE(versioned.header("X-Supabase-Api-Version"), "2024-01-01");
-        QCOMPARE(old.header("x-sb-error-code"), "invalid_credentials");
-
-        const HttpResult broken = m_backend.request("POST", "/auth/v1/signup", {}, "{\"email\":");
-        QCOMPARE(broken.status, 400);
-        QCOMPARE(broken.header("x-sb-error-code"), "bad_json");
     }
 
     void recoveryThroughTheMailedLink()
     {
-        runBlocking(m_client->signUp(u"forgot@example.nl"_s, u"old password"_s, {}));
+        signUp(u"forgot@example.nl"_s, u"old password"_s);
         const int before = mailCount(outbox());
         runBlocking(m_client->recoverPassword(u"nobody-here@example.nl"_s));
         QCOMPARE(mailCount(outbox()), before);
         runBlocking(m_client->recoverPassword(u"forgot@example.nl"_s));
         const QString link = lastLink(outbox(), u"forgot@example.nl"_s);
-        QVERIFY2(link.contains(u"type=recovery"_s), qPrintable(link));
 
         const HttpResult opened = openLink(m_backend, link);
         QCOMPARE(opened.status, 303);
-        const QByteArray location = opened.header("Location");
-        QVERIFY(location.startsWith("morvane://auth/reset-password#"));
-        const QUrlQuery fragment = fragmentOf(location);
+        QVERIFY(opened.header("Location").startsWith("morvane://auth/reset-password#"));
+        const QUrlQuery fragment = fragmentOf(opened.header("Location"));
         QCOMPARE(fragment.queryItemValue(u"type"_s), u"recovery"_s);
         const QByteArray access = fragment.queryItemValue(u"access_token"_s).toLatin1();
         QCOMPARE(m_backend.request("PUT", "/auth/v1/user", access, "{\"password\":\"new password\"}").status, 200);
@@ -332,16 +301,14 @@ private slots:
                  u"invalid_credentials"_s);
         QVERIFY(failureCode(m_client->signInPassword(u"forgot@example.nl"_s, u"new password"_s)).isEmpty());
 
-        // A link works once.
-        const QByteArray again = openLink(m_backend, link).header("Location");
-        QVERIFY2(again.contains("error_code=otp_expired"), again.constData());
-        // A second request within the minute is held back.
+        // A link works once, and a second request within the minute is held back.
+        QVERIFY(openLink(m_backend, link).header("Location").contains("error_code=otp_expired"));
         QCOMPARE(failureCode(m_client->recoverPassword(u"forgot@example.nl"_s)), u"over_email_send_rate_limit"_s);
     }
 
-    void repeatedPasswordFailuresAreLimited()
+    void repeatedAttemptsAreLimitedPerClient()
     {
-        runBlocking(m_client->signUp(u"target@example.nl"_s, u"the real one"_s, {}));
+        signUp(u"target@example.nl"_s, u"the real one"_s);
         for (int i = 0; i < 10; ++i) {
             QCOMPARE(failureCode(m_client->signInPassword(u"target@example.nl"_s, u"guess %1"_s.arg(i))),
                      u"invalid_credentials"_s);
@@ -352,21 +319,19 @@ private slots:
                  u"over_request_rate_limit"_s);
         QCOMPARE(status, 429);
         // ...but a stranger's guesses do not lock the owner out elsewhere.
-        const QByteArray right = "{\"email\":\"target@example.nl\",\"password\":\"the real one\"}";
-        QCOMPARE(statusFrom(u"127.0.0.2"_s, m_backend, "/auth/v1/token?grant_type=password", right), 200);
-    }
+        QCOMPARE(statusFrom(u"127.0.0.2"_s, m_backend, "/auth/v1/token?grant_type=password",
+                            "{\"email\":\"target@example.nl\",\"password\":\"the real one\"}"),
+                 200);
 
-    void signUpsAreLimitedPerClient()
-    {
-        auto signUp = [&](const QString &client, int n) {
+        auto signUpFrom = [&](const QString &client, int n) {
             return statusFrom(client, m_backend, "/auth/v1/signup",
                               "{\"email\":\"many" + QByteArray::number(n) + "@example.nl\",\"password\":\"123456\"}");
         };
         for (int n = 0; n < 30; ++n) {
-            QCOMPARE(signUp(u"127.0.0.3"_s, n), 200);
+            QCOMPARE(signUpFrom(u"127.0.0.3"_s, n), 200);
         }
-        QCOMPARE(signUp(u"127.0.0.3"_s, 30), 429);
-        QCOMPARE(signUp(u"127.0.0.4"_s, 30), 200);
+        QCOMPARE(signUpFrom(u"127.0.0.3"_s, 30), 429);
+        QCOMPARE(signUpFrom(u"127.0.0.4"_s, 30), 200);
     }
 
     void hostileRedirectsLandOnTheSite_data()
@@ -386,7 +351,7 @@ private slots:
         QCOMPARE(answer.status, 303);
         QVERIFY2(answer.header("Location").startsWith(QByteArray(m_backend.url().toEncoded() + '#')),
                  answer.header("Location").constData());
-        QVERIFY(!answer.header("Set-Cookie").size());
+        QVERIFY(answer.header("Set-Cookie").isEmpty());
     }
 
     void confirmationByMailedLink()
@@ -395,152 +360,94 @@ private slots:
         QVERIFY2(confirming.isReady(), qPrintable(confirming.startupLog()));
         const Supabase client(confirming.url(), QString::fromLatin1(confirming.anonKey()));
         const QString mails = confirming.dataDir() + u"/outbox"_s;
+        auto signInCode = [&](const QString &password) {
+            return failureCode(client.signInPassword(u"wait@example.nl"_s, password));
+        };
 
         QCOMPARE(runBlocking(client.signUp(u"wait@example.nl"_s, u"patience"_s, u"Wim"_s)).kind,
                  SignUpOutcome::Kind::NeedsConfirmation);
         // The password is checked before the confirmation, so strangers learn nothing.
-        QCOMPARE(failureCode(client.signInPassword(u"wait@example.nl"_s, u"wrong one"_s)), u"invalid_credentials"_s);
-        QCOMPARE(failureCode(client.signInPassword(u"wait@example.nl"_s, u"patience"_s)), u"email_not_confirmed"_s);
+        QCOMPARE(signInCode(u"wrong one"_s), u"invalid_credentials"_s);
+        QCOMPARE(signInCode(u"patience"_s), u"email_not_confirmed"_s);
         QCOMPARE(failureCode(client.resendSignupConfirmation(u"wait@example.nl"_s)), u"over_email_send_rate_limit"_s);
 
         const QString link = lastLink(mails, u"wait@example.nl"_s);
         QVERIFY2(link.startsWith(confirming.url().toString() + u"/auth/v1/verify?"_s), qPrintable(link));
         const HttpResult opened = openLink(confirming, link);
         QCOMPARE(opened.status, 303);
-        const QUrlQuery fragment = fragmentOf(opened.header("Location"));
         QVERIFY(opened.header("Location").startsWith("morvane://auth/confirm#"));
+        const QUrlQuery fragment = fragmentOf(opened.header("Location"));
         QCOMPARE(fragment.queryItemValue(u"type"_s), u"signup"_s);
         QVERIFY(!fragment.queryItemValue(u"refresh_token"_s).isEmpty());
-        QVERIFY(failureCode(client.signInPassword(u"wait@example.nl"_s, u"patience"_s)).isEmpty());
+        QCOMPARE(signInCode(u"patience"_s), QString());
 
         // Registered and confirmed: a sign-up looks like any other but sends nothing.
         const int before = mailCount(mails);
         QCOMPARE(runBlocking(client.signUp(u"wait@example.nl"_s, u"other password"_s, {})).kind,
                  SignUpOutcome::Kind::EmailExists);
         QCOMPARE(mailCount(mails), before);
-        QVERIFY(failureCode(client.signInPassword(u"wait@example.nl"_s, u"patience"_s)).isEmpty());
+        QCOMPARE(signInCode(u"patience"_s), QString());
     }
 
     void signInThroughAnOutsideProvider()
     {
-        // A small OpenID Connect provider: it signs in whoever asks, with the profile it is given.
-        QByteArray profile = R"({"sub":"idp-42","email":"Olive@Example.nl","email_verified":true,"name":"Olive"})";
-        ScriptedHttpServer provider([&profile](const RecordedRequest &request) {
-            if (request.path() == "/authorize") {
-                const QString back = request.queryValue(u"redirect_uri"_s) + u"?code=provider-code&state="_s +
-                                     request.queryValue(u"state"_s);
-                return ScriptedResponse{302, {}, {{"Location", back.toUtf8()}}, false};
-            }
-            if (request.path() == "/token") {
-                const QUrlQuery form(QString::fromUtf8(request.body));
-                if (form.queryItemValue(u"code"_s) != u"provider-code" ||
-                    form.queryItemValue(u"client_secret"_s) != u"s3cret") {
-                    return ScriptedHttpServer::json(400, "{\"error\":\"invalid_grant\"}");
-                }
-                return ScriptedHttpServer::json(200, "{\"access_token\":\"provider-token\",\"token_type\":\"Bearer\"}");
-            }
-            if (request.path() == "/userinfo" && request.header("Authorization") == "Bearer provider-token") {
-                return ScriptedHttpServer::json(200, profile);
-            }
-            return ScriptedHttpServer::json(401, "{}");
-        });
-        QTemporaryFile config;
-        QVERIFY(config.open());
-        const QString base = provider.url().toString();
-        config.write(
-            QJsonDocument(
-                QJsonObject{{u"testidp"_s, QJsonObject{{u"client_id"_s, u"morvane"_s},
-                                                       {u"client_secret"_s, u"s3cret"_s},
-                                                       {u"authorization_endpoint"_s, QString(base + u"/authorize"_s)},
-                                                       {u"token_endpoint"_s, QString(base + u"/token"_s)},
-                                                       {u"userinfo_endpoint"_s, QString(base + u"/userinfo"_s)}}}})
-                .toJson());
-        config.flush();
-        TestBackend backend({u"--auth-providers"_s, config.fileName()});
+        OutsideProvider provider;
+        provider.setProfile(R"({"sub":"idp-42","email":"Olive@Example.nl","email_verified":true,"name":"Olive"})");
+        TestBackend backend(provider.backendArguments());
         QVERIFY2(backend.isReady(), qPrintable(backend.startupLog()));
         const Supabase client(backend.url(), QString::fromLatin1(backend.anonKey()));
-
-        const QByteArray verifier = QByteArray("a-verifier-of-the-right-length-").repeated(2);
-        const QByteArray challenge = QCryptographicHash::hash(verifier, QCryptographicHash::Sha256)
-                                         .toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
-        QUrl lastLanding;
-        auto signIn = [&]() -> QString {
-            const HttpResult authorize = backend.request(
-                "GET", "/auth/v1/authorize?provider=testidp&redirect_to=morvane://auth-callback&code_challenge=" +
-                           challenge + "&code_challenge_method=s256");
-            if (authorize.status != 302) {
-                return {};
-            }
-            // The browser: to the provider, back to the server's callback, on to the application.
-            const QUrl atProvider = QUrl::fromEncoded(authorize.header("Location"));
-            QNetworkAccessManager browser;
-            QNetworkRequest step(atProvider);
-            step.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-            QNetworkReply *reply = browser.get(step);
-            QEventLoop wait;
-            QObject::connect(reply, &QNetworkReply::finished, &wait, &QEventLoop::quit);
-            QTimer::singleShot(10000, &wait, &QEventLoop::quit);
-            wait.exec();
-            const QUrl callback = QUrl::fromEncoded(reply->rawHeader("Location"));
-            delete reply;
-            const HttpResult back =
-                backend.request("GET", callback.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority));
-            const QUrl landing = QUrl::fromEncoded(back.header("Location"));
-            lastLanding = landing;
-            return landing.scheme() == u"morvane" ? QUrlQuery(landing).queryItemValue(u"code"_s) : QString();
+        const QString verifier = u"a-verifier-of-the-right-length-"_s.repeated(2);
+        const QByteArray authorize =
+            backend.url().toEncoded() +
+            "/auth/v1/authorize?redirect_to=morvane://auth-callback&code_challenge_method=s256&code_challenge=" +
+            QCryptographicHash::hash(verifier.toLatin1(), QCryptographicHash::Sha256)
+                .toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
+        QUrl landing;
+        auto signIn = [&] {
+            landing = OutsideProvider::landingOf(QUrl::fromEncoded(authorize + "&provider=idp"));
+            return QUrlQuery(landing).queryItemValue(u"code"_s);
         };
 
         const QString code = signIn();
-        QVERIFY(!code.isEmpty());
-        QCOMPARE(
-            failureCode(client.exchangeCodeForSession(code, u"not-the-verifier-but-just-as-long-as-it-should-be"_s)),
-            u"bad_code_verifier"_s);
-        const AuthTokens tokens = runBlocking(client.exchangeCodeForSession(code, QString::fromLatin1(verifier)));
+        QVERIFY2(!code.isEmpty(), qPrintable(landing.toString()));
+        QCOMPARE(failureCode(client.exchangeCodeForSession(code, QString(verifier).replace(u'-', u'_'))),
+                 u"bad_code_verifier"_s);
+        const AuthTokens tokens = runBlocking(client.exchangeCodeForSession(code, verifier));
         QCOMPARE(tokens.user->email, u"olive@example.nl"_s);
         QCOMPARE(tokens.user->userMetadata->displayName, u"Olive"_s);
         // A code is good for one exchange.
-        QCOMPARE(failureCode(client.exchangeCodeForSession(code, QString::fromLatin1(verifier))),
-                 u"flow_state_not_found"_s);
-
+        QCOMPARE(failureCode(client.exchangeCodeForSession(code, verifier)), u"flow_state_not_found"_s);
         // The next sign-in finds the same account through the provider's identity.
-        const AuthTokens again = runBlocking(client.exchangeCodeForSession(signIn(), QString::fromLatin1(verifier)));
-        QCOMPARE(again.user->id, tokens.user->id);
-        const HttpResult me = backend.request("GET", "/auth/v1/user", again.accessToken.toLatin1());
-        QCOMPARE(me.json().object().value(u"identities"_s).toArray().first().toObject().value(u"provider"_s).toString(),
-                 u"testidp"_s);
+        QCOMPARE(runBlocking(client.exchangeCodeForSession(signIn(), verifier)).user->id, tokens.user->id);
 
         // An account made with a password joins a provider's sign-in only when the provider
         // vouches for the address; otherwise anyone could name it there and take the account over.
         runBlocking(client.signUp(u"owned@example.nl"_s, u"mine alone"_s, {}));
+        auto identities = [&] {
+            return backend.database()
+                .exec("SELECT count(*) FROM auth.identities WHERE provider_id = 'idp-66'")
+                .value(0, 0);
+        };
         for (const QByteArray &vouch :
              {QByteArray(), QByteArray(",\"email_verified\":false"), QByteArray(",\"email_verified\":\"true\"")}) {
-            profile = R"({"sub":"idp-66","email":"owned@example.nl")" + vouch + '}';
+            provider.setProfile(R"({"sub":"idp-66","email":"owned@example.nl")" + vouch + '}');
             QVERIFY(signIn().isEmpty());
-            QVERIFY2(QUrlQuery(lastLanding)
+            QVERIFY2(QUrlQuery(landing)
                          .queryItemValue(u"error_description"_s, QUrl::FullyDecoded)
                          .contains(u"did not confirm"_s),
-                     qPrintable(lastLanding.toString()));
-            QCOMPARE(backend.database()
-                         .exec("SELECT count(*) FROM auth.identities WHERE provider_id = 'idp-66'")
-                         .value(0, 0),
-                     "0");
+                     qPrintable(landing.toString()));
+            QCOMPARE(identities(), "0");
         }
-        profile = R"({"sub":"idp-66","email":"owned@example.nl","email_verified":true})";
-        const AuthTokens joined = runBlocking(client.exchangeCodeForSession(signIn(), QString::fromLatin1(verifier)));
-        QCOMPARE(joined.user->email, u"owned@example.nl"_s);
-        QCOMPARE(backend.database()
-                     .exec("SELECT count(*) FROM auth.identities WHERE user_id = $1", {joined.user->id.toUtf8()})
-                     .value(0, 0),
-                 "2");
-    }
+        provider.setProfile(R"({"sub":"idp-66","email":"owned@example.nl","email_verified":true})");
+        QCOMPARE(runBlocking(client.exchangeCodeForSession(signIn(), verifier)).user->email, u"owned@example.nl"_s);
+        QCOMPARE(identities(), "1");
 
-    void unknownProvider()
-    {
-        const HttpResult result = m_backend.request(
-            "GET", "/auth/v1/authorize?provider=github&redirect_to=morvane://auth-callback&code_challenge=" +
-                       QByteArray(43, 'a') + "&code_challenge_method=s256");
-        QCOMPARE(result.status, 400);
-        QCOMPARE(result.json().object().value(u"msg"_s).toString(), u"Unsupported provider: provider is not enabled"_s);
+        const HttpResult unknown = backend.request(
+            "GET",
+            QUrl::fromEncoded(authorize + "&provider=github").toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority));
+        QCOMPARE(unknown.status, 400);
+        QCOMPARE(unknown.json().object().value(u"msg"_s).toString(),
+                 u"Unsupported provider: provider is not enabled"_s);
     }
 };
 
