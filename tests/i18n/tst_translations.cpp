@@ -116,6 +116,9 @@ private slots:
                 problems << key + u": no translation";
                 continue;
             }
+            if (language == u"en" && it->translation != it->source) {
+                problems << key + u": the English translation is not the text";
+            }
             if (it->source != m_english.value(key).source) {
                 problems << key + u": English source differs from the English file";
             }
@@ -132,13 +135,6 @@ private slots:
         QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
     }
 
-    void englishTranslationIsTheText()
-    {
-        for (auto it = m_english.cbegin(); it != m_english.cend(); ++it) {
-            QCOMPARE(it->translation, it->source);
-        }
-    }
-
     void languageFollowsTheCode_data()
     {
         QTest::addColumn<QString>("requested");
@@ -146,7 +142,6 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::newRow("Dutch") << u"nl"_s << u"nl"_s << u"Niet ingelogd."_s;
         QTest::newRow("region is ignored") << u"pt-BR"_s << u"pt"_s << u"Sessão não iniciada."_s;
-        QTest::newRow("Japanese") << u"ja"_s << u"ja"_s << u"サインインしていません。"_s;
         // The tests run under the C locale, so an unknown code ends in English.
         QTest::newRow("unknown code falls back") << u"xx"_s << u"en"_s << u"Not signed in."_s;
         QTest::newRow("no code falls back") << QString() << u"en"_s << u"Not signed in."_s;

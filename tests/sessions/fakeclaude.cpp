@@ -106,9 +106,6 @@ int main(int argc, char **argv)
         std::cout << result(true, "API Error: 529 Overloaded");
         std::cerr << "Error: the API is overloaded, try again later\n";
         return 2;
-    } else if (mode == "failquiet") {
-        std::cerr << "error: unknown option '--json-schema'\n";
-        return 1;
     } else if (mode == "notjson") {
         std::cout << "Welcome to Claude Code! Run claude --help for usage.\n";
     } else if (mode == "array") {
