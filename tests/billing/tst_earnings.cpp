@@ -48,9 +48,7 @@ private slots:
         QTest::newRow("task rate wins") << true << Opt(90) << true << Opt(70) << 90.0;
         QTest::newRow("task rate 0 is no rate") << true << Opt(0) << true << Opt(70) << 70.0;
         QTest::newRow("task rate NaN is no rate") << true << Opt(notANumber) << true << Opt(70) << 70.0;
-        QTest::newRow("a negative task rate is still a rate") << true << Opt(-10) << true << Opt(70) << -10.0;
         QTest::newRow("project rate NaN is no rate") << true << Opt() << true << Opt(notANumber) << 50.0;
-        QTest::newRow("no task") << false << Opt() << true << Opt(70) << 70.0;
         QTest::newRow("neither") << false << Opt() << false << Opt() << 50.0;
     }
 
@@ -101,23 +99,17 @@ private slots:
         QTest::addColumn<double>("amount");
         QTest::newRow("hourly, seconds are fractions of hours") << hourly(85) << 90 * 60LL << 60.0 << 127.5 << 127.5;
         QTest::newRow("hourly rate 0 bills at the legacy rate") << hourly(0) << 2 * hour << 60.0 << 120.0 << 120.0;
-        QTest::newRow("hourly rate NaN bills at the legacy rate")
-            << hourly(notANumber) << 2 * hour << 60.0 << 120.0 << 120.0;
         QTest::newRow("a NaN legacy rate is 0") << hourly() << 2 * hour << notANumber << 0.0 << 0.0;
         QTest::newRow("fixed ignores time") << fixedPrice(1200) << 10 * hour << 60.0 << 1200.0 << 1200.0;
         QTest::newRow("fixed without total") << fixedPrice(none) << 10 * hour << 60.0 << 0.0 << 0.0;
         QTest::newRow("per unit ignores time") << perUnit(40, 3) << 10 * hour << 60.0 << 120.0 << 120.0;
-        QTest::newRow("per unit without quantity") << perUnit(40, none) << hour << 60.0 << 0.0 << 0.0;
         QTest::newRow("daily, 8 hours a day when absent, not rounded")
             << daily(600) << 7 * hour << 60.0 << 525.0 << 525.0;
         QTest::newRow("daily, own hours per day") << daily(600, 6) << 9 * hour << 60.0 << 900.0 << 900.0;
         QTest::newRow("daily, 0 hours per day gives no days") << daily(600, 0) << 4 * hour << 60.0 << 0.0 << 0.0;
-        QTest::newRow("daily, negative hours per day") << daily(600, -2) << 4 * hour << 60.0 << 0.0 << 0.0;
         // Extras on a base of one hour.
         QTest::newRow("minimum charge lifts a low base")
             << extras(hourly(60), 100, none) << hour << 0.0 << 60.0 << 100.0;
-        QTest::newRow("minimum charge below the base")
-            << extras(hourly(150), 100, none) << hour << 0.0 << 150.0 << 150.0;
         QTest::newRow("negative minimum charge does not apply")
             << extras(hourly(60), -100, none) << hour << 0.0 << 60.0 << 60.0;
         QTest::newRow("surcharge and materials come after the minimum")
@@ -130,8 +122,6 @@ private slots:
             << discounted(hourly(100), 25, false) << hour << 0.0 << 100.0 << 75.0;
         QTest::newRow("discount larger than the total never goes negative")
             << withExtras(hourly(100), none, 20, none, 500) << hour << 0.0 << 100.0 << 0.0;
-        QTest::newRow("negative surcharge is clamped at 0")
-            << extras(hourly(10), none, -30) << hour << 0.0 << 10.0 << 0.0;
         QTest::newRow("NaN surcharge ends at 0")
             << extras(hourly(100), none, notANumber) << hour << 0.0 << 100.0 << 0.0;
         QTest::newRow("VAT is not part of the net") << withVat(hourly(100), 0.21) << hour << 0.0 << 100.0 << 100.0;
@@ -162,13 +152,9 @@ private slots:
         QTest::addColumn<bool>("expected");
         QTest::newRow("hourly with VAT") << withVat(hourly(85), 0.21) << false;
         QTest::newRow("fixed") << fixedPrice(500) << true;
-        QTest::newRow("per unit") << perUnit(40, 3) << true;
         QTest::newRow("minimum charge") << extras(hourly(), 50, none) << true;
-        QTest::newRow("negative minimum charge") << extras(hourly(), -5, none) << false;
         QTest::newRow("call-out fee 0") << extras(hourly(), none, 0) << false;
-        QTest::newRow("negative call-out fee") << extras(hourly(), none, -10) << true;
         QTest::newRow("materials") << extras(hourly(), none, none, 5) << true;
-        QTest::newRow("absolute discount, switch false") << discounted(hourly(), 10, false) << true;
         QTest::newRow("percentage discount scales with time") << discounted(hourly(), 10, true) << false;
         QTest::newRow("discount 0") << discounted(hourly(), 0) << false;
     }
@@ -227,24 +213,19 @@ private slots:
         QTest::newRow("unchanged") << loaded(hourly(85)) << hourly(85) << Result();
         QTest::newRow("a legacy project gets its first setting")
             << std::optional<Billing>() << hourly(70) << Result(Write{hourly(70), 70});
-        QTest::newRow("a legacy project without a rate")
-            << std::optional<Billing>() << hourly(0) << Result(Write{hourly(), none});
         QTest::newRow("rate cleared") << loaded(hourly(85)) << hourly() << Result(Write{hourly(), none});
         QTest::newRow("a stored rate of 0 is no rate") << loaded(hourly(0)) << hourly() << Result();
-        QTest::newRow("NaN rate is no rate") << loaded(hourly()) << hourly(notANumber) << Result();
         QTest::newRow("another model writes no hourly rate")
             << loaded(hourly(85)) << fixedPrice(1200) << Result(Write{fixedPrice(1200), none});
         Billing fixedStale = fixedPrice(1500);
         fixedStale.unitPrice = 85;
         QTest::newRow("fields of another model left from switching")
             << loaded(fixedPrice(1500)) << fixedStale << Result();
-        QTest::newRow("empty unit label is no label") << loaded(perUnit(40, 3)) << perUnit(40, 3, u"  "_s) << Result();
         QTest::newRow("8 hours per day is the default") << loaded(daily(600)) << daily(600, 8) << Result();
         QTest::newRow("zero extras are no extras")
             << loaded(hourly(85)) << withExtras(hourly(85), 0, 0, 0, 0, true) << Result();
         Billing labelOnly = hourly(85);
         labelOnly.surchargeLabel = u"Parking"_s;
-        QTest::newRow("a fee label without a fee") << loaded(hourly(85)) << labelOnly << Result();
         QTest::newRow("percentage switch off is absent")
             << loaded(discounted(hourly(85), 10)) << discounted(hourly(85), 10, false) << Result();
         QTest::newRow("VAT 0 is not the same as no VAT")
@@ -273,13 +254,10 @@ private slots:
         QTest::addColumn<Billing>("billing");
         QTest::addColumn<Opt>("legacy");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("hourly") << u"en"_s << hourly(85) << Opt(60) << u"€85.00/h"_s;
         QTest::newRow("hourly rate 0 shows the legacy rate") << u"en"_s << hourly(0) << Opt(60) << u"€60.00/h"_s;
         QTest::newRow("hourly without any rate") << u"en"_s << hourly() << Opt() << u"€0.00/h"_s;
         QTest::newRow("fixed") << u"en"_s << fixedPrice(1200) << Opt() << u"€1,200.00"_s;
         QTest::newRow("per unit") << u"en"_s << perUnit(40, 3, u"visit"_s) << Opt() << u"3 visit × €40.00"_s;
-        QTest::newRow("per unit, blank label, half units")
-            << u"en"_s << perUnit(40, 2.5, u" "_s) << Opt() << u"2.5 unit × €40.00"_s;
         QTest::newRow("daily in Dutch") << u"nl"_s << daily(600) << Opt() << u"€600.00/dag"_s;
         QTest::newRow("per unit in German") << u"de"_s << perUnit(40, 2) << Opt() << u"2 Einheit × €40.00"_s;
     }
@@ -313,13 +291,11 @@ private slots:
         labelled.surchargeLabel = u"Parking"_s;
         QTest::newRow("call-out fee with its label") << labelled << u"+ Parking"_s;
         labelled.surchargeLabel = u""_s;
-        QTest::newRow("empty label") << labelled << u"+ Voorrijkosten"_s;
         QTest::newRow("negative call-out fee") << extras(hourly(), none, -5) << QString();
         QTest::newRow("fractional percentage") << discounted(hourly(), 12.5, true) << u"\u2212 12.5% korting"_s;
         QTest::newRow("negative absolute discount") << discounted(hourly(), -5) << u"\u2212 korting"_s;
         QTest::newRow("discount 0") << discounted(hourly(), 0, true) << QString();
         QTest::newRow("VAT 7 % despite binary noise") << withVat(hourly(85), 0.07) << u"7% BTW"_s;
-        QTest::newRow("VAT 5.5 %") << withVat(hourly(85), 0.055) << u"5.5% BTW"_s;
         QTest::newRow("VAT 0") << withVat(hourly(85), 0) << QString();
         QTest::newRow("all, in order")
             << withVat(withExtras(hourly(85), 100, 25, 10, 10, true), 0.21)
@@ -342,7 +318,6 @@ private slots:
         QTest::addColumn<QString>("percent");
         QTest::newRow("negative whole") << -4.0 << u"-4"_s << u"-4"_s;
         QTest::newRow("negative half goes away from zero") << -20.5 << u"-20.5"_s << u"-21"_s;
-        QTest::newRow("more decimals are cut to one") << 2.26 << u"2.3"_s << u"2"_s;
         QTest::newRow("binary noise over a whole number") << 7.000000000000001 << u"7.0"_s << u"7"_s;
         QTest::newRow("2^53 still fits") << 9007199254740992.0 << u"9007199254740992"_s << u"9007199254740992"_s;
         QTest::newRow("too large for 64 bits") << 1e20 << u"100000000000000000000.0"_s << u"100000000000000000000"_s;
