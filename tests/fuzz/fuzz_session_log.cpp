@@ -28,8 +28,9 @@ void writeAll(const QByteArray &path, const uint8_t *data, size_t size, int flag
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static QTemporaryDir *dir = new QTemporaryDir;
-    static const QString projects = dir->path();
+    // A static object, not a leaked one: its folder is removed when the run exits.
+    static const QTemporaryDir dir;
+    static const QString projects = dir.path();
     static const QByteArray path = QFile::encodeName(projects + QStringLiteral("/p/s.jsonl"));
     static const bool made = QDir().mkpath(projects + QStringLiteral("/p"));
     if (!made || size == 0) {
