@@ -71,8 +71,7 @@ private slots:
         const Run run = morvane({u"--render-invoice"_s});
         QCOMPARE(run.code, 0);
         checkReport(run, folder.filePath(u"morvane-preview.pdf"_s));
-        QVERIFY(run.out.contains(u"design=lightMinimalAccent"_s));
-        QCOMPARE(pdfPages(folder.filePath(u"morvane-preview.pdf"_s)), 1);
+        QVERIFY(run.out.contains(u" pages=1 "_s) && run.out.contains(u"design=lightMinimalAccent"_s));
     }
 
     void longSampleInADesignWithPictures()
@@ -109,49 +108,38 @@ private slots:
 
     void mistakesAreExplained_data()
     {
-        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<int>("code");
         QTest::addColumn<QString>("message");
-        QTest::newRow("unknown design") << QStringList{u"--render-invoice"_s, u"--design"_s, u"neon"_s}
+        QTest::newRow("unknown design") << u"--design neon"_s << 2
                                         << u"Unknown design: neon. Choose one of: lightMinimalAccent"_s;
-        QTest::newRow("negative lines") << QStringList{u"--render-invoice"_s, u"--lines"_s, u"-3"_s}
-                                        << u"--lines takes a whole number from 0 to 5000."_s;
-        QTest::newRow("lines that are not a number")
-            << QStringList{u"--render-invoice"_s, u"--lines"_s, u"ten"_s} << u"--lines takes a whole number"_s;
-        QTest::newRow("missing draft") << QStringList{u"--render-invoice"_s, u"--draft"_s, u"nowhere.json"_s}
-                                       << u"Cannot read the draft nowhere.json"_s;
-        QTest::newRow("draft and lines") << QStringList{u"--render-invoice"_s, u"--draft"_s, u"x.json"_s, u"--lines"_s,
-                                                        u"3"_s}
+        QTest::newRow("negative lines") << u"--lines -3"_s << 2 << u"--lines takes a whole number from 0 to 5000."_s;
+        QTest::newRow("lines that are not a number") << u"--lines ten"_s << 2 << u"--lines takes a whole number"_s;
+        QTest::newRow("missing draft") << u"--draft nowhere.json"_s << 2 << u"Cannot read the draft nowhere.json"_s;
+        QTest::newRow("draft and lines") << u"--draft x.json --lines 3"_s << 2
                                          << u"--lines is for the sample invoice"_s;
+        QTest::newRow("draft with a bad key")
+            << u"--draft broken.json"_s << 2
+            << u"InvoiceDocument.draft.lines[0].amount: expected a number, found a string"_s;
+        QTest::newRow("unwritable output")
+            << u"--out /proc/no/such/dir/x.pdf"_s << 1 << u"Cannot write /proc/no/such/dir/x.pdf"_s;
     }
 
     void mistakesAreExplained()
     {
-        QFETCH(QStringList, arguments);
+        QFETCH(QString, arguments);
+        QFETCH(int, code);
         QFETCH(QString, message);
-        const Run run = morvane(arguments);
-        QCOMPARE(run.code, 2);
+        QFile broken(folder.filePath(u"broken.json"_s));
+        QVERIFY(broken.open(QIODevice::WriteOnly));
+        broken.write(R"({"draft": {"lines": [{"title": "Tiling", "amount": "672"}]}})");
+        broken.close();
+        const QStringList written = QDir(folder.path()).entryList({u"*.pdf"_s});
+        const Run run = morvane(QStringList{u"--render-invoice"_s} + arguments.split(u' '));
+        QCOMPARE(run.code, code);
         QVERIFY2(run.err.contains(message), qPrintable(run.err));
         QVERIFY(run.out.isEmpty());
-    }
-
-    void brokenDraftNamesTheBadKey()
-    {
-        QFile draft(folder.filePath(u"broken.json"_s));
-        QVERIFY(draft.open(QIODevice::WriteOnly));
-        draft.write(R"({"draft": {"lines": [{"title": "Tiling", "amount": "672"}]}})");
-        draft.close();
-        const Run run = morvane({u"--render-invoice"_s, u"--draft"_s, draft.fileName()});
-        QCOMPARE(run.code, 2);
-        QVERIFY2(run.err.contains(u"InvoiceDocument.draft.lines[0].amount: expected a number, found a string"_s),
-                 qPrintable(run.err));
-        QVERIFY(!QFile::exists(folder.filePath(u"morvane-invoice-DRAFT.pdf"_s)));
-    }
-
-    void unwritableOutputFails()
-    {
-        const Run run = morvane({u"--render-invoice"_s, u"--out"_s, u"/proc/no/such/dir/x.pdf"_s});
-        QCOMPARE(run.code, 1);
-        QVERIFY2(run.err.contains(u"Cannot write /proc/no/such/dir/x.pdf"_s), qPrintable(run.err));
+        QCOMPARE(QDir(folder.path()).entryList({u"*.pdf"_s}), written);
     }
 };
 
