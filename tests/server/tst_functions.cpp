@@ -174,63 +174,70 @@ private slots:
         seed();
     }
 
-    void deletionIsRefusedWithoutTheExactRequest_data()
+    // Whatever is refused, or answered without doing anything, leaves every row and file of the user.
+    void answersThatChangeNothing_data()
     {
         QTest::addColumn<QByteArray>("method");
+        QTest::addColumn<QByteArray>("target");
         QTest::addColumn<QByteArray>("token");
         QTest::addColumn<QByteArray>("body");
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("error");
 
-        const QByteArray confirm = "{\"confirm\":\"DELETE\"}";
-        QTest::newRow("another word") << QByteArray("POST") << QByteArray("anna")
-                                      << QByteArray("{\"confirm\":\"delete\"}") << 400 << u"confirmation_required"_s;
-        QTest::newRow("the word and more")
-            << QByteArray("POST") << QByteArray("anna") << QByteArray("{\"confirm\":\"DELETE\",\"also\":1}") << 400
-            << u"confirmation_required"_s;
-        QTest::newRow("true instead of the word")
-            << QByteArray("POST") << QByteArray("anna") << QByteArray("{\"confirm\":true}") << 400
-            << u"confirmation_required"_s;
-        QTest::newRow("no body") << QByteArray("POST") << QByteArray("anna") << QByteArray() << 400
-                                 << u"confirmation_required"_s;
-        QTest::newRow("an array") << QByteArray("POST") << QByteArray("anna") << QByteArray("[" + confirm + "]") << 400
-                                  << u"confirmation_required"_s;
-        QTest::newRow("no token") << QByteArray("POST") << QByteArray() << confirm << 401 << u"not_signed_in"_s;
-        QTest::newRow("the anonymous key")
-            << QByteArray("POST") << QByteArray("anon") << confirm << 401 << u"not_signed_in"_s;
-        QTest::newRow("an expired token")
-            << QByteArray("POST") << QByteArray("expired") << confirm << 401 << u"invalid_token"_s;
-        QTest::newRow("a forged token") << QByteArray("POST") << QByteArray("forged") << confirm << 401
-                                        << u"invalid_token"_s;
-        QTest::newRow("the service role")
-            << QByteArray("POST") << QByteArray("service") << confirm << 403 << u"user_token_required"_s;
-        QTest::newRow("GET") << QByteArray("GET") << QByteArray("anna") << QByteArray() << 405
-                             << u"method_not_allowed"_s;
+        struct Request
+        {
+            const char *name, *method, *target, *token, *body;
+            int status;
+            const char *error;
+        };
+        const char *const confirm = "{\"confirm\":\"DELETE\"}";
+        // clang-format off
+        const Request rows[]{
+            {"another word", "POST", "delete-account", "anna", "{\"confirm\":\"delete\"}", 400, "confirmation_required"},
+            {"the word and more", "POST", "delete-account", "anna", "{\"confirm\":\"DELETE\",\"also\":1}", 400,
+             "confirmation_required"},
+            {"true instead of the word", "POST", "delete-account", "anna", "{\"confirm\":true}", 400, "confirmation_required"},
+            {"no body", "POST", "delete-account", "anna", "", 400, "confirmation_required"},
+            {"an array", "POST", "delete-account", "anna", "[{\"confirm\":\"DELETE\"}]", 400, "confirmation_required"},
+            {"no token", "POST", "delete-account", "", confirm, 401, "not_signed_in"},
+            {"the anonymous key", "POST", "delete-account", "anon", confirm, 401, "not_signed_in"},
+            {"an expired token", "POST", "delete-account", "expired", confirm, 401, "invalid_token"},
+            {"a forged token", "POST", "delete-account", "forged", confirm, 401, "invalid_token"},
+            {"the service role", "POST", "delete-account", "service", confirm, 403, "user_token_required"},
+            {"GET", "GET", "delete-account", "anna", "", 405, "method_not_allowed"},
+            {"unknown name", "POST", "send-invoice", "anna", confirm, 404, "function_not_found"},
+            {"no name", "POST", "", "anna", confirm, 404, "function_not_found"},
+            {"below a known name", "POST", "delete-account/now", "anna", confirm, 404, "function_not_found"},
+            {"the AI relay while unconfigured", "POST", "morvane-ai", "anna",
+             "{\"messages\":[{\"role\":\"user\",\"content\":\"hi\"}]}", 503, "ai_not_configured"},
+            {"the AI relay with a forged token", "POST", "morvane-ai", "forged", "{}", 401, "invalid_token"},
+        };
+        // clang-format on
+        for (const Request &r : rows) {
+            const QByteArray target = QByteArray("/functions/v1") + (*r.target ? "/" : "") + r.target;
+            QTest::newRow(r.name) << QByteArray(r.method) << target << QByteArray(r.token) << QByteArray(r.body)
+                                  << r.status << QString::fromLatin1(r.error);
+        }
     }
 
-    void deletionIsRefusedWithoutTheExactRequest()
+    void answersThatChangeNothing()
     {
         QFETCH(QByteArray, method);
+        QFETCH(QByteArray, target);
         QFETCH(QByteArray, token);
         QFETCH(QByteArray, body);
         QFETCH(QString, error);
-        QByteArray bearer;
-        if (token == "anna") {
-            bearer = m_annaToken;
-        } else if (token == "anon") {
-            bearer = m_backend.anonKey();
-        } else if (token == "expired") {
-            bearer = m_backend.tokenFor(m_anna, u"authenticated"_s, -10);
-        } else if (token == "forged") {
-            bearer =
-                Jwt::sign({{u"sub"_s, m_anna}, {u"role"_s, u"authenticated"_s}}, "some other secret of 32 bytes!!");
-        } else if (token == "service") {
-            bearer = m_backend.serviceToken();
-        }
+        const QMap<QByteArray, QByteArray> bearers{
+            {"anna", m_annaToken},
+            {"anon", m_backend.anonKey()},
+            {"expired", m_backend.tokenFor(m_anna, u"authenticated"_s, -10)},
+            {"forged",
+             Jwt::sign({{u"sub"_s, m_anna}, {u"role"_s, u"authenticated"_s}}, "some other secret of 32 bytes!!")},
+            {"service", m_backend.serviceToken()}};
         const QMap<QByteArray, qint64> before = rowsOwnedBy(m_anna);
         const QSet<QString> filesBefore = filesOnDisk();
 
-        const HttpResult result = m_backend.request(method, "/functions/v1/delete-account", bearer, body);
+        const HttpResult result = m_backend.request(method, target, bearers.value(token), body);
         QTEST(result.status, "status");
         const QJsonObject answer = result.json().object();
         QCOMPARE(answer.value(u"error"_s).toString(), error);
@@ -240,34 +247,6 @@ private slots:
         QCOMPARE(count("SELECT count(*) FROM auth.users WHERE id = $1", {m_anna.toUtf8()}), 1);
         QCOMPARE(rowsOwnedBy(m_anna), before);
         QCOMPARE(filesOnDisk(), filesBefore);
-    }
-
-    void theAiRelayRefusesWhileUnconfigured()
-    {
-        const HttpResult result = m_backend.request("POST", "/functions/v1/morvane-ai", m_annaToken,
-                                                    "{\"messages\":[{\"role\":\"user\",\"content\":\"hi\"}]}");
-        QCOMPARE(result.status, 503);
-        QCOMPARE(result.json().object().value(u"error"_s).toString(), u"ai_not_configured"_s);
-        QCOMPARE(result.json().object().value(u"message"_s).toString(),
-                 u"No AI provider is configured on this server."_s);
-        QCOMPARE(m_backend.request("POST", "/functions/v1/morvane-ai", "not.a.token", "{}").status, 401);
-    }
-
-    void unknownFunctionsAreNotFound_data()
-    {
-        QTest::addColumn<QByteArray>("target");
-        QTest::newRow("unknown name") << QByteArray("/functions/v1/send-invoice");
-        QTest::newRow("no name") << QByteArray("/functions/v1");
-        QTest::newRow("below a known name") << QByteArray("/functions/v1/delete-account/now");
-    }
-
-    void unknownFunctionsAreNotFound()
-    {
-        QFETCH(QByteArray, target);
-        const HttpResult result = m_backend.request("POST", target, m_annaToken, "{\"confirm\":\"DELETE\"}");
-        QCOMPARE(result.status, 404);
-        QCOMPARE(result.json().object().value(u"error"_s).toString(), u"function_not_found"_s);
-        QCOMPARE(count("SELECT count(*) FROM auth.users WHERE id = $1", {m_anna.toUtf8()}), 1);
     }
 
     void deletionTakesEverythingOfTheUserAndNothingElse()

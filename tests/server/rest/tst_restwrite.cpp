@@ -12,6 +12,13 @@ using Headers = QList<std::pair<QByteArray, QByteArray>>;
 namespace {
 
 const QByteArray project = "00000000-0000-4000-8000-00000000000a";
+const Headers represent{{"Prefer", "return=representation"}};
+
+// JSON written with ' for ", as in the tables below.
+QByteArray json(const char *text)
+{
+    return QByteArray(text).replace('\'', '"');
+}
 
 } // namespace
 
@@ -54,6 +61,7 @@ private slots:
             END $$;
             GRANT EXECUTE ON FUNCTION public.test_numbers, public.test_pairs, public.test_project, public.test_echo,
                 public.test_fail TO authenticated;
+            CREATE TABLE public.messages (id int);
             NOTIFY pgrst, 'reload schema';
         )SQL");
         QTRY_COMPARE_WITH_TIMEOUT(send("POST", "rpc/test_numbers", "{\"n\":1}").status, 200, 10000);
@@ -62,12 +70,11 @@ private slots:
     void insertReturnsWhatWasAskedFor_data()
     {
         QTest::addColumn<Headers>("headers");
-        QTest::addColumn<int>("status");
         QTest::addColumn<bool>("hasBody");
         QTest::addColumn<bool>("hasLocation");
-        QTest::newRow("minimal by default") << Headers{} << 201 << false << false;
-        QTest::newRow("representation") << Headers{{"Prefer", "return=representation"}} << 201 << true << false;
-        QTest::newRow("headers only") << Headers{{"Prefer", "return=headers-only"}} << 201 << false << true;
+        QTest::newRow("minimal by default") << Headers{} << false << false;
+        QTest::newRow("representation") << represent << true << false;
+        QTest::newRow("headers only") << Headers{{"Prefer", "return=headers-only"}} << false << true;
     }
 
     void insertReturnsWhatWasAskedFor()
@@ -76,16 +83,14 @@ private slots:
         QFETCH(bool, hasBody);
         QFETCH(bool, hasLocation);
         const QByteArray title = QTest::currentDataTag();
-        const HttpResult result = send("POST", "tasks",
-                                       "{\"user_id\":\"" + m_anna.toUtf8() + "\",\"project_id\":\"" + project +
-                                           "\",\"title\":\"" + title + "\"}",
-                                       headers);
-        QTEST(result.status, "status");
+        const HttpResult result =
+            send("POST", "tasks", "{\"project_id\":\"" + project + "\",\"title\":\"" + title + "\"}", headers);
+        QCOMPARE(result.status, 201);
         QCOMPARE(!result.body.isEmpty(), hasBody);
         if (hasBody) {
+            // The table's defaults are in the answer.
             const QJsonObject row = result.json().array().first().toObject();
             QCOMPARE(row.value(u"title"_s).toString(), QString::fromLatin1(title));
-            // Defaults of the table are in the answer.
             QCOMPARE(row.value(u"status"_s).toString(), u"not_started"_s);
             QCOMPARE(row.value(u"time_spent_seconds"_s).toInt(), 0);
         }
@@ -93,80 +98,73 @@ private slots:
         QCOMPARE(countRows("SELECT count(*) FROM tasks WHERE title = '" + title + "'"), 1);
     }
 
-    void bulkInsertRules_data()
+    void bulkInserts_data()
     {
         QTest::addColumn<QByteArray>("target");
         QTest::addColumn<QByteArray>("body");
-        QTest::addColumn<Headers>("headers");
+        QTest::addColumn<QByteArray>("prefer");
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("code");
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<QStringList>("statuses");
+        // The rows written, "name/archived" or "name/status" each; empty when refused.
+        QTest::addColumn<QString>("written");
 
-        const Headers represent{{"Prefer", "return=representation"}};
-        QTest::newRow("same keys") << QByteArray("clients")
-                                   << QByteArray(
-                                          "[{\"name\":\"B1\",\"archived\":true},{\"name\":\"B2\",\"archived\":false}]")
-                                   << represent << 201 << QString() << QStringList{u"B1"_s, u"B2"_s}
-                                   << QStringList{u"true"_s, u"false"_s};
-        QTest::newRow("keys differ") << QByteArray("clients")
-                                     << QByteArray("[{\"name\":\"B3\"},{\"name\":\"B4\",\"archived\":true}]")
-                                     << represent << 400 << u"PGRST102"_s << QStringList{} << QStringList{};
-        QTest::newRow("columns pick keys, missing ones are null")
-            << QByteArray("clients?columns=name,notes")
-            << QByteArray("[{\"name\":\"B5\",\"phone\":\"1\"},{\"name\":\"B6\",\"notes\":\"n\"}]") << represent << 201
-            << QString() << QStringList{u"B5"_s, u"B6"_s} << QStringList{u"false"_s, u"false"_s};
-        QTest::newRow("missing=default fills defaults")
-            << QByteArray("projects?columns=name,status")
-            << QByteArray("[{\"name\":\"P1\",\"status\":\"completed\"},{\"name\":\"P2\"}]")
-            << Headers{{"Prefer", "return=representation,missing=default"}} << 201 << QString()
-            << QStringList{u"P1"_s, u"P2"_s} << QStringList{};
-        QTest::newRow("unknown column") << QByteArray("clients") << QByteArray("{\"name\":\"B7\",\"colour\":\"red\"}")
-                                        << represent << 400 << u"PGRST204"_s << QStringList{} << QStringList{};
-        QTest::newRow("not JSON") << QByteArray("clients") << QByteArray("{name:") << represent << 400 << u"PGRST102"_s
-                                  << QStringList{} << QStringList{};
-        QTest::newRow("empty body") << QByteArray("clients") << QByteArray() << represent << 400 << u"PGRST102"_s
-                                    << QStringList{} << QStringList{};
-        QTest::newRow("array of scalars") << QByteArray("clients") << QByteArray("[1,2]") << represent << 400
-                                          << u"PGRST102"_s << QStringList{} << QStringList{};
-        QTest::newRow("empty array inserts nothing") << QByteArray("clients") << QByteArray("[]") << represent << 201
-                                                     << QString() << QStringList{} << QStringList{};
+        struct Insert
+        {
+            const char *name, *target, *body, *prefer;
+            int status;
+            const char *code, *written;
+        };
+        // clang-format off
+        const Insert rows[]{
+            {"same keys", "clients", "[{'name':'B1','archived':true},{'name':'B2','archived':false}]", "", 201, "",
+             "B1/true B2/false"},
+            {"keys differ", "clients", "[{'name':'B3'},{'name':'B4','archived':true}]", "", 400, "PGRST102", ""},
+            {"columns pick keys, missing ones are null", "clients?columns=name,notes",
+             "[{'name':'B5','phone':'1'},{'name':'B6','notes':'n'}]", "", 201, "", "B5/false B6/false"},
+            {"missing=default fills defaults", "projects?columns=name,status",
+             "[{'name':'P1','status':'completed'},{'name':'P2'}]", ",missing=default", 201, "", "P1/completed P2/active"},
+            {"unknown column", "clients", "{'name':'B7','colour':'red'}", "", 400, "PGRST204", ""},
+            {"not JSON", "clients", "{name:", "", 400, "PGRST102", ""},
+            {"empty body", "clients", "", "", 400, "PGRST102", ""},
+            {"array of scalars", "clients", "[1,2]", "", 400, "PGRST102", ""},
+            {"empty array inserts nothing", "clients", "[]", "", 201, "", ""},
+        };
+        // clang-format on
+        for (const Insert &r : rows) {
+            QTest::newRow(r.name) << QByteArray(r.target) << json(r.body) << QByteArray(r.prefer) << r.status
+                                  << QString::fromLatin1(r.code) << QString::fromLatin1(r.written);
+        }
     }
 
-    void bulkInsertRules()
+    void bulkInserts()
     {
         QFETCH(QByteArray, target);
         QFETCH(QByteArray, body);
-        QFETCH(Headers, headers);
+        QFETCH(QByteArray, prefer);
         QFETCH(QString, code);
-        QFETCH(QStringList, names);
-        QFETCH(QStringList, statuses);
-        const int before = countRows("SELECT count(*) FROM clients") + countRows("SELECT count(*) FROM projects");
-        const HttpResult result = send("POST", target, body, headers);
+        QFETCH(QString, written);
+        const QByteArray counts = "SELECT (SELECT count(*) FROM clients) + (SELECT count(*) FROM projects)";
+        const int before = countRows(counts);
+        const HttpResult result = send("POST", target, body, {{"Prefer", "return=representation" + prefer}});
         QTEST(result.status, "status");
-        if (!code.isEmpty()) {
-            QCOMPARE(result.code(), code);
-            QCOMPARE(countRows("SELECT count(*) FROM clients") + countRows("SELECT count(*) FROM projects"), before);
-            return;
+        QCOMPARE(result.code(), code);
+        QStringList rows;
+        const QString second = target.startsWith("projects") ? u"status"_s : u"archived"_s;
+        for (const QJsonValue &row : result.json().array()) {
+            rows.append(row[u"name"_s].toString() + u'/' + row[second].toVariant().toString());
+            QCOMPARE(row[u"user_id"_s].toString(), m_anna);
         }
-        const QJsonArray rows = result.json().array();
-        QCOMPARE(jsonColumn(rows, u"name"_s), names);
-        if (!statuses.isEmpty()) {
-            QCOMPARE(jsonColumn(rows, u"archived"_s), statuses);
-        }
-        if (target.startsWith("projects")) {
-            QCOMPARE(jsonColumn(rows, u"status"_s), (QStringList{u"completed"_s, u"active"_s}));
-            QCOMPARE(jsonColumn(rows, u"user_id"_s), (QStringList{m_anna, m_anna}));
-        }
+        QCOMPARE(rows.join(u' '), written);
+        QCOMPARE(countRows(counts), before + int(rows.size()));
     }
 
     void upserts()
     {
         const QByteArray id = "00000000-0000-4000-8000-0000000000f1";
         QCOMPARE(send("POST", "clients", "{\"id\":\"" + id + "\",\"name\":\"First\"}").status, 201);
-        const QByteArray again =
-            "[{\"id\":\"" + id +
-            "\",\"name\":\"Second\"},{\"id\":\"00000000-0000-4000-8000-0000000000f2\",\"name\":\"Other\"}]";
+        const QByteArray again = json("[{'id':'ID','name':'Second'},{'id':'00000000-0000-4000-8000-0000000000f2',"
+                                      "'name':'Other'}]")
+                                     .replace("ID", id);
 
         HttpResult result =
             send("POST", "clients", again, {{"Prefer", "return=representation,resolution=ignore-duplicates"}});
@@ -184,18 +182,11 @@ private slots:
         QCOMPARE(result.code(), u"23505"_s);
 
         // on_conflict names another unique key.
-        QCOMPARE(m_backend.database()
-                     .exec("SELECT count(*) FROM pg_indexes WHERE tablename = 'invoices' AND indexdef ILIKE "
-                           "'%(user_id, number)%'")
-                     .value(0, 0),
-                 "1");
-        const QByteArray invoice = "{\"number\":\"2025-0001\",\"issued_at\":\"2025-03-01\",\"currency\":\"EUR\","
-                                   "\"subtotal\":10,\"vat_amount\":2.1,\"total\":12.1}";
-        QCOMPARE(send("POST", "invoices", invoice).status, 201);
-        result = send("POST", "invoices?on_conflict=user_id,number",
-                      "{\"user_id\":\"" + m_anna.toUtf8() +
-                          "\",\"number\":\"2025-0001\",\"issued_at\":\"2025-03-01\",\"currency\":\"EUR\",\"subtotal\":"
-                          "20,\"vat_amount\":4.2,\"total\":24.2}",
+        const QByteArray invoice = json("{'user_id':'USER','number':'2025-0001','issued_at':'2025-03-01',"
+                                        "'currency':'EUR','subtotal':10,'vat_amount':2.1,'total':TOTAL}")
+                                       .replace("USER", m_anna.toUtf8());
+        QCOMPARE(send("POST", "invoices", QByteArray(invoice).replace("TOTAL", "12.1")).status, 201);
+        result = send("POST", "invoices?on_conflict=user_id,number", QByteArray(invoice).replace("TOTAL", "24.2"),
                       {{"Prefer", "return=representation,resolution=merge-duplicates"}});
         QCOMPARE(result.status, 201);
         QCOMPARE(result.json().array().first().toObject().value(u"total"_s).toDouble(), 24.2);
@@ -214,17 +205,15 @@ private slots:
         QCOMPARE(result.header("Content-Range"), "*/2");
 
         // A filter that matches nothing is not an error.
-        result = send("PATCH", "clients?name=eq.nobody", "{\"phone\":\"1\"}", {{"Prefer", "return=representation"}});
+        result = send("PATCH", "clients?name=eq.nobody", "{\"phone\":\"1\"}", represent);
         QCOMPARE(result.status, 200);
         QCOMPARE(result.json().array().size(), 0);
 
-        result = send("PATCH", "clients?notes=eq.batch", "{\"notes\":\"seen\"}");
-        QCOMPARE(result.status, 204);
+        QCOMPARE(send("PATCH", "clients?notes=eq.batch", "{\"notes\":\"seen\"}").status, 204);
         QCOMPARE(countRows("SELECT count(*) FROM clients WHERE notes = 'seen'"), 5);
 
         // A limit with an order changes only the first rows.
-        result = send("PATCH", "clients?notes=eq.seen&order=name.desc&limit=2", "{\"notes\":\"last two\"}",
-                      {{"Prefer", "return=representation"}});
+        result = send("PATCH", "clients?notes=eq.seen&order=name.desc&limit=2", "{\"notes\":\"last two\"}", represent);
         QStringList changed = jsonColumn(result.json().array(), u"name"_s);
         changed.sort();
         QCOMPARE(changed, (QStringList{u"U4"_s, u"U5"_s}));
@@ -232,20 +221,18 @@ private slots:
         result = send("PATCH", "clients?notes=eq.seen", "[{\"phone\":\"1\"}]");
         QCOMPARE(result.status, 400);
         QCOMPARE(result.code(), u"PGRST102"_s);
-        result = send("PATCH", "clients?notes=eq.seen", "{\"shoe_size\":44}");
-        QCOMPARE(result.code(), u"PGRST204"_s);
+        QCOMPARE(send("PATCH", "clients?notes=eq.seen", "{\"shoe_size\":44}").code(), u"PGRST204"_s);
 
-        result = send("DELETE", "clients?notes=eq.last two", {}, {{"Prefer", "return=representation"}});
+        result = send("DELETE", "clients?notes=eq.last two", {}, represent);
         QCOMPARE(result.status, 200);
         QCOMPARE(result.json().array().size(), 2);
-        result = send("DELETE", "clients?notes=eq.seen");
-        QCOMPARE(result.status, 204);
+        QCOMPARE(send("DELETE", "clients?notes=eq.seen").status, 204);
         QCOMPARE(countRows("SELECT count(*) FROM clients WHERE name LIKE 'U_'"), 0);
     }
 
-    void singleObjectWritesRollBackOtherwise()
+    void singleObjectAndEmbedsInWrites()
     {
-        const Headers object{{"Accept", "application/vnd.pgrst.object+json"}, {"Prefer", "return=representation"}};
+        const Headers object{{"Accept", "application/vnd.pgrst.object+json"}, represent.first()};
         HttpResult result = send("POST", "clients", "[{\"name\":\"S1\"},{\"name\":\"S2\"}]", object);
         QCOMPARE(result.status, 406);
         QCOMPARE(result.code(), u"PGRST116"_s);
@@ -254,16 +241,11 @@ private slots:
         result = send("POST", "clients", "{\"name\":\"S3\"}", object);
         QCOMPARE(result.status, 201);
         QCOMPARE(result.json().object().value(u"name"_s).toString(), u"S3"_s);
-    }
 
-    void embedsInWrittenRows()
-    {
-        const HttpResult result =
-            send("POST", "tasks?select=title,project:projects(name)",
-                 "{\"project_id\":\"" + project + "\",\"title\":\"Embedded\"}", {{"Prefer", "return=representation"}});
+        result = send("POST", "tasks?select=title,project:projects(name)",
+                      "{\"project_id\":\"" + project + "\",\"title\":\"Embedded\"}", represent);
         QCOMPARE(result.status, 201);
-        QCOMPARE(result.json().array().first().toObject().value(u"project"_s).toObject().value(u"name"_s).toString(),
-                 u"Site"_s);
+        QCOMPARE(result.json()[0][u"project"_s][u"name"_s].toString(), u"Site"_s);
     }
 
     void procedures_data()
@@ -272,40 +254,40 @@ private slots:
         QTest::addColumn<QByteArray>("target");
         QTest::addColumn<QByteArray>("body");
         QTest::addColumn<int>("status");
+        // The whole answer; "~text" for an answer that holds the text, "^text" for one that starts with it.
         QTest::addColumn<QByteArray>("answer");
 
-        QTest::newRow("set of scalars") << QByteArray("POST") << QByteArray("test_numbers") << QByteArray("{\"n\":3}")
-                                        << 200 << QByteArray("[1,2,3]");
-        QTest::newRow("set of scalars by GET")
-            << QByteArray("GET") << QByteArray("test_numbers?n=2") << QByteArray() << 200 << QByteArray("[1,2]");
-        QTest::newRow("table rows, default argument")
-            << QByteArray("POST") << QByteArray("test_pairs") << QByteArray("{\"n\":2}") << 200
-            << QByteArray("[{\"x\":1,\"y\":\"x1\"},{\"x\":2,\"y\":\"x2\"}]");
-        QTest::newRow("table rows, both arguments")
-            << QByteArray("POST") << QByteArray("test_pairs") << QByteArray("{\"n\":1,\"label\":\"a\"}") << 200
-            << QByteArray("[{\"x\":1,\"y\":\"a1\"}]");
-        QTest::newRow("composite is an object")
-            << QByteArray("POST") << QByteArray("test_project") << QByteArray("{\"p\":\"" + project + "\"}") << 200
-            << QByteArray("name=Site");
-        QTest::newRow("no row is null") << QByteArray("POST") << QByteArray("test_project")
-                                        << QByteArray("{\"p\":\"00000000-0000-4000-8000-000000000000\"}") << 200
-                                        << QByteArray("null");
-        QTest::newRow("one unnamed json argument takes the body")
-            << QByteArray("POST") << QByteArray("test_echo") << QByteArray("{\"any\":[1,{\"b\":null}]}") << 200
-            << QByteArray("{\"any\":[1,{\"b\":null}]}");
-        QTest::newRow("scalar text") << QByteArray("POST") << QByteArray("next_invoice_number") << QByteArray("{}")
-                                     << 200 << QByteArray("\"YYYY-0001\"");
-        QTest::newRow("unknown function")
-            << QByteArray("POST") << QByteArray("test_nothing") << QByteArray("{\"b\":1,\"a\":2}") << 404
-            << QByteArray("Could not find the function public.test_nothing(a, b) in the schema cache");
-        QTest::newRow("unknown argument") << QByteArray("POST") << QByteArray("test_numbers")
-                                          << QByteArray("{\"n\":1,\"m\":2}") << 404 << QByteArray("PGRST202");
-        QTest::newRow("missing argument")
-            << QByteArray("POST") << QByteArray("test_numbers") << QByteArray("{}") << 404 << QByteArray("PGRST202");
-        QTest::newRow("GET of a volatile function")
-            << QByteArray("GET") << QByteArray("test_fail?code=P0001") << QByteArray() << 405 << QByteArray("PGRST101");
-        QTest::newRow("void answers no content") << QByteArray("POST") << QByteArray("void_invoice")
-                                                 << QByteArray("{\"p_invoice_id\":\"INVOICE\"}") << 204 << QByteArray();
+        const QByteArray year = QByteArray::number(QDate::currentDate().year());
+        struct Call
+        {
+            const char *name, *method, *target, *body;
+            int status;
+            QByteArray answer;
+        };
+        // clang-format off
+        const Call calls[]{
+            {"set of scalars", "POST", "test_numbers", "{'n':3}", 200, "[1,2,3]"},
+            {"set of scalars by GET", "GET", "test_numbers?n=2", "", 200, "[1,2]"},
+            {"table rows, default argument", "POST", "test_pairs", "{'n':2}", 200, json("[{'x':1,'y':'x1'},{'x':2,'y':'x2'}]")},
+            {"table rows, both arguments", "POST", "test_pairs", "{'n':1,'label':'a'}", 200, json("[{'x':1,'y':'a1'}]")},
+            {"composite is an object", "POST", "test_project", "{'p':'00000000-0000-4000-8000-00000000000a'}", 200,
+             "^{\"id\":\"00000000-0000-4000-8000-00000000000a\""},
+            {"no row is null", "POST", "test_project", "{'p':'00000000-0000-4000-8000-000000000000'}", 200, "null"},
+            {"one unnamed json argument takes the body", "POST", "test_echo", "{'any':[1,{'b':null}]}", 200,
+             json("{'any':[1,{'b':null}]}")},
+            {"scalar text", "POST", "next_invoice_number", "{}", 200, '"' + year + "-0001\""},
+            {"unknown function", "POST", "test_nothing", "{'b':1,'a':2}", 404,
+             "~Could not find the function public.test_nothing(a, b) in the schema cache"},
+            {"unknown argument", "POST", "test_numbers", "{'n':1,'m':2}", 404, "~PGRST202"},
+            {"missing argument", "POST", "test_numbers", "{}", 404, "~PGRST202"},
+            {"GET of a volatile function", "GET", "test_fail?code=P0001", "", 405, "~PGRST101"},
+            {"void answers no content", "POST", "void_invoice", "{'p_invoice_id':'INVOICE'}", 204, ""},
+        };
+        // clang-format on
+        for (const Call &c : calls) {
+            QTest::newRow(c.name) << QByteArray(c.method) << QByteArray(c.target) << json(c.body) << c.status
+                                  << c.answer;
+        }
     }
 
     void procedures()
@@ -315,27 +297,20 @@ private slots:
         QFETCH(QByteArray, body);
         QFETCH(QByteArray, answer);
         if (body.contains("INVOICE")) {
-            const QByteArray invoice =
-                m_backend.database()
-                    .exec("INSERT INTO invoices (user_id, number, issued_at, currency, subtotal, vat_amount, total)"
-                          " VALUES ($1, 'V-1', '2025-03-01', 'EUR', 1, 0, 1) RETURNING id",
-                          {m_anna.toUtf8()})
-                    .value(0, 0);
-            body.replace("INVOICE", invoice);
+            body.replace("INVOICE", m_backend.database()
+                                        .exec("INSERT INTO invoices (user_id, number, issued_at, currency)"
+                                              " VALUES ($1, 'V-1', '2025-03-01', 'EUR') RETURNING id",
+                                              {m_anna.toUtf8()})
+                                        .value(0, 0));
         }
         const HttpResult result = send(method, "rpc/" + target, body);
         QTEST(result.status, "status");
-        if (answer.contains("YYYY")) {
-            answer.replace("YYYY", QByteArray::number(QDate::currentDate().year()));
-        }
-        if (answer.startsWith("name=")) {
-            QCOMPARE(result.json().object().value(u"name"_s).toString(), QString::fromUtf8(answer.mid(5)));
-        } else if (answer.startsWith("PGRST") || answer.startsWith("Could not")) {
-            QVERIFY2(result.body.contains(answer), result.body.constData());
-        } else if (answer.startsWith('[') || answer.startsWith('{')) {
-            QCOMPARE(QJsonDocument::fromJson(result.body), QJsonDocument::fromJson(answer));
+        if (answer.startsWith('^')) {
+            QVERIFY2(result.body.startsWith(answer.mid(1)), result.body.constData());
+        } else if (answer.startsWith('~')) {
+            QVERIFY2(result.body.contains(answer.mid(1)), result.body.constData());
         } else {
-            QCOMPARE(result.body, answer);
+            QCOMPARE(QJsonDocument::fromJson("[" + result.body + "]"), QJsonDocument::fromJson("[" + answer + "]"));
         }
     }
 
@@ -344,40 +319,36 @@ private slots:
         QTest::addColumn<QByteArray>("method");
         QTest::addColumn<QByteArray>("target");
         QTest::addColumn<QByteArray>("body");
-        QTest::addColumn<QByteArray>("caller");
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("code");
 
-        const QByteArray orphan = "{\"user_id\":\"" + m_anna.toUtf8() +
-                                  "\",\"project_id\":\"00000000-0000-4000-8000-000000000000\",\"title\":\"x\"}";
-        QTest::newRow("foreign key") << QByteArray("POST") << QByteArray("tasks") << orphan << QByteArray("service")
-                                     << 409 << u"23503"_s;
-        // Row-level security speaks before the foreign key does.
-        QTest::newRow("a project that is not yours")
-            << QByteArray("POST") << QByteArray("tasks") << orphan << QByteArray("user") << 403 << u"42501"_s;
-        QTest::newRow("check constraint")
-            << QByteArray("POST") << QByteArray("projects") << QByteArray("{\"name\":\"x\",\"status\":\"paused\"}")
-            << QByteArray("user") << 400 << u"23514"_s;
-        QTest::newRow("not null") << QByteArray("POST") << QByteArray("projects") << QByteArray("{\"name\":null}")
-                                  << QByteArray("user") << 400 << u"23502"_s;
-        QTest::newRow("bad uuid") << QByteArray("GET") << QByteArray("tasks?id=eq.not-a-uuid") << QByteArray()
-                                  << QByteArray("user") << 400 << u"22P02"_s;
-        QTest::newRow("raised exception")
-            << QByteArray("POST") << QByteArray("rpc/test_fail") << QByteArray("{\"code\":\"P0001\"}")
-            << QByteArray("user") << 400 << u"P0001"_s;
-        QTest::newRow("status chosen by the procedure")
-            << QByteArray("POST") << QByteArray("rpc/test_fail") << QByteArray("{\"code\":\"PT402\"}")
-            << QByteArray("user") << 402 << u"PT402"_s;
-        QTest::newRow("anonymous lacks the privilege")
-            << QByteArray("GET") << QByteArray("tasks") << QByteArray() << QByteArray("anon") << 401 << u"42501"_s;
-        QTest::newRow("signed in but not granted")
-            << QByteArray("GET") << QByteArray("messages") << QByteArray() << QByteArray("user") << 403 << u"42501"_s;
-        QTest::newRow("unknown table") << QByteArray("GET") << QByteArray("nothing") << QByteArray()
-                                       << QByteArray("user") << 404 << u"PGRST205"_s;
-        QTest::newRow("unknown column") << QByteArray("GET") << QByteArray("tasks?select=shoe_size") << QByteArray()
-                                        << QByteArray("user") << 400 << u"42703"_s;
-        QTest::newRow("PUT is not offered") << QByteArray("PUT") << QByteArray("tasks") << QByteArray("{}")
-                                            << QByteArray("user") << 405 << u"PGRST117"_s;
+        // How row security and privileges answer is tst_security's.
+        struct Error
+        {
+            const char *name, *method, *target, *body;
+            int status;
+            const char *code;
+        };
+        // clang-format off
+        const Error errors[]{
+            // As the service role, which row security does not stop before the key is checked.
+            {"foreign key", "POST", "tasks", "{'user_id':'USER','project_id':'00000000-0000-4000-8000-000000000000','title':'x'}", 409,
+             "23503"},
+            {"check constraint", "POST", "projects", "{'name':'x','status':'paused'}", 400, "23514"},
+            {"not null", "POST", "projects", "{'name':null}", 400, "23502"},
+            {"bad uuid", "GET", "tasks?id=eq.not-a-uuid", "", 400, "22P02"},
+            {"raised exception", "POST", "rpc/test_fail", "{'code':'P0001'}", 400, "P0001"},
+            {"status chosen by the procedure", "POST", "rpc/test_fail", "{'code':'PT402'}", 402, "PT402"},
+            {"signed in but not granted", "GET", "messages", "", 403, "42501"},
+            {"unknown table", "GET", "nothing", "", 404, "PGRST205"},
+            {"unknown column", "GET", "tasks?select=shoe_size", "", 400, "42703"},
+            {"PUT is not offered", "PUT", "tasks", "{}", 405, "PGRST117"},
+        };
+        // clang-format on
+        for (const Error &e : errors) {
+            QTest::newRow(e.name) << QByteArray(e.method) << QByteArray(e.target) << json(e.body) << e.status
+                                  << QString::fromLatin1(e.code);
+        }
     }
 
     void databaseErrorsMapToStatuses()
@@ -385,33 +356,20 @@ private slots:
         QFETCH(QByteArray, method);
         QFETCH(QByteArray, target);
         QFETCH(QByteArray, body);
-        QFETCH(QByteArray, caller);
-        if (target == "messages") {
-            m_backend.database().execScript(
-                "CREATE TABLE IF NOT EXISTS public.messages (id int); NOTIFY pgrst, 'reload schema'");
-            QTRY_COMPARE_WITH_TIMEOUT(send("GET", "messages").code(), u"42501"_s, 10000);
-        }
-        const QByteArray token = caller == "anon"      ? QByteArray()
-                                 : caller == "service" ? m_backend.serviceToken()
-                                                       : m_token;
+        QFETCH(QString, code);
+        const QByteArray token = code == u"23503" ? m_backend.serviceToken() : m_token;
+        body.replace("USER", m_anna.toUtf8());
         const HttpResult result = m_backend.request(method, "/rest/v1/" + target, token, body);
         QTEST(result.status, "status");
-        QTEST(result.code(), "code");
+        QCOMPARE(result.code(), code);
         const QJsonObject error = result.json().object();
         QCOMPARE(error.keys(), (QStringList{u"code"_s, u"details"_s, u"hint"_s, u"message"_s}));
         QVERIFY(!error.value(u"message"_s).toString().isEmpty());
-        QCOMPARE(result.status == 401, !result.header("WWW-Authenticate").isEmpty());
-        if (code() == u"P0001"_s) {
+        if (code == u"P0001") {
             QCOMPARE(error.value(u"message"_s).toString(), u"test failure P0001"_s);
             QCOMPARE(error.value(u"details"_s).toString(), u"some detail"_s);
             QCOMPARE(error.value(u"hint"_s).toString(), u"a hint"_s);
         }
-    }
-
-private:
-    QString code() const
-    {
-        return QString::fromLatin1(QTest::currentDataTag()) == u"raised exception" ? u"P0001"_s : QString();
     }
 };
 
