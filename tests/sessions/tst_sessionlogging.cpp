@@ -153,8 +153,6 @@ private Q_SLOTS:
         QCOMPARE(result.foundSessions, 1);
         QCOMPARE(result.loggedSessions, 2);
         QCOMPARE(result.loggedSeconds, qint64(90 + 60));
-        QCOMPARE(result.pendingSessions, 0);
-        QCOMPARE(m_sink->tasks.size(), 2);
         const BurstTask expected{u"user-1"_s, u"project-1"_s, u"[AI] Fix the cart"_s,
                                  u"Claude Code session a1, segment 1 of 2\n"
                                  u"Working dir: /w/shop\n"
@@ -219,7 +217,6 @@ private Q_SLOTS:
         runBlocking(w->scanNow());
         QCOMPARE(w->pendingPaths().size(), 1);
         runBlocking(w->dismissPath(u"/w/blog"_s));
-        QVERIFY(w->pendingPaths().isEmpty());
         QCOMPARE(w->processedKeys(), QStringList{u"b1"_s});
         runBlocking(w->scanNow());
         QVERIFY(w->pendingPaths().isEmpty());
@@ -254,10 +251,8 @@ private Q_SLOTS:
         auto w = watcher();
         w->mapPath(u"/w/shop"_s, u"project-1"_s);
         m_sink->user.reset();
-        const ScanResult result = runBlocking(w->scanNow());
-        QCOMPARE(result.loggedSessions, 0);
-        QVERIFY(m_sink->tasks.isEmpty());
-        QVERIFY(w->processedKeys().isEmpty());
+        QCOMPARE(runBlocking(w->scanNow()).loggedSessions, 0);
+        QVERIFY(m_sink->tasks.isEmpty() && w->processedKeys().isEmpty());
         m_sink->user = u"user-1"_s;
         QCOMPARE(runBlocking(w->scanNow()).loggedSessions, 2);
 
