@@ -50,18 +50,15 @@ ComposerTask composerTask(const QString &id, qint64 seconds, std::optional<Billi
 QList<Kind> kindsOf(const QList<BuiltLine> &lines)
 {
     QList<Kind> kinds;
-    for (const BuiltLine &line : lines) {
-        kinds << line.kind;
-    }
+    std::transform(lines.cbegin(), lines.cend(), std::back_inserter(kinds), [](const BuiltLine &l) { return l.kind; });
     return kinds;
 }
 
 QList<double> amountsOf(const QList<BuiltLine> &lines)
 {
     QList<double> amounts;
-    for (const BuiltLine &line : lines) {
-        amounts << line.amount;
-    }
+    std::transform(lines.cbegin(), lines.cend(), std::back_inserter(amounts),
+                   [](const BuiltLine &l) { return l.amount; });
     return amounts;
 }
 
@@ -334,19 +331,13 @@ private slots:
         QFETCH(QList<BuiltLine>, lines);
         QFETCH(std::optional<double>, manual);
         QFETCH(double, templatePercent);
-        QFETCH(QList<VatGroup>, groups);
-        QFETCH(double, vat);
-        QFETCH(double, total);
-
-        double subtotal = 0;
-        for (const BuiltLine &line : lines) {
-            subtotal += line.amount;
-        }
+        const double subtotal = std::accumulate(lines.cbegin(), lines.cend(), 0.0,
+                                                [](double sum, const BuiltLine &line) { return sum + line.amount; });
         const Earnings::VatResult result =
             Earnings::computeVat(lines, Earnings::round2(subtotal), manual, templatePercent);
-        QCOMPARE(result.groups, groups);
-        QCOMPARE(result.vat, vat);
-        QCOMPARE(result.total, total);
+        QTEST(result.groups, "groups");
+        QTEST(result.vat, "vat");
+        QTEST(result.total, "total");
     }
 
     void vatFromBuiltLines()
