@@ -69,6 +69,12 @@ public:
         return finish(*start(arguments, environment()), input);
     }
 
+    // `line` is the arguments separated by spaces, or by '|' when one of them holds a space.
+    Run operator()(const QString &line, const QByteArray &input = {}) const
+    {
+        return (*this)(line.split(line.contains(u'|') ? u'|' : u' '), input);
+    }
+
     static Run finish(QProcess &process, const QByteArray &input = {})
     {
         process.write(input);
