@@ -7,8 +7,6 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
@@ -19,89 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// One morvane-server process on a data folder of the test's choosing.
-class ServerProcess
-{
-public:
-    explicit ServerProcess(const QString &dataDir, const QStringList &extra = {})
-    {
-        m_process.start(TestBackend::serverProgram(),
-                        QStringList{u"--data-dir"_s, dataDir, u"--port"_s, u"0"_s} + extra);
-    }
-
-    ~ServerProcess() { stop(SIGTERM); }
-
-    // Waits for the ready line; false when the process ended first.
-    bool waitReady()
-    {
-        const qint64 deadline = QDateTime::currentMSecsSinceEpoch() + 120000;
-        while (QDateTime::currentMSecsSinceEpoch() < deadline) {
-            collect();
-            const qsizetype at = m_out.indexOf("morvane-server ready url=");
-            if (at >= 0 && m_out.indexOf('\n', at) > at) {
-                const QByteArray line = m_out.mid(at, m_out.indexOf('\n', at) - at);
-                m_url = QString::fromLatin1(line.mid(line.indexOf('=') + 1));
-                return true;
-            }
-            if (m_process.state() == QProcess::NotRunning) {
-                return false;
-            }
-            m_process.waitForReadyRead(200);
-        }
-        return false;
-    }
-
-    int waitExit()
-    {
-        m_process.waitForFinished(120000);
-        collect();
-        return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
-    }
-
-    void stop(int signal)
-    {
-        if (m_process.state() != QProcess::NotRunning) {
-            ::kill(pid_t(m_process.processId()), signal);
-            m_process.waitForFinished(120000);
-        }
-        collect();
-    }
-
-    [[nodiscard]] QString url() const { return m_url; }
-    [[nodiscard]] QString log() const { return m_err; }
-
-private:
-    void collect()
-    {
-        m_out += m_process.readAllStandardOutput();
-        m_err += QString::fromLocal8Bit(m_process.readAllStandardError());
-    }
-
-    QProcess m_process;
-    QByteArray m_out;
-    QString m_err;
-    QString m_url;
-};
-
-// A data folder the cluster's system user can reach when the tests run as root.
-class DataDir
-{
-public:
-    DataDir()
-    {
-        QFile::setPermissions(m_dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
-                                                QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
-    }
-    [[nodiscard]] QString path() const { return m_dir.path() + u"/data"_s; }
-    [[nodiscard]] QByteArray conninfo() const
-    {
-        return "host='" + QString(path() + u"/postgres"_s).toUtf8() + "' dbname=morvane user=morvane";
-    }
-
-private:
-    QTemporaryDir m_dir;
-};
 
 QByteArray readFile(const QString &path)
 {
@@ -130,11 +45,6 @@ TestBackend &sharedBackend()
     return backend;
 }
 
-bool postmasterRunning(const DataDir &dir)
-{
-    return QFile::exists(dir.path() + u"/postgres/postmaster.pid"_s);
-}
-
 } // namespace
 
 class TestServerLifecycle : public QObject
@@ -144,78 +54,65 @@ class TestServerLifecycle : public QObject
 private slots:
     void firstStartWritesItsAddressAndKeys()
     {
-        DataDir dir;
-        ServerProcess server(dir.path());
-        QVERIFY2(server.waitReady(), qPrintable(server.log()));
-        QVERIFY(server.url().startsWith(u"http://127.0.0.1:"_s));
+        TestBackend server;
+        QVERIFY2(server.isReady(), qPrintable(server.startupLog()));
+        QCOMPARE(server.url().host(), u"127.0.0.1"_s);
 
-        const QString info = dir.path() + u"/server.json"_s;
-        const QString secretPath = dir.path() + u"/jwt-secret"_s;
-        const QFile::Permissions privateOnly = QFile::ReadOwner | QFile::WriteOwner;
-        QCOMPARE(QFile::permissions(info) & ~(QFile::ReadUser | QFile::WriteUser), privateOnly);
-        QCOMPARE(QFile::permissions(secretPath) & ~(QFile::ReadUser | QFile::WriteUser), privateOnly);
-
-        const QJsonObject server_json = QJsonDocument::fromJson(readFile(info)).object();
-        QCOMPARE(server_json.value(u"url"_s).toString(), server.url());
-        const QByteArray anonKey = server_json.value(u"anon_key"_s).toString().toLatin1();
+        const QString info = server.dataDir() + u"/server.json"_s;
+        const QString secretPath = server.dataDir() + u"/jwt-secret"_s;
+        for (const QString &file : {info, secretPath}) {
+            QCOMPARE(QFile::permissions(file) & ~(QFile::ReadUser | QFile::WriteUser),
+                     QFile::ReadOwner | QFile::WriteOwner);
+        }
+        const QJsonObject written = QJsonDocument::fromJson(readFile(info)).object();
+        QCOMPARE(written.value(u"url"_s).toString(), server.url().toString());
+        const QByteArray anonKey = written.value(u"anon_key"_s).toString().toLatin1();
         const auto claims = Jwt::verify(anonKey, readFile(secretPath).trimmed(), QDateTime::currentSecsSinceEpoch());
         QVERIFY(std::holds_alternative<QJsonObject>(claims));
         QCOMPARE(std::get<QJsonObject>(claims).value(u"role"_s).toString(), u"anon"_s);
-        QVERIFY(QByteArray(anonKey.split('.').first()).contains(QByteArray("eyJhbGciOiJIUzI1NiI")));
+        QVERIFY(anonKey.startsWith("eyJhbGciOiJIUzI1NiI"));
 
         // A second server on the same folder says so and gives up.
-        ServerProcess second(dir.path());
-        QVERIFY(second.waitExit() != 0);
-        QVERIFY2(second.log().contains(u"already serves"_s), qPrintable(second.log()));
+        QProcess second;
+        second.start(TestBackend::serverProgram(), {u"--data-dir"_s, server.dataDir(), u"--port"_s, u"0"_s});
+        QVERIFY(second.waitForFinished(120000) && second.exitCode() != 0);
+        QVERIFY(second.readAllStandardError().contains("already serves"));
     }
 
-    void restartKeepsDataAndMigratesOnce()
+    // After a crash the database outlives the server; after a clean stop it does not. Either way the
+    // next start finds the data, keeps the secret and applies no migration twice.
+    void restartsKeepDataAfterACrashOrAStop()
     {
-        DataDir dir;
-        {
-            ServerProcess server(dir.path());
-            QVERIFY2(server.waitReady(), qPrintable(server.log()));
-            QVERIFY(server.log().contains(u"applied migration 0001"_s));
-            auto db = PgConnection::open(dir.conninfo());
-            db->exec("INSERT INTO auth.users (email) VALUES ('kept@example.nl')");
-            db.reset();
-            server.stop(SIGTERM);
-            // A clean stop takes the database down with it.
-            QVERIFY(!postmasterRunning(dir));
-        }
-        const QByteArray secret = readFile(dir.path() + u"/jwt-secret"_s);
-        ServerProcess again(dir.path());
-        QVERIFY2(again.waitReady(), qPrintable(again.log()));
-        QVERIFY2(!again.log().contains(u"applied migration"_s), qPrintable(again.log()));
-        QVERIFY(!again.log().contains(u"creating the database cluster"_s));
-        QCOMPARE(readFile(dir.path() + u"/jwt-secret"_s), secret);
-        auto db = PgConnection::open(dir.conninfo());
-        QCOMPARE(db->exec("SELECT count(*) FROM profiles WHERE email = 'kept@example.nl'").value(0, 0), "1");
-    }
+        TestBackend server;
+        QVERIFY2(server.isReady(), qPrintable(server.startupLog()));
+        QVERIFY(server.startupLog().contains(u"applied migration 0001"_s));
+        const QByteArray secret = readFile(server.dataDir() + u"/jwt-secret"_s);
+        const QString postmaster = server.dataDir() + u"/postgres/postmaster.pid"_s;
+        server.database().exec("INSERT INTO auth.users (email) VALUES ('crash@example.nl')");
+        ::kill(pid_t(server.processId()), SIGKILL);
+        QVERIFY(QFile::exists(postmaster));
 
-    void recoversAfterACrash()
-    {
-        DataDir dir;
-        {
-            ServerProcess server(dir.path());
-            QVERIFY2(server.waitReady(), qPrintable(server.log()));
-            auto db = PgConnection::open(dir.conninfo());
-            db->exec("INSERT INTO auth.users (email) VALUES ('crash@example.nl')");
-            db.reset();
-            server.stop(SIGKILL);
-        }
-        // The database outlived the server and its lock file names a live process.
-        QVERIFY(postmasterRunning(dir));
-        ServerProcess again(dir.path());
-        QVERIFY2(again.waitReady(), qPrintable(again.log()));
-        QVERIFY2(again.log().contains(u"left running"_s), qPrintable(again.log()));
-        auto db = PgConnection::open(dir.conninfo());
-        QCOMPARE(db->exec("SELECT count(*) FROM profiles WHERE email = 'crash@example.nl'").value(0, 0), "1");
+        qsizetype seen = server.startupLog().size();
+        QVERIFY2(server.start(), qPrintable(server.startupLog()));
+        QVERIFY2(server.startupLog().mid(seen).contains(u"left running"_s), qPrintable(server.startupLog()));
+        server.database().exec("INSERT INTO auth.users (email) VALUES ('kept@example.nl')");
+        server.stop();
+        QVERIFY(!QFile::exists(postmaster));
+
+        seen = server.startupLog().size();
+        QVERIFY2(server.start(), qPrintable(server.startupLog()));
+        const QString log = server.startupLog().mid(seen);
+        QVERIFY2(!log.contains(u"applied migration"_s) && !log.contains(u"creating the database cluster"_s),
+                 qPrintable(log));
+        QCOMPARE(readFile(server.dataDir() + u"/jwt-secret"_s), secret);
+        QCOMPARE(server.database()
+                     .exec("SELECT count(*) FROM profiles WHERE email IN ('crash@example.nl', 'kept@example.nl')")
+                     .value(0, 0),
+                 "2");
     }
 
     void aFailingMigrationStopsTheStart()
     {
-        DataDir dir;
         QTemporaryDir migrations;
         auto write = [&](const QString &name, const QByteArray &sql) {
             QFile file(migrations.filePath(name));
@@ -224,20 +121,18 @@ private slots:
         };
         write(u"0001_first.sql"_s, "CREATE TABLE public.first (id int);");
         write(u"0002_broken.sql"_s, "CREATE TABLE public.second (id int); CREATE TABEL oops;");
-        {
-            ServerProcess server(dir.path(), {u"--migrations-dir"_s, migrations.path()});
-            QVERIFY(server.waitExit() != 0);
-            QVERIFY2(server.log().contains(u"migration 0002_broken.sql failed"_s), qPrintable(server.log()));
-            QVERIFY2(server.log().contains(u"syntax error"_s), qPrintable(server.log()));
-        }
+        TestBackend server({u"--migrations-dir"_s, migrations.path()});
+        QVERIFY(!server.isReady());
+        QVERIFY2(server.startupLog().contains(u"migration 0002_broken.sql failed"_s), qPrintable(server.startupLog()));
+        QVERIFY2(server.startupLog().contains(u"syntax error"_s), qPrintable(server.startupLog()));
+
         // Each migration is its own transaction: the first stays, nothing of the broken one does.
         write(u"0002_broken.sql"_s, "CREATE TABLE public.second (id int);");
-        ServerProcess fixed(dir.path(), {u"--migrations-dir"_s, migrations.path()});
-        QVERIFY2(fixed.waitReady(), qPrintable(fixed.log()));
-        QVERIFY(!fixed.log().contains(u"applied migration 0001_first.sql"_s));
-        QVERIFY(fixed.log().contains(u"applied migration 0002_broken.sql"_s));
-        auto db = PgConnection::open(dir.conninfo());
-        QCOMPARE(db->exec("SELECT count(*) FROM morvane_meta.migrations").value(0, 0), "2");
+        const qsizetype seen = server.startupLog().size();
+        QVERIFY2(server.start(), qPrintable(server.startupLog()));
+        QVERIFY(!server.startupLog().mid(seen).contains(u"applied migration 0001_first.sql"_s));
+        QVERIFY(server.startupLog().mid(seen).contains(u"applied migration 0002_broken.sql"_s));
+        QCOMPARE(server.database().exec("SELECT count(*) FROM morvane_meta.migrations").value(0, 0), "2");
     }
 
     // A root-run server's cluster runs as the system user 'postgres', which other clusters and
@@ -266,25 +161,15 @@ private slots:
         QVERIFY2(owner.isReady(), qPrintable(owner.startupLog()));
         const QString user = owner.createUser(u"shared@example.nl"_s);
 
-        DataDir dir;
-        const QString conninfo = u"host='"_s + owner.dataDir() + u"/postgres' dbname=morvane user=morvane"_s;
-        ServerProcess second(dir.path(), {u"--database-url"_s, conninfo});
-        QVERIFY2(second.waitReady(), qPrintable(second.log()));
+        TestBackend second(
+            {u"--database-url"_s, u"host='"_s + owner.dataDir() + u"/postgres' dbname=morvane user=morvane"_s});
+        QVERIFY2(second.isReady(), qPrintable(second.startupLog()));
         // It owns no cluster of its own...
-        QVERIFY(!QFile::exists(dir.path() + u"/postgres"_s));
+        QVERIFY(!QFile::exists(second.dataDir() + u"/postgres"_s));
         // ...and tokens it signs are its own; rows are the shared database's.
-        const QByteArray secret = readFile(dir.path() + u"/jwt-secret"_s).trimmed();
-        const QByteArray token = Jwt::sign(
-            {{u"sub"_s, user}, {u"role"_s, u"authenticated"_s}, {u"exp"_s, QDateTime::currentSecsSinceEpoch() + 600}},
-            secret);
-        QNetworkAccessManager network;
-        QNetworkRequest request(QUrl(second.url() + u"/rest/v1/profiles?select=email"_s));
-        request.setRawHeader("Authorization", "Bearer " + token);
-        QNetworkReply *reply = network.get(request);
-        QTRY_VERIFY_WITH_TIMEOUT(reply->isFinished(), 30000);
-        QCOMPARE(QJsonDocument::fromJson(reply->readAll()).array().first().toObject().value(u"email"_s).toString(),
-                 u"shared@example.nl"_s);
-        delete reply;
+        const HttpResult read = second.request("GET", "/rest/v1/profiles?select=email", second.tokenFor(user));
+        QCOMPARE(jsonColumn(read.json().array(), u"email"_s), QStringList{u"shared@example.nl"_s});
+        QCOMPARE(owner.request("GET", "/rest/v1/profiles?select=email", second.tokenFor(user)).status, 401);
     }
 
     void everyAnswerIsJson_data()
@@ -314,10 +199,9 @@ private slots:
 
     void guardsAgainstSlowAndOversizedClients()
     {
-        DataDir dir;
-        ServerProcess server(dir.path(), {u"--idle-timeout"_s, u"1"_s});
-        QVERIFY2(server.waitReady(), qPrintable(server.log()));
-        const QUrl url(server.url());
+        TestBackend server({u"--idle-timeout"_s, u"1"_s});
+        QVERIFY2(server.isReady(), qPrintable(server.startupLog()));
+        const QUrl url = server.url();
 
         // A client that opens a connection and sends half a request is let go.
         QTcpSocket slow;
@@ -388,10 +272,10 @@ private slots:
     void untrustedFilesAreRefused()
     {
         QFETCH(QString, plant);
-        DataDir dir;
+        TestBackend server({}, false);
         QTemporaryDir elsewhere;
-        QVERIFY(QDir().mkpath(dir.path()));
-        const QString secret = dir.path() + u"/jwt-secret"_s;
+        QVERIFY(QDir().mkpath(server.dataDir()));
+        const QString secret = server.dataDir() + u"/jwt-secret"_s;
         QFile file(plant == u"secret-link" ? elsewhere.filePath(u"secret"_s) : secret);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(48, 's'));
@@ -402,15 +286,14 @@ private slots:
         } else if (plant == u"secret-link") {
             QVERIFY(QFile::link(file.fileName(), secret));
         } else if (plant == u"folder-777") {
-            QVERIFY(QFile::setPermissions(dir.path(), QFileDevice::Permissions(0x7777)));
+            QVERIFY(QFile::setPermissions(server.dataDir(), QFileDevice::Permissions(0x7777)));
         } else if (plant == u"folder-nobody") {
-            QCOMPARE(::chown(QFile::encodeName(dir.path()).constData(), 65534, 65534), 0);
+            QCOMPARE(::chown(QFile::encodeName(server.dataDir()).constData(), 65534, 65534), 0);
         } else if (plant == u"postgres-link") {
-            QVERIFY(QFile::link(elsewhere.path(), dir.path() + u"/postgres"_s));
+            QVERIFY(QFile::link(elsewhere.path(), server.dataDir() + u"/postgres"_s));
         }
-        ServerProcess server(dir.path());
-        QVERIFY(server.waitExit() != 0);
-        QVERIFY2(server.log().contains(u"refusing"_s), qPrintable(server.log()));
+        QVERIFY(!server.start());
+        QVERIFY2(server.startupLog().contains(u"refusing"_s), qPrintable(server.startupLog()));
         // Nothing was handed to the database's user through the link.
         QCOMPARE(QFileInfo(elsewhere.path()).ownerId(), ::geteuid());
     }

@@ -56,13 +56,24 @@ QString TestBackend::serverProgram()
     return QStringLiteral(MORVANE_SERVER_PROGRAM);
 }
 
-TestBackend::TestBackend(const QStringList &extraArguments)
+TestBackend::TestBackend(const QStringList &extraArguments, bool startNow)
     : m_extraArguments(extraArguments)
 {
     // The cluster runs as 'postgres' when the tests run as root; it must reach the folder.
     QFile::setPermissions(m_dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
                                             QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
-    launch(QStringList{u"--data-dir"_s, dataDir(), u"--port"_s, u"0"_s} + extraArguments);
+    if (startNow) {
+        launch(QStringList{u"--data-dir"_s, dataDir(), u"--port"_s, u"0"_s} + extraArguments);
+    }
+}
+
+bool TestBackend::start()
+{
+    stop();
+    const int port = m_url.isValid() ? m_url.port() : 0;
+    m_url.clear();
+    launch(QStringList{u"--data-dir"_s, dataDir(), u"--port"_s, QString::number(port)} + m_extraArguments);
+    return isReady();
 }
 
 void TestBackend::stop()

@@ -32,7 +32,8 @@ struct HttpResult
 class TestBackend
 {
 public:
-    explicit TestBackend(const QStringList &extraArguments = {});
+    // With `startNow` false the data folder exists but nothing runs until start().
+    explicit TestBackend(const QStringList &extraArguments = {}, bool startNow = true);
     ~TestBackend();
 
     [[nodiscard]] bool isReady() const { return m_url.isValid(); }
@@ -60,6 +61,8 @@ public:
     // after a restart of the machine it runs on.
     void stop();
     bool restart();
+    // Starts (again) on the same data, on the same port once there was one; false if it did not come up.
+    bool start();
     [[nodiscard]] qint64 processId() const { return m_process.processId(); }
 
 private:
