@@ -34,7 +34,6 @@ private:
     TestBackend m_backend;
     QString m_user;
     QByteArray m_token;
-    QString m_invoiceId;
 
     HttpResult send(const QByteArray &method, const QByteArray &target, const QByteArray &body = {})
     {
@@ -76,7 +75,9 @@ private slots:
                 {trip, user, project});
     }
 
-    void insertedInvoiceReadsBack()
+    // One invoice through its life: written, its lines and links added, what it billed read back,
+    // and voided.
+    void invoiceWritesReadBackAndVoidReleases()
     {
         InvoiceInsert insert;
         insert.userId = m_user;
@@ -94,7 +95,7 @@ private slots:
         const QList<Invoice> created = rows<Invoice>(send("POST", "invoices", AnyEncodable(insert).toJson()));
         QCOMPARE(created.size(), 1);
         const Invoice &invoice = created.first();
-        m_invoiceId = invoice.id;
+        const QString invoiceId = invoice.id;
         QCOMPARE(invoice.status, InvoiceStatus::Sent);
         QCOMPARE(invoice.dueAt, u"2025-04-14"_s);
         QCOMPARE(invoice.vatAmount, 284.66);
@@ -105,21 +106,18 @@ private slots:
         const QList<Invoice> all = rows<Invoice>(send("GET", "invoices?select=*&order=issued_at.desc,created_at.desc"));
         QCOMPARE(all.size(), 1);
         QVERIFY(all.first() == invoice);
-    }
 
-    void linesAndLinksReadBack()
-    {
-        QVERIFY(!m_invoiceId.isEmpty());
+        // Lines and links, and billed entries leave the unbilled view.
         const auto line = [&](const QByteArray &task, const QString &title, double price, int order) {
-            InvoiceLineInsert insert;
-            insert.invoiceId = m_invoiceId;
-            (task == project ? insert.poolProjectId : insert.taskId) = QString::fromLatin1(task);
-            insert.title = title;
-            insert.quantity = 1;
-            insert.unitPrice = price;
-            insert.amount = price;
-            insert.orderIndex = order;
-            return AnyEncodable(insert).json();
+            InvoiceLineInsert row;
+            row.invoiceId = invoiceId;
+            (task == project ? row.poolProjectId : row.taskId) = QString::fromLatin1(task);
+            row.title = title;
+            row.quantity = 1;
+            row.unitPrice = price;
+            row.amount = price;
+            row.orderIndex = order;
+            return AnyEncodable(row).json();
         };
         QJsonArray body{line(fixedTask, u"Logo"_s, 1200, 0), line(project, u"Project extras"_s, 60.5, 1),
                         line(hourlyTask, u"Support"_s, 95, 2)};
@@ -131,20 +129,17 @@ private slots:
 
         const QList<InvoiceEntryLink> links = rows<InvoiceEntryLink>(
             send("POST", "invoice_entries",
-                 "[" + AnyEncodable(InvoiceEntryInsert{m_invoiceId, QString::fromLatin1(entryA)}).toJson() + "," +
-                     AnyEncodable(InvoiceEntryInsert{m_invoiceId, QString::fromLatin1(entryB)}).toJson() + "]"));
+                 "[" + AnyEncodable(InvoiceEntryInsert{invoiceId, QString::fromLatin1(entryA)}).toJson() + "," +
+                     AnyEncodable(InvoiceEntryInsert{invoiceId, QString::fromLatin1(entryB)}).toJson() + "]"));
         QCOMPARE(links.size(), 2);
-        QCOMPARE(links[0].invoiceId, m_invoiceId);
+        QCOMPARE(links[0].invoiceId, invoiceId);
         const QList<InvoiceTripLink> trips = rows<InvoiceTripLink>(send(
-            "POST", "invoice_trips", AnyEncodable(InvoiceTripInsert{m_invoiceId, QString::fromLatin1(trip)}).toJson()));
+            "POST", "invoice_trips", AnyEncodable(InvoiceTripInsert{invoiceId, QString::fromLatin1(trip)}).toJson()));
         QCOMPARE(trips.size(), 1);
         QCOMPARE(trips[0].tripId, QString::fromLatin1(trip));
         QVERIFY(rows<TimeEntry>(send("GET", "unbilled_time_entries?select=*&order=id.asc")).isEmpty());
-    }
 
-    // The reads of what was billed before, with the embedded selects the store sends.
-    void billedStateDecodes()
-    {
+        // The reads of what was billed before, with the embedded selects the store sends.
         const QList<BilledEntryRow> entries = rows<BilledEntryRow>(
             send("GET", "invoice_entries?select=id,time_entry_id,invoice:invoices(status),"
                         "entry:time_entries(task_id,task:tasks(project_id,billing))&order=id.asc"));
@@ -155,20 +150,20 @@ private slots:
             QCOMPARE(row.entry->task->billing.has_value(), row.timeEntryId == QString::fromLatin1(entryA));
         }
 
-        const QList<BilledLineRow> lines = rows<BilledLineRow>(
+        const QList<BilledLineRow> billed = rows<BilledLineRow>(
             send("GET", "invoice_lines?select=id,task_id,pool_project_id,task:tasks(project_id,billing),"
                         "invoice:invoices(status)&order=order_index.asc"));
-        QCOMPARE(lines.size(), 3);
-        QCOMPARE(lines[0].taskId, QString::fromLatin1(fixedTask));
-        QCOMPARE(lines[0].task->billing->value(u"model"_s).toString(), u"fixed"_s);
-        QCOMPARE(lines[1].poolProjectId, QString::fromLatin1(project));
-        QCOMPARE(lines[1].task, std::nullopt);
-        QCOMPARE(lines[2].task->billing, std::nullopt);
+        QCOMPARE(billed.size(), 3);
+        QCOMPARE(billed[0].taskId, QString::fromLatin1(fixedTask));
+        QCOMPARE(billed[0].task->billing->value(u"model"_s).toString(), u"fixed"_s);
+        QCOMPARE(billed[1].poolProjectId, QString::fromLatin1(project));
+        QCOMPARE(billed[1].task, std::nullopt);
+        QCOMPARE(billed[2].task->billing, std::nullopt);
 
         // Voided, the same rows say their invoice no longer holds them.
         QCOMPARE(m_backend
                      .request("POST", "/rest/v1/rpc/void_invoice", m_token,
-                              "{\"p_invoice_id\":\"" + m_invoiceId.toUtf8() + "\"}",
+                              "{\"p_invoice_id\":\"" + invoiceId.toUtf8() + "\"}",
                               {{"Content-Type", "application/json"}})
                      .status,
                  204);
