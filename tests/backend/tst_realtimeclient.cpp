@@ -16,12 +16,32 @@
 #include <csignal>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 Q_DECLARE_METATYPE(RealtimeChange::Kind)
 
+namespace {
+
+QString idOf(const RealtimeChange &change)
+{
+    if (change.isDelete()) {
+        return change.deletedId();
+    }
+    if (change.task()) {
+        return change.task()->id;
+    }
+    if (change.entry()) {
+        return change.entry()->id;
+    }
+    return change.project() ? change.project()->id : change.trip()->value(u"id").toString();
+}
+
+} // namespace
+
 // The application's realtime client against a real server: what it subscribes to, what it hands
 // on, and how it comes back after the server, the network or the heartbeat failed. Its waits are
-// driven by hand, so nothing here waits 25 seconds for a heartbeat.
+// driven by hand, so nothing here waits 25 seconds for a heartbeat. Which rows reach whom is the
+// server's rule and is tested there.
 class TestRealtimeClient : public QObject
 {
     Q_OBJECT
@@ -31,21 +51,12 @@ private:
     QString m_anna;
     QString m_bob;
     QByteArray m_annaProject;
-    QByteArray m_bobProject;
-    QByteArray m_team;
     QByteArray m_teamProject;
     // A private message bus standing in for the system bus, where a test plays logind.
     QProcess m_bus;
     QString m_busAddress;
 
     PgConnection &db() { return m_backend.database(); }
-
-    RealtimeClient::TokenProvider tokenOf(const QString &user)
-    {
-        return [this, user]() -> QCoro::Task<std::optional<QString>> {
-            co_return std::optional<QString>(QString::fromLatin1(m_backend.tokenFor(user)));
-        };
-    }
 
     struct Device
     {
@@ -54,49 +65,28 @@ private:
         std::unique_ptr<QSignalSpy> changes;
         std::unique_ptr<QSignalSpy> resyncs;
 
-        // The first received change of this kind for this row.
-        std::optional<RealtimeChange> waitFor(RealtimeChange::Kind kind, const QString &id, int timeoutMs = 5000)
+        // How many changes of this kind for this row arrived, waiting until one has.
+        qsizetype waitFor(RealtimeChange::Kind kind, const QString &id, std::optional<RealtimeChange> *found = nullptr)
         {
-            std::optional<RealtimeChange> found;
+            qsizetype count = 0;
             QTest::qWaitFor(
                 [&] {
+                    count = 0;
                     for (const QList<QVariant> &arguments : std::as_const(*changes)) {
                         const auto change = arguments.at(0).value<RealtimeChange>();
                         if (change.kind == kind && idOf(change) == id) {
-                            found = change;
-                            return true;
+                            ++count;
+                            if (found) {
+                                *found = change;
+                            }
                         }
                     }
-                    return false;
+                    return count > 0;
                 },
-                timeoutMs);
-            return found;
-        }
-
-        [[nodiscard]] bool received(const QString &id) const
-        {
-            return std::any_of(changes->cbegin(), changes->cend(), [&](const QList<QVariant> &arguments) {
-                return idOf(arguments.at(0).value<RealtimeChange>()) == id;
-            });
+                5000);
+            return count;
         }
     };
-
-    static QString idOf(const RealtimeChange &change)
-    {
-        if (change.isDelete()) {
-            return change.deletedId();
-        }
-        if (change.task()) {
-            return change.task()->id;
-        }
-        if (change.entry()) {
-            return change.entry()->id;
-        }
-        if (change.project()) {
-            return change.project()->id;
-        }
-        return change.trip()->value(u"id").toString();
-    }
 
     std::unique_ptr<Device> startDevice(const QString &user)
     {
@@ -105,19 +95,17 @@ private:
                                                           device->scheduler);
         device->changes = std::make_unique<QSignalSpy>(device->client.get(), &RealtimeClient::changeReceived);
         device->resyncs = std::make_unique<QSignalSpy>(device->client.get(), &RealtimeClient::resyncRequested);
-        device->client->start(user, tokenOf(user));
-        if (!QTest::qWaitFor([&] { return device->client->isConnected(); }, 10000)) {
-            return nullptr;
-        }
-        return device;
+        device->client->start(user, [this, user]() -> QCoro::Task<std::optional<QString>> {
+            co_return std::optional<QString>(QString::fromLatin1(m_backend.tokenFor(user)));
+        });
+        return QTest::qWaitFor([&] { return device->client->isConnected(); }, 10000) ? std::move(device) : nullptr;
     }
 
-    QByteArray insertTask(const QString &owner, const QByteArray &project, const QString &title)
+    QString insertTask(const QString &owner, const QByteArray &project, const QString &title)
     {
-        return db()
-            .exec("INSERT INTO tasks (user_id, project_id, title) VALUES ($1, $2, $3) RETURNING id",
-                  {owner.toUtf8(), project, title.toUtf8()})
-            .value(0, 0);
+        return QString::fromUtf8(db().exec("INSERT INTO tasks (user_id, project_id, title) VALUES ($1, $2, $3) RETURNING id",
+                                           {owner.toUtf8(), project, title.toUtf8()})
+                                     .value(0, 0));
     }
 
 private slots:
@@ -135,21 +123,25 @@ private slots:
         }
         m_anna = m_backend.createUser(u"anna@example.nl"_s, u"Anna"_s);
         m_bob = m_backend.createUser(u"bob@example.nl"_s, u"Bob"_s);
-        m_annaProject =
-            db().exec("INSERT INTO projects (user_id, name) VALUES ($1, 'Own') RETURNING id", {m_anna.toUtf8()})
-                .value(0, 0);
-        m_bobProject =
-            db().exec("INSERT INTO projects (user_id, name) VALUES ($1, 'Private') RETURNING id", {m_bob.toUtf8()})
-                .value(0, 0);
-        m_team = db().exec("INSERT INTO teams (owner_id, name) VALUES ($1, 'Studio') RETURNING id", {m_bob.toUtf8()})
-                     .value(0, 0);
+        m_annaProject = db().exec("INSERT INTO projects (user_id, name) VALUES ($1, 'Own') RETURNING id", {m_anna.toUtf8()})
+                            .value(0, 0);
+        const QByteArray team =
+            db().exec("INSERT INTO teams (owner_id, name) VALUES ($1, 'Studio') RETURNING id", {m_bob.toUtf8()}).value(0, 0);
         db().exec("INSERT INTO team_members (team_id, user_id, email, role, accepted_at)"
                   " VALUES ($1, $2, 'anna@example.nl', 'editor', now())",
-                  {m_team, m_anna.toUtf8()});
+                  {team, m_anna.toUtf8()});
         m_teamProject = db().exec("INSERT INTO projects (user_id, team_id, name) VALUES ($1, $2, 'Studio work')"
                                   " RETURNING id",
-                                  {m_bob.toUtf8(), m_team})
+                                  {m_bob.toUtf8(), team})
                             .value(0, 0);
+    }
+
+    void cleanupTestCase()
+    {
+        if (m_bus.state() != QProcess::NotRunning) {
+            m_bus.terminate();
+            m_bus.waitForFinished(5000);
+        }
     }
 
     void socketAddressFollowsTheBackend_data()
@@ -158,9 +150,7 @@ private slots:
         QTest::addColumn<QUrl>("socket");
         QTest::newRow("local http") << QUrl(u"http://127.0.0.1:54321"_s)
                                     << QUrl(u"ws://127.0.0.1:54321/realtime/v1/websocket?apikey=K&vsn=1.0.0"_s);
-        QTest::newRow("hosted https") << QUrl(u"https://abc.example.co"_s)
-                                      << QUrl(u"wss://abc.example.co/realtime/v1/websocket?apikey=K&vsn=1.0.0"_s);
-        QTest::newRow("under a path")
+        QTest::newRow("hosted https, under a path")
             << QUrl(u"https://example.org:8443/backend/"_s)
             << QUrl(u"wss://example.org:8443/backend/realtime/v1/websocket?apikey=K&vsn=1.0.0"_s);
     }
@@ -168,8 +158,7 @@ private slots:
     void socketAddressFollowsTheBackend()
     {
         QFETCH(QUrl, backend);
-        QFETCH(QUrl, socket);
-        QCOMPARE(RealtimeClient::socketURL(backend, u"K"_s), socket);
+        QTEST(RealtimeClient::socketURL(backend, u"K"_s), "socket");
     }
 
     void payloadsBecomeChanges_data()
@@ -179,32 +168,22 @@ private slots:
         QTest::addColumn<QString>("type");
         QTest::addColumn<QJsonObject>("row");
         QTest::addColumn<int>("kind"); // -1: dropped
-        const QJsonObject task{{u"id"_s, u"t1"_s},
-                               {u"user_id"_s, u"u"_s},
-                               {u"project_id"_s, u"p"_s},
-                               {u"title"_s, u"Design"_s},
-                               {u"status"_s, u"in_progress"_s},
-                               {u"priority"_s, u"high"_s},
-                               {u"time_spent_seconds"_s, 60},
-                               {u"started_at"_s, u"2025-03-01T09:00:00+00:00"_s}};
-        const QJsonObject entry{{u"id"_s, u"e1"_s},
-                                {u"user_id"_s, u"u"_s},
-                                {u"task_id"_s, u"t1"_s},
-                                {u"project_id"_s, u"p"_s},
-                                {u"started_at"_s, u"2025-03-01T09:00:00Z"_s},
-                                {u"ended_at"_s, u"2025-03-01T10:00:00Z"_s},
+        const QJsonObject task{{u"id"_s, u"t1"_s},          {u"user_id"_s, u"u"_s},
+                               {u"project_id"_s, u"p"_s},   {u"title"_s, u"Design"_s},
+                               {u"status"_s, u"in_progress"_s}, {u"priority"_s, u"high"_s},
+                               {u"time_spent_seconds"_s, 60}, {u"started_at"_s, u"2025-03-01T09:00:00+00:00"_s}};
+        const QJsonObject entry{{u"id"_s, u"e1"_s},         {u"user_id"_s, u"u"_s},
+                                {u"task_id"_s, u"t1"_s},    {u"project_id"_s, u"p"_s},
+                                {u"started_at"_s, u"2025-03-01T09:00:00Z"_s}, {u"ended_at"_s, u"2025-03-01T10:00:00Z"_s},
                                 {u"duration_seconds"_s, 3600}};
-        const QJsonObject project{
-            {u"id"_s, u"p1"_s}, {u"user_id"_s, u"u"_s}, {u"name"_s, u"Site"_s}, {u"status"_s, u"active"_s}};
+        const QJsonObject project{{u"id"_s, u"p1"_s}, {u"user_id"_s, u"u"_s}, {u"name"_s, u"Site"_s}, {u"status"_s, u"active"_s}};
         const QJsonObject trip{{u"id"_s, u"r1"_s}, {u"user_id"_s, u"u"_s}, {u"distance_m"_s, 1200}};
         const QJsonObject key{{u"id"_s, u"x1"_s}};
         QTest::newRow("task inserted") << u"tasks"_s << u"INSERT"_s << task << int(K::TaskInserted);
         QTest::newRow("task updated") << u"tasks"_s << u"UPDATE"_s << task << int(K::TaskUpdated);
         QTest::newRow("task deleted") << u"tasks"_s << u"DELETE"_s << key << int(K::TaskDeleted);
         QTest::newRow("entry inserted") << u"time_entries"_s << u"INSERT"_s << entry << int(K::EntryInserted);
-        QTest::newRow("entry updated") << u"time_entries"_s << u"UPDATE"_s << entry << int(K::EntryUpdated);
         QTest::newRow("entry deleted") << u"time_entries"_s << u"DELETE"_s << key << int(K::EntryDeleted);
-        QTest::newRow("project inserted") << u"projects"_s << u"INSERT"_s << project << int(K::ProjectUpserted);
         QTest::newRow("project updated") << u"projects"_s << u"UPDATE"_s << project << int(K::ProjectUpserted);
         QTest::newRow("project deleted") << u"projects"_s << u"DELETE"_s << key << int(K::ProjectDeleted);
         QTest::newRow("trip inserted") << u"trips"_s << u"INSERT"_s << trip << int(K::TripUpserted);
@@ -230,14 +209,11 @@ private slots:
         data.insert(type == u"DELETE" ? u"old_record"_s : u"record"_s, row);
         const std::optional<RealtimeChange> change =
             RealtimeChange::fromPayload({{u"ids"_s, QJsonArray{1}}, {u"data"_s, data}});
-        if (kind < 0) {
-            QVERIFY(!change);
-            return;
+        QCOMPARE(change ? int(change->kind) : -1, kind);
+        if (change) {
+            QCOMPARE(idOf(*change), row.value(u"id").toString());
         }
-        QVERIFY(change);
-        QCOMPARE(int(change->kind), kind);
-        QCOMPARE(idOf(*change), row.value(u"id").toString());
-        if (const TaskItem *task = change->task()) {
+        if (const TaskItem *task = change ? change->task() : nullptr) {
             QCOMPARE(task->status, TaskStatus::InProgress);
             QCOMPARE(task->startedAt, std::optional<QString>(u"2025-03-01T09:00:00+00:00"_s));
         }
@@ -252,37 +228,14 @@ private slots:
         // The first join is not a reconnect: nothing to reload.
         QCOMPARE(device->resyncs->size(), 0);
         QCOMPARE(device->client->attempt(), 0);
-        QCOMPARE(device->scheduler->pending("heartbeat"), std::optional(std::chrono::milliseconds(25000)));
-        QCOMPARE(device->scheduler->pending("token"), std::optional(std::chrono::milliseconds(60000)));
+        QCOMPARE(device->scheduler->pending("heartbeat"), std::optional(25000ms));
+        QCOMPARE(device->scheduler->pending("token"), std::optional(60000ms));
         const QJsonArray bindings = device->client->bindingsFor(u"tasks"_s);
         QCOMPARE(bindings.size(), 1);
         QCOMPARE(bindings.at(0).toObject().value(u"filter").toString(), u"user_id=eq."_s + m_anna);
     }
 
-    void aTimerStartedOnOneDeviceShowsOnTheOther()
-    {
-        auto laptop = startDevice(m_anna);
-        QVERIFY(laptop);
-        const QString task = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"Timer"_s));
-        QVERIFY(laptop->waitFor(RealtimeChange::Kind::TaskInserted, task));
-
-        // The desktop starts the timer through the REST interface, as the store does.
-        const HttpResult started =
-            m_backend.request("PATCH", "/rest/v1/tasks?id=eq." + task.toUtf8(), m_backend.tokenFor(m_anna),
-                              R"({"status":"in_progress","started_at":"2025-03-01T09:15:30.5+00:00"})",
-                              {{"Content-Type", "application/json"}, {"Prefer", "return=representation"}});
-        QCOMPARE(started.status, 200);
-        const QString startedAt = started.json().array().at(0).toObject().value(u"started_at").toString();
-        const auto change = laptop->waitFor(RealtimeChange::Kind::TaskUpdated, task);
-        QVERIFY(change);
-        QCOMPARE(change->task()->status, TaskStatus::InProgress);
-        QCOMPARE(change->task()->startedAt, std::optional<QString>(startedAt));
-
-        db().exec("DELETE FROM tasks WHERE id = $1", {task.toUtf8()});
-        QVERIFY(laptop->waitFor(RealtimeChange::Kind::TaskDeleted, task));
-    }
-
-    void teamMatesEditsArriveOthersNever()
+    void teamProjectsAreBoundToo()
     {
         auto device = startDevice(m_anna);
         QVERIFY(device);
@@ -292,57 +245,38 @@ private slots:
         // The new joins are answered before anything written after them arrives.
         QTRY_COMPARE_WITH_TIMEOUT(device->client->joinedTopics().size(), 4, 5000);
         QTest::qWait(200);
-
-        const QString strangers = QString::fromLatin1(insertTask(m_bob, m_bobProject, u"Private"_s));
-        const QString teams = QString::fromLatin1(insertTask(m_bob, m_teamProject, u"Team's"_s));
-        db().exec("UPDATE tasks SET title = 'Team''s, edited' WHERE id = $1", {teams.toUtf8()});
-        const auto edited = device->waitFor(RealtimeChange::Kind::TaskUpdated, teams);
-        QVERIFY(edited);
+        const QString task = insertTask(m_bob, m_teamProject, u"Team's"_s);
+        db().exec("UPDATE tasks SET title = 'Team''s, edited' WHERE id = $1", {task.toUtf8()});
+        std::optional<RealtimeChange> edited;
+        QVERIFY(device->waitFor(RealtimeChange::Kind::TaskUpdated, task, &edited));
         QCOMPARE(edited->task()->title, u"Team's, edited"_s);
-        QVERIFY(!device->received(strangers));
-
-        // Out of the team: the binding still names the project, but the rows are no longer hers.
-        db().exec("DELETE FROM team_members WHERE team_id = $1 AND user_id = $2", {m_team, m_anna.toUtf8()});
-        db().exec("UPDATE tasks SET title = 'After she left' WHERE id = $1", {teams.toUtf8()});
-        const QString own = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"Marker"_s));
-        QVERIFY(device->waitFor(RealtimeChange::Kind::TaskInserted, own));
-        const bool leak = std::any_of(device->changes->cbegin(), device->changes->cend(), [](const QList<QVariant> &a) {
-            const auto change = a.at(0).value<RealtimeChange>();
-            return change.task() && change.task()->title == u"After she left";
-        });
-        QVERIFY(!leak);
-        db().exec("INSERT INTO team_members (team_id, user_id, email, role, accepted_at)"
-                  " VALUES ($1, $2, 'anna@example.nl', 'editor', now())",
-                  {m_team, m_anna.toUtf8()});
+        db().exec("DELETE FROM tasks WHERE id = $1", {task.toUtf8()});
+        QVERIFY(device->waitFor(RealtimeChange::Kind::TaskDeleted, task));
     }
 
     void networkBackReconnectsAndResyncs()
     {
         auto device = startDevice(m_anna);
         QVERIFY(device);
-        const quint64 generation = device->client->generation();
-        device->client->noteNetwork(true); // already up: nothing happens
-        QCOMPARE(device->client->generation(), generation);
-        device->client->noteNetwork(false);
-        device->client->noteNetwork(true);
-        QTRY_VERIFY_WITH_TIMEOUT(device->client->isConnected() && device->client->generation() == generation + 1, 5000);
+        RealtimeClient &client = *device->client;
+        const quint64 generation = client.generation();
+        client.noteNetwork(true); // already up: nothing happens
+        QCOMPARE(client.generation(), generation);
+        client.noteNetwork(false);
+        client.noteNetwork(true);
+        QTRY_VERIFY_WITH_TIMEOUT(client.isConnected() && client.generation() == generation + 1, 5000);
         QCOMPARE(device->resyncs->size(), 1);
-
-        device->client->noteWake();
-        QTRY_VERIFY_WITH_TIMEOUT(device->client->isConnected() && device->client->generation() == generation + 2, 5000);
+        client.noteWake();
+        QTRY_VERIFY_WITH_TIMEOUT(client.isConnected() && client.generation() == generation + 2, 5000);
         QCOMPARE(device->resyncs->size(), 2);
 
         // Only the newest socket speaks: a change arrives once.
-        const QString task = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"Once"_s));
+        const QString task = insertTask(m_anna, m_annaProject, u"Once"_s);
         QVERIFY(device->waitFor(RealtimeChange::Kind::TaskInserted, task));
         QTest::qWait(300);
-        const auto copies =
-            std::count_if(device->changes->cbegin(), device->changes->cend(),
-                          [&](const QList<QVariant> &a) { return idOf(a.at(0).value<RealtimeChange>()) == task; });
-        QCOMPARE(copies, 1);
-
-        device->client->stop();
-        QVERIFY(!device->client->isConnected());
+        QCOMPARE(device->waitFor(RealtimeChange::Kind::TaskInserted, task), 1);
+        client.stop();
+        QVERIFY(!client.isConnected());
         QCOMPARE(device->scheduler->pendingCount(), 0);
     }
 
@@ -367,23 +301,10 @@ private slots:
         // Until well past the first token's end.
         QTest::qWait(int(std::max<qint64>(0, 5500 - sinceFirstToken.elapsed())));
         QVERIFY(client.isConnected());
-        const QString task = QString::fromLatin1(insertTask(m_anna, m_annaProject, u"Still live"_s));
+        const QString task = insertTask(m_anna, m_annaProject, u"Still live"_s);
         QTRY_VERIFY_WITH_TIMEOUT(!changes.isEmpty(), 5000);
         QCOMPARE(idOf(changes.last().at(0).value<RealtimeChange>()), task);
         QCOMPARE(status.size(), 1); // connected once, never dropped
-    }
-
-    void expiredTokenWithoutWatchLosesTheConnection()
-    {
-        auto scheduler = std::make_shared<ManualScheduler>();
-        RealtimeClient client(m_backend.url(), QString::fromLatin1(m_backend.anonKey()), scheduler);
-        client.start(m_anna, [this]() -> QCoro::Task<std::optional<QString>> {
-            co_return std::optional<QString>(QString::fromLatin1(m_backend.tokenFor(m_anna, u"authenticated"_s, 3)));
-        });
-        QTRY_VERIFY_WITH_TIMEOUT(client.isConnected(), 5000);
-        // The server ends the channels when the token lapses; the client reconnects after a wait.
-        QTRY_VERIFY_WITH_TIMEOUT(!client.isConnected(), 7000);
-        QCOMPARE(scheduler->pending("reconnect"), std::optional(std::chrono::milliseconds(1000)));
     }
 
     void noTokenRetriesLater()
@@ -392,14 +313,11 @@ private slots:
         RealtimeClient client(m_backend.url(), QString::fromLatin1(m_backend.anonKey()), scheduler);
         bool signedIn = false;
         client.start(m_anna, [&]() -> QCoro::Task<std::optional<QString>> {
-            if (!signedIn) {
-                co_return std::nullopt;
-            }
-            co_return std::optional<QString>(QString::fromLatin1(m_backend.tokenFor(m_anna)));
+            co_return signedIn ? std::optional<QString>(QString::fromLatin1(m_backend.tokenFor(m_anna))) : std::nullopt;
         });
         QTRY_VERIFY_WITH_TIMEOUT(scheduler->pending("reconnect").has_value(), 2000);
         QVERIFY(scheduler->fire("reconnect"));
-        QCOMPARE(scheduler->pending("reconnect"), std::optional(std::chrono::milliseconds(2000)));
+        QCOMPARE(scheduler->requestedSeconds("reconnect"), (QList<int>{1, 2}));
         signedIn = true;
         QVERIFY(scheduler->fire("reconnect"));
         QTRY_VERIFY_WITH_TIMEOUT(client.isConnected(), 5000);
@@ -419,16 +337,15 @@ private slots:
         QVERIFY(device->client->isConnected());
 
         // A server that stops answering (frozen, not closed: the socket stays open).
-        const qint64 server = m_backend.processId();
-        QCOMPARE(::kill(pid_t(server), SIGSTOP), 0);
+        const auto server = pid_t(m_backend.processId());
+        QCOMPARE(::kill(server, SIGSTOP), 0);
         QVERIFY(scheduler.fire("heartbeat"));
         QTest::qWait(300);
         QVERIFY(device->client->isConnected()); // one unanswered heartbeat is not yet a loss
         QVERIFY(scheduler.fire("heartbeat"));
         QVERIFY(!device->client->isConnected());
-        QCOMPARE(scheduler.pending("reconnect"), std::optional(std::chrono::milliseconds(1000)));
-        QCOMPARE(::kill(pid_t(server), SIGCONT), 0);
-
+        QCOMPARE(scheduler.pending("reconnect"), std::optional(1000ms));
+        QCOMPARE(::kill(server, SIGCONT), 0);
         QVERIFY(scheduler.fire("reconnect"));
         QTRY_VERIFY_WITH_TIMEOUT(device->client->isConnected(), 10000);
         QCOMPARE(device->resyncs->size(), 1);
@@ -442,18 +359,16 @@ private slots:
         auto device = startDevice(m_anna);
         QVERIFY(device);
         const quint64 generation = device->client->generation();
-
         QDBusConnection logind = QDBusConnection::connectToBus(m_busAddress, u"logind"_s);
-        QVERIFY(logind.isConnected());
         QVERIFY(logind.registerService(u"org.freedesktop.login1"_s));
         auto announce = [&](bool sleeping) {
             QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s,
                                                              u"org.freedesktop.login1.Manager"_s, u"PrepareForSleep"_s);
             signal << sleeping;
             QVERIFY(logind.send(signal));
+            QTest::qWait(300);
         };
         announce(true); // going to sleep: nothing to do yet
-        QTest::qWait(300);
         QCOMPARE(device->client->generation(), generation);
         announce(false);
         QTRY_VERIFY_WITH_TIMEOUT(device->client->isConnected() && device->client->generation() == generation + 1, 5000);
@@ -462,19 +377,10 @@ private slots:
         // Stopped, the client no longer listens.
         device->client->stop();
         announce(false);
-        QTest::qWait(300);
         QCOMPARE(device->client->generation(), generation + 1);
         QVERIFY(!device->client->isConnected());
         logind.unregisterService(u"org.freedesktop.login1"_s);
         QDBusConnection::disconnectFromBus(u"logind"_s);
-    }
-
-    void cleanupTestCase()
-    {
-        if (m_bus.state() != QProcess::NotRunning) {
-            m_bus.terminate();
-            m_bus.waitForFinished(5000);
-        }
     }
 
     // Last: it restarts the server.
@@ -484,11 +390,10 @@ private slots:
         QVERIFY(device);
         ManualScheduler &scheduler = *device->scheduler;
         scheduler.forgetRequests();
-
         m_backend.stop();
+        // Each attempt fails while the server is down, and the next waits longer.
         QTRY_VERIFY_WITH_TIMEOUT(scheduler.pending("reconnect").has_value(), 10000);
         QVERIFY(!device->client->isConnected());
-        // Each attempt fails while the server is down, and the next waits longer.
         for (int i = 0; i < 7; ++i) {
             QVERIFY(scheduler.fire("reconnect"));
             QTRY_VERIFY_WITH_TIMEOUT(scheduler.pending("reconnect").has_value(), 10000);
