@@ -118,6 +118,11 @@ QStringList ids(const QList<ParsedSession> &sessions)
     return list;
 }
 
+// How a log changes between two walks.
+constexpr int Append = 0;
+constexpr int Rewrite = 1;
+constexpr int Replace = 2;
+
 } // namespace
 
 class TestClaudeWatcher : public QObject
@@ -426,36 +431,50 @@ private Q_SLOTS:
         QCOMPARE(dump.firstUserMessage, std::optional(u"Summarise the dump"_s));
     }
 
-    void appendedLinesEqualAFullRead_data()
+    // Walks after a change read only the new bytes where they can, and the whole file where what
+    // was read before changed; either way they equal one full read.
+    void laterWalksEqualAFullRead_data()
     {
         QTest::addColumn<QByteArray>("initial");
-        QTest::addColumn<QList<QByteArray>>("appends");
-        QTest::addColumn<bool>("extended"); // the last step read only new bytes
+        QTest::addColumn<QList<QByteArray>>("steps");
+        QTest::addColumn<int>("change");
+        QTest::addColumn<bool>("extended"); // the last walk read only new bytes
 
         const QByteArray start = userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) + agentLine(u"2025-03-01T10:00:10Z"_s);
         QTest::newRow("a line finished after being read half")
             << start
             << QList<QByteArray>{userLine(u"2025-03-01T10:05:00Z"_s, u"second"_s).left(40),
                                  userLine(u"2025-03-01T10:05:00Z"_s, u"second"_s).mid(40)}
-            << true;
+            << Append << true;
         QTest::newRow("older time stamps and a prompt of an equal date arrive late")
             << start
             << QList<QByteArray>{userLine(u"2025-03-01T09:59:00Z"_s, u"earlier"_s) +
                                  userLine(u"2025-03-01T10:00:00Z"_s, u"same date, later in file"_s)}
-            << true;
+            << Append << true;
         QTest::newRow("the working directory arrives late")
             << QByteArray(
                    "{\"type\":\"user\",\"timestamp\":\"2025-03-01T10:00:00Z\",\"message\":{\"content\":\"x\"}}\n"
                    "{\"type\":\"user\",\"timestamp\":\"2025-03-01T10:00:05Z\",\"message\":{\"content\":\"y\"}}\n")
-            << QList<QByteArray>{agentLine(u"2025-03-01T10:01:00Z"_s)} << true;
+            << QList<QByteArray>{agentLine(u"2025-03-01T10:01:00Z"_s)} << Append << true;
         QTest::newRow("a file that was only a partial line")
-            << QByteArray("{\"type\":\"us") << QList<QByteArray>{QByteArray("er\"}\n") + start} << false;
+            << QByteArray("{\"type\":\"us") << QList<QByteArray>{QByteArray("er\"}\n") + start} << Append << false;
+        const QByteArray first = userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s);
+        QTest::newRow("last line rewritten, file longer")
+            << start
+            << QList<QByteArray>{first + agentLine(u"2025-03-01T10:00:19Z"_s) + agentLine(u"2025-03-01T10:01:00Z"_s)}
+            << Rewrite << false;
+        QTest::newRow("shrunk") << start << QList<QByteArray>{first} << Rewrite << false;
+        QTest::newRow("replaced by another file")
+            << start
+            << QList<QByteArray>{first + agentLine(u"2025-03-01T10:00:10Z"_s) + agentLine(u"2025-03-01T10:02:00Z"_s)}
+            << Replace << false;
     }
 
-    void appendedLinesEqualAFullRead()
+    void laterWalksEqualAFullRead()
     {
         QFETCH(QByteArray, initial);
-        QFETCH(QList<QByteArray>, appends);
+        QFETCH(QList<QByteArray>, steps);
+        QFETCH(int, change);
         QFETCH(bool, extended);
         QTemporaryDir dir;
         const QString path = dir.filePath(u"p/s.jsonl"_s);
@@ -464,8 +483,15 @@ private Q_SLOTS:
         ClaudeWatcher::ScanStats stats;
         ClaudeWatcher::enumerateSessions(dir.path(), 900, 30, QDateTime::currentDateTimeUtc(), &stats);
         QCOMPARE(stats.filesReadWhole, 1);
-        for (const QByteArray &bytes : appends) {
-            append(path, bytes);
+        for (const QByteArray &bytes : steps) {
+            if (change == Append) {
+                append(path, bytes);
+            } else {
+                write(change == Rewrite ? path : path + u".new"_s, bytes);
+                QVERIFY(change == Rewrite || ::rename(QFile::encodeName(path + u".new"_s).constData(),
+                                                      QFile::encodeName(path).constData()) == 0);
+                setModified(path, QDateTime::currentDateTimeUtc().addSecs(-300));
+            }
             const QList<ParsedSession> walked =
                 ClaudeWatcher::enumerateSessions(dir.path(), 900, 30, QDateTime::currentDateTimeUtc(), &stats);
             const std::optional<ParsedSession> full = ClaudeWatcher::parse(path, u"s"_s, 900);
@@ -476,47 +502,6 @@ private Q_SLOTS:
         if (extended) {
             QVERIFY(stats.bytesRead < QFileInfo(path).size());
         }
-    }
-
-    void changedPrefixIsReadWhole_data()
-    {
-        QTest::addColumn<QByteArray>("replacement");
-        QTest::addColumn<bool>("sameInode");
-
-        QTest::newRow("last line rewritten, file longer")
-            << userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) + agentLine(u"2025-03-01T10:00:19Z"_s) +
-                   agentLine(u"2025-03-01T10:01:00Z"_s)
-            << true;
-        QTest::newRow("shrunk") << userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) << true;
-        QTest::newRow("replaced by another file")
-            << userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) + agentLine(u"2025-03-01T10:00:10Z"_s) +
-                   agentLine(u"2025-03-01T10:02:00Z"_s)
-            << false;
-    }
-
-    void changedPrefixIsReadWhole()
-    {
-        QFETCH(QByteArray, replacement);
-        QFETCH(bool, sameInode);
-        QTemporaryDir dir;
-        const QString path = dir.filePath(u"p/s.jsonl"_s);
-        write(path, userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s) + agentLine(u"2025-03-01T10:00:10Z"_s));
-        setModified(path, QDateTime::currentDateTimeUtc().addSecs(-600));
-        ClaudeWatcher::enumerateSessions(dir.path(), 900, 30);
-        if (sameInode) {
-            write(path, replacement);
-        } else {
-            write(path + u".new"_s, replacement);
-            QVERIFY(::rename(QFile::encodeName(path + u".new"_s).constData(), QFile::encodeName(path).constData()) ==
-                    0);
-        }
-        setModified(path, QDateTime::currentDateTimeUtc().addSecs(-300));
-        ClaudeWatcher::ScanStats stats;
-        const QList<ParsedSession> walked =
-            ClaudeWatcher::enumerateSessions(dir.path(), 900, 30, QDateTime::currentDateTimeUtc(), &stats);
-        QCOMPARE(stats.filesReadWhole, 1);
-        QCOMPARE(walked.size(), 1);
-        COMPARE_SESSION(std::optional(walked.first()), ClaudeWatcher::parse(path, u"s"_s, 900));
     }
 
     void liveSessionsAreNewestFirst()
