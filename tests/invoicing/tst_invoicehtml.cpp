@@ -2,6 +2,7 @@
 #include "invoicing/invoicehtmlrenderer.h"
 #include "invoicing/invoicelanguage.h"
 #include "invoicing/invoicemoney.h"
+#include "invoicing/sampleinvoice.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -42,17 +43,10 @@ InvoiceDraft sampleDraft()
     return draft;
 }
 
+// The shared sample studio, which fills every field of the letterhead.
 InvoiceStyle sampleStyle()
 {
-    InvoiceStyle style;
-    style.company = u"Studio Vlinder"_s;
-    style.address = u"Oudegracht 112\n3511 AX Utrecht"_s;
-    style.email = u"hallo@studiovlinder.nl"_s;
-    style.kvk = u"81234567"_s;
-    style.btw = u"NL004512345B01"_s;
-    style.iban = u"NL91 ABNA 0417 1643 00"_s;
-    style.paymentTermsDays = 14;
-    return style;
+    return SampleInvoice::style();
 }
 
 InvoiceMetadata sampleMetadata()
@@ -301,9 +295,6 @@ private slots:
     void customTemplateFillsEveryPlaceholder()
     {
         InvoiceStyle style = sampleStyle();
-        style.bankName = u"ABN AMRO"_s;
-        style.website = u"studiovlinder.nl"_s;
-        style.phone = u"+31 30 555 0101"_s;
         style.footer = u"Thanks & see you"_s;
         style.logoDataB64 = u"iVBORw0KGgo="_s;
         InvoiceMetadata metadata = sampleMetadata();
