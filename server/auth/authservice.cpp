@@ -234,8 +234,9 @@ HttpResponse AuthService::handle(const HttpRequest &request)
     } catch (const PgPool::Busy &) {
         return failure(503, u"unexpected_failure"_s, u"The server is busy; try again."_s);
     } catch (const PgException &error) {
-        // Text the database cannot hold (a NUL character) is the request's fault, not ours.
-        if (error.error().sqlstate == "22021") {
+        // Text the database cannot hold (a NUL character, also as \u0000 in JSON) is the
+        // request's fault, not ours.
+        if (error.error().sqlstate == "22021" || error.error().sqlstate == "22P05") {
             return failure(400, u"validation_failed"_s, u"Text may not contain NUL characters"_s);
         }
         qCWarning(lcAuth) << request.method << request.path << "database:" << error.what();

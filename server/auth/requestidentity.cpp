@@ -23,7 +23,7 @@ std::variant<RequestIdentity, Jwt::Failure> identify(const HttpRequest &request,
     const QJsonObject claims = std::get<QJsonObject>(verified);
     const QString role = claims.value(u"role").toString(u"anon"_s);
     if (role != u"anon" && role != u"authenticated" && role != u"service_role") {
-        return Jwt::Failure{Jwt::Failure::Kind::BadSignature, u"JWT role \"%1\" is not allowed"_s.arg(role)};
+        return Jwt::Failure{Jwt::Failure::Kind::BadSignature, u"The token's role is not allowed"_s};
     }
     return RequestIdentity{role, claims, token};
 }

@@ -36,8 +36,8 @@ QByteArray reason(int status)
     }
 }
 
-// What a refused request had buffered goes back to the system at once, not at some later
-// allocation: a burst of large requests must not leave the server large.
+} // namespace
+
 void returnFreedMemory()
 {
     static QPointer<QTimer> pending;
@@ -53,7 +53,6 @@ void returnFreedMemory()
     pending->start(std::chrono::milliseconds(200));
 }
 
-} // namespace
 
 GuardedSocket::GuardedSocket(const Limits &limits, QObject *parent)
     : QTcpSocket(parent)

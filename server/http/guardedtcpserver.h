@@ -9,6 +9,10 @@
 
 #include <chrono>
 
+// Hands memory the allocator holds free back to the system shortly (once for a burst): what a
+// refused or large request had buffered must not leave the server large.
+void returnFreedMemory();
+
 // A socket that follows its requests as they arrive (RequestFraming), so that an oversized request
 // line, head or body is refused while it arrives instead of after it has been buffered whole, and
 // that tells its server whether it waits for a request.

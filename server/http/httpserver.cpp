@@ -7,11 +7,16 @@
 #include <QMetaMethod>
 #include <QTcpSocket>
 
+#include <algorithm>
+#include <cctype>
+
 Q_LOGGING_CATEGORY(lcHttp, "morvane.server.http")
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qsizetype largeMessageBytes = 1024 * 1024;
 
 QByteArray methodName(QHttpServerRequest::Method method)
 {
@@ -151,7 +156,13 @@ bool HttpServer::handleRequest(const QHttpServerRequest &request, QTcpSocket *so
     const bool close = plain.header("connection").toLower() == "close";
 
     if (plain.method == "OPTIONS") {
-        const QByteArray asked = plain.header("access-control-request-headers");
+        // Echoed only when it is a plain list of header names; anything else gets the wildcard.
+        QByteArray asked = plain.header("access-control-request-headers");
+        if (!std::all_of(asked.cbegin(), asked.cend(), [](char c) {
+                return std::isalnum(static_cast<unsigned char>(c)) || QByteArrayView("-_, ").contains(c);
+            })) {
+            asked.clear();
+        }
         HttpResponse preflight{204,
                                {{"Access-Control-Allow-Methods", "GET, HEAD, POST, PUT, PATCH, DELETE, OPTIONS"},
                                 {"Access-Control-Allow-Headers", asked.isEmpty() ? QByteArray("*") : asked},
@@ -183,7 +194,8 @@ bool HttpServer::handleRequest(const QHttpServerRequest &request, QTcpSocket *so
     }
 
     QPointer<QTcpSocket> guarded(socket);
-    m_pool.start([this, service, plain = std::move(plain), guarded, sequence, close] {
+    const bool largeRequest = plain.body.size() > largeMessageBytes;
+    m_pool.start([this, service, plain = std::move(plain), guarded, sequence, close, largeRequest] {
         HttpResponse response;
         try {
             response = service->handle(plain);
@@ -193,9 +205,15 @@ bool HttpServer::handleRequest(const QHttpServerRequest &request, QTcpSocket *so
         }
         QMetaObject::invokeMethod(
             this,
-            [this, guarded, sequence, response = std::move(response), close]() mutable {
+            [this, guarded, sequence, response = std::move(response), close, largeRequest]() mutable {
+                const bool large = largeRequest || response.body.size() > largeMessageBytes;
                 if (guarded) {
                     deliver(guarded, sequence, std::move(response), close);
+                }
+                // The pool's threads each keep an arena; what a large request spread over them is
+                // handed back once it is answered, so a burst of them does not leave the server large.
+                if (large) {
+                    returnFreedMemory();
                 }
             },
             Qt::QueuedConnection);

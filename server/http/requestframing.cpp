@@ -12,6 +12,15 @@ bool allDigits(QByteArrayView text, int maxDigits)
            std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+// A header name as HTTP defines a token: letters, digits and a few marks, nothing else.
+bool isToken(QByteArrayView text)
+{
+    return std::all_of(text.begin(), text.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+               QByteArrayView("!#$%&'*+-.^_`|~").contains(c);
+    });
+}
+
 } // namespace
 
 RequestFraming::RequestFraming(Limits limits)
@@ -145,12 +154,18 @@ RequestFraming::Verdict RequestFraming::endOfHead(QByteArrayView head)
         if (line.startsWith(' ') || line.startsWith('\t')) {
             return refuse(Verdict::Malformed);
         }
-        const qsizetype colon = line.indexOf(':');
-        if (colon <= 0) {
+        const QByteArrayView field = line.endsWith('\r') ? QByteArrayView(line).chopped(1) : QByteArrayView(line);
+        if (field.isEmpty()) {
             continue;
         }
-        const QByteArray name = line.left(colon).trimmed().toLower();
-        const QByteArray value = line.mid(colon + 1).trimmed();
+        // A name with white space before its colon, or a line without a name, is read as another
+        // header (or none) by other readers; a value holding CR or NUL is cut differently by each.
+        const qsizetype colon = field.indexOf(':');
+        if (colon <= 0 || !isToken(field.first(colon)) || field.contains('\r') || field.contains('\0')) {
+            return refuse(Verdict::Malformed);
+        }
+        const QByteArray name = field.first(colon).toByteArray().toLower();
+        const QByteArray value = field.sliced(colon + 1).toByteArray().trimmed();
         if (name == "content-length") {
             // Two lengths that disagree would let the two ends of a connection see two different
             // requests.

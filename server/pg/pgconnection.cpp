@@ -111,9 +111,26 @@ PgConnection::~PgConnection()
     PQfinish(m_conn);
 }
 
+namespace {
+
+constexpr qint64 largeMessageBytes = 4 * 1024 * 1024;
+
+} // namespace
+
 PgResult PgConnection::check(pg_result *result)
 {
     const ExecStatusType status = result ? PQresultStatus(result) : PGRES_FATAL_ERROR;
+    if (status == PGRES_TUPLES_OK && !m_carriedLargeMessage) {
+        qint64 bytes = 0;
+        const int rows = PQntuples(result);
+        const int columns = PQnfields(result);
+        for (int row = 0; row < rows && bytes <= largeMessageBytes; ++row) {
+            for (int column = 0; column < columns; ++column) {
+                bytes += PQgetlength(result, row, column);
+            }
+        }
+        m_carriedLargeMessage = bytes > largeMessageBytes;
+    }
     if (status == PGRES_COMMAND_OK || status == PGRES_TUPLES_OK) {
         return PgResult(result);
     }
@@ -128,6 +145,7 @@ PgResult PgConnection::exec(const QByteArray &sql, const PgParams &params)
     std::vector<int> lengths;
     values.reserve(std::size_t(params.size()));
     lengths.reserve(std::size_t(params.size()));
+    qint64 sent = 0;
     for (const auto &param : params) {
         // Text parameters end at the first NUL, so "a\0b" would arrive as "a": a filter could
         // match far more than was asked. PostgreSQL text cannot hold NUL, so refuse it as it would.
@@ -136,7 +154,9 @@ PgResult PgConnection::exec(const QByteArray &sql, const PgParams &params)
         }
         values.push_back(param ? param->constData() : nullptr);
         lengths.push_back(param ? int(param->size()) : 0);
+        sent += lengths.back();
     }
+    m_carriedLargeMessage = m_carriedLargeMessage || sent > largeMessageBytes;
     return check(
         PQexecParams(m_conn, sql.constData(), int(params.size()), nullptr, values.data(), lengths.data(), nullptr, 0));
 }

@@ -73,6 +73,9 @@ public:
     // Whether the connection sits inside a transaction (also a failed one).
     [[nodiscard]] bool inTransaction() const;
     bool reset();
+    // Whether a statement sent or received more than a few megabytes. libpq keeps its buffers at
+    // the largest message the connection has carried, so such a connection is best closed.
+    [[nodiscard]] bool carriedLargeMessage() const { return m_carriedLargeMessage; }
 
 private:
     explicit PgConnection(pg_conn *conn)
@@ -81,4 +84,5 @@ private:
     PgResult check(pg_result *result);
 
     pg_conn *m_conn;
+    bool m_carriedLargeMessage = false;
 };

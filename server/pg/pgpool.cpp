@@ -55,7 +55,7 @@ void PgPool::release(std::unique_ptr<PgConnection> connection)
         } catch (const PgException &) {
         }
     }
-    if (!connection->isHealthy() && !connection->reset()) {
+    if (connection->carriedLargeMessage() || (!connection->isHealthy() && !connection->reset())) {
         connection.reset();
     }
     QMutexLocker lock(&m_mutex);

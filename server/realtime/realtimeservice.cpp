@@ -150,7 +150,7 @@ std::variant<RealtimeService::Identity, QString> RealtimeService::identify(const
     const QJsonObject claims = std::get<QJsonObject>(verified);
     const QString role = claims.value(u"role").toString(u"anon"_s);
     if (role != u"anon" && role != u"authenticated" && role != u"service_role") {
-        return u"Invalid token: role \"%1\" is not allowed"_s.arg(role);
+        return u"Invalid token: its role is not allowed"_s;
     }
     const QJsonValue exp = claims.value(u"exp");
     return Identity{role, claims, exp.isDouble() ? qint64(exp.toDouble()) : 0};

@@ -39,6 +39,11 @@ private slots:
             {"two lengths that disagree", postHead + "Content-Length: 1\r\nContent-Length: 2\r\n\r\n",
              Verdict::Malformed, false},
             {"a folded header line", postHead + "X: a\r\n Content-Length: 5\r\n\r\n", Verdict::Malformed, false},
+            // Each of these is read as another header, or none, by some reader on the way.
+            {"white space before a colon", postHead + "Content-Length : 5\r\n\r\nhello", Verdict::Malformed, false},
+            {"a header line without a name", "GET / HTTP/1.1\r\nno colon\r\n\r\n", Verdict::Malformed, false},
+            {"a carriage return inside a value", "GET / HTTP/1.1\r\nX: a\rb\r\n\r\n", Verdict::Malformed, false},
+            {"a NUL inside a value", QByteArray("GET / HTTP/1.1\r\nX: a\0b\r\n\r\n", 26), Verdict::Malformed, false},
             {"a length that is no number", postHead + "Content-Length: 1e3\r\n\r\n", Verdict::Malformed, false},
             {"an encoding that cannot be framed", postHead + "Transfer-Encoding: gzip\r\n\r\n", Verdict::Malformed,
              false},
