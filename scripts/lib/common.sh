@@ -73,7 +73,7 @@ morvane_build() {
     cmake --build "$MORVANE_BUILD" --parallel "$(nproc)" || return 1
 }
 
-# The official JavaScript client that tst_jsclient drives, installed exactly as package-lock.json
+# The official JavaScript client that tst_jsclients drives, installed exactly as package-lock.json
 # pins it. Skipped while node_modules is newer than the lock file, so only a changed lock file
 # reaches the registry.
 morvane_install_js_packages() {
