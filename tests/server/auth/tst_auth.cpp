@@ -181,6 +181,8 @@ private slots:
         QTest::newRow("no dot in the domain") << u"ana@example"_s << u"123456"_s << u"Ana"_s << u"validation_failed"_s;
         QTest::newRow("space in the address")
             << u"a na@example.nl"_s << u"123456"_s << u"Ana"_s << u"validation_failed"_s;
+        QTest::newRow("a NUL in the name") << u"ana@example.nl"_s << u"123456"_s << u"A\u0000na"_s
+                                           << u"validation_failed"_s;
         QTest::newRow("absurdly long name")
             << u"ana@example.nl"_s << u"123456"_s << QString(40000, u'n') << u"validation_failed"_s;
     }
