@@ -151,48 +151,26 @@ private slots:
         m_logs.reset();
     }
 
-    void burstsBecomeTasksWithTheirActiveTime_data()
-    {
-        QTest::addColumn<QString>("cwd");
-        QTest::addColumn<QStringList>("lines");
-        QTest::addColumn<QStringList>("tasks");
-        QTest::newRow("90 s of activity are 1.5 minutes")
-            << u"/w/cart"_s
-            << QStringList{u"10:00:00.000 Fix the cart"_s, u"10:00:40"_s, u"10:01:30 And the totals"_s, u"10:09:00"_s}
-            << QStringList{task(u"Fix the cart"_s, u"s"_s, 1, 1, u"/w/cart"_s, 2, u"90"_s, u"90"_s)};
-        QTest::newRow("a lone prompt counts one minute")
-            << u"/w/lone"_s << QStringList{u"09:00:00 Rename the column"_s, u"09:00:05"_s}
-            << QStringList{task(u"Rename the column"_s, u"s"_s, 1, 1, u"/w/lone"_s, 1, u"60"_s, u"60"_s)};
-        QTest::newRow("prompts exactly the idle gap apart are one burst, a second more makes two")
-            << u"/w/gap"_s
-            << QStringList{u"10:00:00 Write the migration"_s,
-                           u"10:10:00"_s,
-                           u"10:15:00 Run it"_s,
-                           u"10:16:00"_s,
-                           u"10:30:01 Send it"_s,
-                           u"10:31:00"_s}
-            << QStringList{task(u"Send it"_s, u"s"_s, 2, 2, u"/w/gap"_s, 1, u"60"_s, u"60"_s),
-                           task(u"Write the migration"_s, u"s"_s, 1, 2, u"/w/gap"_s, 2, u"900"_s, u"900"_s)};
-        QTest::newRow("a session without prompts is one Claude session")
-            << u"/w/quiet"_s << QStringList{u"08:00:00"_s, u"08:00:30"_s, u"08:01:45"_s}
-            << QStringList{task(u"Claude session"_s, u"s"_s, 1, 1, u"/w/quiet"_s, 0, u"105"_s, u"105"_s)};
-    }
-
     void burstsBecomeTasksWithTheirActiveTime()
     {
-        QFETCH(QString, cwd);
-        QFETCH(QStringList, lines);
-        QFETCH(QStringList, tasks);
-        write(u"s"_s, cwd, log(u"s"_s, cwd, lines));
+        // 90 s and then exactly the idle gap: one burst of 16.5 minutes; a second more makes another.
+        const QString cwd = u"/w/gap"_s;
+        write(u"g1"_s, cwd,
+              log(u"g1"_s, cwd,
+                  {u"10:00:00.000 Write the migration"_s, u"10:00:40"_s, u"10:01:30 Check it"_s, u"10:16:30 Run it"_s,
+                   u"10:17:00"_s, u"10:31:31 Send it"_s, u"10:32:00"_s}));
         const ScanResult result = runBlocking(watcher(m_sink)->scanNow());
-        QCOMPARE(tasksOf(cwd), tasks);
+        QCOMPARE(tasksOf(cwd),
+                 (QStringList{task(u"Send it"_s, u"g1"_s, 2, 2, cwd, 1, u"60"_s, u"60"_s),
+                              task(u"Write the migration"_s, u"g1"_s, 1, 2, cwd, 3, u"990"_s, u"990"_s)}));
+        QCOMPARE(result.loggedSeconds, 1050);
         QCOMPARE(result.failedBursts, 0);
         // The store shows what was written, as it would after the user's own edits.
         qsizetype shown = 0;
         for (const TaskItem &item : m_device->store->tasks(m_project)) {
             shown += item.description && item.description->contains(u"Working dir: "_s + cwd + u'\n') ? 1 : 0;
         }
-        QCOMPARE(shown, tasks.size());
+        QCOMPARE(shown, 2);
     }
 
     void nothingIsLoggedWithoutASignedInUser()
