@@ -129,10 +129,9 @@ private Q_SLOTS:
         QTemporaryDir dir;
         QDir().mkpath(dir.filePath(u"plain"_s));
         QDir().mkpath(dir.filePath(u"exec"_s));
-        writeFile(dir.filePath(u"override-exec"_s), "#!/bin/sh\n", executable);
-        writeFile(dir.filePath(u"override-plain"_s), "#!/bin/sh\n", plain);
-        writeFile(dir.filePath(u"plain/claude"_s), "#!/bin/sh\n", plain);
-        writeFile(dir.filePath(u"exec/claude"_s), "#!/bin/sh\n", executable);
+        for (const QString &name : {u"override-exec"_s, u"override-plain"_s, u"plain/claude"_s, u"exec/claude"_s}) {
+            writeFile(dir.filePath(name), "#!/bin/sh\n", name.contains(u"exec") ? executable : plain);
+        }
         const auto inDir = [&](const QString &name) { return name.startsWith(u'/') ? name : dir.filePath(name); };
 
         QSettings settings(dir.filePath(u"s.ini"_s), QSettings::IniFormat);
