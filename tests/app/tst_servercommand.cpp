@@ -1,65 +1,14 @@
-#include "support/localservers.h"
+#include "support/morvanecli.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
-namespace {
+using Run = MorvaneCli::Run;
 
-struct Run
-{
-    int code = -1;
-    QByteArray out;
-    QString err;
-
-    [[nodiscard]] QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
-};
-
-// The real `morvane` program as a user runs it, with a home of its own: its data and settings
-// folders are throw-away ones, and it finds morvane-server the way it does in the build tree.
-class Home
-{
-public:
-    // Where the program keeps the local server's data under XDG_DATA_HOME.
-    [[nodiscard]] QString dataDir() const { return m_scratch.path(); }
-
-    // `variable` ("NAME=value") is one more for its environment.
-    Run morvane(const QStringList &arguments, const QString &variable = {}) const
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(u"SUPABASE_URL"_s);
-        environment.remove(u"SUPABASE_ANON_KEY"_s);
-        environment.remove(u"LANGUAGE"_s);
-        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-        environment.insert(u"XDG_DATA_HOME"_s, m_scratch.base() + u"/data"_s);
-        environment.insert(u"XDG_CONFIG_HOME"_s, m_scratch.base() + u"/config"_s);
-        environment.insert(u"MORVANE_SERVER_PORT"_s, u"0"_s);
-        if (!variable.isEmpty()) {
-            environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
-        }
-        QProcess process;
-        process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(MORVANE_APP_PROGRAM), arguments);
-        Run run;
-        if (!process.waitForFinished(150000) || process.exitStatus() != QProcess::NormalExit) {
-            return run;
-        }
-        run.code = process.exitCode();
-        run.out = process.readAllStandardOutput();
-        run.err = QString::fromUtf8(process.readAllStandardError());
-        return run;
-    }
-
-private:
-    // Its clean-up stops whatever server the program left on the data folder.
-    ScratchServerDir m_scratch{u"data/morvane/server"_s};
-};
-
-} // namespace
-
+// `morvane server ...` and the local backend as a person meets them, in a home of their own with
+// no other backend configured.
 class TestServerCommand : public QObject
 {
     Q_OBJECT
@@ -98,48 +47,52 @@ private slots:
         QFETCH(int, code);
         QFETCH(QString, out);
         QFETCH(QString, err);
-        const Home home;
+        const MorvaneCli home;
         QStringList arguments = command.split(u' ');
-        const QString variable = arguments.first().contains(u'=') ? arguments.takeFirst() : QString();
-        const Run run = home.morvane(arguments, variable);
+        QProcessEnvironment environment = home.environment();
+        if (arguments.first().contains(u'=')) {
+            const QString variable = arguments.takeFirst();
+            environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
+        }
+        const Run run = MorvaneCli::finish(*home.start(arguments, environment));
         QCOMPARE(run.code, code);
         QCOMPARE(run.err, err);
         if (!out.isNull()) {
-            QCOMPARE(QString::fromUtf8(run.out), out.replace(u"<dir>"_s, home.dataDir()));
+            QCOMPARE(run.out, out.replace(u"<dir>"_s, home.localServerDir()));
         }
-        QVERIFY(!QFile::exists(home.dataDir() + u"/morvane-server.log"_s));
-        QVERIFY(!QFile::exists(home.dataDir() + u"/morvane-server.lock"_s));
-        QVERIFY(serversOn(home.dataDir()).isEmpty());
+        QVERIFY(!QFile::exists(home.localServerDir() + u"/morvane-server.log"_s));
+        QVERIFY(!QFile::exists(home.localServerDir() + u"/morvane-server.lock"_s));
+        QVERIFY(serversOn(home.localServerDir()).isEmpty());
     }
 
     void startStatusStopAsJson()
     {
-        const Home home;
+        const MorvaneCli home;
         const auto server = [&](const char *action, int code) {
-            const Run run = home.morvane({u"server"_s, QString::fromLatin1(action), u"--json"_s});
+            const Run run = home(u"server %1 --json"_s.arg(QString::fromLatin1(action)));
             [&] { QCOMPARE(run.code, code); }();
-            return run.json();
+            return run.object();
         };
         const auto pidOf = [](const QJsonObject &object) { return qint64(object[u"pid"_s].toDouble()); };
         const QJsonObject before = server("status", 3);
         QCOMPARE(before[u"state"_s].toString(), u"stopped"_s);
         QCOMPARE(before[u"running"_s].toBool(true), false);
         QVERIFY(before[u"pid"_s].isNull());
-        QCOMPARE(before[u"data_dir"_s].toString(), home.dataDir());
+        QCOMPARE(before[u"data_dir"_s].toString(), home.localServerDir());
 
         const QJsonObject start = server("start", 0);
         QCOMPARE(start[u"started"_s].toBool(), true);
         const qint64 pid = pidOf(start);
         const QString url = start[u"url"_s].toString();
         // The program that started it has ended; the server has not.
-        QCOMPARE(serversOn(home.dataDir()), QList<qint64>{pid});
+        QCOMPARE(serversOn(home.localServerDir()), QList<qint64>{pid});
         const QJsonObject running = server("status", 0);
         QCOMPARE(running[u"state"_s].toString(), u"running"_s);
         QCOMPARE(pidOf(running), pid);
         QCOMPARE(running[u"url"_s].toString(), url);
         QCOMPARE(running[u"in_use"_s].toBool(), true);
         // What the application will talk to is that server, and it answers with that key.
-        const QJsonObject config = home.morvane({u"config"_s, u"--json"_s}).json();
+        const QJsonObject config = home(u"config --json"_s).object();
         QCOMPARE(config[u"url"_s].toString(), url);
         const QString failure = accountWorks(QUrl(url), config[u"anon_key"_s].toString());
         QVERIFY2(failure.isEmpty(), qPrintable(failure));
@@ -150,8 +103,8 @@ private slots:
         const QJsonObject stop = server("stop", 0);
         QCOMPARE(stop[u"stopped"_s].toBool(), true);
         QCOMPARE(pidOf(stop), pid);
-        QVERIFY(serversOn(home.dataDir()).isEmpty());
-        QVERIFY(!QFile::exists(home.dataDir() + u"/postgres/postmaster.pid"_s));
+        QVERIFY(serversOn(home.localServerDir()).isEmpty());
+        QVERIFY(!QFile::exists(home.localServerDir() + u"/postgres/postmaster.pid"_s));
         const QJsonObject stopAgain = server("stop", 0);
         QCOMPARE(stopAgain[u"stopped"_s].toBool(true), false);
         QVERIFY(stopAgain[u"pid"_s].isNull());
@@ -159,16 +112,16 @@ private slots:
 
     void failedStartSaysWhy()
     {
-        const Home home;
+        const MorvaneCli home;
         // A file where the data folder belongs: nothing can be started there.
-        QVERIFY(QDir().mkpath(QFileInfo(home.dataDir()).path()));
-        QFile blocker(home.dataDir());
+        QVERIFY(QDir().mkpath(QFileInfo(home.localServerDir()).path()));
+        QFile blocker(home.localServerDir());
         QVERIFY(blocker.open(QIODevice::WriteOnly));
         blocker.close();
-        const Run run = home.morvane({u"server"_s, u"start"_s});
+        const Run run = home(u"server start"_s);
         QCOMPARE(run.code, 1);
         QVERIFY(run.out.isEmpty());
-        QCOMPARE(run.err, u"Cannot write the local backend's data folder "_s + home.dataDir() + u".\n"_s);
+        QCOMPARE(run.err, u"Cannot write the local backend's data folder "_s + home.localServerDir() + u".\n"_s);
     }
 };
 

@@ -1,5 +1,4 @@
 #include "pg/pgconnection.h"
-#include "support/localservers.h"
 #include "support/morvanecli.h"
 #include "support/testbackend.h"
 #include "support/testdata.h"
@@ -372,27 +371,17 @@ private slots:
     // With no backend configured the program starts the user's own, as every logging command does.
     void sessionsScanStartsTheLocalBackend()
     {
-        const MorvaneCli bo(m_backend);
+        const MorvaneCli bo;
         copyLog(bo, u"-home-ana-code-webshop"_s, checkout);
-        const ScratchServerDir scratch(u"data/morvane/server"_s);
-        QProcessEnvironment environment = bo.environment();
-        environment.remove(u"SUPABASE_URL"_s);
-        environment.remove(u"SUPABASE_ANON_KEY"_s);
-        environment.insert(u"XDG_DATA_HOME"_s, scratch.base() + u"/data"_s);
-        environment.insert(u"XDG_CONFIG_HOME"_s, scratch.base() + u"/config"_s);
-        environment.insert(u"MORVANE_SERVER_PORT"_s, u"0"_s);
-        const auto morvane = [&](const QString &line, const QByteArray &input = {}) {
-            return MorvaneCli::finish(*bo.start(line.split(u' '), environment), input);
-        };
-        QCOMPARE(morvane(u"auth signup bo@example.nl"_s, "bo's secret\n").code, 0);
-        const QString project = morvane(u"projects add Shop --json"_s).id();
-        QCOMPARE(morvane(u"sessions map /home/ana/code/webshop "_s + project).code, 0);
+        QCOMPARE(bo(u"auth signup bo@example.nl"_s, "bo's secret\n").code, 0);
+        const QString project = bo(u"projects add Shop --json"_s).id();
+        QCOMPARE(bo(u"sessions map /home/ana/code/webshop "_s + project).code, 0);
         // As after a restart of the machine: no server runs until a command needs one.
-        QCOMPARE(morvane(u"server stop"_s).code, 0);
-        QVERIFY(serversOn(scratch.path()).isEmpty());
-        const Run run = morvane(u"sessions scan"_s);
+        QCOMPARE(bo(u"server stop"_s).code, 0);
+        QVERIFY(serversOn(bo.localServerDir()).isEmpty());
+        const Run run = bo(u"sessions scan"_s);
         QVERIFY2(run.out.contains(u" · work bursts logged: 2 · "_s), qPrintable(run.out + run.err));
-        QCOMPARE(serversOn(scratch.path()).size(), 1);
+        QCOMPARE(serversOn(bo.localServerDir()).size(), 1);
     }
 };
 
