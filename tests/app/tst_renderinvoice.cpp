@@ -1,21 +1,15 @@
+#include "support/morvanecli.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Run
-{
-    int code = -1;
-    QString out;
-    QString err;
-};
 
 int pdfPages(const QString &file)
 {
@@ -28,31 +22,16 @@ int pdfPages(const QString &file)
 
 } // namespace
 
-// `morvane --render-invoice` as a user runs it, from a folder of its own.
+// `morvane --render-invoice` as a user runs it, from a home folder of its own.
 class TestRenderInvoice : public QObject
 {
     Q_OBJECT
 
 private:
-    QTemporaryDir folder;
+    MorvaneCli person;
+    using Run = MorvaneCli::Run;
 
-    Run morvane(const QStringList &arguments)
-    {
-        QProcess process;
-        process.setWorkingDirectory(folder.path());
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-        process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(MORVANE_APP_PROGRAM), arguments);
-        Run run;
-        if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
-            return run;
-        }
-        run.code = process.exitCode();
-        run.out = QString::fromUtf8(process.readAllStandardOutput());
-        run.err = QString::fromUtf8(process.readAllStandardError());
-        return run;
-    }
+    [[nodiscard]] QString file(const QString &name) const { return person.homeFile(name); }
 
     // The reported size is the size of the file written.
     static void checkReport(const Run &run, const QString &file)
@@ -68,29 +47,28 @@ private:
 private slots:
     void sampleGoesToThePreviewFile()
     {
-        const Run run = morvane({u"--render-invoice"_s});
+        const Run run = person(u"--render-invoice"_s);
         QCOMPARE(run.code, 0);
-        checkReport(run, folder.filePath(u"morvane-preview.pdf"_s));
+        checkReport(run, file(u"morvane-preview.pdf"_s));
         QVERIFY(run.out.contains(u" pages=1 "_s) && run.out.contains(u"design=lightMinimalAccent"_s));
     }
 
     void longSampleInADesignWithPictures()
     {
-        const Run run = morvane({u"--render-invoice"_s, u"--design"_s, u"pastelModern"_s, u"--lines"_s, u"45"_s,
-                                 u"--out"_s, u"long.pdf"_s, u"--png"_s, u"pages"_s});
+        const Run run = person(u"--render-invoice --design pastelModern --lines 45 --out long.pdf --png pages"_s);
         QCOMPARE(run.code, 0);
-        const QString pdf = folder.filePath(u"long.pdf"_s);
+        const QString pdf = file(u"long.pdf"_s);
         checkReport(run, pdf);
         const int pages = pdfPages(pdf);
         QVERIFY(pages >= 3);
-        const QStringList pngs = QDir(folder.filePath(u"pages"_s)).entryList({u"long-page*.png"_s}, QDir::Files);
+        const QStringList pngs = QDir(file(u"pages"_s)).entryList({u"long-page*.png"_s}, QDir::Files);
         QCOMPARE(pngs.size(), pages);
     }
 
     // A draft names its invoice, so the file is named after the number.
     void draftIsNamedAfterItsNumber()
     {
-        QFile draft(folder.filePath(u"draft.json"_s));
+        QFile draft(file(u"draft.json"_s));
         QVERIFY(draft.open(QIODevice::WriteOnly));
         draft.write(R"({"design": "editorial",
             "draft": {"project_name": "Kitchen renovation", "currency": "EUR",
@@ -100,9 +78,9 @@ private slots:
                          "vat_amount": 0, "language": "nl"},
             "style": {"company": "Klusbedrijf Jansen", "iban": "NL02 RABO 0123 4567 89"}})");
         draft.close();
-        const Run run = morvane({u"--render-invoice"_s, u"--draft"_s, draft.fileName()});
+        const Run run = person(u"--render-invoice --draft "_s + draft.fileName());
         QCOMPARE(run.code, 0);
-        checkReport(run, folder.filePath(u"morvane-invoice-2025-0099.pdf"_s));
+        checkReport(run, file(u"morvane-invoice-2025-0099.pdf"_s));
         QVERIFY(run.out.contains(u"design=editorial"_s));
     }
 
@@ -130,16 +108,16 @@ private slots:
         QFETCH(QString, arguments);
         QFETCH(int, code);
         QFETCH(QString, message);
-        QFile broken(folder.filePath(u"broken.json"_s));
+        QFile broken(file(u"broken.json"_s));
         QVERIFY(broken.open(QIODevice::WriteOnly));
         broken.write(R"({"draft": {"lines": [{"title": "Tiling", "amount": "672"}]}})");
         broken.close();
-        const QStringList written = QDir(folder.path()).entryList({u"*.pdf"_s});
-        const Run run = morvane(QStringList{u"--render-invoice"_s} + arguments.split(u' '));
+        const QStringList written = QDir(person.home()).entryList({u"*.pdf"_s});
+        const Run run = person(u"--render-invoice "_s + arguments);
         QCOMPARE(run.code, code);
         QVERIFY2(run.err.contains(message), qPrintable(run.err));
         QVERIFY(run.out.isEmpty());
-        QCOMPARE(QDir(folder.path()).entryList({u"*.pdf"_s}), written);
+        QCOMPARE(QDir(person.home()).entryList({u"*.pdf"_s}), written);
     }
 };
 

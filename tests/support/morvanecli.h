@@ -69,6 +69,8 @@ public:
     {
         auto process = std::make_unique<QProcess>();
         process->setProcessEnvironment(environment);
+        // From the home folder, as in a new terminal: files named without a folder land there.
+        process->setWorkingDirectory(home());
         process->start(QStringLiteral(MORVANE_APP_PROGRAM), arguments);
         process->waitForStarted();
         return process;
