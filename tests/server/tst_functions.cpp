@@ -41,27 +41,6 @@ const QByteArray bobsInvoice = id("b7");
 const QByteArray annasTrip = id("a8");
 const QByteArray annasTemplate = id("a9");
 
-// Every column that names a row's owner, in the schemas the application's data lives in.
-struct OwnerColumn
-{
-    QByteArray table; // schema-qualified
-    QByteArray column;
-};
-
-QList<OwnerColumn> ownerColumns(PgConnection &db)
-{
-    const PgResult rows =
-        db.exec("SELECT quote_ident(c.table_schema) || '.' || quote_ident(c.table_name), quote_ident(c.column_name)"
-                " FROM information_schema.columns c JOIN information_schema.tables t USING (table_schema, table_name)"
-                " WHERE t.table_type = 'BASE TABLE' AND c.table_schema IN ('public', 'app', 'storage', 'auth')"
-                " AND c.column_name IN ('user_id', 'owner_id', 'owner') AND c.data_type = 'uuid' ORDER BY 1, 2");
-    QList<OwnerColumn> columns;
-    for (int row = 0; row < rows.rows(); ++row) {
-        columns.append({rows.value(row, 0), rows.value(row, 1)});
-    }
-    return columns;
-}
-
 } // namespace
 
 class TestFunctions : public QObject
@@ -82,14 +61,20 @@ private:
         return db().exec(sql, params).value(0, 0).toLongLong();
     }
 
-    // Per owner column, how many rows name `user`.
+    // Per column that names a row's owner, in the schemas the application's data lives in, how many rows name `user`.
     QMap<QByteArray, qint64> rowsOwnedBy(const QString &user)
     {
+        const PgResult rows = db().exec(
+            "SELECT c.table_schema || '.' || c.table_name || '.' || c.column_name,"
+            " (xpath('/row/n/text()', query_to_xml(format('SELECT count(*) AS n FROM %I.%I WHERE %I = %L',"
+            "  c.table_schema, c.table_name, c.column_name, $1::text), false, true, '')))[1]::text"
+            " FROM information_schema.columns c JOIN information_schema.tables t USING (table_schema, table_name)"
+            " WHERE t.table_type = 'BASE TABLE' AND c.table_schema IN ('public', 'app', 'storage', 'auth')"
+            " AND c.column_name IN ('user_id', 'owner_id', 'owner') AND c.data_type = 'uuid'",
+            {user.toUtf8()});
         QMap<QByteArray, qint64> owned;
-        for (const OwnerColumn &owner : ownerColumns(db())) {
-            owned.insert(
-                owner.table + '.' + owner.column,
-                count("SELECT count(*) FROM " + owner.table + " WHERE " + owner.column + " = $1", {user.toUtf8()}));
+        for (int row = 0; row < rows.rows(); ++row) {
+            owned.insert(rows.value(row, 0), rows.value(row, 1).toLongLong());
         }
         return owned;
     }
