@@ -229,6 +229,7 @@ private slots:
     void timerRunsAndStops()
     {
         const QString task = addTask(m_studio, u"Sketches"_s);
+        QCOMPARE(ann(u"log %1 1"_s.arg(task)).code, 0);
         QCOMPARE(ann(u"timer status"_s).out, u"No timer runs.\n"_s);
         QCOMPARE(ann(u"timer stop"_s).out, u"No timer runs.\n"_s);
         QCOMPARE(ann(u"timer start sketches"_s).out, u"Timer started on Sketches.\n"_s);
@@ -238,8 +239,11 @@ private slots:
         QVERIFY(ann(u"timer status"_s).out.startsWith(u"Sketches (Studio): 0:0"_s));
         const Run run = ann(u"timer stop --json"_s);
         QCOMPARE(run.code, 0);
+        // The run is added to the time logged before it, in its entry and in the task's total.
+        const QByteArray total = QByteArray::number(60 + run.object()[u"logged_seconds"_s].toInteger());
         QCOMPARE(sql("SELECT count(*) || '|' || sum(duration_seconds) FROM time_entries WHERE task_id = $1", task),
-                 "1|" + QByteArray::number(run.object()[u"logged_seconds"_s].toInteger()));
+                 "2|" + total);
+        QCOMPARE(sql("SELECT time_spent_seconds FROM tasks WHERE id = $1", task), total);
     }
 
     void logReadsMinutesAsTyped_data()
