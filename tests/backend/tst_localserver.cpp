@@ -39,6 +39,7 @@ enum class Failure { PortTaken, DataFolderIsAFile, NoSuchProgram, ServerHangs };
 
 } // namespace
 
+// Finding, starting and stopping the local backend the way the application does.
 class TestLocalServer : public QObject
 {
     Q_OBJECT
@@ -46,19 +47,15 @@ class TestLocalServer : public QObject
 private slots:
     void initTestCase() { Language::apply(u"en"_s); }
 
-    void startsOnceThenIsFound()
+    void startsOnceIsFoundAndStops()
     {
         ScratchServerDir dir;
         const LocalServer server = serverFor(dir.path());
         QCOMPARE(runBlocking(server.status()).state, LocalServer::State::Stopped);
-
         const LocalServer::Address first = runBlocking(server.ensureRunning());
         QVERIFY(first.started);
         QCOMPARE(first.url.host(), u"127.0.0.1"_s);
-        const QString failure = accountWorks(first.url, first.anonKey);
-        QVERIFY2(failure.isEmpty(), qPrintable(failure));
-        QCOMPARE(serversOn(dir.path()), QList<qint64>{first.pid});
-
+        QCOMPARE(accountWorks(first.url, first.anonKey), QString());
         // Started detached: the server outlives the call that started it and needs no one to
         // read its output, which goes to its log.
         QVERIFY(readFile(server.logPath()).contains(QByteArray("morvane-server ready url=" + first.url.toEncoded())));
@@ -66,15 +63,22 @@ private slots:
         // A later application (a new object, as a new process would have) finds it.
         const LocalServer::Address again = runBlocking(serverFor(dir.path()).ensureRunning());
         QVERIFY(!again.started);
-        QCOMPARE(again.pid, first.pid);
-        QCOMPARE(again.url, first.url);
-        QCOMPARE(again.anonKey, first.anonKey);
+        QCOMPARE(std::tie(again.pid, again.url, again.anonKey), std::tie(first.pid, first.url, first.anonKey));
         QCOMPARE(serversOn(dir.path()), QList<qint64>{first.pid});
-
         const LocalServer::Status status = runBlocking(server.status());
         QCOMPARE(status.state, LocalServer::State::Running);
         QCOMPARE(status.pid, first.pid);
         QCOMPARE(status.url, first.url);
+
+        // Stopping ends the server and its database; stopping again stops nothing.
+        QCOMPARE(runBlocking(server.stop()), first.pid);
+        QVERIFY(serversOn(dir.path()).isEmpty());
+        QVERIFY(!databaseRunning(dir.path()));
+        QCOMPARE(runBlocking(server.status()).state, LocalServer::State::Stopped);
+        QCOMPARE(runBlocking(server.stop()), 0);
+        // The file it leaves behind leads nowhere: the next start is a new server.
+        const LocalServer::Address restarted = runBlocking(server.ensureRunning());
+        QVERIFY(restarted.started && restarted.pid != first.pid);
     }
 
     void staleAddressIsNotTrusted_data()
@@ -103,18 +107,14 @@ private slots:
             QVERIFY(QFile::exists(dir.path() + u"/morvane-server.lock"_s));
             QVERIFY(databaseRunning(dir.path()));
         }
-
         const LocalServer server = serverFor(dir.path());
         QCOMPARE(runBlocking(server.status()).state, LocalServer::State::Stopped);
         const LocalServer::Address address = runBlocking(server.ensureRunning());
-        QVERIFY(address.started);
-        QVERIFY(address.pid != stale.pid);
+        QVERIFY(address.started && address.pid != stale.pid);
         QCOMPARE(serversOn(dir.path()), QList<qint64>{address.pid});
-        const QString failure = accountWorks(address.url, address.anonKey);
-        QVERIFY2(failure.isEmpty(), qPrintable(failure));
+        QCOMPARE(accountWorks(address.url, address.anonKey), QString());
         if (anotherServerAnswersThere) {
-            QVERIFY(address.url != stale.url);
-            QVERIFY(address.anonKey != stale.anonKey);
+            QVERIFY(address.url != stale.url && address.anonKey != stale.anonKey);
         }
     }
 
@@ -124,7 +124,7 @@ private slots:
         // As several applications opened at once: each sees no server and starts one.
         const std::vector<LocalServer> racers(3, serverFor(dir.path()));
         QList<LocalServer::Address> answers;
-        auto race = [&]() -> QCoro::Task<> {
+        runBlocking([&]() -> QCoro::Task<> {
             std::vector<QCoro::Task<LocalServer::Address>> starts;
             for (const LocalServer &racer : racers) {
                 starts.push_back(racer.ensureRunning());
@@ -132,22 +132,15 @@ private slots:
             for (auto &start : starts) {
                 answers.append(co_await std::move(start));
             }
-        };
-        runBlocking(race());
-
+        }());
         QCOMPARE(answers.size(), 3);
         for (const LocalServer::Address &answer : std::as_const(answers)) {
-            QCOMPARE(answer.pid, answers.first().pid);
-            QCOMPARE(answer.url, answers.first().url);
-            QCOMPARE(answer.anonKey, answers.first().anonKey);
+            QCOMPARE(std::tie(answer.pid, answer.url, answer.anonKey),
+                     std::tie(answers.first().pid, answers.first().url, answers.first().anonKey));
         }
         QCOMPARE(std::count_if(answers.cbegin(), answers.cend(), [](const auto &answer) { return answer.started; }), 1);
         QTRY_COMPARE_WITH_TIMEOUT(serversOn(dir.path()), QList<qint64>{answers.first().pid}, 10000);
-        const QString failure = accountWorks(answers.first().url, answers.first().anonKey);
-        QVERIFY2(failure.isEmpty(), qPrintable(failure));
-        if (!readFile(racers.front().logPath()).contains("already serves")) {
-            qInfo("every racer after the first found the server already starting");
-        }
+        QCOMPARE(accountWorks(answers.first().url, answers.first().anonKey), QString());
     }
 
     void waitsForAServerStartedElsewhere()
@@ -163,33 +156,11 @@ private slots:
         QVERIFY(!address.started);
         QCOMPARE(address.pid, byHand.processId());
         QVERIFY(byHand.readAllStandardOutput().contains(QByteArray("ready url=" + address.url.toEncoded())));
-
-        const qint64 pid = byHand.processId();
-        QCOMPARE(runBlocking(server.stop()), pid);
+        QCOMPARE(runBlocking(server.stop()), address.pid);
         QTRY_COMPARE_WITH_TIMEOUT(byHand.state(), QProcess::NotRunning, 10000);
         // A clean stop on SIGTERM, not a kill.
         QCOMPARE(byHand.exitStatus(), QProcess::NormalExit);
         QCOMPARE(byHand.exitCode(), 0);
-    }
-
-    void stopEndsServerAndDatabase()
-    {
-        ScratchServerDir dir;
-        const LocalServer server = serverFor(dir.path());
-        const LocalServer::Address address = runBlocking(server.ensureRunning());
-        QVERIFY(databaseRunning(dir.path()));
-
-        QCOMPARE(runBlocking(server.stop()), address.pid);
-        QVERIFY(serversOn(dir.path()).isEmpty());
-        QVERIFY(!databaseRunning(dir.path()));
-        QCOMPARE(runBlocking(server.status()).state, LocalServer::State::Stopped);
-        // Stopping what does not run is no error, and stops nothing.
-        QCOMPARE(runBlocking(server.stop()), 0);
-
-        // The file it leaves behind leads nowhere: the next start is a new server.
-        const LocalServer::Address restarted = runBlocking(server.ensureRunning());
-        QVERIFY(restarted.started);
-        QVERIFY(restarted.pid != address.pid);
     }
 
     void failuresAreExplained_data()
@@ -198,14 +169,12 @@ private slots:
         QTest::addColumn<LocalServerError::Kind>("kind");
         // What the message must say for a person to see the cause; <dir> is the data folder.
         QTest::addColumn<QStringList>("explanation");
-
         QTest::newRow("the port is taken: the server's own words")
             << Failure::PortTaken << LocalServerError::Kind::ExitedEarly
             << QStringList{u"stopped before it was ready (log: <dir>/morvane-server.log)."_s,
                            u"\nmorvane-server: cannot listen on 127.0.0.1:"_s};
-        QTest::newRow("the data folder is a file")
-            << Failure::DataFolderIsAFile << LocalServerError::Kind::DataFolder
-            << QStringList{u"Cannot write the local backend's data folder <dir>."_s};
+        QTest::newRow("the data folder is a file") << Failure::DataFolderIsAFile << LocalServerError::Kind::DataFolder
+                                                   << QStringList{u"Cannot write the local backend's data folder <dir>."_s};
         QTest::newRow("the program is missing")
             << Failure::NoSuchProgram << LocalServerError::Kind::Launch
             << QStringList{u"Cannot run the local backend <dir>-missing/morvane-server."_s};
@@ -217,44 +186,34 @@ private slots:
     void failuresAreExplained()
     {
         QFETCH(Failure, failure);
-        QFETCH(LocalServerError::Kind, kind);
         QFETCH(QStringList, explanation);
-
         ScratchServerDir dir;
         LocalServer server = serverFor(dir.path());
         QTcpServer occupant;
         qint64 hung = 0;
-        switch (failure) {
-        case Failure::PortTaken:
+        if (failure == Failure::PortTaken) {
             QVERIFY(occupant.listen(QHostAddress::LocalHost));
             server.setArguments({u"--port"_s, QString::number(occupant.serverPort())});
-            break;
-        case Failure::DataFolderIsAFile: {
+        } else if (failure == Failure::DataFolderIsAFile) {
             QFile file(dir.path());
             QVERIFY(file.open(QIODevice::WriteOnly));
-            break;
-        }
-        case Failure::NoSuchProgram:
+        } else if (failure == Failure::NoSuchProgram) {
             server = serverFor(dir.path(), dir.path() + u"-missing/morvane-server"_s);
-            break;
-        case Failure::ServerHangs:
+        } else {
             hung = runBlocking(server.ensureRunning()).pid;
             // Suspended, it keeps its lock and its port, and the kernel still accepts connections
             // for it: the way a wedged server looks from outside.
             QCOMPARE(::kill(pid_t(hung), SIGSTOP), 0);
             server.setStartTimeout(std::chrono::seconds(3));
             QCOMPARE(runBlocking(server.status()).state, LocalServer::State::Starting);
-            break;
         }
-
         try {
             runBlocking(server.ensureRunning());
             QFAIL("the start did not fail");
         } catch (const LocalServerError &error) {
-            QCOMPARE(error.kind(), kind);
+            QTEST(error.kind(), "kind");
             for (QString expected : std::as_const(explanation)) {
-                expected.replace(u"<dir>"_s, dir.path());
-                QVERIFY2(error.message().contains(expected), qPrintable(error.message()));
+                QVERIFY2(error.message().contains(expected.replace(u"<dir>"_s, dir.path())), qPrintable(error.message()));
             }
         }
         if (hung != 0) {
