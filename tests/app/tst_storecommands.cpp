@@ -246,22 +246,14 @@ private slots:
         QCOMPARE(sql("SELECT time_spent_seconds FROM tasks WHERE id = $1", task), total);
     }
 
-    void logReadsMinutesAsTyped_data()
-    {
-        QTest::addColumn<QString>("minutes");
-        QTest::addColumn<QByteArray>("seconds");
-        QTest::newRow("fraction with a point") << u"1.5"_s << QByteArray("90");
-        QTest::newRow("fraction with a comma") << u"2,25"_s << QByteArray("135");
-        QTest::newRow("whole minutes") << u"120"_s << QByteArray("7200");
-    }
-
     void logReadsMinutesAsTyped()
     {
-        QFETCH(QString, minutes);
-        QFETCH(QByteArray, seconds);
-        const QString task = addTask(m_studio, u"Log "_s + QString::fromLatin1(QTest::currentDataTag()));
-        QCOMPARE(ann(u"log %1 %2"_s.arg(task, minutes)).code, 0);
-        QCOMPARE(sql("SELECT sum(duration_seconds) FROM time_entries WHERE task_id = $1", task), seconds);
+        const QString task = addTask(m_studio, u"Typing"_s);
+        const QByteArray sum = "SELECT sum(duration_seconds) FROM time_entries WHERE task_id = $1";
+        for (const auto &[minutes, total] : {std::pair{"1.5", "90"}, {"2,25", "225"}, {"120", "7425"}}) {
+            QCOMPARE(ann(u"log %1 %2"_s.arg(task, QString::fromLatin1(minutes))).code, 0);
+            QCOMPARE(sql(sum, task), QByteArray(total));
+        }
     }
 
     void entriesAreEditedAndRemoved()
