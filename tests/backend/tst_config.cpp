@@ -14,61 +14,50 @@ class TestConfig : public QObject
 private slots:
     void lookupOrder_data()
     {
-        QTest::addColumn<QString>("settingUrl");
-        QTest::addColumn<QString>("environmentUrl");
-        QTest::addColumn<QString>("settingKey");
-        QTest::addColumn<QString>("environmentKey");
+        // Settings, environment: "url|key", an empty side unset, blanks kept as they are.
+        QTest::addColumn<QString>("settings");
+        QTest::addColumn<QString>("environment");
         QTest::addColumn<bool>("localServerWroteItsFile");
         QTest::addColumn<QString>("url");
         QTest::addColumn<QString>("key");
-        QTest::addColumn<int>("urlSource");
-        QTest::addColumn<int>("keySource");
-
+        QTest::addColumn<QList<int>>("sources");
         const int settings = int(Config::Source::Settings);
         const int environment = int(Config::Source::Environment);
         const int local = int(Config::Source::LocalServer);
-
         QTest::newRow("settings win over the environment")
-            << u"https://team.example.org"_s << u"https://env.example.org"_s << u"key-s"_s << u"key-e"_s << true
-            << u"https://team.example.org"_s << u"key-s"_s << settings << settings;
+            << u"https://team.example.org|key-s"_s << u"https://env.example.org|key-e"_s << true
+            << u"https://team.example.org"_s << u"key-s"_s << QList<int>{settings, settings};
         QTest::newRow("environment when settings are silent")
-            << QString() << u"https://env.example.org"_s << QString() << u"key-e"_s << true
-            << u"https://env.example.org"_s << u"key-e"_s << environment << environment;
+            << u"|"_s << u"https://env.example.org|key-e"_s << true << u"https://env.example.org"_s << u"key-e"_s
+            << QList<int>{environment, environment};
         QTest::newRow("blank setting falls through")
-            << u"   "_s << u"https://env.example.org"_s << QString() << u"key-e"_s << false
-            << u"https://env.example.org"_s << u"key-e"_s << environment << environment;
-        QTest::newRow("local backend that has started")
-            << QString() << QString() << QString() << QString() << true << u"http://127.0.0.1:55000"_s
-            << u"local-anon-key"_s << local << local;
-        QTest::newRow("local backend not started yet") << QString() << QString() << QString() << QString() << false
-                                                       << u"http://127.0.0.1:54321"_s << QString() << local << local;
+            << u"   |"_s << u"https://env.example.org|key-e"_s << false << u"https://env.example.org"_s << u"key-e"_s
+            << QList<int>{environment, environment};
+        QTest::newRow("local backend that has started") << u"|"_s << u"|"_s << true << u"http://127.0.0.1:55000"_s
+                                                        << u"local-anon-key"_s << QList<int>{local, local};
+        QTest::newRow("local backend not started yet")
+            << u"|"_s << u"|"_s << false << u"http://127.0.0.1:54321"_s << QString() << QList<int>{local, local};
         QTest::newRow("each setting on its own")
-            << QString() << u"https://env.example.org"_s << u"key-s"_s << QString() << true
-            << u"https://env.example.org"_s << u"key-s"_s << environment << settings;
+            << u"|key-s"_s << u"https://env.example.org|"_s << true << u"https://env.example.org"_s << u"key-s"_s
+            << QList<int>{environment, settings};
     }
 
     void lookupOrder()
     {
-        QFETCH(QString, settingUrl);
-        QFETCH(QString, environmentUrl);
-        QFETCH(QString, settingKey);
-        QFETCH(QString, environmentKey);
+        QFETCH(QString, settings);
+        QFETCH(QString, environment);
         QFETCH(bool, localServerWroteItsFile);
-
         QTemporaryDir dir;
-        QSettings settings(dir.filePath(u"morvane.conf"_s), QSettings::IniFormat);
-        if (!settingUrl.isNull()) {
-            settings.setValue(u"SUPABASE_URL"_s, settingUrl);
-        }
-        if (!settingKey.isNull()) {
-            settings.setValue(u"SUPABASE_ANON_KEY"_s, settingKey);
-        }
-        QProcessEnvironment environment;
-        if (!environmentUrl.isNull()) {
-            environment.insert(u"SUPABASE_URL"_s, environmentUrl);
-        }
-        if (!environmentKey.isNull()) {
-            environment.insert(u"SUPABASE_ANON_KEY"_s, environmentKey);
+        QSettings stored(dir.filePath(u"morvane.conf"_s), QSettings::IniFormat);
+        QProcessEnvironment variables;
+        const QStringList names{u"SUPABASE_URL"_s, u"SUPABASE_ANON_KEY"_s};
+        for (int i = 0; i < 2; ++i) {
+            if (const QString value = settings.section(u'|', i, i); !value.isEmpty()) {
+                stored.setValue(names[i], value);
+            }
+            if (const QString value = environment.section(u'|', i, i); !value.isEmpty()) {
+                variables.insert(names[i], value);
+            }
         }
         if (localServerWroteItsFile) {
             QFile info(dir.filePath(u"server.json"_s));
@@ -76,12 +65,10 @@ private slots:
             // moc misreads raw strings holding "//", so this one is escaped.
             info.write("{\"url\":\"http://127.0.0.1:55000\",\"anon_key\":\"local-anon-key\"}");
         }
-
-        const Config config = Config::resolve(settings, environment, dir.path());
+        const Config config = Config::resolve(stored, variables, dir.path());
         QTEST(config.supabaseURL.toString(), "url");
         QTEST(config.supabaseAnonKey, "key");
-        QTEST(int(config.urlSource), "urlSource");
-        QTEST(int(config.keySource), "keySource");
+        QTEST((QList<int>{int(config.urlSource), int(config.keySource)}), "sources");
     }
 
     void replacingTheSettingIsNoticed()
