@@ -12,22 +12,13 @@ QByteArray RecordedRequest::path() const
 
 QByteArray RecordedRequest::header(const QByteArray &name) const
 {
-    for (const auto &[key, value] : headers) {
-        if (key.compare(name, Qt::CaseInsensitive) == 0) {
-            return value;
-        }
-    }
-    return {};
+    const qsizetype at = headerNames().indexOf(name.toLower());
+    return at < 0 ? QByteArray() : headers.at(at).second;
 }
 
 bool RecordedRequest::hasHeader(const QByteArray &name) const
 {
-    for (const auto &[key, value] : headers) {
-        if (key.compare(name, Qt::CaseInsensitive) == 0) {
-            return true;
-        }
-    }
-    return false;
+    return headerNames().contains(name.toLower());
 }
 
 QList<QByteArray> RecordedRequest::headerNames() const
@@ -43,14 +34,11 @@ QList<std::pair<QString, QString>> RecordedRequest::queryItems() const
 {
     QList<std::pair<QString, QString>> items;
     const qsizetype question = target.indexOf('?');
-    if (question < 0) {
-        return items;
-    }
     auto decode = [](QByteArray part) {
         part.replace('+', ' ');
         return QString::fromUtf8(QByteArray::fromPercentEncoding(part));
     };
-    for (const QByteArray &pair : target.mid(question + 1).split('&')) {
+    for (const QByteArray &pair : question < 0 ? QList<QByteArray>() : target.mid(question + 1).split('&')) {
         const qsizetype equals = pair.indexOf('=');
         items.append(equals < 0 ? std::pair{decode(pair), QString()}
                                 : std::pair{decode(pair.left(equals)), decode(pair.mid(equals + 1))});
@@ -60,12 +48,9 @@ QList<std::pair<QString, QString>> RecordedRequest::queryItems() const
 
 QString RecordedRequest::queryValue(const QString &key) const
 {
-    for (const auto &[name, value] : queryItems()) {
-        if (name == key) {
-            return value;
-        }
-    }
-    return {};
+    const QList<std::pair<QString, QString>> items = queryItems();
+    const auto found = std::find_if(items.cbegin(), items.cend(), [&](const auto &item) { return item.first == key; });
+    return found == items.cend() ? QString() : found->second;
 }
 
 ScriptedHttpServer::ScriptedHttpServer(Handler handler, QObject *parent)
