@@ -67,10 +67,10 @@ const TableDefaults &defaultsOf(const QString &table)
     return tableDefaults[0];
 }
 
-QJsonObject parseBody(const QString &spec)
+QJsonObject parseBody(const QString &fields)
 {
     QJsonObject body;
-    for (const QString &pair : spec.split(u' ', Qt::SkipEmptyParts)) {
+    for (const QString &pair : fields.split(u' ', Qt::SkipEmptyParts)) {
         const QString key = pair.section(u'=', 0, 0);
         const QString value = pair.section(u'=', 1);
         bool number = false;
@@ -81,15 +81,15 @@ QJsonObject parseBody(const QString &spec)
 }
 
 // "" is the table's default for the method, "+..." the default with these keys on top.
-QJsonObject bodyFor(const QString &table, const QByteArray &method, QString spec)
+QJsonObject bodyFor(const QString &table, const QByteArray &method, QString fields)
 {
     const TableDefaults &d = defaultsOf(table);
     QJsonObject body;
-    if (spec.isEmpty() || spec.startsWith(u'+')) {
+    if (fields.isEmpty() || fields.startsWith(u'+')) {
         body = parseBody(QString::fromLatin1(method == "POST" ? d.insert : method == "PATCH" ? d.patch : ""));
-        spec = spec.mid(1);
+        fields = fields.mid(1);
     }
-    const QJsonObject extra = parseBody(spec);
+    const QJsonObject extra = parseBody(fields);
     for (auto it = extra.begin(); it != extra.end(); ++it) {
         body.insert(it.key(), it.value());
     }
@@ -114,16 +114,16 @@ const QHash<QByteArray, const char *> scratchRows{
 };
 // clang-format on
 
-QString scopedSpec(QString spec, const QString &who, const QString &scope)
+QString scopedFields(QString fields, const QString &who, const QString &scope)
 {
-    return spec.replace(u"[team]"_s, scope == u"team" ? u"team_id=$team"_s : QString())
+    return fields.replace(u"[team]"_s, scope == u"team" ? u"team_id=$team"_s : QString())
         .replace(u'*', scope)
         .replace(u"$who"_s, u'$' + who);
 }
 
 QString scoped(const QByteArray &table, const QString &who, const QString &scope)
 {
-    return scopedSpec(QString::fromLatin1(scratchRows.value(table)), who, scope);
+    return scopedFields(QString::fromLatin1(scratchRows.value(table)), who, scope);
 }
 
 // The view is written through the table it shows; what a refused write did not change is checked there.
@@ -245,9 +245,9 @@ private:
     }
 
     // A row written directly, "key=value ..." as for request bodies.
-    QByteArray add(const QByteArray &table, const QString &spec)
+    QByteArray add(const QByteArray &table, const QString &fields)
     {
-        const QJsonObject values = resolve(parseBody(spec));
+        const QJsonObject values = resolve(parseBody(fields));
         QByteArrayList placeholders;
         PgParams params;
         for (const QJsonValue &value : values) {
@@ -395,8 +395,8 @@ private:
         // The owner's private and team rows, and the stranger's, each billed on an invoice of its kind.
         for (const QString &prefix : {u"private"_s, u"team"_s, u"stranger"_s}) {
             const QString who = prefix == u"stranger" ? u"stranger"_s : u"owner"_s;
-            auto named = [&](const QString &suffix, const QByteArray &table, const QString &spec) {
-                remember(prefix + suffix, add(table, scopedSpec(spec, who, prefix)));
+            auto named = [&](const QString &suffix, const QByteArray &table, const QString &fields) {
+                remember(prefix + suffix, add(table, scopedFields(fields, who, prefix)));
             };
             named(u"Project"_s, "projects", u"user_id=$who name=Project [team]"_s);
             named(u"Task"_s, "tasks", u"user_id=$who project_id=$*Project title=Task"_s);
@@ -409,8 +409,8 @@ private:
                   "currency=EUR"_s);
             named(u"Line"_s, "invoice_lines", u"invoice_id=$*Invoice title=Work quantity=1 unit_price=80 amount=80"_s);
             named(u"Trip"_s, "trips", u"user_id=$who started_at=$time"_s);
-            add("invoice_entries", scopedSpec(u"invoice_id=$*Invoice time_entry_id=$*Billed"_s, who, prefix));
-            add("invoice_trips", scopedSpec(u"invoice_id=$*Invoice trip_id=$*Trip"_s, who, prefix));
+            add("invoice_entries", scopedFields(u"invoice_id=$*Invoice time_entry_id=$*Billed"_s, who, prefix));
+            add("invoice_trips", scopedFields(u"invoice_id=$*Invoice trip_id=$*Trip"_s, who, prefix));
         }
         remember(u"spareTrip"_s, add("trips", u"user_id=$owner started_at=$time"_s));
         for (const QString &user : {u"editor"_s, u"viewer"_s}) {
