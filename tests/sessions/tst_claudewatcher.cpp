@@ -12,9 +12,7 @@
 
 #include <qcoro/qcorotask.h>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -218,7 +216,6 @@ private Q_SLOTS:
         QTest::addColumn<qint64>("expected");
 
         const auto t = [](const char *time) { return ms(u"2025-03-01T"_s + QLatin1String(time) + u"Z"_s); };
-        QTest::newRow("none") << QList<LogInstant>{} << 900 << qint64(0);
         QTest::newRow("30 minute gap dropped whole")
             << QList<LogInstant>{t("10:00:00"), t("10:10:00"), t("10:40:00")} << 900 << qint64(600);
         QTest::newRow("gap of exactly the idle gap counts")
@@ -229,8 +226,6 @@ private Q_SLOTS:
             << QList<LogInstant>{t("10:00:00.000"), t("10:00:00.999"), t("10:00:02.998")} << 900 << qint64(1);
         QTest::newRow("900.999 s is 900 whole seconds")
             << QList<LogInstant>{t("10:00:00.000"), t("10:15:00.999")} << 900 << qint64(900);
-        QTest::newRow("another idle gap")
-            << QList<LogInstant>{t("10:00:00"), t("10:01:00"), t("10:03:00")} << 60 << qint64(60);
     }
 
     void computeActive()
@@ -251,8 +246,6 @@ private Q_SLOTS:
         const auto p = [&](const char *time, const char *text) {
             return UserPrompt{ms(t(time)), text ? std::optional(QString::fromUtf8(text)) : std::nullopt};
         };
-        QTest::newRow("no prompts") << QList<UserPrompt>{} << QList<LogInstant>{ms(t("10:00:00"))}
-                                    << QList<SessionSegment>{};
         QTest::newRow("15:00 apart: one burst")
             << QList<UserPrompt>{p("10:00:00", "a"), p("10:15:00", "b")} << QList<LogInstant>{}
             << QList<SessionSegment>{burst(u"s"_s, 0, u"a"_s, t("10:00:00"), t("10:15:00"), 900, 2)};
@@ -281,21 +274,7 @@ private Q_SLOTS:
         }
         std::sort(all.begin(), all.end());
         const QList<SessionSegment> segments = ClaudeWatcher::segment(u"s"_s, prompts, all, 900);
-        QCOMPARE(segments.size(), expected.size());
-        for (qsizetype i = 0; i < segments.size(); ++i) {
-            QVERIFY2(segments[i] == expected[i], QJsonDocument(SessionJson::toJson(segments[i])).toJson().constData());
-        }
-    }
-
-    void fallbackCoversTheWholeSession()
-    {
-        ParsedSession session{
-            u"abc"_s, u"/w"_s, u"Fix it"_s, at(u"2025-03-01T10:00:00Z"_s), at(u"2025-03-01T11:00:00Z"_s), 1234, 3, {}};
-        QVERIFY(ClaudeWatcher::fallbackSingleSegment(session) ==
-                (QList<SessionSegment>{
-                    burst(u"abc"_s, 0, u"Fix it"_s, u"2025-03-01T10:00:00Z"_s, u"2025-03-01T11:00:00Z"_s, 1234, 3)}));
-        session.firstUserMessage.reset();
-        QCOMPARE(ClaudeWatcher::fallbackSingleSegment(session).first().title, u"Claude session"_s);
+        QVERIFY2(segments == expected, QJsonDocument(SessionJson::toJson(segments.value(0))).toJson().constData());
     }
 
     void timestampForms_data()
@@ -304,14 +283,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("utc"); // empty: refused
 
         QTest::newRow("fraction, Z") << u"2025-03-01T10:15:30.123Z"_s << u"2025-03-01T10:15:30.123Z"_s;
-        QTest::newRow("no fraction") << u"2025-03-01T10:15:30Z"_s << u"2025-03-01T10:15:30.000Z"_s;
         QTest::newRow("microseconds") << u"2025-03-01T10:15:30.123456Z"_s << u"2025-03-01T10:15:30.123Z"_s;
         QTest::newRow("offset") << u"2025-03-01T00:15:30+01:00"_s << u"2025-02-28T23:15:30.000Z"_s;
         QTest::newRow("negative offset") << u"2024-02-29T22:00:00.250-03:30"_s << u"2024-03-01T01:30:00.250Z"_s;
         QTest::newRow("no zone") << u"2025-03-01T10:15:30"_s << QString();
-        QTest::newRow("empty fraction") << u"2025-03-01T10:15:30.Z"_s << QString();
         QTest::newRow("no leap day") << u"2025-02-29T10:15:30Z"_s << QString();
-        QTest::newRow("trailing text") << u"2025-03-01T10:15:30Zx"_s << QString();
     }
 
     void timestampForms()
@@ -343,13 +319,6 @@ private Q_SLOTS:
         // The stray file beside the folders is not a folder; notes.txt is no log.
         QCOMPARE(stats.filesSeen, 6);
         QCOMPARE(stats.filesReadWhole, 6);
-        for (const ParsedSession &session : first) {
-            const QString folder =
-                session.cwd == webshop ? u"/-home-ana-code-webshop/"_s : u"/-home-ana-code-invoicer/"_s;
-            COMPARE_SESSION(
-                std::optional(session),
-                ClaudeWatcher::parse(projects + folder + session.sessionId + u".jsonl"_s, session.sessionId, 900));
-        }
 
         // Unchanged: nothing is opened, not even the files that gave no session.
         const QList<ParsedSession> second =
@@ -406,24 +375,13 @@ private Q_SLOTS:
         QVERIFY(QFile::link(folder + u"/missing"_s, folder + u"/dangling.jsonl"_s));
         QDir().mkpath(folder + u"/folder.jsonl"_s);
         QVERIFY(QFile::link(projects + u"/loop"_s, projects + u"/loop"_s));
-        QDir().mkpath(projects + u"/locked"_s);
-        write(projects + u"/locked/x.jsonl"_s, userLine(u"2025-03-05T10:00:00Z"_s, u"hidden"_s));
-        QFile::setPermissions(projects + u"/locked"_s, QFileDevice::Permissions());
-        const QDateTime recent = QDateTime::currentDateTimeUtc().addSecs(-60);
-        setModified(huge, recent);
+        setModified(huge, QDateTime::currentDateTimeUtc().addSecs(-60));
 
         const QList<ParsedSession> sessions = ClaudeWatcher::enumerateSessions(projects, 900, 30);
-        QFile::setPermissions(projects + u"/locked"_s,
-                              QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-        QStringList expected{u"1a2b3c4d-huge"_s, u"4f1c2a9e-7b3d-4e2a-9c1f-0a5b6c7d8e9f"_s,
-                             u"7e57a11e-0000-4000-8000-000000000006"_s, u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s,
-                             u"c0ffee00-1234-4abc-9def-000000000003"_s};
-        if (::geteuid() == 0) {
-            // Permissions do not stop root; the folder is read like any other.
-            expected.append(u"x"_s);
-        }
-        expected.sort();
-        QCOMPARE(ids(sessions), expected);
+        QCOMPARE(ids(sessions),
+                 (QStringList{u"1a2b3c4d-huge"_s, u"4f1c2a9e-7b3d-4e2a-9c1f-0a5b6c7d8e9f"_s,
+                              u"7e57a11e-0000-4000-8000-000000000006"_s, u"9a8b7c6d-5e4f-4a3b-8c2d-1e0f9a8b7c6d"_s,
+                              u"c0ffee00-1234-4abc-9def-000000000003"_s}));
         const ParsedSession dump = firstById(sessions);
         // The broken line in the middle gives no time stamp; the lines around it do.
         QCOMPARE(dump.activeSeconds, 60);
@@ -451,11 +409,6 @@ private Q_SLOTS:
             << QList<QByteArray>{userLine(u"2025-03-01T09:59:00Z"_s, u"earlier"_s) +
                                  userLine(u"2025-03-01T10:00:00Z"_s, u"same date, later in file"_s)}
             << Append << true;
-        QTest::newRow("the working directory arrives late")
-            << QByteArray(
-                   "{\"type\":\"user\",\"timestamp\":\"2025-03-01T10:00:00Z\",\"message\":{\"content\":\"x\"}}\n"
-                   "{\"type\":\"user\",\"timestamp\":\"2025-03-01T10:00:05Z\",\"message\":{\"content\":\"y\"}}\n")
-            << QList<QByteArray>{agentLine(u"2025-03-01T10:01:00Z"_s)} << Append << true;
         QTest::newRow("a file that was only a partial line")
             << QByteArray("{\"type\":\"us") << QList<QByteArray>{QByteArray("er\"}\n") + start} << Append << false;
         const QByteArray first = userLine(u"2025-03-01T10:00:00Z"_s, u"first"_s);
@@ -463,7 +416,6 @@ private Q_SLOTS:
             << start
             << QList<QByteArray>{first + agentLine(u"2025-03-01T10:00:19Z"_s) + agentLine(u"2025-03-01T10:01:00Z"_s)}
             << Rewrite << false;
-        QTest::newRow("shrunk") << start << QList<QByteArray>{first} << Rewrite << false;
         QTest::newRow("replaced by another file")
             << start
             << QList<QByteArray>{first + agentLine(u"2025-03-01T10:00:10Z"_s) + agentLine(u"2025-03-01T10:02:00Z"_s)}
