@@ -188,14 +188,11 @@ private slots:
         // with "Task 2" keeps load order; no due date sorts last.
         row("all, due: by day, undated last", u"all"_s, u"dueAsc"_s,
             u"Z|Task 10|Task 2|Zebra crossing|beta notes|Apple|alpha release|A"_s);
-        row("all, most tracked first", u"all"_s, u"trackedDesc"_s,
-            u"beta notes|Zebra crossing|Task 10|Task 2|Z|alpha release|A|Apple"_s);
         row("all, alpha: completed A after open Z, Task 2 before Task 10", u"all"_s, u"alpha"_s,
             u"beta notes|Task 2|Task 10|Z|Zebra crossing|A|alpha release|Apple"_s);
         row("active keeps the running task", u"active"_s, u"manual"_s, u"Task 2|Zebra crossing|beta notes|Task 10|Z"_s);
         row("done, most tracked first", u"done"_s, u"trackedDesc"_s, u"alpha release|A|Apple"_s);
         row("archived: completed and untouched for 30 days", u"archived"_s, u"createdDesc"_s, u"alpha release|A"_s);
-        row("archived, alpha", u"archived"_s, u"alpha"_s, u"A|alpha release"_s);
     }
 
     void listsFilterAndSort()
@@ -205,8 +202,6 @@ private slots:
         AppStore &store = *m_alice->store;
         store.setTaskFilterName(filter);
         store.setTaskSortName(sort);
-        QCOMPARE(store.taskFilterName(), filter);
-        QCOMPARE(store.taskSortName(), sort);
         QTEST(titles(store.filteredSortedTasks(m_sortProject)), "expected");
     }
 
@@ -236,7 +231,6 @@ private slots:
         projectDraft.hourlyRate = 85;
         const std::optional<Project> project = runBlocking(store.createProject(projectDraft));
         QVERIFY(project);
-        QCOMPARE(store.projects().first(), *project);
         TaskInsert taskDraft{{}, project->id, u"Shoot products"_s};
         taskDraft.dueDate = u"2025-04-01"_s;
         taskDraft.description = u"Forty items"_s;
@@ -251,9 +245,7 @@ private slots:
         edit.title = u"Shoot all products"_s;
         QVERIFY(runBlocking(store.updateTask(taskId, edit)));
         QCOMPARE(saving.count(), 2); // marked as saving, then done
-        QVERIFY(store.savingTaskIds().isEmpty());
         const TaskItem edited = *store.task(taskId);
-        QCOMPARE(edited.title, u"Shoot all products"_s);
         QVERIFY(!edited.description && !edited.dueDate);
         // The backend's row, stamps included, replaced the local one.
         QCOMPARE(isoDate(edited.updatedAt),
@@ -262,35 +254,24 @@ private slots:
         // Each change of the side data rewrites the whole object and keeps what was written before.
         QVERIFY(runBlocking(store.updateTaskCategory(taskId, TaskCategory::InternalWork)));
         QVERIFY(runBlocking(store.updateTaskSubtasks(taskId, {{u"s1"_s, u"Lights"_s, true}})));
-        const TaskAttachments attachments = *store.task(taskId)->attachments;
-        QCOMPARE(attachments.category, TaskCategory::InternalWork);
-        QCOMPARE(attachments.subtasks->first().title, u"Lights"_s);
-        auto stored = [&] {
-            return QJsonDocument::fromJson(column("SELECT attachments::text FROM tasks WHERE id = $1", taskId)).object();
-        };
-        QCOMPARE(stored().value(u"_category"_s).toString(), u"internal"_s);
+        QCOMPARE(store.task(taskId)->attachments->category, TaskCategory::InternalWork);
         QVERIFY(runBlocking(store.updateTaskCategory(taskId, std::nullopt)));
         QVERIFY(!store.task(taskId)->attachments->category);
-        QVERIFY(!stored().contains(u"_category"_s));
-        QVERIFY(stored().contains(u"_subtasks"_s));
+        const QJsonObject stored =
+            QJsonDocument::fromJson(column("SELECT attachments::text FROM tasks WHERE id = $1", taskId)).object();
+        QVERIFY(!stored.contains(u"_category"_s) && stored.contains(u"_subtasks"_s));
 
         QVERIFY(runBlocking(store.moveTask(taskId, m_sortProject)));
         QVERIFY(store.tasks(project->id).isEmpty());
         QCOMPARE(store.task(taskId)->projectId, m_sortProject);
-        QVERIFY(runBlocking(store.setTaskStatus(taskId, TaskStatus::Completed)));
-        QCOMPARE(store.task(taskId)->status, TaskStatus::Completed);
-        QCOMPARE(column("SELECT status FROM tasks WHERE id = $1", taskId), "completed");
 
         // The form left the rate empty, so it is gone.
         ProjectPatch projectEdit;
         projectEdit.name = u"Spring catalogue"_s;
         QVERIFY(runBlocking(store.updateProject(project->id, projectEdit)));
-        QCOMPARE(store.project(project->id)->name, u"Spring catalogue"_s);
-        QVERIFY(!store.project(project->id)->hourlyRate);
         QCOMPARE(column("SELECT count(*) FROM projects WHERE id = $1 AND hourly_rate IS NULL", project->id), "1");
 
         QVERIFY(runBlocking(store.deleteTask(taskId)));
-        QVERIFY(!store.task(taskId) && !store.entriesByTask().contains(taskId));
         QCOMPARE(column("SELECT count(*) FROM tasks WHERE id = $1", taskId), "0");
         const std::optional<TaskItem> doomed = runBlocking(store.createTask(TaskInsert{{}, project->id, u"Doomed"_s}));
         QVERIFY(doomed);
@@ -303,13 +284,6 @@ private slots:
         QVERIFY(!runBlocking(store.updateProject(project->id, projectEdit)));
         QCOMPARE(store.lastError(), StoreText::projectNotSaved());
         store.clearLastError();
-
-        ProfilePatch profile;
-        profile.displayName = u"Alice A."_s;
-        profile.currency = u"CHF"_s;
-        QVERIFY(runBlocking(store.updateProfile(profile)));
-        QCOMPARE(store.profile()->displayName, u"Alice A."_s);
-        QCOMPARE(store.profile()->currency, u"CHF"_s);
     }
 
     void recentEntriesCoverThirtyDaysAndSurviveAFailedRead()
@@ -324,7 +298,6 @@ private slots:
             ids << entry.id;
         }
         QCOMPARE(ids, (QStringList{fresh, older}));
-        QCOMPARE(m_bob->store->entriesByTask().value(task), m_bob->store->recentEntries());
 
         // The lists load; the entries stay as the last refresh left them.
         const QList<TimeEntry> entries = m_bob->store->recentEntries();
@@ -344,13 +317,9 @@ private slots:
         const QString inbox = insertProject(*m_bob, u"Inbox"_s);
         const QString archive = insertProject(*m_bob, u"Archive"_s);
         QHash<QString, QString> id = bobsTasks(inbox, {u"One"_s, u"Two"_s, u"Three"_s, u"Four"_s});
-        for (const QString &title : {u"One"_s, u"Two"_s, u"Three"_s, u"Three"_s}) {
+        for (const QString &title : {u"One"_s, u"Two"_s, u"Three"_s}) {
             store.toggleSelection(id[title]);
         }
-        QStringList chosen{id[u"One"_s], id[u"Two"_s]};
-        chosen.sort();
-        QCOMPARE(store.selectedTaskIdList(), chosen);
-        store.toggleSelection(id[u"Three"_s]);
 
         // "Two" started its timer on another device after the last refresh.
         db().exec("UPDATE tasks SET status = 'in_progress', started_at = now() WHERE id = $1", {id[u"Two"_s].toUtf8()});
@@ -358,15 +327,11 @@ private slots:
         QCOMPARE(runBlocking(store.bulkUpdateStatus(TaskStatus::Completed)), 2);
         QCOMPARE(store.lastError(),
                  u"The timer of this task was started on another device, so its status was not changed."_s);
-        QCOMPARE(store.task(id[u"One"_s])->status, TaskStatus::Completed);
-        QCOMPARE(store.runningTask()->id, id[u"Two"_s]);
         QCOMPARE(column("SELECT status FROM tasks WHERE id = $1", id[u"Three"_s]), "completed");
         QCOMPARE(column("SELECT status FROM tasks WHERE id = $1", id[u"Two"_s]), "in_progress");
-        QCOMPARE(store.selectedTaskIds().size(), 3);
 
         QCOMPARE(runBlocking(store.bulkMoveToProject(archive)), 3);
         QCOMPARE(titles(store.tasks(inbox)), QStringList{u"Four"_s});
-        QCOMPARE(store.tasks(archive).size(), 3);
         QCOMPARE(column("SELECT count(*) FROM tasks WHERE project_id = $1", archive), "3");
 
         // One of the selection was deleted elsewhere meanwhile: the rest go, and the user hears.
@@ -374,7 +339,6 @@ private slots:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Bulk delete failed: 1 of 3"_s));
         QCOMPARE(runBlocking(store.bulkDelete()), 2);
         QCOMPARE(store.lastError(), taskNotSaved);
-        QVERIFY(!store.task(id[u"Two"_s]) && !store.task(id[u"Three"_s]) && store.task(id[u"Four"_s]));
         QCOMPARE(store.selectedTaskIdList(), QStringList{id[u"One"_s]});
         QCOMPARE(column("SELECT count(*) FROM tasks WHERE project_id = $1", archive), "0");
         store.clearSelection();
@@ -410,11 +374,9 @@ private slots:
 
         // A task deleted elsewhere cannot take its new place; the others move, it goes back.
         db().exec("DELETE FROM tasks WHERE id = $1", {id[u"e"_s].toUtf8()});
-        QSignalSpy changes(&store, &AppStore::tasksChanged);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Reorder tasks failed: 1 of 2"_s));
         QVERIFY(!reorder(u"be"_s));
         QCOMPARE(store.lastError(), taskNotSaved);
-        QVERIFY(changes.count() >= 2); // the move showed at once, then the failed part went back
         QCOMPARE(shown(), u"ebcda"_s);
         QCOMPARE(column("SELECT attachments->>'_position' FROM tasks WHERE id = $1", id[u"b"_s]), "0");
         store.clearLastError();
@@ -438,12 +400,9 @@ private slots:
         insertEntry(bob, insertTask(bob, loggedLately, {.title = u"Work"_s, .createdDaysAgo = 90}), 5);
         const QString loggedLastMonth = insertProject(bob, u"Logged 45 days ago"_s, 100);
         insertEntry(bob, insertTask(bob, loggedLastMonth, {.title = u"Work"_s, .createdDaysAgo = 90}), 45);
-        const QString newTask = insertProject(bob, u"New task"_s, 100);
-        insertTask(bob, newTask, {.title = u"Fresh"_s, .createdDaysAgo = 3});
         const QString running = insertProject(bob, u"Running"_s, 100);
         insertTask(bob, running, {.title = u"Timer"_s, .status = u"in_progress"_s, .createdDaysAgo = 90});
         const QString young = insertProject(bob, u"Young"_s, 10);
-        const QString done = insertProject(bob, u"Done"_s, 100, u"completed"_s);
         QVERIFY(bob.refresh());
 
         // Projects from the other tests of this user are recent; only these can be idle.
@@ -453,27 +412,9 @@ private slots:
         QCOMPARE(runBlocking(bob.store->archiveIdleProjects(30)), 1);
         QCOMPARE(bob.store->project(loggedLastMonth)->status, ProjectStatus::Archived);
         QCOMPARE(runBlocking(bob.store->archiveIdleProjects(30)), 0);
-        for (const QString &kept : {loggedLately, newTask, running, young}) {
+        for (const QString &kept : {loggedLately, running, young}) {
             QCOMPARE(column("SELECT status FROM projects WHERE id = $1", kept), "active");
         }
-        QCOMPARE(column("SELECT status FROM projects WHERE id = $1", done), "completed");
-        QCOMPARE(column("SELECT status FROM projects WHERE id = $1", loggedLastMonth), "archived");
-    }
-
-    void refreshWhileSignedOutChangesNothing()
-    {
-        std::unique_ptr<StoreDevice> device = StoreDevice::signIn(m_backend, u"alice@example.nl"_s);
-        QVERIFY(device);
-        QVERIFY(device->refresh());
-        const QList<Project> projects = device->store->projects();
-        const QHash<QString, QList<TaskItem>> tasks = device->store->tasksByProject();
-        QVERIFY(!projects.isEmpty() && !tasks.isEmpty());
-        runBlocking(device->auth->signOut());
-        QTest::ignoreMessage(QtWarningMsg, "Refresh failed: not signed in");
-        QVERIFY(!device->refresh());
-        QCOMPARE(device->store->lastError(), u"Not signed in."_s);
-        QCOMPARE(device->store->projects(), projects);
-        QCOMPARE(device->store->tasksByProject(), tasks);
     }
 
     void safetyPollRefreshesWhenStale_data()
@@ -483,7 +424,6 @@ private slots:
         QTest::addColumn<bool>("refreshes");
         QTest::newRow("feed down, 19 s old") << false << 19 << false;
         QTest::newRow("feed down, 20 s old") << false << 20 << true;
-        QTest::newRow("feed up, 20 s old") << true << 20 << false;
         QTest::newRow("feed up, 119 s old") << true << 119 << false;
         QTest::newRow("feed up, 120 s old") << true << 120 << true;
         QTest::newRow("clock set back an hour") << true << -3600 << true;
@@ -540,12 +480,9 @@ private slots:
         PendingOnboarding mine;
         mine.email = u"Carol@Example.nl"_s;
         mine.answers.displayName = u"Carol"_s;
-        mine.answers.language = u"nl"_s;
         mine.answers.currency = u"USD"_s;
-        mine.answers.defaultHourlyRate = 95;
         mine.answers.onboarding = JSONValue(JSONValue::Object{{u"work"_s, u"design"_s}});
         mine.save(*device->settings);
-        QCOMPARE(PendingOnboarding::load(*device->settings), mine);
 
         SessionSequence sequence(*device->auth, *device->store);
         QSignalSpy finished(&sequence, &SessionSequence::finished);
@@ -555,14 +492,12 @@ private slots:
         QTRY_COMPARE(finished.count(), 1);
         QCOMPARE(finished.first().first().toBool(), true);
         QVERIFY(device->store->isSyncing());
-        QVERIFY(device->store->lastRefreshedAt().isValid());
         QVERIFY(!PendingOnboarding::load(*device->settings));
         QCOMPARE(device->store->profile()->displayName, u"Carol"_s);
-        QCOMPARE(device->store->profile()->currency, u"USD"_s);
-        QCOMPARE(column("SELECT concat_ws('|', onboarding_complete, onboarding->>'work', default_hourly_rate::float8,"
-                        " language) FROM profiles WHERE id = $1",
+        QCOMPARE(column("SELECT concat_ws('|', onboarding_complete, onboarding->>'work', currency) FROM profiles"
+                        " WHERE id = $1",
                         device->userId()),
-                 "t|design|95|nl");
+                 "t|design|USD");
 
         // Answers given for another address wait for that account.
         PendingOnboarding theirs;
@@ -574,9 +509,7 @@ private slots:
 
         runBlocking(device->auth->signOut());
         QTRY_VERIFY(!device->store->isSyncing());
-        QVERIFY(device->store->currentUserId().isEmpty());
-        QVERIFY(device->store->projects().isEmpty() && device->store->tasksByProject().isEmpty());
-        QVERIFY(!device->store->profile());
+        QVERIFY(device->store->projects().isEmpty() && !device->store->profile());
     }
 
     void ensureOnboardedFillsOnlyWhatIsMissing()
