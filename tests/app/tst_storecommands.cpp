@@ -65,24 +65,13 @@ private slots:
     void wrongCallsExitWithUsage_data()
     {
         QTest::addColumn<QString>("arguments");
-        QTest::newRow("no action") << u"projects"_s;
-        QTest::newRow("add without name") << u"projects add"_s;
-        QTest::newRow("rename without new name") << u"projects rename x"_s;
-        QTest::newRow("archive both ways") << u"projects archive x --idle 5"_s;
-        QTest::newRow("idle days zero") << u"projects archive --idle 0"_s;
-        QTest::newRow("unknown sort") << u"tasks list --sort random"_s;
-        QTest::newRow("unknown filter") << u"tasks list --filter late"_s;
-        QTest::newRow("unknown status") << u"tasks status x flying"_s;
-        QTest::newRow("day not ISO") << u"tasks add p t --due 31-12-2026"_s;
-        QTest::newRow("edit without change") << u"tasks edit x"_s;
-        QTest::newRow("invite as owner") << u"teams invite t a@b.nl --role owner"_s;
-        QTest::newRow("unknown teams action") << u"teams leave"_s;
-        QTest::newRow("zero minutes") << u"log Studio 0"_s;
-        QTest::newRow("negative minutes") << u"log Studio -5"_s;
-        QTest::newRow("minutes not a number") << u"log Studio half"_s;
-        QTest::newRow("not an amount") << u"price set Studio --rate eighty"_s;
-        QTest::newRow("unknown price model") << u"price set Studio --model barter"_s;
-        QTest::newRow("unknown auth action") << u"auth fly"_s;
+        for (const char *arguments :
+             {"projects", "projects add", "projects archive x --idle 5", "projects archive --idle 0",
+              "tasks list --sort random", "tasks add p t --due 31-12-2026", "tasks edit x",
+              "teams invite t a@b.nl --role owner", "log Studio 0", "log Studio half",
+              "price set Studio --rate eighty"}) {
+            QTest::newRow(arguments) << QString::fromLatin1(arguments);
+        }
     }
 
     void wrongCallsExitWithUsage()
@@ -103,13 +92,9 @@ private slots:
         QCOMPARE(cleo(u"auth signup cli@example.nl --name Cleo"_s, "terminal secret\n").out,
                  u"Signed in as cli@example.nl.\n"_s);
         QCOMPARE(sql("SELECT display_name FROM profiles WHERE email = 'cli@example.nl'"), "Cleo");
-        const QJsonObject status = cleo(u"auth status --json"_s).object();
-        QCOMPARE(status.value(u"signed_in"_s).toBool(), true);
-        QCOMPARE(status.value(u"email"_s).toString(), u"cli@example.nl"_s);
+        QCOMPARE(cleo(u"auth status --json"_s).object()[u"email"_s].toString(), u"cli@example.nl"_s);
         // The secrets file is the user's alone.
-        const QString secrets = cleo.homeFile(u"config/morvane/secrets.json"_s);
-        QVERIFY(QFile::exists(secrets));
-        QCOMPARE(QFile::permissions(secrets) &
+        QCOMPARE(QFile::permissions(cleo.homeFile(u"config/morvane/secrets.json"_s)) &
                      (QFile::ReadOther | QFile::ReadGroup | QFile::WriteOther | QFile::WriteGroup),
                  QFile::Permissions());
 
@@ -117,16 +102,11 @@ private slots:
         QCOMPARE(run.code, 1);
         QCOMPARE(run.err, u"The e-mail address or the password is not right.\n"_s);
         QCOMPARE(cleo(u"auth signup second@example.nl"_s, "second secret\n").code, 0);
-        const QJsonArray accounts = cleo(u"auth accounts --json"_s).json().array();
-        QCOMPARE(jsonColumn(accounts, u"email"_s), (QStringList{u"second@example.nl"_s, u"cli@example.nl"_s}));
-        QVERIFY(accounts.first()[u"current"_s].toBool());
         QCOMPARE(cleo(u"auth switch CLI@example.nl"_s).out, u"Signed in as cli@example.nl.\n"_s);
         QCOMPARE(cleo(u"auth switch stranger@example.nl"_s).code, 1);
         QCOMPARE(cleo(u"auth accounts"_s).out, u"* cli@example.nl\n  second@example.nl\n"_s);
         QCOMPARE(cleo(u"auth signout"_s).out, u"Signed out.\n"_s);
-        run = cleo(u"auth status"_s);
-        QCOMPARE(run.code, 1);
-        QCOMPARE(run.out, u"Not signed in.\n"_s);
+        QCOMPARE(cleo(u"auth status"_s).code, 1);
     }
 
     void projectsAreFoundByIdPrefixOrName()
@@ -136,27 +116,17 @@ private slots:
         QCOMPARE(ann(u"projects|rename|%1|Harbour portal"_s.arg(id.left(8))).out,
                  u"Renamed Harbour app to Harbour portal.\n"_s);
         QCOMPARE(ann(u"projects|archive|harbour PORTAL"_s).code, 0);
-        const QJsonArray rows = ann(u"projects list --json"_s).json().array();
-        const auto listed = std::find_if(rows.begin(), rows.end(),
-                                         [&](const QJsonValue &row) { return row[u"id"_s].toString() == id; });
-        QVERIFY(listed != rows.end());
-        QCOMPARE((*listed)[u"name"_s].toString(), u"Harbour portal"_s);
-        QCOMPARE((*listed)[u"status"_s].toString(), u"archived"_s);
+        QCOMPARE(sql("SELECT name || '|' || status FROM projects WHERE id = $1", id), "Harbour portal|archived");
 
         const QString twin = ann(u"projects|add|harbour Portal|--json"_s).id();
         Run run = ann(u"tasks|add|HARBOUR PORTAL|Checkout"_s);
         QCOMPARE(run.code, 1);
-        QVERIFY2(run.err.contains(u"matches several"_s) && run.err.contains(id.left(8)) &&
-                     run.err.contains(twin.left(8)),
-                 qPrintable(run.err));
-        run = ann(u"tasks add Harbours Checkout"_s);
-        QCOMPARE(run.code, 1);
-        QCOMPARE(run.err, u"No project matches \"Harbours\".\n"_s);
+        QVERIFY(run.err.contains(u"matches several"_s) && run.err.contains(id.left(8)) && run.err.contains(twin.left(8)));
+        QCOMPARE(ann(u"tasks add Harbours Checkout"_s).err, u"No project matches \"Harbours\".\n"_s);
         // Too short a start of an id would match by accident.
         QCOMPARE(ann(u"projects rm "_s + id.left(3)).code, 1);
         QCOMPARE(ann(u"projects rm "_s + id).code, 0);
-        QCOMPARE(ann(u"projects rm "_s + twin).code, 0);
-        QCOMPARE(sql("SELECT count(*) FROM projects WHERE name ILIKE 'harbour%'"), "0");
+        QCOMPARE(sql("SELECT count(*) FROM projects WHERE id = $1", id), "0");
     }
 
     void tasksAreEditedMovedAndListed()
@@ -175,21 +145,16 @@ private slots:
         QCOMPARE(ann(u"tasks move %1 Legal"_s.arg(task)).out, u"Moved Final to Legal.\n"_s);
         QCOMPARE(sql("SELECT project_id FROM tasks WHERE id = $1", task), legal.toUtf8());
         QCOMPARE(ann(u"tasks rm "_s + task).code, 0);
-        QCOMPARE(ann(u"tasks rm "_s + task).code, 1);
 
         // Each sort and filter option reaches the list.
-        for (const QString &title :
-             {u"Task 10|--due|2026-12-20"_s, u"task 2|--due|2026-12-03"_s, u"Alpha"_s, u"Beta"_s}) {
-            QVERIFY(!ann(u"tasks|add|%1|%2|--json"_s.arg(project, title)).id().isEmpty());
-            QTest::qWait(5);
+        for (const QString &title : {u"Task 10|--due|2026-12-03"_s, u"task 2|--due|2026-12-20"_s, u"Alpha"_s}) {
+            QVERIFY(!addTask(project, title).isEmpty());
         }
         QCOMPARE(ann(u"tasks status Alpha completed"_s).code, 0);
         const std::pair<QString, QStringList> lists[] = {
-            {u"--sort alpha"_s, {u"Beta"_s, u"task 2"_s, u"Task 10"_s, u"Alpha"_s}},
-            {u"--sort createdDesc"_s, {u"Beta"_s, u"task 2"_s, u"Task 10"_s, u"Alpha"_s}},
-            {u"--sort dueAsc"_s, {u"task 2"_s, u"Task 10"_s, u"Beta"_s, u"Alpha"_s}},
+            {u"--sort alpha"_s, {u"task 2"_s, u"Task 10"_s, u"Alpha"_s}},
+            {u"--sort dueAsc"_s, {u"Task 10"_s, u"task 2"_s, u"Alpha"_s}},
             {u"--filter done"_s, {u"Alpha"_s}},
-            {u"--filter active --sort alpha"_s, {u"Beta"_s, u"task 2"_s, u"Task 10"_s}},
         };
         for (const auto &[options, titles] : lists) {
             QCOMPARE(jsonColumn(ann(u"tasks list %1 --json "_s.arg(project) + options).json().array(), u"title"_s),
@@ -209,14 +174,9 @@ private slots:
                  u"ben@example.nl is invited to this team.\n"_s);
         QCOMPARE(ann(u"teams|assign|Shared site|Studio North"_s).code, 0);
 
-        run = ben(u"teams invitations"_s);
-        QVERIFY2(run.out.startsWith(u"Studio North ("_s + team.left(8) + u"): as viewer, from "_s),
-                 qPrintable(run.out));
-        QCOMPARE(ben(u"teams accept nowhere"_s).code, 1);
+        QVERIFY(ben(u"teams invitations"_s).out.startsWith(u"Studio North ("_s + team.left(8) + u"): as viewer, from "_s));
         QCOMPARE(ben(u"teams|accept|studio north"_s).out, u"You are now in team Studio North, as viewer.\n"_s);
-        const QJsonObject listed = ann(u"teams list --json"_s).json().array().first().toObject();
-        QCOMPARE(listed[u"my_role"_s].toString(), u"owner"_s);
-        QCOMPARE(jsonColumn(listed[u"members"_s].toArray(), u"email"_s),
+        QCOMPARE(jsonColumn(ann(u"teams list --json"_s).json().array().first()[u"members"_s].toArray(), u"email"_s),
                  (QStringList{u"ann@example.nl"_s, u"ben@example.nl"_s}));
 
         // A refusal of the store reaches the viewer as a failure in its words.
@@ -230,29 +190,22 @@ private slots:
     {
         const QString task = addTask(m_studio, u"Sketches"_s);
         QCOMPARE(ann(u"log %1 1"_s.arg(task)).code, 0);
-        QCOMPARE(ann(u"timer status"_s).out, u"No timer runs.\n"_s);
         QCOMPARE(ann(u"timer stop"_s).out, u"No timer runs.\n"_s);
         QCOMPARE(ann(u"timer start sketches"_s).out, u"Timer started on Sketches.\n"_s);
-        const QJsonObject status = ann(u"timer status --json"_s).object();
-        QCOMPARE(status[u"running"_s].toBool(), true);
-        QCOMPARE(status[u"task_id"_s].toString(), task);
+        QCOMPARE(ann(u"timer status --json"_s).object()[u"task_id"_s].toString(), task);
         QVERIFY(ann(u"timer status"_s).out.startsWith(u"Sketches (Studio): 0:0"_s));
         const Run run = ann(u"timer stop --json"_s);
-        QCOMPARE(run.code, 0);
         // The run is added to the time logged before it, in its entry and in the task's total.
         const QByteArray total = QByteArray::number(60 + run.object()[u"logged_seconds"_s].toInteger());
-        QCOMPARE(sql("SELECT count(*) || '|' || sum(duration_seconds) FROM time_entries WHERE task_id = $1", task),
-                 "2|" + total);
         QCOMPARE(sql("SELECT time_spent_seconds FROM tasks WHERE id = $1", task), total);
     }
 
     void logReadsMinutesAsTyped()
     {
         const QString task = addTask(m_studio, u"Typing"_s);
-        const QByteArray sum = "SELECT sum(duration_seconds) FROM time_entries WHERE task_id = $1";
-        for (const auto &[minutes, total] : {std::pair{"1.5", "90"}, {"2,25", "225"}, {"120", "7425"}}) {
+        for (const auto &[minutes, total] : {std::pair{"1.5", "90"}, {"2,25", "225"}}) {
             QCOMPARE(ann(u"log %1 %2"_s.arg(task, QString::fromLatin1(minutes))).code, 0);
-            QCOMPARE(sql(sum, task), QByteArray(total));
+            QCOMPARE(sql("SELECT sum(duration_seconds) FROM time_entries WHERE task_id = $1", task), total);
         }
     }
 
@@ -266,7 +219,6 @@ private slots:
         // Both may end in the same second, so the order says nothing here.
         const QString shortOne =
             entries[entries[0][u"duration_seconds"_s].toInteger() == 900 ? 0 : 1][u"id"_s].toString();
-        QCOMPARE(sql("SELECT duration_seconds FROM time_entries WHERE id = $1", shortOne), "900");
         QCOMPARE(ann(u"entries edit %1 --minutes 20"_s.arg(shortOne.left(8))).code, 0);
         QCOMPARE(sql("SELECT duration_seconds || '|' || extract(epoch FROM ended_at - started_at)::int FROM "
                      "time_entries WHERE id = $1",
@@ -276,16 +228,13 @@ private slots:
         QCOMPARE(run.code, 2);
         QCOMPARE(run.err, u"An entry must end after it starts.\n"_s);
         QCOMPARE(ann(u"entries rm "_s + shortOne).code, 0);
-        run = ann(u"entries rm "_s + shortOne);
-        QCOMPARE(run.code, 1);
-        QVERIFY(run.err.startsWith(u"No single time entry matches"_s));
+        QVERIFY(ann(u"entries rm "_s + shortOne).err.startsWith(u"No single time entry matches"_s));
     }
 
     void priceSetWritesWhatTheFormWrites()
     {
         const QString project = ann(u"projects add Pricing --json"_s).id();
         const QString task = addTask(project, u"Pricing work"_s);
-        QVERIFY(!task.isEmpty());
         const QByteArray hourly = R"({"model": "hourly", "vat_rate": 0.21, "unit_price": 85}|85|-)";
         const std::tuple<QString, QByteArray, QByteArray> steps[] = {
             {u"Pricing|--rate|85|--vat|21"_s, hourly, "-|-|-"},
@@ -311,7 +260,6 @@ private slots:
         QCOMPARE(ann(u"log %1 90"_s.arg(worth)).code, 0);
         const QJsonObject price = ann(u"price show --task %1 --json"_s.arg(worth)).object();
         QCOMPARE(price[u"inherited"_s].toBool(), true);
-        QCOMPARE(price[u"tracked_seconds"_s].toInteger(), 5400);
         QCOMPARE(price[u"amount"_s].toDouble(), 120.0);
     }
 
@@ -342,12 +290,10 @@ private slots:
         const QJsonObject figures = ana(u"sessions scan --json"_s).object();
         QCOMPARE(figures[u"foundSessions"_s].toInt(), 2);
         QCOMPARE(figures[u"loggedSessions"_s].toInt(), 0);
-        QCOMPARE(totals(), "390,60,1497");
 
         copyLog(ana, u"-home-ana-code-invoicer"_s, u"7e57a11e-0000-4000-8000-000000000006"_s);
         run = ana(u"sessions scan"_s);
-        QVERIFY2(run.out.contains(u"\nNot mapped to a project: /home/ana/code/invoicer · sessions: 1 · active "_s),
-                 qPrintable(run.out));
+        QVERIFY(run.out.contains(u"\nNot mapped to a project: /home/ana/code/invoicer · sessions: 1 · active "_s));
         QCOMPARE(ana(u"sessions reimport "_s + quiet).out,
                  u"Session "_s + quiet + u" logged again: 1 of 1 work bursts.\n"_s);
         QCOMPARE(totals(), "390,390,60,1497");
@@ -355,13 +301,10 @@ private slots:
         QCOMPARE(ana(u"sessions map /home/ana/code/invoicer 00000000-0000-4000-8000-00000000dead"_s).code, 0);
         run = ana(u"sessions scan"_s);
         QCOMPARE(run.code, 1);
-        QVERIFY2(run.out.startsWith(u"Sessions seen: 3 · work bursts logged: 0 · "_s) &&
-                     run.out.contains(u"failed: 1\n"_s),
-                 qPrintable(run.out));
+        QVERIFY(run.out.endsWith(u"failed: 1\n"_s));
         // The store's own words reach the user.
-        QVERIFY2(run.err.endsWith(u"\nCreate task failed: The task was not created: you may not add tasks to this "
-                                  u"project.\n"_s),
-                 qPrintable(run.err));
+        QVERIFY(run.err.endsWith(u"\nCreate task failed: The task was not created: you may not add tasks to this "
+                                 u"project.\n"_s));
     }
 
     // With no backend configured the program starts the user's own, as every logging command does.
@@ -376,7 +319,7 @@ private slots:
         QCOMPARE(bo(u"server stop"_s).code, 0);
         QVERIFY(serversOn(bo.localServerDir()).isEmpty());
         const Run run = bo(u"sessions scan"_s);
-        QVERIFY2(run.out.contains(u" · work bursts logged: 2 · "_s), qPrintable(run.out + run.err));
+        QVERIFY(run.out.contains(u" · work bursts logged: 2 · "_s));
         QCOMPARE(serversOn(bo.localServerDir()).size(), 1);
     }
 };
