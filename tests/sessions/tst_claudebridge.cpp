@@ -112,8 +112,6 @@ private Q_SLOTS:
             << u"override-exec"_s << u"/elsewhere/claude"_s << none << u"override-exec"_s;
         QTest::newRow("override not executable: variable, unchecked")
             << u"override-plain"_s << u"/elsewhere/claude"_s << none << u"/elsewhere/claude"_s;
-        QTest::newRow("override missing: variable")
-            << u"override-missing"_s << u"/elsewhere/claude"_s << none << u"/elsewhere/claude"_s;
         QTest::newRow("first executable candidate")
             << QString() << QString() << QStringList{u"a/claude"_s, u"plain/claude"_s, u"exec/claude"_s}
             << u"exec/claude"_s;
@@ -165,7 +163,6 @@ private Q_SLOTS:
                      QStringList(ClaudeBridge::parseSystemPrompt(projects, u"2025-03-05"_s, amsterdam)) +
                      (QStringList{u"--json-schema"_s, ClaudeBridge::jsonSchema(), u"--no-session-persistence"_s}));
         QCOMPARE(recorded("stdin"), u"User input: 2 uur aan de webshop gisteren"_s);
-        QVERIFY(QJsonDocument::fromJson(ClaudeBridge::jsonSchema().toUtf8()).isObject());
 
         QCOMPARE(
             runBlocking(bridge(u"result"_s, u"Vandaag: 3 taken af."_s)
@@ -174,6 +171,9 @@ private Q_SLOTS:
         const QStringList standUp{u"Write the stand-up."_s, u"--no-session-persistence"_s};
         QCOMPARE(recordedArguments(), print + QStringList(u"haiku"_s) + plainText + standUp);
         QCOMPARE(recorded("stdin"), u"FACTS: 3 tasks done"_s);
+        // An older program answers in "response" where newer ones use "result".
+        QCOMPARE(runBlocking(bridge(u"response"_s, u"Done"_s).parsePlain(u"x"_s, u"sonnet"_s, 30, u"s"_s, u"low"_s)),
+                 u"Done"_s);
 
         QTemporaryDir workspace;
         QCOMPARE(runBlocking(bridge(u"write"_s)
@@ -197,7 +197,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("intent");
 
         QTest::newRow("structured output") << u"structured"_s << QString() << u"create_task"_s;
-        QTest::newRow("prose around the object") << u"prose"_s << QString() << u"log_time"_s;
         QTest::newRow("prose without an object") << u"noobject"_s << u"no JSON object detected"_s << QString();
         QTest::newRow("is_error with status 0") << u"error"_s << u"claude returned is_error=true"_s << QString();
         QTest::newRow("no output") << u"empty"_s << u"Claude produced no output"_s << QString();
@@ -208,7 +207,6 @@ private Q_SLOTS:
                                   << u"Bad JSON from Claude (illegal value) Welcome to Claude Code! Run claude "
                                      u"--help for usage.\n"_s
                                   << QString();
-        QTest::newRow("JSON but no object") << u"array"_s << u"Bad JSON from Claude (not an object) "_s << QString();
     }
 
     void readsTheAnswerOfParse()
@@ -219,20 +217,8 @@ private Q_SLOTS:
         ClaudeBridge::ParseInput input{u"log 90 minutes"_s, {}, u"2025-03-05"_s};
         if (failure.isEmpty()) {
             QCOMPARE(runBlocking(bridge(mode).parse(input))[u"intent"].toString(), intent);
-        } else if (failure.endsWith(u' ')) {
-            QVERIFY(failureOf(bridge(mode).parse(input)).startsWith(failure));
         } else {
             QCOMPARE(failureOf(bridge(mode).parse(input)), failure);
-        }
-    }
-
-    // The text is the result, or the response where an older program has no result.
-    void readsTheAnswerOfPlainText()
-    {
-        for (const QString &mode : {u"result"_s, u"response"_s}) {
-            QCOMPARE(
-                runBlocking(bridge(mode, u"Done: 4 tasks"_s).parsePlain(u"x"_s, u"sonnet"_s, 30, u"s"_s, u"low"_s)),
-                u"Done: 4 tasks"_s);
         }
     }
 
@@ -310,13 +296,10 @@ private Q_SLOTS:
         using R = ClaudeBridge::Route;
         QTest::newRow("auto with the program") << u"auto"_s << true << int(R::ClaudeCLI);
         QTest::newRow("auto without it: the relay") << u"auto"_s << false << int(R::MorvaneAI);
-        QTest::newRow("nothing stored is auto") << QString() << false << int(R::MorvaneAI);
         QTest::newRow("unknown name is auto") << u"skynet"_s << true << int(R::ClaudeCLI);
         QTest::newRow("CLI only, even without it") << u"cliOnly"_s << false << int(R::ClaudeCLI);
         QTest::newRow("relay only ignores the program") << u"morvaneAIOnly"_s << true << int(R::MorvaneAI);
         QTest::newRow("own Anthropic key") << u"anthropicCustom"_s << true << int(R::Anthropic);
-        QTest::newRow("own OpenAI key") << u"openAICustom"_s << true << int(R::OpenAI);
-        QTest::newRow("own Gemini key") << u"geminiCustom"_s << true << int(R::Gemini);
     }
 
     void routeFollowsTheProvider()
@@ -331,23 +314,11 @@ private Q_SLOTS:
         }
     }
 
-    void httpRoutesAreNotConfiguredYet_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("failure");
-        QTest::newRow("relay") << u"morvaneAIOnly"_s
-                               << u"Morvane AI is not available in this version of Morvane. Choose the Claude CLI "
-                                  u"in the AI settings."_s;
-        QTest::newRow("Gemini") << u"geminiCustom"_s
-                                << u"The Google Gemini API is not available in this version of Morvane. Choose the "
-                                   u"Claude CLI in the AI settings."_s;
-    }
-
     void httpRoutesAreNotConfiguredYet()
     {
-        QFETCH(QString, stored);
-        QFETCH(QString, failure);
-        m_settings->setValue(u"ai.provider"_s, stored);
+        const QString failure = u"The Google Gemini API is not available in this version of Morvane. Choose the "
+                                u"Claude CLI in the AI settings."_s;
+        m_settings->setValue(u"ai.provider"_s, u"geminiCustom"_s);
         QCOMPARE(failureOf(bridge(u"result"_s).parsePlain(u"x"_s, u"sonnet"_s, 5, u"s"_s, u"low"_s)), failure);
         QCOMPARE(failureOf(bridge(u"structured"_s).parse({u"x"_s, {}, u"2025-03-05"_s})), failure);
         QTemporaryDir workspace;
@@ -366,7 +337,6 @@ private Q_SLOTS:
             << u"<!doctype html><html>B</HTML>"_s << u"<!doctype html><html>B</HTML>"_s;
         QTest::newRow("up to the last closing tag") << u"<!doctype html><html><script>s='</html>'</script></html> bye"_s
                                                     << u"<!doctype html><html><script>s='</html>'</script></html>"_s;
-        QTest::newRow("no doctype") << u"<html><body>C</body></html>"_s << QString();
         QTest::newRow("not closed") << u"<!doctype html><html><body>cut off"_s << QString();
         QTest::newRow("closing tag only before the doctype") << u"</html> then <!doctype html><p>"_s << QString();
     }
@@ -382,13 +352,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("expected"); // compact JSON; empty: none
-        QTest::newRow("bare") << u"{\"a\":1}"_s << u"{\"a\":1}"_s;
         QTest::newRow("fenced, braces inside strings") << u"```json\n{\"a\": \"}{\", \"b\": {\"c\": \"\\\"}\"}}\n```"_s
                                                        << u"{\"a\":\"}{\",\"b\":{\"c\":\"\\\"}\"}}"_s;
         QTest::newRow("a brace in prose first") << u"Use {curly} braces: {\"ok\": true}"_s << u"{\"ok\":true}"_s;
         QTest::newRow("the first of two") << u"{\"n\":1} and {\"n\":2}"_s << u"{\"n\":1}"_s;
         QTest::newRow("unbalanced") << u"{\"a\": 1"_s << QString();
-        QTest::newRow("none") << u"nothing here"_s << QString();
     }
 
     void findsTheFirstJSONObject()
