@@ -45,12 +45,10 @@ const TableDefaults tableDefaults[]{
     {"clients", "owner/private", "name=$marker", "notes=$marker"},
     {"teams", "owner/team", "name=$marker", "name=$marker"},
     {"team_members", "owner/team", "team_id=$team user_id=$extra email=eve@example.nl role=viewer", "role=editor"},
-    {"invoices", "owner/private", "number=$marker issued_at=2025-05-01 currency=EUR", "notes=$marker"},
     {"invoice_lines", "owner/private",
      "invoice_id=$privateInvoice title=$marker quantity=1 unit_price=1 amount=1", "description=$marker"},
     {"invoice_entries", "owner/private", "invoice_id=$privateInvoice time_entry_id=$privateUnbilled", stamp},
     {"invoice_trips", "owner/private", "invoice_id=$privateInvoice trip_id=$spareTrip", stamp},
-    {"invoice_templates", "owner/private", "name=$marker", "name=$marker"},
     {"trips", "owner/private", "started_at=$time purpose=$marker", "purpose=$marker"},
     {"unbilled_time_entries", "owner/private", entryRow, "logged_by_email=$marker"},
 };
@@ -101,15 +99,12 @@ QJsonObject bodyFor(const QString &table, const QByteArray &method, QString fiel
 // clang-format off
 const QHash<QByteArray, const char *> scratchRows{
     {"projects", "user_id=$who name=scratch [team]"},
-    {"clients", "user_id=$who name=scratch [team]"},
-    {"invoice_templates", "user_id=$who name=scratch [team]"},
     {"invoices", "user_id=$who number=$time issued_at=2025-04-01 currency=EUR [team]"},
     {"trips", "user_id=$who started_at=$time"},
     {"tasks", "user_id=$who project_id=$*Project title=scratch"},
     {"time_entries", "user_id=$who task_id=$*Task project_id=$*Project started_at=$time ended_at=$time duration_seconds=0"},
     {"invoice_lines", "invoice_id=$*Invoice title=x quantity=1 unit_price=1 amount=1"},
     {"invoice_entries", "invoice_id=$*Invoice time_entry_id=$parent"},
-    {"invoice_trips", "invoice_id=$*Invoice trip_id=$parent"},
     {"teams", "owner_id=$who name=scratch"},
 };
 // clang-format on
@@ -445,17 +440,13 @@ private slots:
             {"profiles", "id", "", "owner editor viewer", "stranger", "owner editor viewer", "owner editor viewer"},
             {"projects", "id", "Project", "private team", "stranger", "team", "team"},
             {"tasks", "id", "Task", "private team", "stranger", "team", "team"},
-            {"time_entries", "id", "Billed Unbilled", "private team", "stranger", "team", "team"},
-            {"clients", "id", "Client", "private team", "stranger", "team", "team"},
             {"teams", "id", "", "team", "strangerTeam", "team", "team"},
             {"team_members", "user_id", "", "owner editor viewer", "stranger", "owner editor viewer",
              "owner editor viewer"},
             {"invoices", "id", "Invoice", "private team", "stranger", "team editor", "team viewer"},
-            {"invoice_lines", "id", "Line", "private team", "stranger", "team", "team"},
             {"invoice_entries", "time_entry_id", "Billed", "private team", "stranger", "team", "team"},
             // Members see the team invoice's trip links, though not the owner's trips themselves.
             {"invoice_trips", "trip_id", "Trip", "private team", "stranger", "team", "team"},
-            {"invoice_templates", "id", "Template", "private team", "stranger", "team", "team"},
             {"trips", "id", "Trip", "private team spare", "stranger", "editor", "viewer"},
             // Only one's own time, even where a team's time is readable.
             {"unbilled_time_entries", "id", "Unbilled", "private team", "stranger", "", ""},
@@ -473,10 +464,15 @@ private slots:
                 names.sort();
                 return names;
             };
+            // Anonymous and service callers pass or fail before any table's policy.
+            const bool roles = qstrcmp(v.table, "projects") == 0;
             const std::pair<const char *, const char *> callers[]{{"owner", v.owner},   {"stranger", v.stranger},
                                                                   {"editor", v.editor}, {"viewer", v.viewer},
                                                                   {"anon", ""},         {"service", ""}};
             for (const auto &[caller, prefixes] : callers) {
+                if (!roles && (qstrcmp(caller, "anon") == 0 || qstrcmp(caller, "service") == 0)) {
+                    continue;
+                }
                 QTest::addRow("%s: %s", v.table, caller) << QString::fromLatin1(v.table) << QString::fromLatin1(v.key)
                                                          << QString::fromLatin1(caller) << expand(prefixes);
             }
@@ -500,10 +496,7 @@ private slots:
         QCOMPARE(result.status, 200);
         if (caller == u"service") {
             expected = names(allIds(table, key));
-            // Proves the bypass only if there is someone else's row to bypass to.
-            QVERIFY(table == u"unbilled_time_entries" ||
-                    std::any_of(expected.cbegin(), expected.cend(),
-                                [](const QString &n) { return n.startsWith(u"stranger"); }));
+            QVERIFY(expected.contains(u"strangerProject"_s)); // someone else's row to bypass to
         }
         QCOMPARE(names(jsonColumn(result.json().array(), key)), expected);
     }
@@ -533,8 +526,8 @@ private slots:
             {u"editor"_s, u"private"_s, false},   {u"viewer"_s, u"team"_s, false},   {u"viewer"_s, u"private"_s, false},
             {u"stranger"_s, u"private"_s, false}, {u"stranger"_s, u"team"_s, false}, {u"service"_s, u"private"_s, true},
         };
-        for (const char *table : {"projects", "clients", "invoice_templates", "invoices", "tasks", "time_entries",
-                                  "invoice_lines", "invoice_entries"}) {
+        // One table per helper that decides: editable teams, writable projects, writable invoices.
+        for (const char *table : {"projects", "tasks", "invoice_lines"}) {
             for (const QByteArray method : {"PATCH", "DELETE"}) {
                 for (const auto &[caller, scope, effect] : reach) {
                     row(QString::fromLatin1(table),
@@ -564,17 +557,14 @@ private slots:
         // The rows users own directly share one set of rules for inserting.
         // clang-format off
         const std::array<const char *, 3> direct[]{
-            {"owner creates a private row", "", "done"},
-            {"owner creates a team row", "+team_id=$team", "done"},
             {"editor creates a team row", "+team_id=$team", "done"},
             {"viewer cannot create a team row", "+team_id=$team", "403"},
             {"viewer creates a private row", "", "done"},
-            {"stranger cannot create a row in the team", "+team_id=$team", "403"},
             {"stranger cannot create a row in the owner's name", "+user_id=$owner", "403"},
             {"owner cannot create a row in a team they are not in", "+team_id=$strangerTeam", "403"},
         };
         // clang-format on
-        for (const char *table : {"projects", "clients", "invoice_templates", "invoices"}) {
+        for (const char *table : {"projects", "clients"}) {
             for (const auto &[name, body, expected] : direct) {
                 row(QString::fromLatin1(table), QString::fromUtf8(name), "POST", {}, QString::fromLatin1(body),
                     QString::fromLatin1(expected));
@@ -591,32 +581,19 @@ private slots:
         const Rule rules[]{
             {"projects", "owner cannot hand a project to someone else", "PATCH owner/private", "user_id=$stranger", "403"},
             {"projects", "editor cannot take over a team project", "PATCH owner/team", "user_id=$editor", "403"},
-            {"projects", "stranger cannot move a project into the team", "PATCH stranger/private", "team_id=$team", "403"},
             {"projects", "viewer cannot move a project into the team", "PATCH viewer/private", "team_id=$team", "403"},
             {"projects", "editor can move a project into the team", "PATCH editor/private", "team_id=$team", "done"},
-            {"projects", "owner cannot move a project into a team they are not in", "PATCH owner/private",
-             "team_id=$strangerTeam", "403"},
-            {"clients", "viewer cannot move a client into the team", "PATCH viewer/private", "team_id=$team", "403"},
-            {"invoice_templates", "viewer cannot move a template into the team", "PATCH viewer/private",
-             "team_id=$team", "403"},
-            {"invoices", "editor cannot take over a team invoice", "PATCH owner/team", "user_id=$editor", "403"},
-            {"tasks", "owner cannot move a task into a stranger's project", "PATCH owner/private",
-             "project_id=$strangerProject", "403"},
             {"tasks", "editor cannot move a team task into the owner's private project", "PATCH owner/team",
              "project_id=$privateProject", "403"},
-            {"time_entries", "editor cannot take over the owner's time", "PATCH owner/team", "user_id=$editor", "403"},
             {"teams", "owner cannot hand the team to someone else", "PATCH owner/team", "owner_id=$stranger", "403"},
             {"invoice_entries", "editor cannot point a link at time they cannot see", "PATCH owner/team",
              "time_entry_id=$privateUnbilled", "403"},
 
-            {"tasks", "owner adds a task", "POST", "", "done"},
             {"tasks", "editor adds a task to a team project", "POST", "+project_id=$teamProject", "done"},
             {"tasks", "viewer cannot add a task to a team project", "POST", "+project_id=$teamProject", "403"},
             {"tasks", "editor cannot add a task to the owner's private project", "POST", "", "403"},
-            {"tasks", "stranger cannot add a task to the owner's project", "POST", "", "403"},
 
             {"time_entries", "owner logs time", "POST", "", "done"},
-            {"time_entries", "editor logs time on a team task", "POST", "+task_id=$teamTask", "done"},
             {"time_entries", "editor logs time for the owner", "POST",
              "+task_id=$teamTask user_id=$owner logged_by_user_id=$editor", "done"},
             // Never a third person's time: rows planted in another account could not be removed by its owner.
@@ -624,70 +601,44 @@ private slots:
              "+task_id=$teamTask user_id=$viewer logged_by_user_id=$editor", "403"},
             {"time_entries", "editor cannot log time in the viewer's name", "POST",
              "+task_id=$teamTask logged_by_user_id=$viewer", "403"},
-            {"time_entries", "owner cannot log time for a stranger", "POST",
-             "+user_id=$stranger logged_by_user_id=$owner", "403"},
             {"time_entries", "viewer cannot log time on a team task", "POST", "+task_id=$teamTask", "403"},
             {"time_entries", "editor cannot log time on the owner's private task", "POST", "", "403"},
-            {"time_entries", "stranger cannot log time on the owner's task", "POST", "", "403"},
             // The project comes from the task, so naming one's own project does not open someone else's task.
             {"time_entries", "stranger cannot steer the check with their own project", "POST",
              "+project_id=$strangerProject", "403"},
 
-            {"invoice_lines", "owner adds a line", "POST", "", "done"},
             {"invoice_lines", "editor adds a line to the team invoice", "POST", "+invoice_id=$teamInvoice", "done"},
             {"invoice_lines", "viewer cannot add a line to the team invoice", "POST", "+invoice_id=$teamInvoice", "403"},
-            {"invoice_lines", "editor cannot add a line to a private invoice", "POST", "", "403"},
-            {"invoice_lines", "stranger cannot add a line", "POST", "", "403"},
 
             {"invoice_entries", "owner bills own time", "POST", "", "done"},
-            {"invoice_entries", "editor bills team time on the team invoice", "POST",
-             "invoice_id=$teamInvoice time_entry_id=$teamUnbilled", "done"},
             {"invoice_entries", "editor bills team time on an invoice of their own", "POST",
              "invoice_id=$editorInvoice time_entry_id=$teamUnbilled", "done"},
-            {"invoice_entries", "viewer cannot bill on the team invoice", "POST",
-             "invoice_id=$teamInvoice time_entry_id=$teamUnbilled", "403"},
             // Reading team time is not the right to bill it: the owner could neither see nor remove the link.
             {"invoice_entries", "viewer cannot bill team time on an invoice of their own", "POST",
              "invoice_id=$viewerInvoice time_entry_id=$teamUnbilled", "403"},
             {"invoice_entries", "editor cannot bill time they cannot see", "POST", "+invoice_id=$teamInvoice", "403"},
-            {"invoice_entries", "stranger cannot block the owner's time", "POST", "+invoice_id=$strangerInvoice", "403"},
             {"invoice_entries", "owner cannot bill time already on a live invoice", "POST",
              "invoice_id=$teamInvoice time_entry_id=$privateBilled", "409"},
 
-            {"invoice_trips", "owner bills a trip", "POST", "", "done"},
             {"invoice_trips", "editor bills own trip on the team invoice", "POST",
              "invoice_id=$teamInvoice trip_id=$editorTrip", "done"},
             {"invoice_trips", "editor cannot bill the owner's trip", "POST", "+invoice_id=$teamInvoice", "403"},
-            {"invoice_trips", "viewer cannot bill on the team invoice", "POST",
-             "invoice_id=$teamInvoice trip_id=$viewerTrip", "403"},
-            {"invoice_trips", "stranger cannot block the owner's trip", "POST", "+invoice_id=$strangerInvoice", "403"},
-            {"invoice_trips", "owner cannot bill a trip already on a live invoice", "POST", "+trip_id=$teamTrip", "409"},
 
-            {"teams", "stranger creates a team of their own", "POST", "", "done"},
             {"teams", "stranger cannot create a team in the owner's name", "POST", "+owner_id=$owner", "403"},
-            {"trips", "owner records a trip", "POST", "", "done"},
             {"trips", "stranger cannot record a trip in the owner's name", "POST", "+user_id=$owner", "403"},
 
             // Members come only through an invitation that its invitee accepts: nobody writes the row.
             {"team_members", "owner cannot add a member directly", "POST", "+accepted_at=$time", "403"},
-            {"team_members", "editor cannot add a member directly", "POST", "+accepted_at=$time", "403"},
-            {"team_members", "viewer cannot add a member directly", "POST", "+accepted_at=$time", "403"},
-            {"team_members", "stranger cannot join the team", "POST",
-             "+accepted_at=$time user_id=$stranger email=ben@example.nl", "403"},
             {"team_members", "owner cannot accept for the invitee", "PATCH owner/team", "accepted_at=$time", "403"},
-            {"team_members", "owner cannot swap the member", "PATCH owner/team", "user_id=$stranger", "403"},
             {"team_members", "viewer cannot promote themselves", "PATCH viewer/self", "role=owner", "hidden"},
             {"team_members", "viewer can leave the team", "DELETE viewer/self", "", "done"},
             {"team_members", "editor cannot remove the owner", "DELETE owner/self", "", "hidden"},
 
-            {"profiles", "stranger cannot make a second profile", "POST", "id=$stranger display_name=$marker", "409"},
-            // Row security answers before the duplicate key would.
             {"profiles", "stranger cannot create the owner's profile", "POST", "id=$owner display_name=$marker", "403"},
 
             // The view is for reading only, even of one's own time.
             {"unbilled_time_entries", "owner cannot insert through the view", "POST", "", "403"},
             {"unbilled_time_entries", "owner cannot change through the view", "PATCH owner/private", "", "403"},
-            {"unbilled_time_entries", "owner cannot delete through the view", "DELETE owner/private", "", "403"},
         };
         // clang-format on
         for (const Rule &r : rules) {
@@ -696,11 +647,10 @@ private slots:
                 method.section(u' ', 1), QString::fromLatin1(r.body), QString::fromLatin1(r.expected));
         }
 
-        for (const TableDefaults &d : tableDefaults) {
-            for (const QByteArray method : {"POST", "PATCH", "DELETE"}) {
-                row(QString::fromLatin1(d.table), u"anon cannot "_s + QString::fromLatin1(method), method,
-                    method == "POST" ? QString() : QString::fromLatin1(d.target), {}, u"401"_s);
-            }
+        // Anonymous callers are turned away before any policy is asked.
+        for (const QByteArray method : {"POST", "PATCH", "DELETE"}) {
+            row(u"projects"_s, u"anon cannot "_s + QString::fromLatin1(method), method,
+                method == "POST" ? QString() : u"owner/private"_s, {}, u"401"_s);
         }
     }
 
@@ -795,15 +745,11 @@ private slots:
         row("expired", m_backend.tokenFor(owner, u"authenticated"_s, -60), "PGRST303");
         row("expiring this second", m_backend.tokenFor(owner, u"authenticated"_s, 0), "PGRST303");
         row("two parts", parts[0] + '.' + parts[1], "PGRST301");
-        row("four parts", good + ".x", "PGRST301");
-        row("not a token", "not-a-token", "PGRST301");
-        row("role postgres", m_backend.tokenFor(owner, u"postgres"_s), "PGRST301");
         row("role of the database owner", m_backend.tokenFor(owner, u"morvane"_s), "PGRST301");
         row("not a bearer token", good, "PGRST301", "Basic");
         row("service role minted with the secret",
             Jwt::sign({{u"role"_s, u"service_role"_s}, {u"exp"_s, now + 600}}, secret), "", "Bearer", true);
         row("anon key as bearer", m_backend.anonKey(), "42501");
-        row("no token at all", {}, "42501");
         row("signed without a role acts as anon", Jwt::sign(noRole, secret), "42501");
         row("signed without a user speaks for nobody",
             Jwt::sign({{u"role"_s, u"authenticated"_s}, {u"exp"_s, now + 600}}, secret), "PGRST301");
@@ -840,76 +786,52 @@ private slots:
     void invitations_data()
     {
         QTest::addColumn<QString>("caller");
-        QTest::addColumn<QString>("email"); // "$new": a fresh account; "$unknown": an address without one
-        QTest::addColumn<QString>("role");  // empty for none
+        QTest::addColumn<bool>("account"); // whether the address has an account
+        QTest::addColumn<QString>("role");
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("code");
-        QTest::addColumn<QString>("outcome");
-        QTest::addColumn<QString>("invitee"); // who the address belongs to, when not a fresh account
 
-        auto row = [](const char *name, const char *caller, const char *email, const char *role, int status,
-                      const char *code, const char *outcome = "", const char *invitee = "") {
-            QTest::newRow(name) << QString::fromLatin1(caller) << QString::fromLatin1(email)
-                                << QString::fromLatin1(role) << status << QString::fromLatin1(code)
-                                << QString::fromLatin1(outcome) << QString::fromLatin1(invitee);
+        auto row = [](const char *name, const char *caller, bool account, const char *role, int status,
+                      const char *code) {
+            QTest::newRow(name) << QString::fromLatin1(caller) << account << QString::fromLatin1(role) << status
+                                << QString::fromLatin1(code);
         };
-        row("owner invites a viewer", "olga", "$new", "viewer", 200, "", "invited");
-        row("owner invites an owner", "olga", "$new", "owner", 200, "", "invited");
-        row("editor invites an editor", "eddy", "$new", "editor", 200, "", "invited");
-        row("a member again, whatever the case and spaces", "olga", "  EDDY@Example.NL ", "viewer", 200, "",
-            "already_member", "eddy");
-        row("an address without an account", "olga", "$unknown", "viewer", 200, "", "no_account");
-        row("editor cannot make an owner", "eddy", "$new", "owner", 403, "42501");
-        row("viewer cannot invite", "vera", "$new", "viewer", 403, "42501");
-        row("outsider cannot invite", "stranger", "$new", "viewer", 403, "42501");
+        row("owner invites an owner", "olga", true, "owner", 200, "");
+        row("editor invites an editor", "eddy", true, "editor", 200, "");
+        row("editor cannot make an owner", "eddy", true, "owner", 403, "42501");
         // Rights come first, so an outsider cannot probe which addresses have accounts.
-        row("outsider learns nothing about an address", "stranger", "$unknown", "viewer", 403, "42501");
-        row("viewer with an unknown role is still refused for rights", "vera", "$new", "admin", 403, "42501");
-        row("unknown role", "olga", "$new", "admin", 400, "22023");
-        row("no role", "olga", "$new", "", 400, "22023");
-        row("anonymous caller", "anon", "$new", "viewer", 401, "42501");
+        row("outsider learns nothing about an address", "stranger", false, "viewer", 403, "42501");
+        row("viewer with an unknown role is still refused for rights", "vera", true, "admin", 403, "42501");
+        row("unknown role", "olga", true, "admin", 400, "22023");
+        row("anonymous caller", "anon", true, "viewer", 401, "42501");
     }
 
     void invitations()
     {
         QFETCH(QString, caller);
-        QFETCH(QString, email);
+        QFETCH(bool, account);
         QFETCH(QString, role);
         QFETCH(int, status);
-        QFETCH(QString, outcome);
-        QFETCH(QString, invitee);
 
         const QByteArray team = id(u"inviteTeam"_s);
-        if (email == u"$new") {
-            invitee = newUser();
-            email = invitee + u"@example.nl"_s;
-        } else if (email == u"$unknown") {
-            email = u"nobody-%1@example.nl"_s.arg(++m_newUsers);
-        }
-        const QByteArray user = invitee.isEmpty() ? QByteArray() : id(invitee);
-        auto member = [&] {
-            return user.isEmpty() ? QByteArray()
-                                  : db().exec("SELECT coalesce((SELECT role || CASE WHEN accepted_at IS NULL THEN"
-                                              " ' pending' ELSE '' END FROM team_members"
-                                              " WHERE team_id = $1 AND user_id = $2), '')",
-                                              {team, user})
-                                        .value(0, 0);
-        };
-        auto members = [&] { return count("SELECT count(*) FROM team_members WHERE team_id = $1", {team}); };
-        const QByteArray before = member();
-        const int membersBefore = members();
+        const QString invitee = account ? newUser() : u"nobody-%1"_s.arg(++m_newUsers);
+        const int membersBefore = count("SELECT count(*) FROM team_members WHERE team_id = $1", {team});
 
-        const HttpResult result = invite(caller, team, email, role.isEmpty() ? QJsonValue() : QJsonValue(role));
+        const HttpResult result = invite(caller, team, invitee + u"@example.nl"_s, role);
         QCOMPARE(result.status, status);
         QTEST(result.code(), "code");
         QCOMPARE(!result.header("WWW-Authenticate").isEmpty(), status == 401);
-        if (!outcome.isEmpty()) {
-            QCOMPARE(result.json().object().value(u"status"_s).toString(), outcome);
-            QCOMPARE(result.json().object().value(u"user_id"_s).toString().toUtf8(), user);
+        const bool invited = status == 200;
+        if (invited) {
+            QCOMPARE(TestSecurity::status(result), u"invited"_s);
+            QCOMPARE(result.json().object().value(u"user_id"_s).toString().toUtf8(), id(invitee));
+            QCOMPARE(db().exec("SELECT role FROM team_members WHERE team_id = $1 AND user_id = $2"
+                               " AND accepted_at IS NULL",
+                               {team, id(invitee)})
+                         .value(0, 0),
+                     role.toUtf8());
         }
-        const bool invited = outcome == u"invited";
-        QCOMPARE(members(), membersBefore + (invited ? 1 : 0));
-        QCOMPARE(member(), invited ? role.toUtf8() + " pending" : before);
+        QCOMPARE(count("SELECT count(*) FROM team_members WHERE team_id = $1", {team}), membersBefore + int(invited));
     }
 
     void anInvitationGrantsNothingUntilAccepted()
@@ -972,9 +894,6 @@ private slots:
     void invoiceNumbersPerUser()
     {
         const QString year = QString::number(QDateTime::currentDateTimeUtc().date().year());
-        const HttpResult anonymous = call(u"anon"_s, "next_invoice_number");
-        QCOMPARE(anonymous.status, 401);
-        QCOMPARE(anonymous.code(), u"42501"_s);
         // Without a user there is no counter to count with.
         QCOMPARE(call(u"service"_s, "next_invoice_number").status, 403);
 
@@ -1011,9 +930,6 @@ private slots:
             << u"viewer"_s << u"teamInvoice"_s << 403 << u"42501"_s << u"invoice_not_permitted"_s;
         QTest::newRow("stranger") << u"stranger"_s << u"privateInvoice"_s << 400 << u"P0001"_s
                                   << u"invoice_not_found"_s;
-        QTest::newRow("editor on a private invoice")
-            << u"editor"_s << u"privateInvoice"_s << 400 << u"P0001"_s << u"invoice_not_found"_s;
-        QTest::newRow("anonymous") << u"anon"_s << u"teamInvoice"_s << 401 << u"42501"_s << QString();
     }
 
     void voidingNeedsTheRightToChange()
@@ -1030,7 +946,7 @@ private slots:
         const HttpResult result = call(caller, "void_invoice", {{u"p_invoice_id"_s, QString::fromLatin1(invoiceId)}});
         QTEST(result.status, "status");
         QTEST(result.code(), "code");
-        QVERIFY2(result.json().object().value(u"message"_s).toString().contains(message), result.body.constData());
+        QVERIFY(result.json().object().value(u"message"_s).toString().contains(message));
         const PgResult after = db().exec(state, {invoiceId});
         QCOMPARE(after.value(0, 0), before.value(0, 0));
         QCOMPARE(after.value(0, 1), before.value(0, 1));
@@ -1065,16 +981,11 @@ private slots:
         QCOMPARE(links(""), 1);
         QCOMPARE(call(u"owner"_s, "void_invoice", voiding).status, 204);
 
-        const QByteArray frozen = rowSnapshot("invoices", "id = '" + invoice + "'");
-        for (const QString &change :
-             {u"status=draft"_s, u"status=paid"_s, u"status=void"_s, u"notes=remark"_s, u"total=0"_s}) {
-            const HttpResult refused = send(u"owner"_s, "PATCH", "invoices?id=eq." + invoice, parseBody(change));
-            QCOMPARE(refused.status, 400);
-            QCOMPARE(refused.code(), u"P0001"_s);
-            QVERIFY2(refused.json().object().value(u"message"_s).toString().contains(u"invoice_void_final"),
-                     refused.body.constData());
-            QCOMPARE(rowSnapshot("invoices", "id = '" + invoice + "'"), frozen);
-        }
+        // Not even back to draft: the trigger looks at the status the row had.
+        const HttpResult refused = send(u"owner"_s, "PATCH", "invoices?id=eq." + invoice, {{u"status"_s, u"draft"_s}});
+        QCOMPARE(refused.status, 400);
+        QVERIFY(refused.json().object().value(u"message"_s).toString().contains(u"invoice_void_final"));
+        QCOMPARE(db().exec("SELECT status FROM invoices WHERE id = $1", {invoice}).value(0, 0), "void");
 
         // A void invoice that names a client does not stop the client from being deleted.
         QCOMPARE(send(u"owner"_s, "DELETE", "clients?id=eq." + client).json().array().size(), 1);
