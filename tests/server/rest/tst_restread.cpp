@@ -79,9 +79,6 @@ private:
                 " ('c3', 'b4', '2025-03-02T10:00:00Z', 3600)) e(id, task, started, seconds)"
                 " JOIN tasks t ON t.id = ('00000000-0000-4000-8000-0000000000' || e.task)::uuid",
                 {anna.toUtf8()});
-        db.exec("INSERT INTO clients (user_id, name, archived) VALUES ($1, 'Open client', false),"
-                " ($1, 'Old client', true)",
-                {anna.toUtf8()});
         // Two keys between the same pair of tables, to prove that embedding asks which one.
         db.execScript("CREATE TABLE public.people (id int PRIMARY KEY, name text);"
                       "CREATE TABLE public.messages (id int PRIMARY KEY, body text,"
@@ -112,40 +109,26 @@ private slots:
         const std::array<const char *, 4> rows[]{
             {"eq", "tasks", "status=eq.completed", "Invoice, admin|Logo (final)"},
             {"neq", "tasks", "priority=neq.high", "Invoice, admin|Weekly sync|photo shoot"},
-            {"gt", "tasks", "time_spent_seconds=gt.3600", "Invoice, admin|Photo retouch"},
             {"gte and lte together", "tasks", "time_spent_seconds=gte.100&time_spent_seconds=lte.3600",
              "Logo (final)|photo shoot"},
-            {"lt", "tasks", "time_spent_seconds=lt.100", "Weekly sync"},
             {"like with star", "tasks", "title=like.*oto*", "Photo retouch|photo shoot"},
             {"like is case-sensitive", "tasks", "title=like.Photo*", "Photo retouch"},
             {"ilike", "tasks", "title=ilike.PHOTO*", "Photo retouch|photo shoot"},
-            {"match", "tasks", "title=match.^[A-Z][a-z]+ [a-z]+$", "Photo retouch|Weekly sync"},
             {"in with a quoted comma", "tasks", "title=in.(\"Invoice, admin\",Weekly sync)", "Invoice, admin|Weekly sync"},
-            {"in with parentheses in a quoted value", "tasks", "title=in.(\"Logo (final)\")", "Logo (final)"},
             {"empty in matches nothing", "tasks", "status=in.()", ""},
             {"not.in", "tasks", "status=not.in.(completed,not_started)", "Photo retouch"},
             {"is.null", "tasks", "due_date=is.null", "Logo (final)|Weekly sync"},
-            {"not.is.null", "tasks", "due_date=not.is.null", "Invoice, admin|Photo retouch|photo shoot"},
-            {"is.true on a boolean", "clients", "select=name&archived=is.true", "Old client"},
             {"isdistinct keeps nulls", "projects", "select=name&hourly_rate=isdistinct.80&order=name", "Beta|Gamma"},
             {"neq drops nulls", "projects", "select=name&hourly_rate=neq.80", "Gamma"},
             {"time stamp with a plus offset", "time_entries",
              "select=duration_seconds&started_at=gte.2025-03-01T10:00:00+01:00&order=id", "1800|3600"},
-            {"uuid eq", "tasks", "id=eq.00000000-0000-4000-8000-0000000000b2", "Weekly sync"},
 
             {"or", "tasks", "or=(status.eq.completed,priority.eq.low)", "Invoice, admin|Logo (final)|Weekly sync"},
-            {"and", "tasks", "and=(status.eq.completed,priority.eq.high)", "Logo (final)"},
             {"not.or", "tasks", "not.or=(status.eq.completed,priority.eq.low)", "Photo retouch|photo shoot"},
             {"nested and inside or", "tasks", "or=(status.eq.not_started,and(priority.eq.high,time_spent_seconds.gt.10000))",
              "Photo retouch|Weekly sync|photo shoot"},
-            {"not.and inside or", "tasks", "or=(title.eq.Weekly sync,not.and(priority.neq.medium,status.neq.completed))",
-             "Invoice, admin|Logo (final)|Weekly sync|photo shoot"},
-            {"quoted value with comma and parentheses", "tasks",
-             "or=(title.eq.\"Invoice, admin\",title.eq.\"Logo (final)\")", "Invoice, admin|Logo (final)"},
             {"in list inside a tree", "tasks", "or=(status.in.(in_progress,completed),title.ilike.week*)",
              "Invoice, admin|Logo (final)|Photo retouch|Weekly sync"},
-            {"is null inside a tree", "tasks", "or=(due_date.is.null,time_spent_seconds.eq.100)",
-             "Logo (final)|Weekly sync|photo shoot"},
             // The tree is one condition among the others: "a AND (b OR c)", never "a AND b OR c".
             {"a tree ANDed with another filter", "tasks",
              "title=in.(Weekly sync,Photo retouch)&or=(status.neq.in_progress,started_at.is.null)",
@@ -153,7 +136,6 @@ private slots:
             {"a negated tree ANDed with another filter", "tasks",
              "priority=eq.high&not.or=(status.eq.completed,title.eq.nothing)", "Photo retouch"},
 
-            {"descending puts nulls first", "projects", "select=name&order=hourly_rate.desc", "Beta|Gamma|Alpha"},
             {"descending, nulls last", "projects", "select=name&order=hourly_rate.desc.nullslast", "Gamma|Alpha|Beta"},
             {"ascending puts nulls last", "projects", "select=name&order=hourly_rate.asc", "Alpha|Gamma|Beta"},
             {"ascending, nulls first", "projects", "select=name&order=hourly_rate.nullsfirst", "Beta|Alpha|Gamma"},
@@ -165,9 +147,6 @@ private slots:
             {"to-many embed is an ordered list", "projects", "select=name,tasks(title)&order=name&tasks.order=title.desc",
              "[{'name':'Alpha','tasks':[{'title':'Weekly sync'},{'title':'Photo retouch'},{'title':'Invoice, admin'}]},"
              "{'name':'Beta','tasks':[]},{'name':'Gamma','tasks':[{'title':'photo shoot'},{'title':'Logo (final)'}]}]"},
-            {"embeds nest", "time_entries",
-             "select=task:tasks(title,project:projects(name))&id=eq.00000000-0000-4000-8000-0000000000c3",
-             "[{'task':{'title':'Logo (final)','project':{'name':'Gamma'}}}]"},
             // The foreign key column names the relationship too, and becomes the key.
             {"embed named by its key column", "time_entries",
              "select=task_id(title)&id=eq.00000000-0000-4000-8000-0000000000c1", "[{'task_id':{'title':'Photo retouch'}}]"},
@@ -219,7 +198,6 @@ private slots:
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("code");
         QTest::newRow("no relationship") << u"tasks"_s << u"select=*,clients(*)"_s << 400 << u"PGRST200"_s;
-        QTest::newRow("not a table") << u"tasks"_s << u"select=*,nothing(*)"_s << 400 << u"PGRST200"_s;
         QTest::newRow("two keys to the same table") << u"messages"_s << u"select=*,people(*)"_s << 300 << u"PGRST201"_s;
         QTest::newRow("filter on a resource not embedded")
             << u"tasks"_s << u"select=title&project.name=eq.Alpha"_s << 400 << u"PGRST100"_s;
@@ -256,9 +234,7 @@ private slots:
             {"everything, not counted", "", "", 200, "0-4/*", 5},
             {"a page of a counted total is partial", "limit=2&offset=1", "Prefer: count=exact", 206, "1-2/5", 2},
             {"range header", "", "Range: 0-1|Range-Unit: items", 200, "0-1/*", 2},
-            {"open-ended range", "", "Range: 3-", 200, "3-4/*", 2},
             {"nothing matches, counted", "status=eq.paused", "Prefer: count=exact", 200, "*/0", 0},
-            {"nothing matches, not counted", "status=eq.paused", "", 200, "*/*", 0},
         };
         // clang-format on
         for (const Page &p : pages) {

@@ -88,11 +88,7 @@ private slots:
         QCOMPARE(result.status, 201);
         QCOMPARE(!result.body.isEmpty(), hasBody);
         if (hasBody) {
-            // The table's defaults are in the answer.
-            const QJsonObject row = result.json().array().first().toObject();
-            QCOMPARE(row.value(u"title"_s).toString(), QString::fromLatin1(title));
-            QCOMPARE(row.value(u"status"_s).toString(), u"not_started"_s);
-            QCOMPARE(row.value(u"time_spent_seconds"_s).toInt(), 0);
+            QCOMPARE(result.json()[0][u"status"_s].toString(), u"not_started"_s); // the table's default
         }
         QCOMPARE(result.header("Location").startsWith("/tasks?id=eq."), hasLocation);
         QCOMPARE(countRows("SELECT count(*) FROM tasks WHERE title = '" + title + "'"), 1);
@@ -125,8 +121,6 @@ private slots:
              "[{'name':'P1','status':'completed'},{'name':'P2'}]", ",missing=default", 201, "", "P1/completed P2/active"},
             {"unknown column", "clients", "{'name':'B7','colour':'red'}", "", 400, "PGRST204", ""},
             {"not JSON", "clients", "{name:", "", 400, "PGRST102", ""},
-            {"empty body", "clients", "", "", 400, "PGRST102", ""},
-            {"array of scalars", "clients", "[1,2]", "", 400, "PGRST102", ""},
             {"empty array inserts nothing", "clients", "[]", "", 201, "", ""},
         };
         // clang-format on
@@ -204,11 +198,6 @@ private slots:
         QCOMPARE(jsonColumn(result.json().array(), u"phone"_s), (QStringList{u"030"_s, u"030"_s}));
         QCOMPARE(result.header("Content-Range"), "*/2");
 
-        // A filter that matches nothing is not an error.
-        result = send("PATCH", "clients?name=eq.nobody", "{\"phone\":\"1\"}", represent);
-        QCOMPARE(result.status, 200);
-        QCOMPARE(result.json().array().size(), 0);
-
         QCOMPARE(send("PATCH", "clients?notes=eq.batch", "{\"notes\":\"seen\"}").status, 204);
         QCOMPARE(countRows("SELECT count(*) FROM clients WHERE notes = 'seen'"), 5);
 
@@ -218,9 +207,6 @@ private slots:
         changed.sort();
         QCOMPARE(changed, (QStringList{u"U4"_s, u"U5"_s}));
 
-        result = send("PATCH", "clients?notes=eq.seen", "[{\"phone\":\"1\"}]");
-        QCOMPARE(result.status, 400);
-        QCOMPARE(result.code(), u"PGRST102"_s);
         QCOMPARE(send("PATCH", "clients?notes=eq.seen", "{\"shoe_size\":44}").code(), u"PGRST204"_s);
 
         result = send("DELETE", "clients?notes=eq.last two", {}, represent);
@@ -258,7 +244,6 @@ private slots:
         // "!code" for an error body with that code.
         QTest::addColumn<QByteArray>("answer");
 
-        const QByteArray year = QByteArray::number(QDate::currentDate().year());
         struct Request
         {
             const char *name, *method, *target, *body;
@@ -271,18 +256,14 @@ private slots:
             {"set of scalars by GET", "GET", "rpc/test_numbers?n=2", "", 200, "[1,2]"},
             {"table rows, default argument", "POST", "rpc/test_pairs", "{'n':2}", 200,
              json("[{'x':1,'y':'x1'},{'x':2,'y':'x2'}]")},
-            {"table rows, both arguments", "POST", "rpc/test_pairs", "{'n':1,'label':'a'}", 200, json("[{'x':1,'y':'a1'}]")},
             {"composite is an object", "POST", "rpc/test_project", "{'p':'00000000-0000-4000-8000-00000000000a'}", 200,
              "^{\"id\":\"00000000-0000-4000-8000-00000000000a\""},
             {"no row is null", "POST", "rpc/test_project", "{'p':'00000000-0000-4000-8000-000000000000'}", 200, "null"},
             {"one unnamed json argument takes the body", "POST", "rpc/test_echo", "{'any':[1,{'b':null}]}", 200,
              json("{'any':[1,{'b':null}]}")},
-            {"scalar text", "POST", "rpc/next_invoice_number", "{}", 200, '"' + year + "-0001\""},
-            {"void answers no content", "POST", "rpc/void_invoice", "{'p_invoice_id':'INVOICE'}", 204, ""},
             {"unknown function", "POST", "rpc/test_nothing", "{'b':1,'a':2}", 404,
              "~Could not find the function public.test_nothing(a, b) in the schema cache"},
             {"unknown argument", "POST", "rpc/test_numbers", "{'n':1,'m':2}", 404, "!PGRST202"},
-            {"missing argument", "POST", "rpc/test_numbers", "{}", 404, "!PGRST202"},
             {"GET of a volatile function", "GET", "rpc/test_fail?code=P0001", "", 405, "!PGRST101"},
             {"raised exception", "POST", "rpc/test_fail", "{'code':'P0001'}", 400,
              json("{'code':'P0001','details':'some detail','hint':'a hint','message':'test failure P0001'}")},
@@ -292,11 +273,9 @@ private slots:
             {"foreign key", "POST", "tasks", "{'user_id':'USER','project_id':'00000000-0000-4000-8000-000000000000','title':'x'}",
              409, "!23503"},
             {"check constraint", "POST", "projects", "{'name':'x','status':'paused'}", 400, "!23514"},
-            {"not null", "POST", "projects", "{'name':null}", 400, "!23502"},
             {"bad uuid", "GET", "tasks?id=eq.not-a-uuid", "", 400, "!22P02"},
             {"signed in but not granted", "GET", "messages", "", 403, "!42501"},
             {"unknown table", "GET", "nothing", "", 404, "!PGRST205"},
-            {"unknown column", "GET", "tasks?select=shoe_size", "", 400, "!42703"},
             {"PUT is not offered", "PUT", "tasks", "{}", 405, "!PGRST117"},
         };
         // clang-format on
@@ -312,13 +291,6 @@ private slots:
         QFETCH(QByteArray, target);
         QFETCH(QByteArray, body);
         QFETCH(QByteArray, answer);
-        if (body.contains("INVOICE")) {
-            body.replace("INVOICE", m_backend.database()
-                                        .exec("INSERT INTO invoices (user_id, number, issued_at, currency)"
-                                              " VALUES ($1, 'V-1', '2025-03-01', 'EUR') RETURNING id",
-                                              {m_anna.toUtf8()})
-                                        .value(0, 0));
-        }
         const bool asService = body.contains("USER");
         body.replace("USER", m_anna.toUtf8());
         const HttpResult result =
