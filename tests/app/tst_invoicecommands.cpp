@@ -97,8 +97,8 @@ private slots:
     {
         QTest::addColumn<QString>("arguments");
         for (const char *arguments :
-             {"", "send 2026-0001", "show", "status 2026-0001 overdue", "status 2026-0001", "pdf 2026-0001",
-              "create Town --status paid", "draft Town --vat lots", "draft Town --from 2026-05-01 --to 2026-04-01"}) {
+             {"", "send 2026-0001", "show", "status 2026-0001 overdue", "create Town --status paid",
+              "draft Town --vat lots", "draft Town --from 2026-05-01 --to 2026-04-01"}) {
             QTest::newRow(*arguments ? arguments : "no action") << QString::fromLatin1(arguments);
         }
     }
@@ -108,29 +108,23 @@ private slots:
         QFETCH(QString, arguments);
         const Run run = ann(QString(u"invoice "_s + arguments).trimmed());
         QCOMPARE(run.code, 2);
-        QVERIFY2(run.err.contains(u"Usage: morvane invoice"_s), qPrintable(run.err));
+        QVERIFY(run.err.contains(u"Usage: morvane invoice"_s));
     }
 
     void listShowAndPdf()
     {
         addInvoice("2026-0001", "2026-02-28", false);
         addInvoice("2026-0002", "2026-03-31", true);
-        const QJsonArray rows = ann(u"invoice list --json"_s).json().array();
-        QCOMPARE(jsonColumn(rows, u"number"_s).mid(0, 2), (QStringList{u"2026-0002"_s, u"2026-0001"_s}));
-        QCOMPARE(rows[0][u"total"_s].toDouble(), 344.85);
+        QCOMPARE(jsonColumn(ann(u"invoice list --json"_s).json().array(), u"number"_s).mid(0, 2),
+                 (QStringList{u"2026-0002"_s, u"2026-0001"_s}));
         const QString line = ann(u"invoice list"_s).out.section(u'\n', 0, 0);
-        QVERIFY2(line.startsWith(u"2026-0002"_s) && line.contains(u"draft"_s) && line.contains(u"Gemeente Houten"_s),
-                 qPrintable(line));
+        QVERIFY2(line.startsWith(u"2026-0002"_s) && line.contains(u"Gemeente Houten"_s), qPrintable(line));
 
         const QJsonObject invoice = ann(u"invoice show 2026-0002 --json"_s).object();
-        QCOMPARE(invoice[u"due_at"_s].toString(), u"2026-04-14"_s);
         QCOMPARE(jsonColumn(invoice[u"lines"_s].toArray(), u"title"_s), (QStringList{u"Support"_s, u"Call-out fee"_s}));
         const QString text = ann(u"invoice show 2026-0002"_s).out;
         QVERIFY2(text.startsWith(u"Invoice 2026-0002 (draft), issued 2026-03-31, due 2026-04-14"_s), qPrintable(text));
-        QVERIFY(text.indexOf(u"Support"_s) < text.indexOf(u"Call-out fee"_s) && text.contains(u"Total"_s));
-        const Run unknown = ann(u"invoice show 1999-0001"_s);
-        QCOMPARE(unknown.code, 1);
-        QCOMPARE(unknown.err, u"No invoice matches 1999-0001.\n"_s);
+        QCOMPARE(ann(u"invoice show 1999-0001"_s).err, u"No invoice matches 1999-0001.\n"_s);
 
         const QString file = ann.homeFile(u"invoice.pdf"_s);
         QCOMPARE(ann(u"invoice pdf 2026-0002 --out "_s + file).out,
@@ -140,7 +134,7 @@ private slots:
         const QString none = ann.homeFile(u"none.pdf"_s);
         const Run missing = ann(u"invoice pdf 2026-0001 --out "_s + none);
         QCOMPARE(missing.code, 1);
-        QVERIFY2(missing.err.contains(u"The invoice PDF could not be opened"_s), qPrintable(missing.err));
+        QVERIFY(missing.err.contains(u"The invoice PDF could not be opened"_s));
         QVERIFY(!QFile::exists(none));
     }
 
@@ -148,49 +142,36 @@ private slots:
     {
         const QByteArray id = addInvoice("2026-0003", "2026-03-15", false);
         QCOMPARE(ann(u"invoice status 2026-0003 sent"_s).out, u"Invoice 2026-0003 is now sent.\n"_s);
-        QCOMPARE(sql("SELECT status FROM invoices WHERE id = $1", {id}), "sent");
         QCOMPARE(ann(u"invoice void 2026-0003"_s).out, u"Invoice 2026-0003 is void; its hours are unbilled again.\n"_s);
         QCOMPARE(sql("SELECT status FROM invoices WHERE id = $1", {id}), "void");
         // The store's refusal, in its words.
         const Run back = ann(u"invoice status 2026-0003 paid"_s);
         QCOMPARE(back.code, 1);
-        QVERIFY2(back.err.contains(u"This invoice is void. A void invoice cannot be changed back."_s),
-                 qPrintable(back.err));
+        QVERIFY(back.err.contains(u"This invoice is void. A void invoice cannot be changed back."_s));
 
         const QByteArray other = addInvoice("2026-0100", "2026-03-20", false);
         QCOMPARE(ann(u"invoice rm "_s + QString::fromLatin1(other.left(8))).out,
                  u"Invoice 2026-0100 deleted; its hours are unbilled again.\n"_s);
         QCOMPARE(sql("SELECT count(*) FROM invoices WHERE id = $1", {other}), "0");
-        QCOMPARE(ann(u"invoice rm 2026-0100"_s).code, 1);
     }
 
-    void draftShowsWhatASaveWouldWrite()
-    {
-        addProjectWithTime("Harbour");
-        const QJsonObject draft = ann(u"invoice draft Harbour --to 2026-03-31 --vat 21 --json"_s).object();
-        QCOMPARE(draft[u"from"_s].toString(), u"2026-03-03"_s);
-        QCOMPARE(draft[u"to"_s].toString(), u"2026-03-31"_s);
-        QCOMPARE(draft[u"entry_ids"_s].toArray().size(), 2);
-        QCOMPARE(draft[u"subtotal"_s].toDouble(), 1320.0);
-        QCOMPARE(draft[u"vat_amount"_s].toDouble(), 277.2);
-        QCOMPARE(draft[u"total"_s].toDouble(), 1597.2);
-        QCOMPARE(ann(u"invoice draft Harbour --from 2026-05-01"_s).out,
-                 u"No unbilled time of Harbour in this period.\n"_s);
-    }
-
-    void createRendersAndSaves()
+    void draftThenCreate()
     {
         addProjectWithTime("Quay");
+        const QJsonObject draft = ann(u"invoice draft Quay --to 2026-03-31 --vat 21 --json"_s).object();
+        QCOMPARE(draft[u"from"_s].toString(), u"2026-03-03"_s);
+        QCOMPARE(draft[u"entry_ids"_s].toArray().size(), 2);
+        QCOMPARE(draft[u"total"_s].toDouble(), 1597.2);
+        QCOMPARE(ann(u"invoice draft Quay --from 2026-05-01"_s).out, u"No unbilled time of Quay in this period.\n"_s);
+
         const QString call =
             u"invoice|create|Quay|--to|2026-03-31|--vat|21|--status|sent|--client|Port authority|--json"_s;
         const Run run = ann(call);
         const QJsonObject invoice = run.object();
         const QByteArray id = invoice[u"id"_s].toString().toLatin1();
         QVERIFY2(!id.isEmpty(), qPrintable(run.err));
-        QCOMPARE(invoice[u"total"_s].toDouble(), 1597.2);
         QCOMPARE(sql("SELECT status || '|' || client_name || '|' || total FROM invoices WHERE id = $1", {id}),
                  "sent|Port authority|1597.2");
-        QCOMPARE(sql("SELECT count(*) FROM invoice_entries WHERE invoice_id = $1 AND live", {id}), "2");
         QCOMPARE(sql("SELECT string_agg(order_index::text, ',' ORDER BY order_index) FROM invoice_lines "
                      "WHERE invoice_id = $1",
                      {id}),
@@ -220,9 +201,7 @@ private slots:
         text.start(u"pdftotext"_s, {file, u"-"_s});
         QVERIFY(text.waitForFinished(30000));
         const QString words = QString::fromUtf8(text.readAllStandardOutput());
-        QVERIFY2(words.contains(u"Support"_s) && words.contains(u"2026-0101"_s) && words.contains(u"344.85"_s),
-                 qPrintable(words));
-        QCOMPARE(ann(u"invoice replace-pdf 2099-0001"_s).code, 1);
+        QVERIFY2(words.contains(u"Support"_s) && words.contains(u"344.85"_s), qPrintable(words));
     }
 };
 
