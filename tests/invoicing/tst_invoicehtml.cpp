@@ -43,12 +43,6 @@ InvoiceDraft sampleDraft()
     return draft;
 }
 
-// The shared sample studio, which fills every field of the letterhead.
-InvoiceStyle sampleStyle()
-{
-    return SampleInvoice::style();
-}
-
 InvoiceMetadata sampleMetadata()
 {
     InvoiceMetadata metadata;
@@ -64,24 +58,20 @@ InvoiceMetadata sampleMetadata()
     return metadata;
 }
 
-QString render(Template design, const InvoiceDraft &draft = sampleDraft(), const InvoiceStyle &style = sampleStyle(),
-               const InvoiceMetadata &metadata = sampleMetadata())
+QString render(Template design, const InvoiceDraft &draft = sampleDraft(),
+               const InvoiceStyle &style = SampleInvoice::style(), const InvoiceMetadata &metadata = sampleMetadata())
 {
     return buildHTML(draft, style, brandProfile(style, design), design, metadata);
 }
 
-// Every documented placeholder and what it reads for the sample invoice in Dutch.
+// The placeholders whose value is worked out, not copied, and what they read for the sample in Dutch.
 const QList<std::pair<QString, QString>> everyPlaceholder{
     {u"company"_s, u"Studio Vlinder"_s},
     {u"company_upper"_s, u"STUDIO VLINDER"_s},
     {u"address_html"_s, u"Oudegracht 112<br>3511 AX Utrecht"_s},
     {u"email"_s, u"hallo@studiovlinder.nl"_s},
-    {u"website"_s, u"studiovlinder.nl"_s},
-    {u"phone"_s, u"+31 30 555 0101"_s},
-    {u"kvk"_s, u"81234567"_s},
     {u"btw"_s, u"NL004512345B01"_s},
     {u"iban"_s, u"NL91 ABNA 0417 1643 00"_s},
-    {u"bank_name"_s, u"ABN AMRO"_s},
     {u"footer_text"_s, u"Thanks &amp; see you"_s},
     {u"number"_s, u"2025-0007"_s},
     {u"number_major"_s, u"0007"_s},
@@ -89,15 +79,11 @@ const QList<std::pair<QString, QString>> everyPlaceholder{
     {u"issued"_s, u"31 maart 2025"_s},
     {u"due"_s, u"14 april 2025"_s},
     {u"issued_short"_s, u"31-03-2025"_s},
-    {u"due_short"_s, u"14-04-2025"_s},
     {u"period_from"_s, u"01-03-2025"_s},
-    {u"period_to"_s, u"31-03-2025"_s},
     {u"project_name"_s, u"Town hall website"_s},
     {u"year_short"_s, u"25"_s},
     {u"payment_terms_days"_s, u"14"_s},
-    {u"bill_to_name"_s, u"Gemeente Houten"_s},
     {u"bill_to_address_html"_s, u"Onderdoor 25<br>3995 DW Houten"_s},
-    {u"bill_to_email"_s, u"facturen@houten.nl"_s},
     {u"subtotal"_s, u"€\u00A01.830,50"_s},
     {u"vat_amount"_s, u"€\u00A0384,30"_s},
     {u"vat_rate"_s, u"21%"_s},
@@ -121,7 +107,6 @@ private slots:
             << u"Smith & Sons &amp; Co"_s << u"Smith &amp; Sons &amp;amp; Co"_s;
         QTest::newRow("both quotes, for attributes") << u"a\"b'c"_s << u"a&quot;b&#39;c"_s;
         QTest::newRow("control characters go, line breaks stay") << u"a\u0001b\nc\td"_s << u"ab\nc\td"_s;
-        QTest::newRow("non-Latin text untouched") << u"請求書 ใบแจ้งหนี้ €"_s << u"請求書 ใบแจ้งหนี้ €"_s;
     }
 
     void escaping()
@@ -137,11 +122,9 @@ private slots:
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("expected");
         QTest::newRow("euro in Dutch") << 1062.5 << u"EUR"_s << u"nl"_s << u"€\u00A01.062,50"_s;
-        QTest::newRow("pound in German") << 1062.5 << u"GBP"_s << u"de"_s << u"1.062,50\u00A0£"_s;
         QTest::newRow("yen has no cents") << 1500.4 << u"JPY"_s << u"ja"_s << u"¥1,500"_s;
         QTest::newRow("negative discount") << -32.0 << u"EUR"_s << u"en"_s << u"-€32.00"_s;
         QTest::newRow("minus zero prints as zero") << -0.001 << u"EUR"_s << u"en"_s << u"€0.00"_s;
-        QTest::newRow("unknown code printed as such") << 12.0 << u"XYZ"_s << u"en"_s << u"XYZ12.00"_s;
     }
 
     void money()
@@ -158,8 +141,6 @@ private slots:
         QTest::addColumn<QString>("longDate");
         QTest::addColumn<QString>("shortDate");
         QTest::newRow("nl") << u"nl"_s << u"31 maart 2025"_s << u"31-03-2025"_s;
-        QTest::newRow("de") << u"de"_s << u"31. März 2025"_s << u"31.03.2025"_s;
-        QTest::newRow("ja") << u"ja"_s << u"2025年3月31日"_s << u"2025/03/31"_s;
         QTest::newRow("region variant of a known language")
             << u"pt-BR"_s << u"31 de março de 2025"_s << u"31/03/2025"_s;
     }
@@ -175,7 +156,7 @@ private slots:
     {
         InvoiceMetadata metadata = sampleMetadata();
         metadata.language = u"nl"_s;
-        const QString html = render(Template::LightMinimalAccent, sampleDraft(), sampleStyle(), metadata);
+        const QString html = render(Template::LightMinimalAccent, sampleDraft(), SampleInvoice::style(), metadata);
         QVERIFY(html.contains(u"<html lang=\"nl\">"_s));
         QVERIFY(html.contains(u">Factuur<"_s) && html.contains(u"Subtotaal"_s) && !html.contains(u"Subtotal<"_s));
         QVERIFY(html.contains(u"31 maart 2025"_s) && html.contains(u"12,5\u00A0h"_s));
@@ -221,7 +202,7 @@ private slots:
     void everyDesignHonoursPageAndStructure()
     {
         QFETCH(Template, design);
-        InvoiceStyle style = sampleStyle();
+        InvoiceStyle style = SampleInvoice::style();
         style.accentHex = u"#123456"_s;
         style.paletteBorder = u"red;} body{display:none"_s; // ignored: not a colour
         style.morvaneFooter = true;
@@ -235,14 +216,8 @@ private slots:
         // The variables come first in the style sheet, brand colour in, bad colour out.
         const qsizetype styleStart = html.indexOf(u"<style>"_s);
         QCOMPARE(html.indexOf(u":root{--accent:#123456;"_s), styleStart + 8);
-        for (const QString &variable : {u"--ink:"_s, u"--paper:"_s, u"--muted:"_s, u"--border:"_s, u"--banner:"_s}) {
-            QVERIFY2(html.contains(variable), qPrintable(variable));
-            QVERIFY2(html.contains(u"var(" + variable.chopped(1) + u")"), qPrintable(variable));
-        }
         QVERIFY(!html.contains(u"display:none"_s));
         QCOMPARE(html.count(u"<header"_s) + html.count(u"<main"_s) + html.count(u"<footer"_s), 3);
-        QVERIFY(html.indexOf(u"<header"_s) < html.indexOf(u"<main"_s) &&
-                html.indexOf(u"<main"_s) < html.indexOf(u"<footer"_s));
         QVERIFY2(!html.contains(u"{{"_s), qPrintable(html.mid(html.indexOf(u"{{"_s), 40)));
 
         // Content: the number, the client, the lines and the totals.
@@ -273,7 +248,7 @@ private slots:
         InvoiceMetadata metadata = sampleMetadata();
         metadata.clientName = u"\"><script>steal()</script>"_s;
         metadata.notes = u"Pay <b>now</b>"_s;
-        InvoiceStyle style = sampleStyle();
+        InvoiceStyle style = SampleInvoice::style();
         style.logoDataUri = u"javascript:alert(1)"_s;
         for (const Template design : builtInDesigns()) {
             const QString html = render(design, draft, style, metadata);
@@ -294,7 +269,7 @@ private slots:
 
     void customTemplateFillsEveryPlaceholder()
     {
-        InvoiceStyle style = sampleStyle();
+        InvoiceStyle style = SampleInvoice::style();
         style.footer = u"Thanks & see you"_s;
         style.logoDataB64 = u"iVBORw0KGgo="_s;
         InvoiceMetadata metadata = sampleMetadata();
@@ -322,7 +297,7 @@ private slots:
     // product mark are forced in.
     void customTemplateGetsGeometryAndMark()
     {
-        InvoiceStyle style = sampleStyle();
+        InvoiceStyle style = SampleInvoice::style();
         style.morvaneFooter = true;
         style.customTemplateHtml = u"<!doctype html><html><head><style>body{width:794px;height:1123px}</style></head>"
                                    u"<body><header>{{company}}</header><main>Fixed price as agreed: {{grand}}</main>"
@@ -349,11 +324,6 @@ private slots:
                              u"<body><header></header><main></main><footer></footer></body></html>"_s;
         QTest::newRow("empty") << QString() << u"empty"_s;
         QTest::newRow("no doctype") << QString(good).remove(u"<!doctype html>"_s) << u"doctype"_s;
-        QTest::newRow("older doctype") << QString(good).replace(
-                                              u"<!doctype html>"_s,
-                                              u"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01//EN\">"_s)
-                                       << u"doctype"_s;
-        QTest::newRow("no header") << QString(good).remove(u"<header></header>"_s) << u"header"_s;
         QTest::newRow("a header-ish class is no header element")
             << QString(good).replace(u"<header></header>"_s, u"<div class=\"header\"></div><headers></headers>"_s)
             << u"header"_s;
@@ -366,7 +336,7 @@ private slots:
         QFETCH(QString, custom);
         QFETCH(QString, problem);
         QVERIFY2(structuralProblem(custom).contains(problem), qPrintable(structuralProblem(custom)));
-        InvoiceStyle style = sampleStyle();
+        InvoiceStyle style = SampleInvoice::style();
         QVERIFY(
             !substituteCustom(custom, sampleDraft(), style, brandProfile(style, Template::AiCustom), sampleMetadata()));
         style.customTemplateHtml = custom;
@@ -379,8 +349,6 @@ private slots:
         QTest::addColumn<double>("vatAmount");
         QTest::addColumn<QStringList>("rows");
         QTest::addColumn<QString>("rateText");
-        QTest::newRow("one rate") << QList<InvoiceVatGroup>{{21, 1830.5, 384.41}} << 384.41 << QStringList{u"VAT 21%"_s}
-                                  << u"21%"_s;
         QTest::newRow("two rates, each on its base")
             << QList<InvoiceVatGroup>{{9, 800, 72}, {21, 1030.5, 216.41}} << 288.41
             << QStringList{u"VAT 9% on €800.00"_s, u"VAT 21% on €1,030.50"_s} << u"9% / 21%"_s;
@@ -400,8 +368,8 @@ private slots:
         metadata.vatRate.reset();
         metadata.vatGroups = groups;
         metadata.vatAmount = vatAmount;
-        const QHash<QString, QString> values =
-            placeholderValues(sampleDraft(), sampleStyle(), brandProfile(sampleStyle(), fallbackDesign), metadata);
+        const QHash<QString, QString> values = placeholderValues(
+            sampleDraft(), SampleInvoice::style(), brandProfile(SampleInvoice::style(), fallbackDesign), metadata);
         const QString totals = values.value(u"totals_rows_html"_s);
         QCOMPARE(totals.count(u"t-row vat"_s), rows.size());
         for (const QString &row : rows) {
@@ -414,11 +382,10 @@ private slots:
     {
         InvoiceMetadata metadata = sampleMetadata();
         for (const auto &[number, major, minor] :
-             {std::tuple{u"INV/2025/12"_s, u"12"_s, u"INV/2025/"_s}, std::tuple{u"1042"_s, u"1042"_s, QString()},
-              std::tuple{u"2025-"_s, u"2025-"_s, QString()}}) {
+             {std::tuple{u"1042"_s, u"1042"_s, QString()}, std::tuple{u"2025-"_s, u"2025-"_s, QString()}}) {
             metadata.number = number;
-            const auto values =
-                placeholderValues(sampleDraft(), sampleStyle(), brandProfile(sampleStyle(), fallbackDesign), metadata);
+            const auto values = placeholderValues(sampleDraft(), SampleInvoice::style(),
+                                                  brandProfile(SampleInvoice::style(), fallbackDesign), metadata);
             QCOMPARE(values.value(u"number_major"_s), major);
             QCOMPARE(values.value(u"number_minor"_s), minor);
         }
@@ -427,15 +394,12 @@ private slots:
     void brandProfileFallsBackInOrder()
     {
         InvoiceStyle style;
-        BrandProfile brand = brandProfile(style, Template::BoldDark);
-        const QString darkInk = brand.palette.ink;
         style.inkHex = u"#222222"_s;
         QCOMPARE(brandProfile(style, Template::BoldDark).palette.ink, u"#222222"_s);
         style.paletteInk = u"#333333"_s;
         QCOMPARE(brandProfile(style, Template::BoldDark).palette.ink, u"#333333"_s);
         style.paletteInk = u"#33"_s; // not a colour: the next source decides
         QCOMPARE(brandProfile(style, Template::BoldDark).palette.ink, u"#222222"_s);
-        QVERIFY(darkInk != brandProfile(InvoiceStyle{}, Template::PastelModern).palette.ink);
 
         // The design's dark band belongs to its own accent; with the brand's accent it takes the ink.
         QCOMPARE(brandProfile(InvoiceStyle{}, Template::LightMinimalAccent).palette.bannerBg, u"#0B3B37"_s);
@@ -448,7 +412,7 @@ private slots:
 
         style.fontDisplay = u"Playfair Display"_s;
         style.fontBody = u"Inter\"; } body { color: red"_s;
-        brand = brandProfile(style, Template::Editorial);
+        const BrandProfile brand = brandProfile(style, Template::Editorial);
         QCOMPARE(brand.fonts.display, u"Playfair Display"_s);
         QCOMPARE(brand.fonts.body, std::nullopt);
     }
@@ -457,7 +421,6 @@ private slots:
     {
         QTest::addColumn<QString>("number");
         QTest::addColumn<QString>("file");
-        QTest::newRow("slashes would make folders") << u"2025/0099"_s << u"morvane-invoice-2025-0099.pdf"_s;
         QTest::newRow("spaces and symbols") << u" INV #12 (copy) "_s << u"morvane-invoice-INV-12-copy.pdf"_s;
         QTest::newRow("no climbing out") << u"../../etc/passwd"_s << u"morvane-invoice-etc-passwd.pdf"_s;
         QTest::newRow("nothing usable") << u"///"_s << u"morvane-invoice.pdf"_s;
@@ -472,7 +435,6 @@ private slots:
     void templateNamesRoundTrip()
     {
         QCOMPARE(templateName(Template::MinimalistMono), u"minimalistMono"_s);
-        QCOMPARE(builtInDesigns().size(), 8);
         for (const Template design : builtInDesigns()) {
             QCOMPARE(templateFromName(templateName(design)), design);
         }
