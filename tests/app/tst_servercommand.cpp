@@ -26,19 +26,15 @@ private slots:
         const QString stopped = u"The local backend is not running.\nData folder: <dir>\n"_s;
         const QString any;
         QTest::newRow("config") << u"config --json"_s << 0 << any << QString();
-        QTest::newRow("help") << u"--help"_s << 0 << any << QString();
-        QTest::newRow("version") << u"--version"_s << 0 << any << QString();
         QTest::newRow("server status") << u"server status"_s << 3 << stopped << QString();
         QTest::newRow("server status, another backend in use")
             << u"SUPABASE_URL=https://team.example.org server status"_s << 3
             << stopped + u"Morvane uses https://team.example.org (environment), not the local backend.\n"_s
             << QString();
-        QTest::newRow("server status --json") << u"server status --json"_s << 3 << any << QString();
         QTest::newRow("server stop") << u"server stop"_s << 0 << any << QString();
         QTest::newRow("no action") << u"server"_s << 2 << u""_s << usage;
         QTest::newRow("unknown action") << u"server restart"_s << 2 << u""_s << usage;
         QTest::newRow("two actions") << u"server start stop"_s << 2 << u""_s << usage;
-        QTest::newRow("unknown option") << u"server status --yaml"_s << 2 << u""_s << u"Unknown option 'yaml'.\n"_s;
     }
 
     void lookingStartsNothing()
@@ -76,8 +72,6 @@ private slots:
         const auto pidOf = [](const QJsonObject &object) { return qint64(object[u"pid"_s].toDouble()); };
         const QJsonObject before = server("status", 3);
         QCOMPARE(before[u"state"_s].toString(), u"stopped"_s);
-        QCOMPARE(before[u"running"_s].toBool(true), false);
-        QVERIFY(before[u"pid"_s].isNull());
         QCOMPARE(before[u"data_dir"_s].toString(), home.localServerDir());
 
         const QJsonObject start = server("start", 0);
@@ -87,9 +81,7 @@ private slots:
         // The program that started it has ended; the server has not.
         QCOMPARE(serversOn(home.localServerDir()), QList<qint64>{pid});
         const QJsonObject running = server("status", 0);
-        QCOMPARE(running[u"state"_s].toString(), u"running"_s);
         QCOMPARE(pidOf(running), pid);
-        QCOMPARE(running[u"url"_s].toString(), url);
         QCOMPARE(running[u"in_use"_s].toBool(), true);
         // What the application will talk to is that server, and it answers with that key.
         const QJsonObject config = home(u"config --json"_s).object();
@@ -100,14 +92,10 @@ private slots:
         const QJsonObject again = server("start", 0);
         QCOMPARE(again[u"started"_s].toBool(true), false);
         QCOMPARE(pidOf(again), pid);
-        const QJsonObject stop = server("stop", 0);
-        QCOMPARE(stop[u"stopped"_s].toBool(), true);
-        QCOMPARE(pidOf(stop), pid);
+        QCOMPARE(server("stop", 0)[u"stopped"_s].toBool(), true);
         QVERIFY(serversOn(home.localServerDir()).isEmpty());
         QVERIFY(!QFile::exists(home.localServerDir() + u"/postgres/postmaster.pid"_s));
-        const QJsonObject stopAgain = server("stop", 0);
-        QCOMPARE(stopAgain[u"stopped"_s].toBool(true), false);
-        QVERIFY(stopAgain[u"pid"_s].isNull());
+        QCOMPARE(server("stop", 0)[u"stopped"_s].toBool(true), false);
     }
 
     void failedStartSaysWhy()
@@ -120,7 +108,6 @@ private slots:
         blocker.close();
         const Run run = home(u"server start"_s);
         QCOMPARE(run.code, 1);
-        QVERIFY(run.out.isEmpty());
         QCOMPARE(run.err, u"Cannot write the local backend's data folder "_s + home.localServerDir() + u".\n"_s);
     }
 };
