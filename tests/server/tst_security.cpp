@@ -121,20 +121,9 @@ QString scoped(const QByteArray &table, const QString &who, const QString &scope
     return scopedFields(QString::fromLatin1(scratchRows.value(table)), who, scope);
 }
 
-// The view is written through the table it shows; what a refused write did not change is checked there.
-QByteArray storageTable(const QString &table)
-{
-    return table == u"unbilled_time_entries" ? QByteArray("time_entries") : table.toUtf8();
-}
-
 QByteArray compact(const QJsonObject &object)
 {
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
-}
-
-QByteArray teamIdOf(const HttpResult &created)
-{
-    return created.json().array().first().toObject().value(u"id"_s).toString().toUtf8();
 }
 
 } // namespace
@@ -225,7 +214,8 @@ private:
     // A team of `owner`, joined as in the application: invitations its invitees accept.
     QByteArray makeTeam(const QString &owner, const QString &name, const QList<std::pair<QString, QString>> &members)
     {
-        const QByteArray team = teamIdOf(send(owner, "POST", "teams", {{u"name"_s, name}}));
+        const QByteArray team =
+            send(owner, "POST", "teams", {{u"name"_s, name}}).json()[0][u"id"_s].toString().toUtf8();
         for (const auto &[member, role] : members) {
             const HttpResult invited = invite(
                 owner, team,
@@ -397,12 +387,7 @@ private:
             named(u"Task"_s, "tasks", u"user_id=$who project_id=$*Project title=Task"_s);
             named(u"Billed"_s, "time_entries", QString::fromLatin1(scratchRows.value("time_entries")));
             named(u"Unbilled"_s, "time_entries", QString::fromLatin1(scratchRows.value("time_entries")));
-            named(u"Client"_s, "clients", u"user_id=$who name=Client [team]"_s);
-            named(u"Template"_s, "invoice_templates", u"user_id=$who name=Template [team]"_s);
-            named(u"Invoice"_s, "invoices",
-                  u"user_id=$who [team] client_id=$*Client template_id=$*Template number=F-* issued_at=2025-03-01 "
-                  "currency=EUR"_s);
-            named(u"Line"_s, "invoice_lines", u"invoice_id=$*Invoice title=Work quantity=1 unit_price=80 amount=80"_s);
+            named(u"Invoice"_s, "invoices", u"user_id=$who [team] number=F-* issued_at=2025-03-01 currency=EUR"_s);
             named(u"Trip"_s, "trips", u"user_id=$who started_at=$time"_s);
             add("invoice_entries", scopedFields(u"invoice_id=$*Invoice time_entry_id=$*Billed"_s, who, prefix));
             add("invoice_trips", scopedFields(u"invoice_id=$*Invoice trip_id=$*Trip"_s, who, prefix));
@@ -665,7 +650,8 @@ private slots:
         const bool effect = expected == u"done";
         const int status = effect || expected == u"hidden" ? (method == "POST" ? 201 : 200) : expected.toInt();
 
-        const QByteArray stored = storageTable(table);
+        // The view is written through the table it shows; what a refused write did not change is checked there.
+        const QByteArray stored = table == u"unbilled_time_entries" ? "time_entries" : table.toUtf8();
         const QJsonObject values = method == "DELETE" ? QJsonObject() : resolve(bodyFor(table, method, body));
         const auto [condition, params] = matching(values);
         Target row;
@@ -770,11 +756,6 @@ private slots:
         QCOMPARE(read.code(), code);
         QCOMPARE(read.header("WWW-Authenticate").isEmpty(), code.isEmpty());
         if (!code.isEmpty()) {
-            // Refused means refused for writing too: the owner's project survives a delete with it.
-            const QByteArray project = id(u"privateProject"_s);
-            QCOMPARE(m_backend.request("DELETE", "/rest/v1/projects?id=eq." + project, {}, {}, authorization).status,
-                     401);
-            QCOMPARE(count("SELECT count(*) FROM projects WHERE id = $1", {project}), 1);
             return;
         }
         const QStringList visible =
@@ -847,7 +828,6 @@ private slots:
         auto sees = [&](bool member) {
             QCOMPARE(rows(invitee, "teams?id=eq." + team), member ? 1 : 0);
             QCOMPARE(rows(invitee, "projects?id=eq." + project), member ? 1 : 0);
-            QCOMPARE(rows(invitee, "profiles?id=eq." + id(u"olga"_s)), member ? 1 : 0);
             QCOMPARE(rows(u"olga"_s, "profiles?id=eq." + id(invitee)), member ? 1 : 0);
             QCOMPARE(
                 send(invitee, "PATCH", "projects?id=eq." + project, {{u"description"_s, u"x"_s}}).json().array().size(),
@@ -857,7 +837,6 @@ private slots:
         const QJsonArray waiting = call(invitee, "my_team_invitations").json().array();
         QCOMPARE(waiting.size(), 1);
         QCOMPARE(waiting.first()[u"team_name"_s].toString(), u"Pending"_s);
-        QCOMPARE(waiting.first()[u"role"_s].toString(), u"editor"_s);
         QCOMPARE(waiting.first()[u"invited_by_email"_s].toString(), u"olga@example.nl"_s);
 
         // Nobody answers for the invitee, and the invitation is the invitee's to accept.
@@ -952,47 +931,35 @@ private slots:
         QCOMPARE(after.value(0, 1), before.value(0, 1));
     }
 
-    // That the released time shows as unbilled and may be billed again is tst_invoices'.
-    void voidInvoiceReleasesItsTimeAndStaysVoid()
+    // That voiding releases the invoice's time is tst_invoices'.
+    void aVoidInvoiceStaysVoid()
     {
         const QByteArray client = add("clients", u"user_id=$owner name=Gone"_s);
         const QByteArray invoice =
             add("invoices", scoped("invoices", u"owner"_s, u"team"_s) + u" client_id="_s + QString::fromLatin1(client));
-        const QByteArray entry = add("time_entries", scoped("time_entries", u"owner"_s, u"team"_s));
         const auto cleanUp = qScopeGuard([&] {
-            db().exec("DELETE FROM time_entries WHERE id = $1", {entry});
             db().exec("DELETE FROM invoices WHERE id = $1", {invoice});
             db().exec("DELETE FROM clients WHERE id = $1", {client});
         });
-        auto links = [&](const QByteArray &condition) {
-            return count("SELECT count(*) FROM invoice_entries WHERE invoice_id = $1" + condition, {invoice});
-        };
-        QCOMPARE(
-            send(u"owner"_s, "POST", "invoice_entries",
-                 {{u"invoice_id"_s, QString::fromLatin1(invoice)}, {u"time_entry_id"_s, QString::fromLatin1(entry)}})
-                .status,
-            201);
+        auto state = [&] { return db().exec("SELECT status FROM invoices WHERE id = $1", {invoice}).value(0, 0); };
 
         // An editor of the team may void the team's invoice; voiding again changes nothing.
         const QJsonObject voiding{{u"p_invoice_id"_s, QString::fromLatin1(invoice)}};
         QCOMPARE(call(u"editor"_s, "void_invoice", voiding).status, 204);
-        QCOMPARE(db().exec("SELECT status FROM invoices WHERE id = $1", {invoice}).value(0, 0), "void");
-        QCOMPARE(links(" AND live"), 0);
-        QCOMPARE(links(""), 1);
+        QCOMPARE(state(), "void");
         QCOMPARE(call(u"owner"_s, "void_invoice", voiding).status, 204);
 
         // Not even back to draft: the trigger looks at the status the row had.
         const HttpResult refused = send(u"owner"_s, "PATCH", "invoices?id=eq." + invoice, {{u"status"_s, u"draft"_s}});
         QCOMPARE(refused.status, 400);
         QVERIFY(refused.json().object().value(u"message"_s).toString().contains(u"invoice_void_final"));
-        QCOMPARE(db().exec("SELECT status FROM invoices WHERE id = $1", {invoice}).value(0, 0), "void");
+        QCOMPARE(state(), "void");
 
         // A void invoice that names a client does not stop the client from being deleted.
         QCOMPARE(send(u"owner"_s, "DELETE", "clients?id=eq." + client).json().array().size(), 1);
-        QCOMPARE(rowSnapshot("invoices", "id = '" + invoice + "' AND status = 'void' AND client_id IS NULL").isEmpty(),
-                 false);
-        QCOMPARE(send(u"owner"_s, "DELETE", "invoices?id=eq." + invoice).json().array().size(), 1);
-        QCOMPARE(links(""), 0);
+        QCOMPARE(count("SELECT count(*) FROM invoices WHERE id = $1 AND status = 'void' AND client_id IS NULL",
+                       {invoice}),
+                 1);
     }
 };
 
