@@ -48,7 +48,6 @@ private slots:
         QTest::newRow("task rate wins") << true << Opt(90) << true << Opt(70) << 90.0;
         QTest::newRow("task rate 0 is no rate") << true << Opt(0) << true << Opt(70) << 70.0;
         QTest::newRow("task rate NaN is no rate") << true << Opt(notANumber) << true << Opt(70) << 70.0;
-        QTest::newRow("project rate NaN is no rate") << true << Opt() << true << Opt(notANumber) << 50.0;
         QTest::newRow("neither") << false << Opt() << false << Opt() << 50.0;
     }
 
@@ -74,7 +73,6 @@ private slots:
         const std::optional<Billing> absent;
         QTest::newRow("task's own beats the project's") << true << own << shared << *own;
         QTest::newRow("inherited from the project") << true << absent << shared << *shared;
-        QTest::newRow("project's without a task") << false << absent << shared << *shared;
         // Task rate 90 and project rate 70: the legacy chain picks 90, every other field absent.
         QTest::newRow("legacy hourly") << true << absent << absent << hourly(90);
         QTest::newRow("legacy without a task") << false << absent << absent << hourly(70);
@@ -101,11 +99,9 @@ private slots:
         QTest::newRow("hourly rate 0 bills at the legacy rate") << hourly(0) << 2 * hour << 60.0 << 120.0 << 120.0;
         QTest::newRow("a NaN legacy rate is 0") << hourly() << 2 * hour << notANumber << 0.0 << 0.0;
         QTest::newRow("fixed ignores time") << fixedPrice(1200) << 10 * hour << 60.0 << 1200.0 << 1200.0;
-        QTest::newRow("fixed without total") << fixedPrice(none) << 10 * hour << 60.0 << 0.0 << 0.0;
         QTest::newRow("per unit ignores time") << perUnit(40, 3) << 10 * hour << 60.0 << 120.0 << 120.0;
         QTest::newRow("daily, 8 hours a day when absent, not rounded")
             << daily(600) << 7 * hour << 60.0 << 525.0 << 525.0;
-        QTest::newRow("daily, own hours per day") << daily(600, 6) << 9 * hour << 60.0 << 900.0 << 900.0;
         QTest::newRow("daily, 0 hours per day gives no days") << daily(600, 0) << 4 * hour << 60.0 << 0.0 << 0.0;
         // Extras on a base of one hour.
         QTest::newRow("minimum charge lifts a low base")
@@ -114,12 +110,8 @@ private slots:
             << extras(hourly(60), -100, none) << hour << 0.0 << 60.0 << 60.0;
         QTest::newRow("surcharge and materials come after the minimum")
             << extras(hourly(60), 100, 20, 5) << hour << 0.0 << 60.0 << 125.0;
-        QTest::newRow("percentage discount of everything before it")
-            << withExtras(hourly(100), none, 20, 30, 10, true) << hour << 0.0 << 100.0 << 135.0;
         QTest::newRow("percentage discount after the minimum")
             << withExtras(hourly(60), 100, 20, none, 50, true) << hour << 0.0 << 60.0 << 60.0;
-        QTest::newRow("absolute discount, switch set to false")
-            << discounted(hourly(100), 25, false) << hour << 0.0 << 100.0 << 75.0;
         QTest::newRow("discount larger than the total never goes negative")
             << withExtras(hourly(100), none, 20, none, 500) << hour << 0.0 << 100.0 << 0.0;
         QTest::newRow("NaN surcharge ends at 0")
@@ -154,9 +146,7 @@ private slots:
         QTest::newRow("fixed") << fixedPrice(500) << true;
         QTest::newRow("minimum charge") << extras(hourly(), 50, none) << true;
         QTest::newRow("call-out fee 0") << extras(hourly(), none, 0) << false;
-        QTest::newRow("materials") << extras(hourly(), none, none, 5) << true;
         QTest::newRow("percentage discount scales with time") << discounted(hourly(), 10, true) << false;
-        QTest::newRow("discount 0") << discounted(hourly(), 0) << false;
     }
 
     void findsOneOffParts()
@@ -171,7 +161,6 @@ private slots:
         QTest::addColumn<Billing>("expected");
         QTest::newRow("positive rate kept") << hourly(85) << hourly(85);
         QTest::newRow("rate 0 removed") << hourly(0) << hourly();
-        QTest::newRow("negative rate removed") << hourly(-5) << hourly();
         QTest::newRow("infinite rate removed") << hourly(std::numeric_limits<double>::infinity()) << hourly();
         Billing fixedWithStaleRate = fixedPrice(500);
         fixedWithStaleRate.unitPrice = 0;
@@ -224,8 +213,6 @@ private slots:
         QTest::newRow("8 hours per day is the default") << loaded(daily(600)) << daily(600, 8) << Result();
         QTest::newRow("zero extras are no extras")
             << loaded(hourly(85)) << withExtras(hourly(85), 0, 0, 0, 0, true) << Result();
-        Billing labelOnly = hourly(85);
-        labelOnly.surchargeLabel = u"Parking"_s;
         QTest::newRow("percentage switch off is absent")
             << loaded(discounted(hourly(85), 10)) << discounted(hourly(85), 10, false) << Result();
         QTest::newRow("VAT 0 is not the same as no VAT")
@@ -255,11 +242,9 @@ private slots:
         QTest::addColumn<Opt>("legacy");
         QTest::addColumn<QString>("expected");
         QTest::newRow("hourly rate 0 shows the legacy rate") << u"en"_s << hourly(0) << Opt(60) << u"€60.00/h"_s;
-        QTest::newRow("hourly without any rate") << u"en"_s << hourly() << Opt() << u"€0.00/h"_s;
         QTest::newRow("fixed") << u"en"_s << fixedPrice(1200) << Opt() << u"€1,200.00"_s;
         QTest::newRow("per unit") << u"en"_s << perUnit(40, 3, u"visit"_s) << Opt() << u"3 visit × €40.00"_s;
         QTest::newRow("daily in Dutch") << u"nl"_s << daily(600) << Opt() << u"€600.00/dag"_s;
-        QTest::newRow("per unit in German") << u"de"_s << perUnit(40, 2) << Opt() << u"2 Einheit × €40.00"_s;
     }
 
     void describesAPrice()
@@ -290,13 +275,9 @@ private slots:
         Billing labelled = extras(hourly(), none, 25);
         labelled.surchargeLabel = u"Parking"_s;
         QTest::newRow("call-out fee with its label") << labelled << u"+ Parking"_s;
-        labelled.surchargeLabel = u""_s;
-        QTest::newRow("negative call-out fee") << extras(hourly(), none, -5) << QString();
         QTest::newRow("fractional percentage") << discounted(hourly(), 12.5, true) << u"\u2212 12.5% korting"_s;
         QTest::newRow("negative absolute discount") << discounted(hourly(), -5) << u"\u2212 korting"_s;
-        QTest::newRow("discount 0") << discounted(hourly(), 0, true) << QString();
         QTest::newRow("VAT 7 % despite binary noise") << withVat(hourly(85), 0.07) << u"7% BTW"_s;
-        QTest::newRow("VAT 0") << withVat(hourly(85), 0) << QString();
         QTest::newRow("all, in order")
             << withVat(withExtras(hourly(85), 100, 25, 10, 10, true), 0.21)
             << u"+ Voorrijkosten · + materiaal · \u2212 10% korting · min. €100.00 · 21% BTW"_s;
@@ -316,7 +297,6 @@ private slots:
         QTest::addColumn<double>("x");
         QTest::addColumn<QString>("quantity");
         QTest::addColumn<QString>("percent");
-        QTest::newRow("negative whole") << -4.0 << u"-4"_s << u"-4"_s;
         QTest::newRow("negative half goes away from zero") << -20.5 << u"-20.5"_s << u"-21"_s;
         QTest::newRow("binary noise over a whole number") << 7.000000000000001 << u"7.0"_s << u"7"_s;
         QTest::newRow("2^53 still fits") << 9007199254740992.0 << u"9007199254740992"_s << u"9007199254740992"_s;

@@ -2,7 +2,6 @@
 #include "model/invoice.h"
 #include "model/invoicedraft.h"
 #include "model/invoicestyle.h"
-#include "model/profile.h"
 #include "model/project.h"
 #include "model/taskitem.h"
 #include "model/team.h"
@@ -65,21 +64,13 @@ private slots:
         using Check = std::function<void(const QByteArray &)>;
         QTest::addColumn<QString>("file");
         QTest::addColumn<Check>("check");
-        QTest::newRow("profiles") << u"profiles"_s << Check(checkRoundTrip<Profile>);
         QTest::newRow("projects with every billing model") << u"projects"_s << Check(checkRoundTrip<Project>);
         QTest::newRow("tasks with side data") << u"tasks"_s << Check(checkRoundTrip<TaskItem>);
-        QTest::newRow("time entries") << u"time_entries"_s << Check(checkRoundTrip<TimeEntry>);
-        QTest::newRow("clients") << u"clients"_s << Check(checkRoundTrip<Client>);
-        QTest::newRow("teams") << u"teams"_s << Check(checkRoundTrip<Team>);
-        QTest::newRow("team members") << u"team_members"_s << Check(checkRoundTrip<TeamMember>);
         QTest::newRow("invoices, live and void") << u"invoices"_s << Check(checkRoundTrip<Invoice>);
-        QTest::newRow("invoice lines of a task, a pool and a discount")
-            << u"invoice_lines"_s << Check(checkRoundTrip<InvoiceLine>);
         QTest::newRow("invoice templates with and without a style")
             << u"invoice_templates"_s << Check(checkRoundTrip<InvoiceTemplate>);
         QTest::newRow("billed entries with embedded invoice and task")
             << u"billed_entries"_s << Check(checkRoundTrip<BilledEntryRow>);
-        QTest::newRow("billed lines") << u"billed_lines"_s << Check(checkRoundTrip<BilledLineRow>);
     }
 
     void fixturesRoundTrip()
@@ -95,7 +86,6 @@ private slots:
         const QList<TaskItem> tasks = decodeRows<TaskItem>(readTestData(u"records/tasks.json"_s));
         QCOMPARE(tasks[0].status, TaskStatus::InProgress);
         QCOMPARE(tasks[0].priority, TaskPriority::High);
-        QCOMPARE(tasks[0].startedAt, u"2025-03-01T09:30:00Z"_s);
         QCOMPARE(tasks[0].attachments->assignees->at(0).email, u"joris@example.nl"_s);
         QCOMPARE(tasks[0].attachments->position, 2);
         QCOMPARE(tasks[0].billing->unitPrice, 75.0);
@@ -104,17 +94,12 @@ private slots:
 
         const QList<Project> projects = decodeRows<Project>(readTestData(u"records/projects.json"_s));
         QCOMPARE(projects[0].billing->travel->value(u"mode"_s).toString(), u"per_km"_s);
-        QCOMPARE(projects[1].teamId, u"7e7e7e7e-1111-4222-8333-444455556666"_s);
         QCOMPARE(projects[3].billing->unitLabel, u"poster"_s);
-        QVERIFY(decodeRows<Client>(readTestData(u"records/clients.json"_s))[1].isArchived());
 
         const QList<Invoice> invoices = decodeRows<Invoice>(readTestData(u"records/invoices.json"_s));
         QCOMPARE(invoices[0].status, InvoiceStatus::Sent);
         QCOMPARE(invoices[0].dueAt, u"2025-04-14"_s);
         QVERIFY(!invoices[1].isLive());
-        const QList<InvoiceLine> lines = decodeRows<InvoiceLine>(readTestData(u"records/invoice_lines.json"_s));
-        QCOMPARE(lines[1].poolProjectId, u"5d1f0c2e-7a6b-4c3d-9e8f-0a1b2c3d4e5f"_s);
-        QCOMPARE(lines[2].orderIndex, 2);
         const auto templates = decodeRows<InvoiceTemplate>(readTestData(u"records/invoice_templates.json"_s));
         QCOMPARE(templates[0].style.bankName, u"ABN AMRO"_s);
         QVERIFY(templates[1].style == InvoiceStyle{});
@@ -159,10 +144,6 @@ private slots:
         QTest::newRow("nested note without text")
             << taskWith(R"("title":"x","status":"completed","attachments":{"_notes":[{"id":"n","created_at":"c"}]})")
             << QByteArray("TaskItem.attachments._notes[0].text: required key is missing");
-        QTest::newRow("billing model outside its list") << std::function<void()>([] {
-            Wire::decodeJson<Project>(
-                R"({"id":"p","user_id":"u","name":"n","status":"active","billing":{"model":"monthly"}})");
-        }) << QByteArray("Project.billing.model: \"monthly\" is not one of hourly, fixed, per_unit, daily");
         QTest::newRow("archived as text") << std::function<void()>([] {
             Wire::decodeJson<Client>(R"({"id":"c","user_id":"u","name":"n","archived":"yes"})");
         }) << QByteArray("Client.archived: expected a boolean, found a string");
@@ -172,13 +153,6 @@ private slots:
             Wire::decodeJson<QList<Team>>(
                 R"([{"id":"a","owner_id":"o","name":"A"},{"id":"b","owner_id":"o","name":"B"},{"id":"c","owner_id":"o"}])");
         }) << QByteArray("Team[2].name: required key is missing");
-        QTest::newRow("money as text on a line") << std::function<void()>([] {
-            Wire::decodeJson<InvoiceLine>(R"({"id":"l","invoice_id":"i","title":"t","quantity":1,
-                       "unit_price":"85.00","amount":85,"order_index":0})");
-        }) << QByteArray("InvoiceLine.unit_price: expected a number, found a string");
-        QTest::newRow("draft line without an amount") << std::function<void()>([] {
-            Wire::decodeJson<InvoiceDraft>(R"({"lines":[{"title":"Design"},{"title":"Build"}]})");
-        }) << QByteArray("InvoiceDraft.lines[0].amount: required key is missing");
         QTest::newRow("text that is not JSON")
             << task("{\"id\":") << QByteArray("invalid JSON at offset 6: unterminated object");
     }
@@ -203,7 +177,6 @@ private slots:
 
         QTest::newRow("older array of anything")
             << QByteArray(R"([1,"two",{"_position":9},null])") << TaskAttachments{};
-        QTest::newRow("only a position") << QByteArray(R"({"_position":3})") << positioned;
         QTest::newRow("nulls count as absent") << QByteArray(R"({"_position":3,"_notes":null})") << positioned;
         QTest::newRow("category and checklist")
             << QByteArray(R"({"_category":"admin","_subtasks":[{"id":"s1","title":"Call","done":false}]})")
@@ -228,14 +201,6 @@ private slots:
         attachments.position = 0;
         attachments.notes = QList<TaskNote>{};
         QCOMPARE(Wire::encode(attachments), QJsonValue(QJsonObject{{u"_position"_s, 0}, {u"_notes"_s, QJsonArray()}}));
-    }
-
-    void enumerationsKeepTheirOrder()
-    {
-        constexpr auto categories = Wire::allCases<TaskCategory>();
-        QCOMPARE(Wire::enumName(categories[1]), u"internal"_s);
-        QCOMPARE(Wire::allCases<ProjectStatus>()[2], ProjectStatus::Completed);
-        QCOMPARE(Wire::enumName(BillingModel::PerUnit), u"per_unit"_s);
     }
 
     void memberIdentityIsTeamAndUser()
@@ -296,12 +261,8 @@ private slots:
         invoice.issuedAt = u"2025-03-01"_s;
         invoice.currency = u"EUR"_s;
         invoice.status = u"sent"_s;
-        const QJsonObject encoded = Wire::encode(invoice).toObject();
-        QCOMPARE(encoded.value(u"status"_s).toString(), u"sent"_s);
-        QCOMPARE(encoded.keys(), (QStringList{u"client_id"_s, u"currency"_s, u"issued_at"_s, u"number"_s, u"status"_s,
+        QCOMPARE(Wire::encode(invoice).toObject().keys(), (QStringList{u"client_id"_s, u"currency"_s, u"issued_at"_s, u"number"_s, u"status"_s,
                                               u"subtotal"_s, u"total"_s, u"user_id"_s, u"vat_amount"_s}));
-        QCOMPARE(Wire::encode(InvoiceTripInsert{u"i1"_s, u"t1"_s}).toObject(),
-                 (QJsonObject{{u"invoice_id"_s, u"i1"_s}, {u"trip_id"_s, u"t1"_s}}));
 
         InvoiceLineInsert work;
         work.taskId = u"t1"_s;
@@ -332,12 +293,6 @@ private slots:
         const QJsonValue encoded = Wire::encode(draft);
         QCOMPARE(encoded[u"lines"_s][0][u"included"_s].toBool(), true);
         QVERIFY(Wire::decode<InvoiceDraft>(encoded) == draft);
-
-        const auto metadata = Wire::decodeJson<InvoiceMetadata>(R"({"number":"2025-0001","issued":"2025-03-01",
-            "vat_groups":[{"percent":9,"base":100,"amount":9},{"percent":21,"base":200,"amount":42}]})");
-        QCOMPARE(metadata.vatGroups.size(), 2);
-        QCOMPARE(metadata.vatGroups[1].amount, 42.0);
-        QCOMPARE(metadata.vatAmount, 0.0);
     }
 };
 
