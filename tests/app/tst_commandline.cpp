@@ -159,6 +159,9 @@ private slots:
                                u"active 0:26:55 · prompts: 4"_s));
         QVERIFY(lines.contains(u"    2. 2025-03-01 10:41 to 2025-03-01 10:41 · active 0:01:00 · prompts: 1 · "
                                u"Commit with a clear message"_s));
+        // A session without prompts is shown as the one burst it would be logged as.
+        QVERIFY(lines.contains(u"    1. 2025-03-02 09:00 to 2025-03-02 09:36 · active 0:06:30 · prompts: 0 · "
+                               u"Claude session"_s));
 
         QTemporaryDir empty;
         const QByteArray home = qgetenv("HOME");
