@@ -25,7 +25,6 @@ private slots:
         QTest::addColumn<double>("opacity");
         using T = BilledChip::Tone;
         QTest::newRow("nothing tracked") << Opt() << false << u"GEEN TIJD"_s << T::Muted << 0.8;
-        QTest::newRow("nothing tracked, compact") << Opt() << true << u"GEEN TIJD"_s << T::Muted << 0.8;
         QTest::newRow("0 / 0") << Opt(std::numeric_limits<double>::quiet_NaN()) << false << u"GEEN TIJD"_s << T::Muted
                                << 0.8;
         QTest::newRow("nothing billed") << Opt(0) << false << u"OPEN"_s << T::DeepPrimary << 1.0;
@@ -36,8 +35,6 @@ private slots:
         QTest::newRow("half a percent rounds up") << Opt(0.125) << true << u"13%"_s << T::Primary << 1.0;
         QTest::newRow("just under the threshold") << Opt(0.998) << true << u"100%"_s << T::Primary << 1.0;
         QTest::newRow("at the threshold") << Opt(0.999) << false << u"GEFACTUREERD"_s << T::Success << 1.0;
-        QTest::newRow("at the threshold, compact") << Opt(0.999) << true << u"GEFACTUREERD"_s << T::Success << 1.0;
-        QTest::newRow("all") << Opt(1) << false << u"GEFACTUREERD"_s << T::Success << 1.0;
         QTest::newRow("more than tracked") << Opt(1.25) << false << u"GEFACTUREERD"_s << T::Success << 1.0;
     }
 

@@ -59,7 +59,6 @@ private slots:
         QTest::newRow("minutes not padded") << u"en"_s << qint64(7500) << u"2h 5m"_s;
         QTest::newRow("hours do not wrap at a day") << u"en"_s << qint64(90000) << u"25h 0m"_s;
         QTest::newRow("Dutch") << u"nl"_s << qint64(7500) << u"2u 5m"_s;
-        QTest::newRow("Japanese") << u"ja"_s << qint64(7500) << u"2時間5分"_s;
     }
 
     void formatsDurations()
@@ -78,10 +77,8 @@ private slots:
         QTest::addColumn<QString>("expected");
         const QString nbsp(QChar(0x00A0));
         QTest::newRow("euros in American English") << u"en_US"_s << 1234.5 << u"EUR"_s << u"€1,234.50"_s;
-        QTest::newRow("Dutch") << u"nl_NL"_s << 1234.5 << u"EUR"_s << u"€" + nbsp + u"1.234,50";
         QTest::newRow("German puts the sign last") << u"de_DE"_s << 1234.5 << u"EUR"_s << u"1.234,50" + nbsp + u"€";
         QTest::newRow("negative with a minus, not in brackets") << u"en_US"_s << -85.0 << u"EUR"_s << u"-€85.00"_s;
-        QTest::newRow("negative, letters for a symbol") << u"en_US"_s << -12.0 << u"XYZ"_s << u"-XYZ" + nbsp + u"12.00";
         QTest::newRow("a code in lower case") << u"en_US"_s << 12.0 << u"eur"_s << u"€12.00"_s;
         QTest::newRow("another dollar is not the user's own")
             << u"en_US"_s << 12.0 << u"AUD"_s << u"AUD" + nbsp + u"12.00";

@@ -27,12 +27,9 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QDateTime>("expected");
 
-        QTest::newRow("fractional, Z") << u"2025-03-01T09:30:00.123Z"_s << utc(2025, 3, 1, 9, 30, 0, 123);
         QTest::newRow("fractional, offset") << u"2025-03-01T09:30:00.123+01:00"_s << utc(2025, 3, 1, 8, 30, 0, 123);
         QTest::newRow("microseconds as the database prints them")
             << u"2025-03-01T09:30:00.123456+00:00"_s << utc(2025, 3, 1, 9, 30, 0, 123);
-        QTest::newRow("microseconds, offset without colon")
-            << u"2025-03-01T09:30:00.123456+0000"_s << utc(2025, 3, 1, 9, 30, 0, 123);
         QTest::newRow("plain, negative offset") << u"2025-03-01T09:30:00-05:30"_s << utc(2025, 3, 1, 15, 0, 0);
         QTest::newRow("offset without colon") << u"2025-03-01T09:30:00-0530"_s << utc(2025, 3, 1, 15, 0, 0);
         QTest::newRow("hour-only offset") << u"2025-03-01T09:30:00+02"_s << utc(2025, 3, 1, 7, 30, 0);
@@ -53,14 +50,12 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::newRow("no zone") << u"2025-03-01T09:30:00"_s;
-        QTest::newRow("fraction without zone") << u"2025-03-01T09:30:00.123"_s;
         QTest::newRow("space with fraction") << u"2025-03-01 09:30:00.5+00:00"_s;
         QTest::newRow("dot without digits") << u"2025-03-01T09:30:00.Z"_s;
         QTest::newRow("five digits, offset without colon") << u"2025-03-01T09:30:00.12345+0000"_s;
         QTest::newRow("no such day") << u"2025-02-29T09:30:00Z"_s;
         QTest::newRow("offset out of range") << u"2025-03-01T09:30:00+25:00"_s;
         QTest::newRow("trailing text") << u"2025-03-01T09:30:00Zjunk"_s;
-        QTest::newRow("lower-case z") << u"2025-03-01T09:30:00z"_s;
         QTest::newRow("non-ASCII digits") << u"٢٠٢٥-03-01T09:30:00Z"_s;
     }
 
@@ -85,10 +80,8 @@ private slots:
         QTest::addColumn<QByteArray>("zone");
         QTest::addColumn<QDateTime>("instant");
         QTest::addColumn<QString>("key");
-        const QDateTime lateEvening = utc(2025, 3, 1, 23, 30, 0);
         QTest::newRow("Amsterdam is already tomorrow")
-            << QByteArray("Europe/Amsterdam") << lateEvening << u"2025-03-02"_s;
-        QTest::newRow("New York is still today") << QByteArray("America/New_York") << lateEvening << u"2025-03-01"_s;
+            << QByteArray("Europe/Amsterdam") << utc(2025, 3, 1, 23, 30, 0) << u"2025-03-02"_s;
         QTest::newRow("Bangkok, new year")
             << QByteArray("Asia/Bangkok") << utc(2024, 12, 31, 17, 0, 0) << u"2025-01-01"_s;
         QTest::newRow("Amsterdam, last second before midnight in summer time")

@@ -23,7 +23,6 @@ private slots:
         QTest::newRow("integer becomes a double") << QByteArray("1") << JSONValue(1.0) << int(JSONValue::Kind::Number);
         QTest::newRow("digits in quotes stay text")
             << QByteArray("\"1\"") << JSONValue(u"1"_s) << int(JSONValue::Kind::String);
-        QTest::newRow("null") << QByteArray("null") << JSONValue() << int(JSONValue::Kind::Null);
         QTest::newRow("array of mixed values")
             << QByteArray(R"([1,"a",false,null])") << JSONValue(JSONValue::Array{1.0, u"a"_s, false, nullptr})
             << int(JSONValue::Kind::Array);
@@ -52,7 +51,6 @@ private slots:
         QTest::addColumn<JSONValue>("a");
         QTest::addColumn<JSONValue>("b");
         QTest::newRow("number and its text") << JSONValue(1.0) << JSONValue(u"1"_s);
-        QTest::newRow("true and one") << JSONValue(true) << JSONValue(1.0);
         QTest::newRow("arrays in another order")
             << JSONValue(JSONValue::Array{1.0, 2.0}) << JSONValue(JSONValue::Array{2.0, 1.0});
         QTest::newRow("objects with another value")
