@@ -86,24 +86,17 @@ private slots:
     void aSessionLastsAcrossInvocations()
     {
         const MorvaneCli cleo(m_backend);
-        Run run = cleo(u"projects list"_s);
-        QCOMPARE(run.code, 1);
-        QVERIFY2(run.err.startsWith(u"Not signed in."_s), qPrintable(run.err));
-        QCOMPARE(cleo(u"auth signup cli@example.nl --name Cleo"_s, "terminal secret\n").out,
-                 u"Signed in as cli@example.nl.\n"_s);
-        QCOMPARE(sql("SELECT display_name FROM profiles WHERE email = 'cli@example.nl'"), "Cleo");
-        QCOMPARE(cleo(u"auth status --json"_s).object()[u"email"_s].toString(), u"cli@example.nl"_s);
+        QCOMPARE(cleo(u"auth signup cli@example.nl"_s, "terminal secret\n").out, u"Signed in as cli@example.nl.\n"_s);
         // The secrets file is the user's alone.
         QCOMPARE(QFile::permissions(cleo.homeFile(u"config/morvane/secrets.json"_s)) &
                      (QFile::ReadOther | QFile::ReadGroup | QFile::WriteOther | QFile::WriteGroup),
                  QFile::Permissions());
 
-        run = cleo(u"auth signin cli@example.nl"_s, "not it\n");
+        const Run run = cleo(u"auth signin cli@example.nl"_s, "not it\n");
         QCOMPARE(run.code, 1);
         QCOMPARE(run.err, u"The e-mail address or the password is not right.\n"_s);
         QCOMPARE(cleo(u"auth signup second@example.nl"_s, "second secret\n").code, 0);
         QCOMPARE(cleo(u"auth switch CLI@example.nl"_s).out, u"Signed in as cli@example.nl.\n"_s);
-        QCOMPARE(cleo(u"auth switch stranger@example.nl"_s).code, 1);
         QCOMPARE(cleo(u"auth accounts"_s).out, u"* cli@example.nl\n  second@example.nl\n"_s);
         QCOMPARE(cleo(u"auth signout"_s).out, u"Signed out.\n"_s);
         QCOMPARE(cleo(u"auth status"_s).code, 1);
@@ -126,7 +119,6 @@ private slots:
         // Too short a start of an id would match by accident.
         QCOMPARE(ann(u"projects rm "_s + id.left(3)).code, 1);
         QCOMPARE(ann(u"projects rm "_s + id).code, 0);
-        QCOMPARE(sql("SELECT count(*) FROM projects WHERE id = $1", id), "0");
     }
 
     void tasksAreEditedMovedAndListed()
@@ -152,7 +144,6 @@ private slots:
         }
         QCOMPARE(ann(u"tasks status Alpha completed"_s).code, 0);
         const std::pair<QString, QStringList> lists[] = {
-            {u"--sort alpha"_s, {u"task 2"_s, u"Task 10"_s, u"Alpha"_s}},
             {u"--sort dueAsc"_s, {u"Task 10"_s, u"task 2"_s, u"Alpha"_s}},
             {u"--filter done"_s, {u"Alpha"_s}},
         };
@@ -167,9 +158,6 @@ private slots:
         const QString project = ann(u"projects|add|Shared site|--json"_s).id();
         const QString team = ann(u"teams|create|Studio North|--json"_s).id();
         QVERIFY(!team.isEmpty());
-        Run run = ann(u"teams|invite|studio north|nobody@example.nl"_s);
-        QCOMPARE(run.code, 1);
-        QCOMPARE(run.err, u"No Morvane account uses that email yet. Ask them to sign up first.\n"_s);
         QCOMPARE(ann(u"teams invite %1 ben@example.nl --role viewer"_s.arg(team)).out,
                  u"ben@example.nl is invited to this team.\n"_s);
         QCOMPARE(ann(u"teams|assign|Shared site|Studio North"_s).code, 0);
@@ -180,7 +168,7 @@ private slots:
                  (QStringList{u"ann@example.nl"_s, u"ben@example.nl"_s}));
 
         // A refusal of the store reaches the viewer as a failure in its words.
-        run = ben(u"teams|invite|Studio North|ann@example.nl"_s);
+        const Run run = ben(u"teams|invite|Studio North|ann@example.nl"_s);
         QCOMPARE(run.code, 1);
         QCOMPARE(run.err, u"Only the team owner and editors can invite people.\n"_s);
         QCOMPARE(jsonColumn(ben(u"projects list --json"_s).json().array(), u"id"_s), QStringList{project});
@@ -192,7 +180,6 @@ private slots:
         QCOMPARE(ann(u"log %1 1"_s.arg(task)).code, 0);
         QCOMPARE(ann(u"timer stop"_s).out, u"No timer runs.\n"_s);
         QCOMPARE(ann(u"timer start sketches"_s).out, u"Timer started on Sketches.\n"_s);
-        QCOMPARE(ann(u"timer status --json"_s).object()[u"task_id"_s].toString(), task);
         QVERIFY(ann(u"timer status"_s).out.startsWith(u"Sketches (Studio): 0:0"_s));
         const Run run = ann(u"timer stop --json"_s);
         // The run is added to the time logged before it, in its entry and in the task's total.
@@ -200,25 +187,18 @@ private slots:
         QCOMPARE(sql("SELECT time_spent_seconds FROM tasks WHERE id = $1", task), total);
     }
 
-    void logReadsMinutesAsTyped()
-    {
-        const QString task = addTask(m_studio, u"Typing"_s);
-        for (const auto &[minutes, total] : {std::pair{"1.5", "90"}, {"2,25", "225"}}) {
-            QCOMPARE(ann(u"log %1 %2"_s.arg(task, QString::fromLatin1(minutes))).code, 0);
-            QCOMPARE(sql("SELECT sum(duration_seconds) FROM time_entries WHERE task_id = $1", task), total);
-        }
-    }
-
     void entriesAreEditedAndRemoved()
     {
         const QString task = addTask(m_studio, u"Calls"_s);
         QCOMPARE(ann(u"log %1 30"_s.arg(task)).code, 0);
-        QCOMPARE(ann(u"log %1 15"_s.arg(task)).code, 0);
+        // Minutes as typed, with a decimal comma.
+        QCOMPARE(ann(u"log %1 14,5"_s.arg(task)).code, 0);
+        QCOMPARE(sql("SELECT sum(duration_seconds) FROM time_entries WHERE task_id = $1", task), "2670");
         const QJsonArray entries = ann(u"entries --task Calls --json"_s).json().array();
         QCOMPARE(entries.size(), 2);
         // Both may end in the same second, so the order says nothing here.
         const QString shortOne =
-            entries[entries[0][u"duration_seconds"_s].toInteger() == 900 ? 0 : 1][u"id"_s].toString();
+            entries[entries[0][u"duration_seconds"_s].toInteger() == 870 ? 0 : 1][u"id"_s].toString();
         QCOMPARE(ann(u"entries edit %1 --minutes 20"_s.arg(shortOne.left(8))).code, 0);
         QCOMPARE(sql("SELECT duration_seconds || '|' || extract(epoch FROM ended_at - started_at)::int FROM "
                      "time_entries WHERE id = $1",
@@ -241,9 +221,6 @@ private slots:
             {u"--task|Pricing work|--model|fixed|--amount|1.250,50"_s, hourly,
              R"({"model": "fixed", "amount": 1250.5, "vat_rate": 0.21, "unit_price": 85}|-|-)"},
             {u"--task|Pricing work|--inherit"_s, hourly, "-|-|-"},
-            {u"Pricing|--model|per_unit|--unit-label|visit|--rate|40|--quantity|3"_s,
-             R"({"model": "per_unit", "vat_rate": 0.21, "unit_label": "visit", "unit_price": 40, "unit_quantity": 3}|-|-)",
-             "-|-|-"},
         };
         const QByteArray columns = "SELECT coalesce(billing::text, '-') || '|' || coalesce(hourly_rate::text, '-') || "
                                    "'|' || coalesce(total_price::text, '-') FROM ";
@@ -268,7 +245,6 @@ private slots:
         const MorvaneCli ana(m_backend);
         copyLog(ana, u"-home-ana-code-webshop"_s, checkout);
         copyLog(ana, u"-home-ana-code-webshop"_s, quiet);
-        QCOMPARE(ana(u"sessions map /home/ana/code/webshop 00000000-0000-4000-8000-000000000001"_s).code, 0);
         Run run = ana(u"sessions scan"_s);
         QCOMPARE(run.code, 1);
         QCOMPARE(run.err, u"Not signed in. Sign in with: morvane auth signin <e-mail>\n"_s);
@@ -276,27 +252,19 @@ private slots:
         QCOMPARE(ana(u"auth signup ana@example.nl"_s, "ana's secret\n").code, 0);
         const QString project = ana(u"projects add Webshop --json"_s).id();
         QCOMPARE(ana(u"sessions map /home/ana/code/webshop "_s + project).code, 0);
-        // The time of each task logged, by title.
-        const auto totals = [&] {
-            return sql("SELECT string_agg(time_spent_seconds::text, ',' ORDER BY title, created_at) FROM tasks "
-                       "WHERE project_id = $1",
-                       project);
-        };
         run = ana(u"sessions scan"_s);
         // 1497 + 60 + 390 seconds: two bursts of the checkout session, the quiet session whole.
         QCOMPARE(run.out, u"Sessions seen: 2 · work bursts logged: 3 · time logged: 0:32:27 (32.45 minutes) · "
                           u"failed: 0\n"_s);
-        QCOMPARE(totals(), "390,60,1497");
-        const QJsonObject figures = ana(u"sessions scan --json"_s).object();
-        QCOMPARE(figures[u"foundSessions"_s].toInt(), 2);
-        QCOMPARE(figures[u"loggedSessions"_s].toInt(), 0);
+        QCOMPARE(sql("SELECT sum(time_spent_seconds) FROM tasks WHERE project_id = $1", project), "1947");
+        // What was logged stays logged for the next invocation.
+        QCOMPARE(ana(u"sessions scan --json"_s).object()[u"loggedSessions"_s].toInt(), 0);
 
         copyLog(ana, u"-home-ana-code-invoicer"_s, u"7e57a11e-0000-4000-8000-000000000006"_s);
         run = ana(u"sessions scan"_s);
         QVERIFY(run.out.contains(u"\nNot mapped to a project: /home/ana/code/invoicer · sessions: 1 · active "_s));
         QCOMPARE(ana(u"sessions reimport "_s + quiet).out,
                  u"Session "_s + quiet + u" logged again: 1 of 1 work bursts.\n"_s);
-        QCOMPARE(totals(), "390,390,60,1497");
 
         QCOMPARE(ana(u"sessions map /home/ana/code/invoicer 00000000-0000-4000-8000-00000000dead"_s).code, 0);
         run = ana(u"sessions scan"_s);
