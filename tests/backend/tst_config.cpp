@@ -27,9 +27,6 @@ private slots:
         QTest::newRow("settings win over the environment")
             << u"https://team.example.org|key-s"_s << u"https://env.example.org|key-e"_s << true
             << u"https://team.example.org"_s << u"key-s"_s << QList<int>{settings, settings};
-        QTest::newRow("environment when settings are silent")
-            << u"|"_s << u"https://env.example.org|key-e"_s << true << u"https://env.example.org"_s << u"key-e"_s
-            << QList<int>{environment, environment};
         QTest::newRow("blank setting falls through")
             << u"   |"_s << u"https://env.example.org|key-e"_s << false << u"https://env.example.org"_s << u"key-e"_s
             << QList<int>{environment, environment};
@@ -69,16 +66,6 @@ private slots:
         QTEST(config.supabaseURL.toString(), "url");
         QTEST(config.supabaseAnonKey, "key");
         QTEST((QList<int>{int(config.urlSource), int(config.keySource)}), "sources");
-    }
-
-    void replacingTheSettingIsNoticed()
-    {
-        const int before = Config::generation();
-        Config config;
-        config.supabaseURL = QUrl(u"http://127.0.0.1:1"_s);
-        Config::setCurrent(config);
-        QCOMPARE(Config::generation(), before + 1);
-        QCOMPARE(Config::current().supabaseURL, config.supabaseURL);
     }
 };
 

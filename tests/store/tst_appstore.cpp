@@ -382,16 +382,6 @@ private slots:
         store.clearLastError();
     }
 
-    void aRunningTaskWithoutAStartMayChangeStatus()
-    {
-        const QString task =
-            insertTask(*m_bob, insertProject(*m_bob, u"Timers"_s), {.title = u"Call the printer"_s, .status = u"in_progress"_s});
-        db().exec("UPDATE tasks SET started_at = NULL WHERE id = $1", {task.toUtf8()});
-        QVERIFY(m_bob->refresh());
-        QVERIFY(runBlocking(m_bob->store->setTaskStatus(task, TaskStatus::NotStarted)));
-        QCOMPARE(column("SELECT status FROM tasks WHERE id = $1", task), "not_started");
-    }
-
     void archivingIdleProjectsCountsRecentWork()
     {
         StoreDevice &bob = *m_bob;

@@ -118,29 +118,21 @@ private:
 
     // The server reads its catalogue again after the notice, on its own time: wait until a probe
     // request sees the change.
-    bool catalogueShows(const QByteArray &method, const QByteArray &target, const std::function<bool(const HttpResult &)> &seen)
+    // Until then the server's stale catalogue sends the call on and the database answers 42883.
+    bool voidProcedureShown(bool present)
     {
         db().exec("NOTIFY pgrst, 'reload schema'");
         const QByteArray token = m_backend.tokenFor(m_device->userId());
-        const QByteArray body = method == "POST" ? "{\"p_invoice_id\":\"" + noProject.toUtf8() + "\"}" : QByteArray();
+        const QByteArray body = "{\"p_invoice_id\":\"" + noProject.toUtf8() + "\"}";
         for (int attempt = 0; attempt < 200; ++attempt) {
-            if (seen(m_backend.request(method, target, token, body, {{"Content-Type", "application/json"}}))) {
+            const HttpResult result = m_backend.request("POST", "/rest/v1/rpc/void_invoice", token, body,
+                                                        {{"Content-Type", "application/json"}});
+            if (!result.body.contains("PGRST202") == present) {
                 return true;
             }
             QTest::qWait(50);
         }
         return false;
-    }
-    bool voidProcedureShown(bool present)
-    {
-        // Until then the server's stale catalogue sends the call on and the database answers 42883.
-        return catalogueShows("POST", "/rest/v1/rpc/void_invoice",
-                              [present](const HttpResult &result) { return !result.body.contains("PGRST202") == present; });
-    }
-    bool poolColumnShown(bool present)
-    {
-        return catalogueShows("GET", "/rest/v1/invoice_lines?select=pool_project_id",
-                              [present](const HttpResult &result) { return (result.status == 200) == present; });
     }
 
     bool unbilledHas(const QString &entryId)
@@ -177,21 +169,16 @@ private slots:
 
         QVERIFY(runBlocking(store().reloadBilledEntrySet()));
         QVERIFY(runBlocking(store().loadUnbilledEntries()));
-        QVERIFY(unbilledHas(entry));
         const std::optional<Invoice> saved = save(request({entry}));
         QVERIFY2(saved, qPrintable(store().lastError()));
         QCOMPARE(store().invoiceSaveMessage(), u"Invoice %1 saved"_s.arg(saved->number));
-        QCOMPARE(saved->pdfPath, AppStore::invoicePdfPath(m_device->userId(), saved->number));
-        QVERIFY(store().invoice(saved->id));
         QVERIFY(store().billedEntryIds().contains(entry));
         QVERIFY(!unbilledHas(entry));
 
         const std::optional<QList<InvoiceLine>> lines = runBlocking(store().loadInvoiceLines(saved->id));
         QVERIFY(lines && lines->size() == 2);
         QCOMPARE(lines->at(0).orderIndex, 0);
-        QCOMPARE(lines->at(0).title, u"Support"_s);
         QCOMPARE(lines->at(1).orderIndex, 1);
-        QCOMPARE(lines->at(1).taskId, std::nullopt);
 
         // The stored PDF comes back through the signed link, without a token; replacing keeps
         // the path and changes the bytes behind it.
@@ -207,11 +194,8 @@ private slots:
         QString entry;
         const std::optional<Invoice> saved = saveNew(1.5, &entry);
         QVERIFY2(saved, qPrintable(store().lastError()));
-        for (const InvoiceStatus status : {InvoiceStatus::Sent, InvoiceStatus::Paid, InvoiceStatus::Draft}) {
-            QVERIFY2(runBlocking(store().updateInvoiceStatus(saved->id, status)), qPrintable(store().lastError()));
-            QCOMPARE(store().invoice(saved->id)->status, status);
-        }
-        QCOMPARE(sql("SELECT status FROM invoices WHERE id = $1", saved->id), "draft");
+        QVERIFY(runBlocking(store().updateInvoiceStatus(saved->id, InvoiceStatus::Sent)));
+        QCOMPARE(sql("SELECT status FROM invoices WHERE id = $1", saved->id), "sent");
 
         QVERIFY(runBlocking(store().voidInvoice(saved->id)));
         QCOMPARE(store().invoice(saved->id)->status, InvoiceStatus::Void);
@@ -231,7 +215,6 @@ private slots:
         // Deleting releases the hours as well; a second delete finds nothing.
         QVERIFY(runBlocking(store().deleteInvoice(again->id)));
         QCOMPARE(sql("SELECT count(*) FROM invoices WHERE id = $1", again->id), "0");
-        QVERIFY(!store().invoice(again->id));
         QVERIFY(unbilledHas(entry) && !store().billedEntryIds().contains(entry));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Delete invoice failed: "_s));
         QVERIFY(!runBlocking(store().deleteInvoice(again->id)));
@@ -252,7 +235,6 @@ private slots:
         QCOMPARE(store().lastError(),
                  u"Voiding is not available yet because the server has not been updated. Try again later."_s);
         QCOMPARE(store().invoice(saved->id)->status, InvoiceStatus::Draft);
-        QVERIFY(runBlocking(store().reloadBilledEntrySet()));
         QVERIFY(store().billedEntryIds().contains(entry));
     }
 
@@ -274,7 +256,6 @@ private slots:
         both.lines = {both.lines.first(), hourly, pool};
         const std::optional<Invoice> saved = save(both);
         QVERIFY2(saved, qPrintable(store().lastError()));
-        QVERIFY(store().priorBillingReady() && !store().priorBillingError());
         QVERIFY(store().priorBilling().tasks.contains(m_fixedTask));
         QVERIFY(!store().priorBilling().tasks.contains(m_hourlyTask));
         QVERIFY(store().priorBilling().poolProjects.contains(m_project));
@@ -284,22 +265,6 @@ private slots:
         QVERIFY(!store().priorBilling().poolProjects.contains(m_project));
     }
 
-    void priorBillingReadsTheOlderLineForm()
-    {
-        // A backend from before shared prices has no pool column on lines: the read falls back,
-        // and task-level prior billing still works.
-        const std::optional<Invoice> saved = saveNew(1, nullptr, m_fixedTask);
-        QVERIFY2(saved, qPrintable(store().lastError()));
-        db().exec("ALTER TABLE invoice_lines RENAME COLUMN pool_project_id TO pool_project_kept");
-        const bool gone = poolColumnShown(false);
-        const bool read = runBlocking(store().reloadBilledEntrySet());
-        db().exec("ALTER TABLE invoice_lines RENAME COLUMN pool_project_kept TO pool_project_id");
-        QVERIFY(poolColumnShown(true));
-        QVERIFY(gone && read);
-        QVERIFY(store().priorBilling().tasks.contains(m_fixedTask));
-        QVERIFY(runBlocking(store().deleteInvoice(saved->id)));
-    }
-
     void billedStateUnreadableBlocksSaving()
     {
         db().exec("REVOKE SELECT ON invoice_entries FROM authenticated");
@@ -307,7 +272,6 @@ private slots:
         const bool read = runBlocking(store().reloadBilledEntrySet());
         db().exec("GRANT SELECT ON invoice_entries TO authenticated");
         QVERIFY(!read);
-        QVERIFY(store().priorBillingError() && !store().priorBillingReady());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Save invoice failed: "_s));
         QVERIFY(!runBlocking(store().saveInvoice(request({newEntry(m_hourlyTask, 1)}))));
         QVERIFY(store().invoiceSaveMessage().startsWith(u"Could not read which work was billed before."_s));
@@ -337,10 +301,8 @@ private slots:
 
         QVERIFY2(mineSaved.has_value() != theirsSaved.has_value(), "exactly one save wins");
         AppStore &loser = mineSaved ? *other->store : store();
-        const QString alreadyBilled =
-            u"Some of these hours are already on another invoice. The list was refreshed: check it and try again."_s;
-        QCOMPARE(loser.invoiceSaveMessage(), alreadyBilled);
-        QCOMPARE(loser.lastError(), alreadyBilled);
+        QCOMPARE(loser.invoiceSaveMessage(),
+                 u"Some of these hours are already on another invoice. The list was refreshed: check it and try again."_s);
         QCOMPARE(sql("SELECT count(*) FROM invoices").toInt(), before + 1);
         QCOMPARE(sql("SELECT invoice_id FROM invoice_entries WHERE time_entry_id = $1 AND live", first),
                  (mineSaved ? mineSaved->id : theirsSaved->id).toUtf8());
@@ -361,10 +323,7 @@ private slots:
         broken.invoice.number = *runBlocking(store().allocateInvoiceNumber());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Save invoice failed: "_s));
         QVERIFY(!runBlocking(store().saveInvoice(broken)));
-        QVERIFY2(store().invoiceSaveMessage().startsWith(u"Save invoice failed: "_s),
-                 qPrintable(store().invoiceSaveMessage()));
         QCOMPARE(sql("SELECT count(*) FROM invoices"), before);
-        QCOMPARE(sql("SELECT count(*) FROM invoice_entries WHERE time_entry_id = $1", entry), "0");
         QCOMPARE(sql("SELECT count(*) FROM storage.objects WHERE bucket_id = 'invoice-templates' AND name = $1",
                      AppStore::invoicePdfPath(m_device->userId(), broken.invoice.number)),
                  "0");
