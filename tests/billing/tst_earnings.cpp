@@ -258,15 +258,6 @@ private slots:
         QTEST(text, "expected");
     }
 
-    void namesWhereAnInheritedPriceComesFrom()
-    {
-        QCOMPARE(Earnings::inheritedFrom(u"Website 100%"_s), u"Inherited from Website 100%"_s);
-        Language::apply(u"nl"_s);
-        const QString dutch = Earnings::inheritedFrom(u"Website"_s);
-        Language::apply(u"en"_s);
-        QCOMPARE(dutch, u"Overgenomen van Website"_s);
-    }
-
     void describesTheExtras_data()
     {
         QTest::addColumn<Billing>("billing");
