@@ -306,7 +306,6 @@ private slots:
     void textsFollowTheLanguage()
     {
         BillingEditor editor;
-        QCOMPARE(editor.labels().value(u"net"_s).toString(), u"Net (excl. VAT)"_s);
         QSignalSpy texts(&editor, &BillingEditor::textsChanged);
         Language::apply(u"nl"_s);
         editor.retranslate();

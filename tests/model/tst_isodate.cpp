@@ -4,8 +4,6 @@
 #include <QTest>
 #include <QTimeZone>
 
-#include <thread>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -95,34 +93,6 @@ private slots:
         QFETCH(QString, key);
         const DayKey dayKey{QTimeZone(zone)};
         QCOMPARE(dayKey.key(instant), key);
-    }
-
-    void parsingIsSafeFromSeveralThreads()
-    {
-        const QStringList texts{u"2025-03-01T09:30:00.123Z"_s, u"2025-03-01 09:30:00+00:00"_s,
-                                u"2025-03-01T09:30:00.123456+00:00"_s, u"2025-03-01T09:30:00-0530"_s};
-        QList<QDateTime> expected;
-        for (const QString &text : texts) {
-            expected.append(*isoDate(text));
-        }
-        std::atomic<int> mismatches{0};
-        std::vector<std::thread> threads;
-        for (int t = 0; t < 4; ++t) {
-            threads.emplace_back([&, t] {
-                const DayKey dayKey{QTimeZone("Europe/Amsterdam")};
-                for (int i = 0; i < 20000; ++i) {
-                    const qsizetype index = (i + t) % texts.size();
-                    const std::optional<QDateTime> instant = isoDate(texts[index]);
-                    if (!instant || *instant != expected[index] || dayKey.key(*instant) != u"2025-03-01") {
-                        ++mismatches;
-                    }
-                }
-            });
-        }
-        for (std::thread &thread : threads) {
-            thread.join();
-        }
-        QCOMPARE(mismatches.load(), 0);
     }
 };
 

@@ -87,18 +87,14 @@ private slots:
         QCOMPARE(tasks[0].status, TaskStatus::InProgress);
         QCOMPARE(tasks[0].priority, TaskPriority::High);
         QCOMPARE(tasks[0].attachments->assignees->at(0).email, u"joris@example.nl"_s);
-        QCOMPARE(tasks[0].attachments->position, 2);
         QCOMPARE(tasks[0].billing->unitPrice, 75.0);
-        QCOMPARE(tasks[1].attachments->category, TaskCategory::InternalWork);
         QCOMPARE(tasks[2].timeSpentSeconds, Q_INT64_C(9000000000)); // beyond 32 bits
 
         const QList<Project> projects = decodeRows<Project>(readTestData(u"records/projects.json"_s));
         QCOMPARE(projects[0].billing->travel->value(u"mode"_s).toString(), u"per_km"_s);
-        QCOMPARE(projects[3].billing->unitLabel, u"poster"_s);
 
         const QList<Invoice> invoices = decodeRows<Invoice>(readTestData(u"records/invoices.json"_s));
         QCOMPARE(invoices[0].status, InvoiceStatus::Sent);
-        QCOMPARE(invoices[0].dueAt, u"2025-04-14"_s);
         QVERIFY(!invoices[1].isLive());
         const auto templates = decodeRows<InvoiceTemplate>(readTestData(u"records/invoice_templates.json"_s));
         QCOMPARE(templates[0].style.bankName, u"ABN AMRO"_s);
