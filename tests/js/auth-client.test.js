@@ -17,21 +17,13 @@ const client = () =>
 const email = `js-${Date.now()}@example.nl`;
 const password = 'a good passphrase';
 
-test('sign-up answers a session at once with the display name', async () => {
-    const { data, error } = await client().signUp({ email, password, options: { data: { display_name: 'Jess' } } });
-    assert.equal(error, null);
-    assert.equal(data.user.email, email);
-    assert.equal(data.user.user_metadata.display_name, 'Jess');
-    assert.equal(data.session.token_type, 'bearer');
-});
+test('sign-up, a refused sign-in, sign-in, refresh with rotation, and sign-out', async () => {
+    const signedUp = await client().signUp({ email, password, options: { data: { display_name: 'Jess' } } });
+    assert.equal(signedUp.error, null);
+    assert.equal(signedUp.data.user.user_metadata.display_name, 'Jess');
+    assert.equal(signedUp.data.session.token_type, 'bearer');
+    assert.equal((await client().signInWithPassword({ email, password: 'not it' })).error.code, 'invalid_credentials');
 
-test('sign-in refuses the wrong password with its code', async () => {
-    const { error } = await client().signInWithPassword({ email, password: 'not it' });
-    assert.equal(error.status, 400);
-    assert.equal(error.code, 'invalid_credentials');
-});
-
-test('sign-in, refresh with rotation, and sign-out', async () => {
     const auth = client();
     const { data: signedIn, error } = await auth.signInWithPassword({ email, password });
     assert.equal(error, null);
@@ -43,8 +35,6 @@ test('sign-in, refresh with rotation, and sign-out', async () => {
     const access = refreshed.data.session.access_token;
     assert.equal((await auth.getUser(access)).data.user.email, email);
     assert.equal((await auth.signOut({ scope: 'local' })).error, null);
-    const after = await client().getUser(access);
-    assert.equal(after.data.user, null);
     // The client turns the server's session_not_found into its own missing-session error.
-    assert.equal(after.error.name, 'AuthSessionMissingError', JSON.stringify(after.error));
+    assert.equal((await client().getUser(access)).error.name, 'AuthSessionMissingError');
 });

@@ -6,8 +6,7 @@ import { test } from 'node:test';
 import { StorageClient } from '@supabase/storage-js';
 
 const fixture = JSON.parse(process.env.MORVANE_FIXTURE);
-const url = process.env.MORVANE_URL;
-const storage = new StorageClient(`${url}/storage/v1`, {
+const storage = new StorageClient(`${process.env.MORVANE_URL}/storage/v1`, {
     apikey: process.env.MORVANE_ANON_KEY,
     Authorization: `Bearer ${process.env.MORVANE_TOKEN}`,
 });
@@ -20,23 +19,17 @@ function ok(result) {
     return result.data;
 }
 
-test('upload and download keep the bytes and the type', async () => {
-    const data = ok(await bucket.upload(path, pdf, { contentType: 'application/pdf' }));
-    assert.equal(data.fullPath, `invoice-templates/${path}`);
+test('upload, download, a signed URL without any token, and removal', async () => {
+    const uploaded = ok(await bucket.upload(path, pdf, { contentType: 'application/pdf' }));
+    assert.equal(uploaded.fullPath, `invoice-templates/${path}`);
     const blob = ok(await bucket.download(path));
     assert.equal(blob.type, 'application/pdf');
     assert.deepEqual(Buffer.from(await blob.arrayBuffer()), pdf);
-});
 
-test('a signed URL serves the object without any token', async () => {
-    const { signedUrl } = ok(await bucket.createSignedUrl(path, 60));
-    const served = await fetch(signedUrl);
+    const served = await fetch(ok(await bucket.createSignedUrl(path, 60)).signedUrl);
     assert.equal(served.status, 200);
-    assert.equal(served.headers.get('content-type'), 'application/pdf');
     assert.deepEqual(Buffer.from(await served.arrayBuffer()), pdf);
-});
 
-test('remove answers what went', async () => {
     const removed = ok(await bucket.remove([path, `${fixture.user}/never-was.txt`]));
     assert.deepEqual(removed.map((entry) => entry.name), [path]);
     assert.equal((await bucket.download(path)).error.statusCode, '404');
