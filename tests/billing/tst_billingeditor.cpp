@@ -183,8 +183,6 @@ private slots:
         editor.setTrackedSeconds(1800);
         QCOMPARE(preview.size(), 1);
         QCOMPARE(editor.netText(), u"€50.00"_s);
-        editor.setLegacyRate(10); // the own rate still applies
-        QCOMPARE(preview.size(), 1);
     }
 
     void vatIsShownAsAPercentageAndStoredAsAFraction()

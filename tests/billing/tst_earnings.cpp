@@ -267,7 +267,6 @@ private slots:
         labelled.surchargeLabel = u"Parking"_s;
         QTest::newRow("call-out fee with its label") << labelled << u"+ Parking"_s;
         QTest::newRow("fractional percentage") << discounted(hourly(), 12.5, true) << u"\u2212 12.5% korting"_s;
-        QTest::newRow("negative absolute discount") << discounted(hourly(), -5) << u"\u2212 korting"_s;
         QTest::newRow("VAT 7 % despite binary noise") << withVat(hourly(85), 0.07) << u"7% BTW"_s;
         QTest::newRow("all, in order")
             << withVat(withExtras(hourly(85), 100, 25, 10, 10, true), 0.21)
