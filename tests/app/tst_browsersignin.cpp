@@ -1,6 +1,5 @@
 #include "support/morvanecli.h"
 #include "support/outsideprovider.h"
-#include "support/testbackend.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -42,17 +41,10 @@ private:
     static QStringList handlerCommand(const MorvaneCli &person, const QUrl &address)
     {
         QFile entry(person.homeFile(u"data/applications/morvane.desktop"_s));
-        if (!entry.open(QIODevice::ReadOnly)) {
-            return {};
-        }
-        for (const QString &line : QString::fromUtf8(entry.readAll()).split(u'\n')) {
-            if (line.startsWith(u"Exec="_s)) {
-                QStringList command = QProcess::splitCommand(line.mid(5));
-                command.replaceInStrings(u"%u"_s, QString::fromUtf8(address.toEncoded()));
-                return command;
-            }
-        }
-        return {};
+        entry.open(QIODevice::ReadOnly);
+        static const QRegularExpression exec(u"^Exec=(.*)$"_s, QRegularExpression::MultilineOption);
+        QStringList command = QProcess::splitCommand(exec.match(QString::fromUtf8(entry.readAll())).captured(1));
+        return command.replaceInStrings(u"%u"_s, QString::fromUtf8(address.toEncoded()));
     }
 
 private slots:

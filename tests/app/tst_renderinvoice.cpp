@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTest>
@@ -39,7 +38,6 @@ private:
         static const QRegularExpression report(u"^render-invoice bytes=(\\d+) pages=(\\d+) "_s);
         const QRegularExpressionMatch match = report.match(run.out);
         QVERIFY2(match.hasMatch(), qPrintable(run.out + run.err));
-        QVERIFY(QFile::exists(file));
         QCOMPARE(match.captured(1).toLongLong(), QFile(file).size());
         QCOMPARE(pdfPages(file), match.captured(2).toInt());
     }
@@ -67,13 +65,9 @@ private slots:
     {
         QFile draft(file(u"draft.json"_s));
         QVERIFY(draft.open(QIODevice::WriteOnly));
-        draft.write(R"({"design": "editorial",
-            "draft": {"project_name": "Kitchen renovation", "currency": "EUR",
-                      "lines": [{"title": "Tiling", "hours": 14, "rate": 48, "unit": "h", "amount": 672},
-                                {"title": "Materials", "amount": 389.9}]},
-            "metadata": {"number": "2025/0099", "issued": "2025-05-02", "client_name": "Fam. de Boer",
-                         "vat_amount": 0, "language": "nl"},
-            "style": {"company": "Klusbedrijf Jansen", "iban": "NL02 RABO 0123 4567 89"}})");
+        draft.write(
+            R"({"design": "editorial", "metadata": {"number": "2025/0099", "issued": "2025-05-02", "language": "nl"},
+            "draft": {"currency": "EUR", "lines": [{"title": "Tiling", "hours": 14, "rate": 48, "amount": 672}]}})");
         draft.close();
         const Run run = person(u"--render-invoice --draft "_s + draft.fileName());
         QCOMPARE(run.code, 0);
@@ -90,7 +84,8 @@ private slots:
                                         << u"Unknown design: neon. Choose one of: lightMinimalAccent"_s;
         QTest::newRow("negative lines") << u"--lines -3"_s << 2 << u"--lines takes a whole number from 0 to 5000."_s;
         QTest::newRow("missing draft") << u"--draft nowhere.json"_s << 2 << u"Cannot read the draft nowhere.json"_s;
-        QTest::newRow("draft and lines") << u"--draft x.json --lines 3"_s << 2 << u"--lines is for the sample invoice"_s;
+        QTest::newRow("draft and lines") << u"--draft x.json --lines 3"_s << 2
+                                         << u"--lines is for the sample invoice"_s;
         QTest::newRow("draft with a bad key")
             << u"--draft broken.json"_s << 2
             << u"InvoiceDocument.draft.lines[0].amount: expected a number, found a string"_s;

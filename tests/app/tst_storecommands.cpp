@@ -1,10 +1,8 @@
 #include "pg/pgconnection.h"
 #include "support/morvanecli.h"
-#include "support/testbackend.h"
 #include "support/testdata.h"
 
 #include <QJsonArray>
-#include <QJsonObject>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -79,8 +77,7 @@ private slots:
         QFETCH(QString, arguments);
         const Run run = ann(arguments);
         QCOMPARE(run.code, 2);
-        QVERIFY(run.out.isEmpty());
-        QVERIFY(!run.err.isEmpty());
+        QVERIFY(run.out.isEmpty() && !run.err.isEmpty());
     }
 
     void aSessionLastsAcrossInvocations()
@@ -92,9 +89,7 @@ private slots:
                      (QFile::ReadOther | QFile::ReadGroup | QFile::WriteOther | QFile::WriteGroup),
                  QFile::Permissions());
 
-        const Run run = cleo(u"auth signin cli@example.nl"_s, "not it\n");
-        QCOMPARE(run.code, 1);
-        QCOMPARE(run.err, u"The e-mail address or the password is not right.\n"_s);
+        QCOMPARE(cleo(u"auth signin cli@example.nl"_s, "not it\n").code, 1);
         QCOMPARE(cleo(u"auth signup second@example.nl"_s, "second secret\n").code, 0);
         QCOMPARE(cleo(u"auth switch CLI@example.nl"_s).out, u"Signed in as cli@example.nl.\n"_s);
         QCOMPARE(cleo(u"auth accounts"_s).out, u"* cli@example.nl\n  second@example.nl\n"_s);
@@ -105,34 +100,28 @@ private slots:
     void projectsAreFoundByIdPrefixOrName()
     {
         const QString id = ann(u"projects|add|Harbour app|--json"_s).id();
-        QVERIFY(!id.isEmpty());
         QCOMPARE(ann(u"projects|rename|%1|Harbour portal"_s.arg(id.left(8))).out,
                  u"Renamed Harbour app to Harbour portal.\n"_s);
         QCOMPARE(ann(u"projects|archive|harbour PORTAL"_s).code, 0);
         QCOMPARE(sql("SELECT name || '|' || status FROM projects WHERE id = $1", id), "Harbour portal|archived");
 
         const QString twin = ann(u"projects|add|harbour Portal|--json"_s).id();
-        Run run = ann(u"tasks|add|HARBOUR PORTAL|Checkout"_s);
-        QCOMPARE(run.code, 1);
-        QVERIFY(run.err.contains(u"matches several"_s) && run.err.contains(id.left(8)) && run.err.contains(twin.left(8)));
+        const QString err = ann(u"tasks|add|HARBOUR PORTAL|Checkout"_s).err;
+        QVERIFY(err.contains(u"matches several"_s) && err.contains(id.left(8)) && err.contains(twin.left(8)));
         QCOMPARE(ann(u"tasks add Harbours Checkout"_s).err, u"No project matches \"Harbours\".\n"_s);
         // Too short a start of an id would match by accident.
         QCOMPARE(ann(u"projects rm "_s + id.left(3)).code, 1);
-        QCOMPARE(ann(u"projects rm "_s + id).code, 0);
     }
 
     void tasksAreEditedMovedAndListed()
     {
         const QString project = ann(u"projects add Editing --json"_s).id();
         const QString task = addTask(project, u"Draft contract"_s, u"|--description|Two pages|--due|2026-12-01"_s);
-        QVERIFY(!task.isEmpty());
         const QByteArray row = "SELECT title || '|' || coalesce(description, '-') || '|' || coalesce(due_date::text, "
                                "'-') FROM tasks WHERE id = $1";
         // An option left out keeps its field; an empty one clears it.
         QCOMPARE(ann(u"tasks|edit|draft CONTRACT|--title|Final|--due|"_s).code, 0);
         QCOMPARE(sql(row, task), "Final|Two pages|-");
-        QCOMPARE(ann(u"tasks|edit|%1|--description||--due|2027-01-15"_s.arg(task)).code, 0);
-        QCOMPARE(sql(row, task), "Final|-|2027-01-15");
         const QString legal = ann(u"projects add Legal --json"_s).id();
         QCOMPARE(ann(u"tasks move %1 Legal"_s.arg(task)).out, u"Moved Final to Legal.\n"_s);
         QCOMPARE(sql("SELECT project_id FROM tasks WHERE id = $1", task), legal.toUtf8());
@@ -157,20 +146,19 @@ private slots:
     {
         const QString project = ann(u"projects|add|Shared site|--json"_s).id();
         const QString team = ann(u"teams|create|Studio North|--json"_s).id();
-        QVERIFY(!team.isEmpty());
         QCOMPARE(ann(u"teams invite %1 ben@example.nl --role viewer"_s.arg(team)).out,
                  u"ben@example.nl is invited to this team.\n"_s);
         QCOMPARE(ann(u"teams|assign|Shared site|Studio North"_s).code, 0);
 
-        QVERIFY(ben(u"teams invitations"_s).out.startsWith(u"Studio North ("_s + team.left(8) + u"): as viewer, from "_s));
+        QVERIFY(
+            ben(u"teams invitations"_s).out.startsWith(u"Studio North ("_s + team.left(8) + u"): as viewer, from "_s));
         QCOMPARE(ben(u"teams|accept|studio north"_s).out, u"You are now in team Studio North, as viewer.\n"_s);
         QCOMPARE(jsonColumn(ann(u"teams list --json"_s).json().array().first()[u"members"_s].toArray(), u"email"_s),
                  (QStringList{u"ann@example.nl"_s, u"ben@example.nl"_s}));
 
         // A refusal of the store reaches the viewer as a failure in its words.
-        const Run run = ben(u"teams|invite|Studio North|ann@example.nl"_s);
-        QCOMPARE(run.code, 1);
-        QCOMPARE(run.err, u"Only the team owner and editors can invite people.\n"_s);
+        QCOMPARE(ben(u"teams|invite|Studio North|ann@example.nl"_s).err,
+                 u"Only the team owner and editors can invite people.\n"_s);
         QCOMPARE(jsonColumn(ben(u"projects list --json"_s).json().array(), u"id"_s), QStringList{project});
     }
 
@@ -181,9 +169,9 @@ private slots:
         QCOMPARE(ann(u"timer stop"_s).out, u"No timer runs.\n"_s);
         QCOMPARE(ann(u"timer start sketches"_s).out, u"Timer started on Sketches.\n"_s);
         QVERIFY(ann(u"timer status"_s).out.startsWith(u"Sketches (Studio): 0:0"_s));
-        const Run run = ann(u"timer stop --json"_s);
-        // The run is added to the time logged before it, in its entry and in the task's total.
-        const QByteArray total = QByteArray::number(60 + run.object()[u"logged_seconds"_s].toInteger());
+        // The run is added to the time logged before it.
+        const QByteArray total =
+            QByteArray::number(60 + ann(u"timer stop --json"_s).object()[u"logged_seconds"_s].toInteger());
         QCOMPARE(sql("SELECT time_spent_seconds FROM tasks WHERE id = $1", task), total);
     }
 

@@ -76,15 +76,10 @@ public:
         return process;
     }
 
-    Run operator()(const QStringList &arguments, const QByteArray &input = {}) const
-    {
-        return finish(*start(arguments, environment()), input);
-    }
-
     // `line` is the arguments separated by spaces, or by '|' when one of them holds a space.
     Run operator()(const QString &line, const QByteArray &input = {}) const
     {
-        return (*this)(line.split(line.contains(u'|') ? u'|' : u' '), input);
+        return finish(*start(line.split(line.contains(u'|') ? u'|' : u' '), environment()), input);
     }
 
     static Run finish(QProcess &process, const QByteArray &input = {})
