@@ -10,6 +10,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <functional>
+
 #include <QCoroNetworkReply>
 
 using namespace Qt::StringLiterals;
@@ -117,22 +119,29 @@ private:
     }
 
     // The server reads its catalogue again after the notice, on its own time: wait until a probe
-    // request sees the change.
-    // Until then the server's stale catalogue sends the call on and the database answers 42883.
-    bool voidProcedureShown(bool present)
+    // request sees the change (until then a stale catalogue sends calls on to the database).
+    bool catalogueShows(const QByteArray &method, const QByteArray &target, const std::function<bool(const HttpResult &)> &seen)
     {
         db().exec("NOTIFY pgrst, 'reload schema'");
         const QByteArray token = m_backend.tokenFor(m_device->userId());
-        const QByteArray body = "{\"p_invoice_id\":\"" + noProject.toUtf8() + "\"}";
+        const QByteArray body = method == "POST" ? "{\"p_invoice_id\":\"" + noProject.toUtf8() + "\"}" : QByteArray();
         for (int attempt = 0; attempt < 200; ++attempt) {
-            const HttpResult result = m_backend.request("POST", "/rest/v1/rpc/void_invoice", token, body,
-                                                        {{"Content-Type", "application/json"}});
-            if (!result.body.contains("PGRST202") == present) {
+            if (seen(m_backend.request(method, target, token, body, {{"Content-Type", "application/json"}}))) {
                 return true;
             }
             QTest::qWait(50);
         }
         return false;
+    }
+    bool voidProcedureShown(bool present)
+    {
+        return catalogueShows("POST", "/rest/v1/rpc/void_invoice",
+                              [present](const HttpResult &result) { return !result.body.contains("PGRST202") == present; });
+    }
+    bool poolColumnShown(bool present)
+    {
+        return catalogueShows("GET", "/rest/v1/invoice_lines?select=pool_project_id",
+                              [present](const HttpResult &result) { return (result.status == 200) == present; });
     }
 
     bool unbilledHas(const QString &entryId)
@@ -263,6 +272,22 @@ private slots:
         QVERIFY(runBlocking(store().voidInvoice(saved->id)));
         QVERIFY(!store().priorBilling().tasks.contains(m_fixedTask));
         QVERIFY(!store().priorBilling().poolProjects.contains(m_project));
+    }
+
+    void priorBillingReadsTheOlderLineForm()
+    {
+        // A backend from before shared prices has no pool column on lines: the read falls back,
+        // and task-level prior billing still works.
+        const std::optional<Invoice> saved = saveNew(1, nullptr, m_fixedTask);
+        QVERIFY2(saved, qPrintable(store().lastError()));
+        db().exec("ALTER TABLE invoice_lines RENAME COLUMN pool_project_id TO pool_project_kept");
+        const bool gone = poolColumnShown(false);
+        const bool read = runBlocking(store().reloadBilledEntrySet());
+        db().exec("ALTER TABLE invoice_lines RENAME COLUMN pool_project_kept TO pool_project_id");
+        QVERIFY(poolColumnShown(true));
+        QVERIFY(gone && read);
+        QVERIFY(store().priorBilling().tasks.contains(m_fixedTask));
+        QVERIFY(runBlocking(store().deleteInvoice(saved->id)));
     }
 
     void billedStateUnreadableBlocksSaving()
