@@ -13,6 +13,9 @@
 #include <QTimer>
 #include <QUuid>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 using namespace Qt::StringLiterals;
 
 QByteArray HttpResult::header(const QByteArray &name) const
@@ -100,6 +103,9 @@ bool TestBackend::restart()
 void TestBackend::launch(const QStringList &arguments)
 {
     m_process.setProcessChannelMode(QProcess::SeparateChannels);
+    // A test that ends without its destructors (a crash, a kill, QtTest's -functions listing) must
+    // not leave its server and database running: the server is told to stop when the test goes.
+    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_process.start(serverProgram(), arguments);
     QByteArray out;
     const qint64 deadline = QDateTime::currentMSecsSinceEpoch() + 120000;
