@@ -2,6 +2,7 @@
 
 #include "backend/authstore.h"
 #include "backend/runblocking.h"
+#include "pg/pgconnection.h"
 #include "store/appstore.h"
 #include "support/testbackend.h"
 
@@ -82,3 +83,29 @@ struct StoreDevice
     QByteArray userIdBytes() const { return auth->userId().toUtf8(); }
     bool refresh() { return runBlocking(store->refreshAll()); }
 };
+
+// A project at 95 an hour with a fixed-price task (1,200) and an hourly task, written straight into
+// the database: what the invoice tests bill.
+struct PricedProject
+{
+    QString project;
+    QString fixedTask;
+    QString hourlyTask;
+};
+
+inline PricedProject insertPricedProject(TestBackend &backend, const StoreDevice &owner, const QByteArray &name)
+{
+    const auto insert = [&](const QByteArray &sql, const PgParams &values) {
+        return QString::fromUtf8(backend.database().exec(sql, values).value(0, 0));
+    };
+    const QByteArray user = owner.userIdBytes();
+    PricedProject made;
+    made.project = insert("INSERT INTO projects (user_id, name, hourly_rate) VALUES ($1, $2, 95) RETURNING id",
+                          {user, name});
+    made.fixedTask = insert("INSERT INTO tasks (user_id, project_id, title, billing) VALUES ($1, $2, 'Logo', "
+                            "'{\"model\":\"fixed\",\"amount\":1200}') RETURNING id",
+                            {user, made.project.toUtf8()});
+    made.hourlyTask = insert("INSERT INTO tasks (user_id, project_id, title) VALUES ($1, $2, 'Support') RETURNING id",
+                             {user, made.project.toUtf8()});
+    return made;
+}

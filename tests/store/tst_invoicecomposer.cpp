@@ -73,14 +73,10 @@ private slots:
         Language::apply(u"en"_s);
         m_device = StoreDevice::signUp(m_backend, u"joris@example.nl"_s, u"Joris"_s);
         QVERIFY(m_device);
-        const QByteArray user = m_device->userIdBytes();
-        m_project = insert("INSERT INTO projects (user_id, name, hourly_rate) VALUES ($1, 'Library', 95) RETURNING id",
-                           {user});
-        m_fixedTask = insert("INSERT INTO tasks (user_id, project_id, title, billing) VALUES ($1, $2, 'Logo',"
-                             " '{\"model\":\"fixed\",\"amount\":1200}') RETURNING id",
-                             {user, m_project.toUtf8()});
-        m_hourlyTask = insert("INSERT INTO tasks (user_id, project_id, title) VALUES ($1, $2, 'Support') RETURNING id",
-                              {user, m_project.toUtf8()});
+        const PricedProject priced = insertPricedProject(m_backend, *m_device, "Library");
+        m_project = priced.project;
+        m_fixedTask = priced.fixedTask;
+        m_hourlyTask = priced.hourlyTask;
         m_firstHourly = newEntry(m_hourlyTask, QDate(2026, 3, 3), 2);
         m_secondHourly = newEntry(m_hourlyTask, QDate(2026, 3, 10), 1);
         m_fixedEntry = newEntry(m_fixedTask, QDate(2026, 3, 5), 1);

@@ -157,14 +157,10 @@ private slots:
         Language::apply(u"en"_s);
         m_device = StoreDevice::signUp(m_backend, u"ilse@example.nl"_s, u"Ilse"_s);
         QVERIFY(m_device);
-        const QByteArray user = m_device->userIdBytes();
-        m_project = insert("INSERT INTO projects (user_id, name, hourly_rate) VALUES ($1, 'Town hall', 95) RETURNING id",
-                           {user});
-        m_fixedTask = insert("INSERT INTO tasks (user_id, project_id, title, billing) VALUES ($1, $2, 'Logo', "
-                             "'{\"model\":\"fixed\",\"amount\":1200}') RETURNING id",
-                             {user, m_project.toUtf8()});
-        m_hourlyTask = insert("INSERT INTO tasks (user_id, project_id, title) VALUES ($1, $2, 'Support') RETURNING id",
-                              {user, m_project.toUtf8()});
+        const PricedProject priced = insertPricedProject(m_backend, *m_device, "Town hall");
+        m_project = priced.project;
+        m_fixedTask = priced.fixedTask;
+        m_hourlyTask = priced.hourlyTask;
         QVERIFY(m_device->refresh());
     }
 
