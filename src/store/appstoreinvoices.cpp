@@ -727,8 +727,14 @@ QCoro::Task<std::optional<Invoice>> AppStore::saveInvoice(InvoiceSaveRequest req
 
         step = SaveStep::Entries;
         if (!request.coveredEntryIds.isEmpty()) {
+            // Two saves over the same hours lock each entry's live link as they insert it; in one
+            // order for everybody they queue, in opposite orders they deadlock and neither is told
+            // that the hours went to the other.
+            QStringList entryIds = request.coveredEntryIds;
+            entryIds.sort();
+            entryIds.removeDuplicates();
             QList<InvoiceEntryInsert> links;
-            for (const QString &entryId : std::as_const(request.coveredEntryIds)) {
+            for (const QString &entryId : std::as_const(entryIds)) {
                 links.append(InvoiceEntryInsert{invoiceId, entryId});
             }
             const auto linksRequest = [&](const QString &token) {
@@ -739,8 +745,11 @@ QCoro::Task<std::optional<Invoice>> AppStore::saveInvoice(InvoiceSaveRequest req
 
         step = SaveStep::Trips;
         if (!request.tripIds.isEmpty()) {
+            QStringList tripIds = request.tripIds;
+            tripIds.sort();
+            tripIds.removeDuplicates();
             QList<InvoiceTripInsert> links;
-            for (const QString &tripId : std::as_const(request.tripIds)) {
+            for (const QString &tripId : std::as_const(tripIds)) {
                 links.append(InvoiceTripInsert{invoiceId, tripId});
             }
             const auto tripsRequest = [&](const QString &token) {
