@@ -169,17 +169,10 @@ private slots:
                                {u"project_id"_s, u"p"_s},   {u"title"_s, u"Design"_s},
                                {u"status"_s, u"in_progress"_s}, {u"priority"_s, u"high"_s},
                                {u"time_spent_seconds"_s, 60}, {u"started_at"_s, u"2025-03-01T09:00:00+00:00"_s}};
-        const QJsonObject entry{{u"id"_s, u"e1"_s},         {u"user_id"_s, u"u"_s},
-                                {u"task_id"_s, u"t1"_s},    {u"project_id"_s, u"p"_s},
-                                {u"started_at"_s, u"2025-03-01T09:00:00Z"_s}, {u"ended_at"_s, u"2025-03-01T10:00:00Z"_s},
-                                {u"duration_seconds"_s, 3600}};
-        const QJsonObject project{{u"id"_s, u"p1"_s}, {u"user_id"_s, u"u"_s}, {u"name"_s, u"Site"_s}, {u"status"_s, u"active"_s}};
         const QJsonObject trip{{u"id"_s, u"r1"_s}, {u"user_id"_s, u"u"_s}, {u"distance_m"_s, 1200}};
         const QJsonObject key{{u"id"_s, u"x1"_s}};
         QTest::newRow("task inserted") << u"tasks"_s << u"INSERT"_s << task << int(K::TaskInserted);
         QTest::newRow("task deleted") << u"tasks"_s << u"DELETE"_s << key << int(K::TaskDeleted);
-        QTest::newRow("entry inserted") << u"time_entries"_s << u"INSERT"_s << entry << int(K::EntryInserted);
-        QTest::newRow("project updated") << u"projects"_s << u"UPDATE"_s << project << int(K::ProjectUpserted);
         QTest::newRow("trip inserted") << u"trips"_s << u"INSERT"_s << trip << int(K::TripUpserted);
         QJsonObject badStatus = task;
         badStatus.insert(u"status"_s, u"paused"_s);

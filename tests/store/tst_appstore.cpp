@@ -5,7 +5,6 @@
 #include "store/pendingonboarding.h"
 #include "store/sessionsequence.h"
 #include "store/storedevice.h"
-#include "store/storetext.h"
 #include "support/testbackend.h"
 
 #include <QJsonDocument>
@@ -278,12 +277,6 @@ private slots:
         QVERIFY(runBlocking(store.deleteProject(project->id)));
         QVERIFY(!store.project(project->id) && !store.task(doomed->id));
         QVERIFY(!store.tasksByProject().contains(project->id));
-
-        // Gone on the backend: the next write says so and changes nothing.
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Update project failed: no row matched"_s));
-        QVERIFY(!runBlocking(store.updateProject(project->id, projectEdit)));
-        QCOMPARE(store.lastError(), StoreText::projectNotSaved());
-        store.clearLastError();
     }
 
     void recentEntriesCoverThirtyDaysAndSurviveAFailedRead()
