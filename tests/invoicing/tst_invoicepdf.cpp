@@ -114,7 +114,6 @@ private slots:
         QTest::addColumn<int>("height");
         QTest::addColumn<int>("cells");
         QTest::addColumn<int>("spacer"); // 0: no spacer row
-        QTest::newRow("row at 1100, 40 tall") << 1100 << 40 << 4 << 29;
         QTest::newRow("row ending on the edge") << 1083 << 40 << 4 << 0;
         QTest::newRow("row one pixel over the edge") << 1084 << 40 << 4 << 45;
         QTest::newRow("row of a full page height") << 500 << 1123 << 4 << 629;
