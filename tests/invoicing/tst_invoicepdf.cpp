@@ -94,13 +94,24 @@ private:
     QVariant evaluate(const QString &script) { return runBlocking(renderer->evaluate(script)); }
     double number(const QString &script) { return evaluate(script).toDouble(); }
 
-    QString save(const QByteArray &pdf, const QString &path)
+    static QString invoiceHtml(const InvoiceDraft &draft, Template design,
+                               const InvoiceStyle &style = SampleInvoice::style())
     {
-        QFile out(path);
-        if (!out.open(QIODevice::WriteOnly) || out.write(pdf) != pdf.size()) {
-            qFatal("cannot write %s", qPrintable(path));
+        return buildHTML(draft, style, brandProfile(style, design), design, SampleInvoice::metadata(draft));
+    }
+
+    // Renders and writes the PDF under `name` for the poppler tools; answers its path.
+    QString renderToFile(const QString &html, const QString &name, int *pages = nullptr)
+    {
+        const RenderedPdf rendered = runBlocking(renderer->render(html));
+        QFile out(scratch.filePath(name));
+        if (!out.open(QIODevice::WriteOnly) || out.write(rendered.pdf) != rendered.pdf.size()) {
+            qFatal("cannot write %s", qPrintable(out.fileName()));
         }
-        return path;
+        if (pages) {
+            *pages = rendered.pages;
+        }
+        return out.fileName();
     }
 
 private slots:
@@ -193,16 +204,13 @@ private slots:
             line.amount = line.hours * line.rate;
             draft.lines << line;
         }
-        const InvoiceStyle style = SampleInvoice::style();
-        const QString html = buildHTML(draft, style, brandProfile(style, Template::LightMinimalAccent),
-                                       Template::LightMinimalAccent, SampleInvoice::metadata(draft));
-        const RenderedPdf rendered = runBlocking(renderer->render(html));
-        QVERIFY(rendered.pages >= 4);
-        const QString file = save(rendered.pdf, scratch.filePath(u"long-invoice.pdf"_s));
-        QCOMPARE(pdfPageCount(file), rendered.pages);
+        int pages = 0;
+        const QString file = renderToFile(invoiceHtml(draft, Template::LightMinimalAccent), u"long.pdf"_s, &pages);
+        QVERIFY(pages >= 4);
+        QCOMPARE(pdfPageCount(file), pages);
 
         QHash<QString, int> pageOf;
-        for (int p = 1; p <= rendered.pages; ++p) {
+        for (int p = 1; p <= pages; ++p) {
             static const QRegularExpression token(u"L\\d{3}[TD]"_s);
             for (const QRegularExpressionMatch &match : token.globalMatch(pdfPageText(file, p))) {
                 QVERIFY2(!pageOf.contains(match.captured()), qPrintable(match.captured() + u" on two pages"_s));
@@ -217,11 +225,11 @@ private slots:
         }
         // The totals come after the last line, the footer on the last page.
         int totalsPage = 0;
-        for (int p = 1; p <= rendered.pages && !totalsPage; ++p) {
+        for (int p = 1; p <= pages && !totalsPage; ++p) {
             totalsPage = pdfPageText(file, p).contains(u"Subtotal"_s) ? p : 0;
         }
         QVERIFY(totalsPage >= pageOf.value(u"L140T"_s));
-        QVERIFY(pdfPageText(file, rendered.pages).contains(u"Made with Morvane"_s));
+        QVERIFY(pdfPageText(file, pages).contains(u"Made with Morvane"_s));
     }
 
     // Every design and a custom template, rendered and written as PNG beside the test for people
@@ -247,9 +255,7 @@ private slots:
             QVERIFY2(structuralProblem(*style.customTemplateHtml).isEmpty(),
                      qPrintable(structuralProblem(*style.customTemplateHtml)));
         }
-        const QString html =
-            buildHTML(draft, style, brandProfile(style, design), design, SampleInvoice::metadata(draft));
-        const RenderedPdf rendered = runBlocking(renderer->render(html));
+        const RenderedPdf rendered = runBlocking(renderer->render(invoiceHtml(draft, design, style)));
 
         const QList<QImage> images = InvoicePdfRenderer::snapshots(rendered.pdf);
         QCOMPARE(images.size(), rendered.pages);
@@ -273,9 +279,7 @@ private slots:
                              u"<img src=\"http://127.0.0.1:9/logo.png\"></main><footer>Footer</footer>"
                              u"<script>document.querySelector('main').textContent = 'Replaced by a script';</script>"
                              u"</body></html>"_s;
-        const RenderedPdf rendered = runBlocking(renderer->render(html));
-        const QString file = save(rendered.pdf, scratch.filePath(u"hostile.pdf"_s));
-        const QString text = pdfPageText(file, 1);
+        const QString text = pdfPageText(renderToFile(html, u"hostile.pdf"_s), 1);
         QVERIFY(text.contains(u"Original text"_s));
         QVERIFY(!text.contains(u"Replaced"_s));
     }
@@ -312,9 +316,7 @@ private slots:
                  u"\" style=\"width:600px;height:200px\">"
                  u"</iframe><object data=\""_s +
                  url + u"\" type=\"text/plain\"></object><!-- "_s + QString(padding, u'x') + u" -->"_s);
-        const RenderedPdf rendered = runBlocking(renderer->render(html));
-        const QString file = save(rendered.pdf, scratch.filePath(u"local.pdf"_s));
-        const QString text = pdfPageText(file, 1);
+        const QString text = pdfPageText(renderToFile(html, u"local.pdf"_s), 1);
         QVERIFY(text.contains(u"Visible text"_s));
         QVERIFY(!text.contains(u"PRIVATEKEYMATERIAL"_s));
     }
@@ -333,10 +335,10 @@ private slots:
         renderer->setLoadTimeout(std::chrono::seconds(30));
         QCOMPARE(message, u"The invoice page did not finish loading within 1 seconds."_s);
 
-        const RenderedPdf rendered = runBlocking(
-            renderer->render(page(u"<table><tbody>"_s + rows(80, 40) + u"</tbody></table><p>Second invoice</p>"_s)));
-        QCOMPARE(rendered.pages, 3);
-        const QString file = save(rendered.pdf, scratch.filePath(u"after-timeout.pdf"_s));
+        int pages = 0;
+        const QString file = renderToFile(
+            page(u"<table><tbody>"_s + rows(80, 40) + u"</tbody></table><p>Second invoice</p>"_s), u"next.pdf"_s, &pages);
+        QCOMPARE(pages, 3);
         QCOMPARE(pdfPageCount(file), 3);
         QVERIFY(pdfPageText(file, 3).contains(u"Second invoice"_s));
     }
@@ -344,15 +346,8 @@ private slots:
     // One renderer serves renders that arrive together, one after the other.
     void concurrentRendersQueue()
     {
-        const InvoiceStyle style = SampleInvoice::style();
-        const InvoiceDraft shortDraft = SampleInvoice::draft(2);
-        const InvoiceDraft longDraft = SampleInvoice::draft(30);
-        QCoro::Task<RenderedPdf> first =
-            renderer->render(buildHTML(longDraft, style, brandProfile(style, Template::Editorial), Template::Editorial,
-                                       SampleInvoice::metadata(longDraft)));
-        QCoro::Task<RenderedPdf> second =
-            renderer->render(buildHTML(shortDraft, style, brandProfile(style, Template::Editorial), Template::Editorial,
-                                       SampleInvoice::metadata(shortDraft)));
+        QCoro::Task<RenderedPdf> first = renderer->render(invoiceHtml(SampleInvoice::draft(30), Template::Editorial));
+        QCoro::Task<RenderedPdf> second = renderer->render(invoiceHtml(SampleInvoice::draft(2), Template::Editorial));
         const RenderedPdf a = runBlocking(std::move(first));
         const RenderedPdf b = runBlocking(std::move(second));
         QVERIFY(a.pages >= 2);
