@@ -73,8 +73,7 @@ private slots:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");
         QTest::newRow("plus in a time-zone offset") << u"started_at"_s << u"gte.2025-03-01T09:30:00+01:00"_s;
-        QTest::newRow("ampersand and equals in a value") << u"title"_s << u"eq.R&D = fun"_s;
-        QTest::newRow("non-ASCII, hash and question mark") << u"name"_s << u"eq.Zoë's café 東京 #1?"_s;
+        QTest::newRow("separators, hash, question mark, non-ASCII") << u"title"_s << u"eq.R&D = Zoë's 東京 #1?"_s;
         QTest::newRow("key needing encoding") << u"odd key&"_s << u"eq.1"_s;
     }
 
@@ -119,8 +118,6 @@ private slots:
         draft.userId = u"u1"_s;
         draft.name = u"New"_s;
         QCOMPARE(runBlocking(client.insert<Project>(u"projects"_s, token, draft)).first().name, u"New"_s);
-        const QList<Team> teams{{u"a"_s, u"o"_s, u"First"_s, std::nullopt}, {u"b"_s, u"o"_s, u"B"_s, u"2025-01-01T00:00:00Z"_s}};
-        QCOMPARE(runBlocking(client.insert<Team>(u"teams"_s, token, teams)), teams);
         QCOMPARE(runBlocking(client.callRPCReturning<qint64>(u"next_invoice_number"_s, token, QJsonObject{{u"p_year"_s, 2025}})), 42);
         QCOMPARE(runBlocking(client.signedURL(u"bills"_s, u"u1/INV-7.pdf"_s, 600, token)).toString(),
                  base + u"storage/v1/object/sign/bills/u1/INV-7.pdf?token=eyJ.abc"_s);
@@ -140,8 +137,6 @@ private slots:
             // Absent optionals stay out of the body.
             {"POST", "/rest/v1/projects", R"({"id":"","user_id":"u1","name":"New","status":"active"})",
              "return=representation"},
-            {"POST", "/rest/v1/teams", QJsonDocument(QJsonArray{QJsonObject{{u"id"_s, u"a"_s}, {u"owner_id"_s, u"o"_s}, {u"name"_s, u"First"_s}}, QJsonObject{{u"id"_s, u"b"_s}, {u"owner_id"_s, u"o"_s}, {u"name"_s, u"B"_s}, {u"created_at"_s, u"2025-01-01T00:00:00Z"_s}}}).toJson(),
-             "return=representation"},
             {"POST", "/rest/v1/rpc/next_invoice_number", R"({"p_year":2025})", {}},
             {"POST", "/storage/v1/object/sign/bills/u1/INV-7.pdf", R"({"expiresIn":600})", {}},
             {"POST", "/storage/v1/object/bills/u1/INV%207%20%E2%82%AC.pdf", {}, {}},
@@ -159,7 +154,7 @@ private slots:
             QCOMPARE(request.header("apikey"), anonKey.toUtf8());
         }
         QCOMPARE(server.requests()[0].header("Accept"), "application/json");
-        const RecordedRequest &upload = server.requests()[5];
+        const RecordedRequest &upload = server.requests()[4];
         QCOMPARE(upload.body, pdf);
         QCOMPARE(upload.header("Content-Type"), "application/pdf");
         QCOMPARE(upload.header("x-upsert"), "true");
