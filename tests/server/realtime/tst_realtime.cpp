@@ -288,18 +288,13 @@ private slots:
         PhoenixClient client(m_backend);
         const QString topic = nextTopic();
         QVERIFY(client.joins(topic, changesOf(u"tasks"_s, u"user_id=eq."_s + m_anna), m_annaToken));
-        // Larger than a notification may carry.
-        const QString description(20000, u'x');
         const QString task = annasTask(u"Lifecycle"_s);
-        db().exec("UPDATE tasks SET status = 'in_progress', description = $2 WHERE id = $1",
-                  {task.toUtf8(), description.toUtf8()});
+        db().exec("UPDATE tasks SET status = 'in_progress' WHERE id = $1", {task.toUtf8()});
         db().exec("DELETE FROM tasks WHERE id = $1", {task.toUtf8()});
 
-        // The rest of the payload's form is what the official client reads (tst_jsclients).
-        QVERIFY(client.take(PhoenixClient::change(topic, u"INSERT"_s, task)));
-        const auto updated = client.take(PhoenixClient::change(topic, u"UPDATE"_s, task));
-        QVERIFY(updated);
-        QCOMPARE(updated->payload[u"data"][u"record"][u"description"].toString(), description);
+        // The payload's form is what the official client reads (tst_jsclients), and rows larger
+        // than a notification may carry arrive whole in the large transaction below.
+        QVERIFY(client.take(PhoenixClient::change(topic, u"UPDATE"_s, task)));
         const auto deleted = client.take(PhoenixClient::change(topic, u"DELETE"_s, task));
         QVERIFY(deleted);
         // The key and the filter's column, nothing else of the old row.
