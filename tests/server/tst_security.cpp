@@ -30,40 +30,28 @@ const char *const stamp = "created_at=2001-02-03T04:05:06Z";
 // writes and the harmless change a PATCH makes.
 struct TableDefaults
 {
-    const char *table;
     const char *target; // "<user>/<private|team|self>"
     const char *insert;
     const char *patch;
 };
 
 // clang-format off
-const TableDefaults tableDefaults[]{
-    {"profiles", "owner/self", "display_name=$marker", "display_name=$marker"},
-    {"projects", "owner/private", "name=$marker", "description=$marker"},
-    {"tasks", "owner/private", "project_id=$privateProject title=$marker", "description=$marker"},
-    {"time_entries", "owner/private", entryRow, "logged_by_email=$marker"},
-    {"clients", "owner/private", "name=$marker", "notes=$marker"},
-    {"teams", "owner/team", "name=$marker", "name=$marker"},
-    {"team_members", "owner/team", "team_id=$team user_id=$extra email=eve@example.nl role=viewer", "role=editor"},
-    {"invoice_lines", "owner/private",
-     "invoice_id=$privateInvoice title=$marker quantity=1 unit_price=1 amount=1", "description=$marker"},
-    {"invoice_entries", "owner/private", "invoice_id=$privateInvoice time_entry_id=$privateUnbilled", stamp},
-    {"invoice_trips", "owner/private", "invoice_id=$privateInvoice trip_id=$spareTrip", stamp},
-    {"trips", "owner/private", "started_at=$time purpose=$marker", "purpose=$marker"},
-    {"unbilled_time_entries", "owner/private", entryRow, "logged_by_email=$marker"},
+const QHash<QString, TableDefaults> tableDefaults{
+    {u"profiles"_s, {"owner/self", "display_name=$marker", "display_name=$marker"}},
+    {u"projects"_s, {"owner/private", "name=$marker", "description=$marker"}},
+    {u"tasks"_s, {"owner/private", "project_id=$privateProject title=$marker", "description=$marker"}},
+    {u"time_entries"_s, {"owner/private", entryRow, "logged_by_email=$marker"}},
+    {u"clients"_s, {"owner/private", "name=$marker", "notes=$marker"}},
+    {u"teams"_s, {"owner/team", "name=$marker", "name=$marker"}},
+    {u"team_members"_s, {"owner/team", "team_id=$team user_id=$extra email=eve@example.nl role=viewer", "role=editor"}},
+    {u"invoice_lines"_s, {"owner/private",
+     "invoice_id=$privateInvoice title=$marker quantity=1 unit_price=1 amount=1", "description=$marker"}},
+    {u"invoice_entries"_s, {"owner/private", "invoice_id=$privateInvoice time_entry_id=$privateUnbilled", stamp}},
+    {u"invoice_trips"_s, {"owner/private", "invoice_id=$privateInvoice trip_id=$spareTrip", stamp}},
+    {u"trips"_s, {"owner/private", "started_at=$time purpose=$marker", "purpose=$marker"}},
+    {u"unbilled_time_entries"_s, {"owner/private", entryRow, "logged_by_email=$marker"}},
 };
 // clang-format on
-
-const TableDefaults &defaultsOf(const QString &table)
-{
-    for (const TableDefaults &d : tableDefaults) {
-        if (table == QLatin1StringView(d.table)) {
-            return d;
-        }
-    }
-    qFatal("no defaults for %s", qPrintable(table));
-    return tableDefaults[0];
-}
 
 QJsonObject parseBody(const QString &fields)
 {
@@ -81,7 +69,7 @@ QJsonObject parseBody(const QString &fields)
 // "" is the table's default for the method, "+..." the default with these keys on top.
 QJsonObject bodyFor(const QString &table, const QByteArray &method, QString fields)
 {
-    const TableDefaults &d = defaultsOf(table);
+    const TableDefaults d = tableDefaults.value(table);
     QJsonObject body;
     if (fields.isEmpty() || fields.startsWith(u'+')) {
         body = parseBody(QString::fromLatin1(method == "POST" ? d.insert : method == "PATCH" ? d.patch : ""));
@@ -329,12 +317,6 @@ private:
         return target;
     }
 
-    QByteArray rowSnapshot(const QByteArray &table, const QByteArray &where)
-    {
-        const PgResult row = db().exec("SELECT to_jsonb(t)::text FROM public." + table + " t WHERE " + where);
-        return row.rows() == 1 ? row.value(0, 0) : QByteArray();
-    }
-
     QStringList names(const QStringList &ids) const
     {
         QStringList found;
@@ -437,15 +419,9 @@ private slots:
                 names.sort();
                 return names;
             };
-            // Anonymous and service callers pass or fail before any table's policy.
-            const bool roles = qstrcmp(v.table, "projects") == 0;
-            const std::pair<const char *, const char *> callers[]{{"owner", v.owner},   {"stranger", v.stranger},
-                                                                  {"editor", v.editor}, {"viewer", v.viewer},
-                                                                  {"anon", ""},         {"service", ""}};
-            for (const auto &[caller, prefixes] : callers) {
-                if (!roles && (qstrcmp(caller, "anon") == 0 || qstrcmp(caller, "service") == 0)) {
-                    continue;
-                }
+            // Anonymous and service callers are the tokens test's: they pass or fail before any policy.
+            for (const auto &[caller, prefixes] : {std::pair{"owner", v.owner}, {"stranger", v.stranger},
+                                                   {"editor", v.editor}, {"viewer", v.viewer}}) {
                 QTest::addRow("%s: %s", v.table, caller) << QString::fromLatin1(v.table) << QString::fromLatin1(v.key)
                                                          << QString::fromLatin1(caller) << expand(prefixes);
             }
@@ -460,17 +436,7 @@ private slots:
         QFETCH(QStringList, expected);
 
         const HttpResult result = send(caller, "GET", table.toUtf8() + "?select=" + key.toUtf8(), {}, {});
-        if (caller == u"anon") {
-            QCOMPARE(result.status, 401);
-            QCOMPARE(result.code(), u"42501"_s);
-            QVERIFY(!result.header("WWW-Authenticate").isEmpty());
-            return;
-        }
         QCOMPARE(result.status, 200);
-        if (caller == u"service") {
-            expected = names(allIds(table, key));
-            QVERIFY(expected.contains(u"strangerProject"_s)); // someone else's row to bypass to
-        }
         QCOMPARE(names(jsonColumn(result.json().array(), key)), expected);
     }
 
@@ -517,7 +483,7 @@ private slots:
             for (const QString &table : {u"teams"_s, u"team_members"_s, u"trips"_s}) {
                 for (const QByteArray method : {"PATCH", "DELETE"}) {
                     row(table, u"%1 %2 %3 the owner's row"_s.arg(caller, can(effect), verb(method)), method,
-                        QString::fromLatin1(defaultsOf(table).target), {}, effect ? u"done"_s : u"hidden"_s);
+                        QString::fromLatin1(tableDefaults.value(table).target), {}, effect ? u"done"_s : u"hidden"_s);
                 }
             }
             row(u"profiles"_s, u"%1 %2 change the owner's profile"_s.arg(caller, can(effect)), "PATCH", u"owner/self"_s,
@@ -656,8 +622,10 @@ private slots:
         const QByteArray written = method == "POST"    ? condition
                                    : method == "PATCH" ? row.where + " AND " + condition
                                                        : row.where;
-        const QByteArray before = method == "POST" ? QByteArray() : rowSnapshot(stored, row.where);
-        QVERIFY2(method == "POST" || !before.isEmpty(), "the target row was not made");
+        if (method != "POST") {
+            QCOMPARE(count("SELECT count(*) FROM public." + stored + " WHERE " + row.where), 1);
+        }
+        // Before the request the body's values are not yet written (or, for a DELETE, the row is there).
         const QByteArray countWritten = "SELECT count(*) FROM public." + stored + " WHERE " + written;
         QCOMPARE(count(countWritten, params), method == "DELETE" ? 1 : 0);
 
@@ -672,9 +640,6 @@ private slots:
             QCOMPARE(result.json().array().size(), effect ? 1 : 0);
         }
         QCOMPARE(count(countWritten, params), (method == "DELETE") != effect ? 1 : 0);
-        if (!effect && method != "POST") {
-            QCOMPARE(rowSnapshot(stored, row.where), before);
-        }
     }
 
     void tokens_data()
@@ -766,7 +731,6 @@ private slots:
                                 << QString::fromLatin1(code);
         };
         row("owner invites an owner", "olga", true, "owner", 200, "");
-        row("editor invites an editor", "eddy", true, "editor", 200, "");
         row("editor cannot make an owner", "eddy", true, "owner", 403, "42501");
         // Rights come first, so an outsider cannot probe which addresses have accounts.
         row("outsider learns nothing about an address", "stranger", false, "viewer", 403, "42501");
@@ -919,7 +883,7 @@ private slots:
         QCOMPARE(after.value(0, 1), before.value(0, 1));
     }
 
-    // That voiding releases the invoice's time is tst_invoices'.
+    // That voiding releases the invoice's time and that a void invoice cannot go back is tst_invoices'.
     void aVoidInvoiceStaysVoid()
     {
         const QByteArray client = add("clients", u"user_id=$owner name=Gone"_s);
@@ -936,12 +900,6 @@ private slots:
         QCOMPARE(call(u"editor"_s, "void_invoice", voiding).status, 204);
         QCOMPARE(state(), "void");
         QCOMPARE(call(u"owner"_s, "void_invoice", voiding).status, 204);
-
-        // Not even back to draft: the trigger looks at the status the row had.
-        const HttpResult refused = send(u"owner"_s, "PATCH", "invoices?id=eq." + invoice, {{u"status"_s, u"draft"_s}});
-        QCOMPARE(refused.status, 400);
-        QVERIFY(refused.json().object().value(u"message"_s).toString().contains(u"invoice_void_final"));
-        QCOMPARE(state(), "void");
 
         // A void invoice that names a client does not stop the client from being deleted.
         QCOMPARE(send(u"owner"_s, "DELETE", "clients?id=eq." + client).json().array().size(), 1);

@@ -120,20 +120,6 @@ private slots:
         m_client.emplace(m_backend.url(), QString::fromLatin1(m_backend.anonKey()));
     }
 
-    void signUpSignsInAtOnceAndFillsTheProfile()
-    {
-        const AuthTokens tokens = signUp(u"Sara@Example.nl"_s, u"correct horse"_s, u"Sara"_s);
-        QCOMPARE(tokens.user->email, u"sara@example.nl"_s);
-        const HttpResult profile =
-            m_backend.request("GET", "/rest/v1/profiles?select=display_name,timezone", tokens.accessToken.toLatin1());
-        QCOMPARE(profile.json().array().first().toObject(),
-                 (QJsonObject{{u"display_name"_s, u"Sara"_s},
-                              {u"timezone"_s, QString::fromUtf8(QTimeZone::systemTimeZoneId())}}));
-        // The same address again, in any case, is an existing account.
-        QCOMPARE(runBlocking(m_client->signUp(u"sara@EXAMPLE.nl"_s, u"another one"_s, u"Sara"_s)).kind,
-                 SignUpOutcome::Kind::EmailExists);
-    }
-
     void signInAndItsRefusals_data()
     {
         QTest::addColumn<QString>("email");
@@ -196,7 +182,6 @@ private slots:
     {
         const AuthTokens first = signUp(u"rota@example.nl"_s, u"rotation!"_s);
         const RefreshResponse second = runBlocking(m_client->refresh(first.refreshToken));
-        QVERIFY(second.refreshToken != first.refreshToken);
         // An answer that got lost: the old token gives the active one again.
         QCOMPARE(runBlocking(m_client->refresh(first.refreshToken)).refreshToken, second.refreshToken);
         const RefreshResponse third = runBlocking(m_client->refresh(second.refreshToken));
@@ -225,36 +210,33 @@ private slots:
         QVERIFY(refreshes(mine));
     }
 
+    // Signing out one device is the JavaScript client's check; here, the wider scopes.
     void logoutScopes()
     {
         signUp(u"scopes@example.nl"_s, u"many devices"_s);
-        QList<AuthTokens> devices;
-        for (int i = 0; i < 3; ++i) {
-            devices.append(signIn(u"scopes@example.nl"_s, u"many devices"_s));
-        }
-        auto logout = [&](int device, const QByteArray &scope) {
-            return m_backend.request("POST", "/auth/v1/logout?scope=" + scope, devices[device].accessToken.toLatin1())
-                .status;
+        const AuthTokens mine = signIn(u"scopes@example.nl"_s, u"many devices"_s);
+        const AuthTokens other = signIn(u"scopes@example.nl"_s, u"many devices"_s);
+        auto logout = [&](const QByteArray &scope) {
+            return m_backend.request("POST", "/auth/v1/logout?scope=" + scope, mine.accessToken.toLatin1()).status;
         };
-        // The application signs out with scope local: only that device.
-        runBlocking(m_client->signOut(devices[0].accessToken));
-        QVERIFY(!refreshes(devices[0]));
-        QCOMPARE(m_backend.request("GET", "/auth/v1/user", devices[0].accessToken.toLatin1()).status, 403);
-        QCOMPARE(logout(1, "others"), 204);
-        QVERIFY(refreshes(devices[1]));
-        QVERIFY(!refreshes(devices[2]));
-        QCOMPARE(logout(1, "global"), 204);
-        QVERIFY(!refreshes(devices[1]));
+        QCOMPARE(logout("others"), 204);
+        QVERIFY(refreshes(mine));
+        QVERIFY(!refreshes(other));
+        QCOMPARE(logout("global"), 204);
+        QVERIFY(!refreshes(mine));
         QCOMPARE(m_backend.request("POST", "/auth/v1/logout?scope=local").status, 401);
     }
 
     void currentUser()
     {
-        const AuthTokens tokens = signUp(u"me@example.nl"_s, u"it is me"_s, u"Me"_s);
-        const QByteArray access = tokens.accessToken.toLatin1();
+        // Signed up and in at once, under the address as the account keeps it, with a profile filled in.
+        const QByteArray access = signUp(u"Me@Example.nl"_s, u"it is me"_s, u"Me"_s).accessToken.toLatin1();
         const QJsonObject user = m_backend.request("GET", "/auth/v1/user", access).json().object();
-        QCOMPARE(user.value(u"identities"_s).toArray().first().toObject().value(u"provider"_s).toString(), u"email"_s);
+        QCOMPARE(user.value(u"email"_s).toString(), u"me@example.nl"_s);
         QVERIFY(!user.contains(u"encrypted_password"_s));
+        QCOMPARE(m_backend.request("GET", "/rest/v1/profiles?select=display_name,timezone", access).json()[0].toObject(),
+                 (QJsonObject{{u"display_name"_s, u"Me"_s},
+                              {u"timezone"_s, QString::fromUtf8(QTimeZone::systemTimeZoneId())}}));
 
         // Metadata is limited as a whole: changes that are each small cannot add up.
         auto store = [&](const QString &key) {
@@ -323,18 +305,12 @@ private slots:
         QCOMPARE(signUpFrom(u"127.0.0.4"_s, 30), 200);
     }
 
-    void hostileRedirectsLandOnTheSite_data()
+    // Which addresses are hostile is tst_redirectpolicy's; here, that a mailed link is judged without the
+    // loopback leeway a native sign-in has, and a refused address lands on the server's own.
+    void aMailedLinkLandsOnTheSiteNotOnALoopbackPort()
     {
-        QTest::addColumn<QString>("address");
-        QTest::newRow("a stranger's site") << u"https://evil.example/"_s;
-        QTest::newRow("a loopback port, for an e-mail link") << u"http://127.0.0.1:9/"_s;
-    }
-
-    void hostileRedirectsLandOnTheSite()
-    {
-        QFETCH(QString, address);
         const HttpResult answer = m_backend.request(
-            "GET", "/auth/v1/verify?token=no-such-token&type=recovery&redirect_to=" + QUrl::toPercentEncoding(address));
+            "GET", "/auth/v1/verify?token=no-such-token&type=recovery&redirect_to=http%3A%2F%2F127.0.0.1%3A9%2F");
         QCOMPARE(answer.status, 303);
         QVERIFY2(answer.header("Location").startsWith(QByteArray(m_backend.url().toEncoded() + '#')),
                  answer.header("Location").constData());
@@ -355,7 +331,6 @@ private slots:
         // The password is checked before the confirmation, so strangers learn nothing.
         QCOMPARE(signInCode(u"wrong one"_s), u"invalid_credentials"_s);
         QCOMPARE(signInCode(u"patience"_s), u"email_not_confirmed"_s);
-        QCOMPARE(failureCode(client.resendSignupConfirmation(u"wait@example.nl"_s)), u"over_email_send_rate_limit"_s);
 
         const QString link = lastLink(mails, u"wait@example.nl"_s);
         QVERIFY2(link.startsWith(confirming.url().toString() + u"/auth/v1/verify?"_s), qPrintable(link));
