@@ -271,9 +271,6 @@ private slots:
         QCOMPARE(count("SELECT count(*) FROM projects WHERE id = $1 AND user_id = $2 AND team_id = $3",
                        {annasTeamProject, m_bob.toUtf8(), bobsTeam}),
                  1);
-        QCOMPARE(count("SELECT count(*) FROM tasks WHERE id IN ($1, $2) AND project_id = $3",
-                       {bobsTaskInHerProject, annasTaskBobLogs, annasTeamProject}),
-                 2);
         QCOMPARE(count("SELECT count(*) FROM projects WHERE id = $1 AND team_id IS NULL", {bobsProjectInHerTeam}), 1);
         QCOMPARE(count("SELECT count(*) FROM invoices WHERE id = $1 AND client_id IS NULL AND project_id IS NULL"
                        " AND status = 'void'",

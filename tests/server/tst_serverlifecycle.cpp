@@ -168,26 +168,9 @@ private slots:
         slow.write("GET /rest/v1/tasks HTTP/1.1\r\nHost: x\r\n");
         QTRY_COMPARE_WITH_TIMEOUT(slow.state(), QAbstractSocket::UnconnectedState, 15000);
 
-        // A body far over the limit is refused while it arrives, before the server holds it all.
-        QTcpSocket big;
-        big.connectToHost(url.host(), quint16(url.port()));
-        QVERIFY(big.waitForConnected(10000));
-        big.write("POST /rest/v1/clients HTTP/1.1\r\nHost: x\r\nContent-Type: application/json\r\n"
-                  "Content-Length: 1073741824\r\n\r\n");
-        const QByteArray chunk(1024 * 1024, 'x');
-        QByteArray answer;
-        for (int i = 0; i < 64 && big.state() == QAbstractSocket::ConnectedState; ++i) {
-            big.write(chunk);
-            big.waitForBytesWritten(1000);
-            big.waitForReadyRead(50);
-            answer += big.readAll();
-        }
-        QTRY_VERIFY_WITH_TIMEOUT(
-            (answer += big.readAll()).contains("PGRST413") || big.state() == QAbstractSocket::UnconnectedState, 15000);
-        answer += big.readAll();
-        QVERIFY2(answer.startsWith("HTTP/1.1 413"), answer.left(200).constData());
-        QVERIFY(answer.contains("\"code\":\"PGRST413\""));
-
+        // A body over the 10 MiB limit is refused by its declared length, before any of it arrives.
+        QVERIFY(firstLine(url, "POST /rest/v1/clients HTTP/1.1\r\nHost: x\r\nContent-Length: 10485761\r\n\r\n")
+                    .startsWith("HTTP/1.1 413"));
         // The head of a request is held to a few tens of KiB (where the framing draws the line is tst_requestframing's).
         QCOMPARE(firstLine(url, "GET / HTTP/1.1\r\nX-Big: " + QByteArray(70 * 1024, 'a')),
                  "HTTP/1.1 431 Request Header Fields Too Large");

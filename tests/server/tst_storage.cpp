@@ -381,14 +381,6 @@ private slots:
         QVERIFY(!QFileInfo::exists(m_backend.dataDir() + u"/storage/escape.txt"_s));
     }
 
-    void requestsOverTheServerLimitAreRefusedWhileArriving()
-    {
-        const QSet<QString> filesBefore = filesOnDisk();
-        QCOMPARE(upload(m_anna + u"/huge.bin"_s, QByteArray(10 * 1024 * 1024 + 1, 'x')).status, 413);
-        QCOMPARE(versionOf(m_anna + u"/huge.bin"_s), QString());
-        QCOMPARE(filesOnDisk(), filesBefore);
-    }
-
     void onlyUpsertAndPutReplace()
     {
         const QString name = m_anna + u"/invoices/2025-0001.pdf"_s;
