@@ -36,6 +36,21 @@ MORVANE_PACKAGES=(
     fonts-jetbrains-mono
     fonts-league-spartan
     fonts-urw-base35
+    qt6-declarative-dev
+    qml6-module-qtqml
+    qml6-module-qtqml-workerscript
+    qml6-module-qtquick
+    qml6-module-qtquick-controls
+    qml6-module-qtquick-layouts
+    qml6-module-qtquick-templates
+    qml6-module-qtquick-window
+    qml6-module-qtquick-dialogs
+    qml6-module-qt-labs-platform
+    qml6-module-qt-labs-settings
+    qml6-module-qtquick-pdf
+    qml6-module-qttest
+    fonts-noto-cjk
+    libqt6svg6
 )
 
 morvane_missing_packages() {

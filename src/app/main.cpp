@@ -1,13 +1,21 @@
 #include "app/commandline.h"
 #include "app/renderinvoice.h"
 #include "i18n/language.h"
+#include "ui/desktopapp.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QTextStream>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(Morvane_UiPlugin)
 
 int main(int argc, char *argv[])
 {
+    // Without a command, the window; with one, the command line, which starts no QML engine.
+    if (DesktopApp::wanted(argc, argv)) {
+        return DesktopApp::run(argc, argv);
+    }
     // Only rendering an invoice needs a GUI application (for the web engine); nothing else pays for it.
     const std::unique_ptr<QCoreApplication> app = RenderInvoiceCommand::requested(argc, argv)
                                                       ? RenderInvoiceCommand::makeApplication(argc, argv)

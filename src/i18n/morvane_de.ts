@@ -1503,5 +1503,705 @@
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>Der Timer dieser Aufgabe wurde auf einem anderen Gerät gestartet, daher wurde ihr Status nicht geändert.</translation>
     </message>
+    <message id="ui.action.floatingTimer">
+      <source>Show or hide the floating timer</source>
+      <translation>Schwebenden Timer ein- oder ausblenden</translation>
+    </message>
+    <message id="ui.action.newProject">
+      <source>New project</source>
+      <translation>Neues Projekt</translation>
+    </message>
+    <message id="ui.action.newTask">
+      <source>New task</source>
+      <translation>Neue Aufgabe</translation>
+    </message>
+    <message id="ui.action.newTeam">
+      <source>New team</source>
+      <translation>Neues Team</translation>
+    </message>
+    <message id="ui.action.settings">
+      <source>Settings</source>
+      <translation>Einstellungen</translation>
+    </message>
+    <message id="ui.action.signOut">
+      <source>Sign out</source>
+      <translation>Abmelden</translation>
+    </message>
+    <message id="ui.action.toggleTheme">
+      <source>Switch between light and dark</source>
+      <translation>Zwischen hell und dunkel wechseln</translation>
+    </message>
+    <message id="ui.action.toggleTimer">
+      <source>Start or stop the timer</source>
+      <translation>Timer starten oder stoppen</translation>
+    </message>
+    <message id="ui.auth.aboutYou">
+      <source>A little about you</source>
+      <translation>Ein bisschen über dich</translation>
+    </message>
+    <message id="ui.auth.confirmBody">
+      <source>We sent a confirmation link to %1. Open it, then sign in here.</source>
+      <translation>Wir haben einen Bestätigungslink an %1 geschickt. Öffne ihn und melde dich dann hier an.</translation>
+    </message>
+    <message id="ui.auth.confirmResent">
+      <source>We sent a new confirmation link to %1.</source>
+      <translation>Wir haben einen neuen Bestätigungslink an %1 geschickt.</translation>
+    </message>
+    <message id="ui.auth.confirmSent">
+      <source>We sent a link to %1. Open it to confirm your address, then sign in.</source>
+      <translation>Wir haben einen Link an %1 geschickt. Öffne ihn, um deine Adresse zu bestätigen, und melde dich dann an.</translation>
+    </message>
+    <message id="ui.auth.confirmTitle">
+      <source>Confirm your e-mail</source>
+      <translation>Bestätige deine E-Mail-Adresse</translation>
+    </message>
+    <message id="ui.auth.continueAs">
+      <source>Continue as %1</source>
+      <translation>Weiter als %1</translation>
+    </message>
+    <message id="ui.auth.continueWith">
+      <source>Continue with %1</source>
+      <translation>Weiter mit %1</translation>
+    </message>
+    <message id="ui.auth.createAccount">
+      <source>Create your account</source>
+      <translation>Erstelle dein Konto</translation>
+    </message>
+    <message id="ui.auth.email">
+      <source>E-mail</source>
+      <translation>E-Mail</translation>
+    </message>
+    <message id="ui.auth.forgot">
+      <source>Forgot password?</source>
+      <translation>Passwort vergessen?</translation>
+    </message>
+    <message id="ui.auth.getStarted">
+      <source>Get started</source>
+      <translation>Los geht’s</translation>
+    </message>
+    <message id="ui.auth.haveAccount">
+      <source>I already have an account</source>
+      <translation>Ich habe schon ein Konto</translation>
+    </message>
+    <message id="ui.auth.password">
+      <source>Password</source>
+      <translation>Passwort</translation>
+    </message>
+    <message id="ui.auth.passwordHint">
+      <source>At least 8 characters.</source>
+      <translation>Mindestens 8 Zeichen.</translation>
+    </message>
+    <message id="ui.auth.rememberMe">
+      <source>Remember me on this computer</source>
+      <translation>Auf diesem Computer angemeldet bleiben</translation>
+    </message>
+    <message id="ui.auth.resend">
+      <source>Send the link again</source>
+      <translation>Link erneut senden</translation>
+    </message>
+    <message id="ui.auth.resetSent">
+      <source>Check your inbox for the reset link.</source>
+      <translation>In deinem Posteingang findest du den Link zum Zurücksetzen.</translation>
+    </message>
+    <message id="ui.auth.resetTitle">
+      <source>Reset your password</source>
+      <translation>Passwort zurücksetzen</translation>
+    </message>
+    <message id="ui.auth.sendReset">
+      <source>Send the reset link</source>
+      <translation>Link zum Zurücksetzen senden</translation>
+    </message>
+    <message id="ui.auth.signInTitle">
+      <source>Sign in</source>
+      <translation>Anmelden</translation>
+    </message>
+    <message id="ui.auth.toSignIn">
+      <source>Back to sign in</source>
+      <translation>Zurück zur Anmeldung</translation>
+    </message>
+    <message id="ui.auth.toSignUp">
+      <source>Create an account</source>
+      <translation>Konto erstellen</translation>
+    </message>
+    <message id="ui.auth.welcome">
+      <source>Welcome to Morvane</source>
+      <translation>Willkommen bei Morvane</translation>
+    </message>
+    <message id="ui.auth.welcomeBody">
+      <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
+      <translation>Erfasse deine Zeit für Projekte und Aufgaben und mach daraus Rechnungen. Deine Daten bleiben auf diesem Computer, solange du keinen gemeinsamen Server verbindest.</translation>
+    </message>
+    <message id="ui.category.admin">
+      <source>Admin</source>
+      <translation>Verwaltung</translation>
+    </message>
+    <message id="ui.category.billable">
+      <source>Billable</source>
+      <translation>Abrechenbar</translation>
+    </message>
+    <message id="ui.category.internal">
+      <source>Internal work</source>
+      <translation>Interne Arbeit</translation>
+    </message>
+    <message id="ui.category.none">
+      <source>None</source>
+      <translation>Keine</translation>
+    </message>
+    <message id="ui.common.cancel">
+      <source>Cancel</source>
+      <translation>Abbrechen</translation>
+    </message>
+    <message id="ui.common.continue">
+      <source>Continue</source>
+      <translation>Weiter</translation>
+    </message>
+    <message id="ui.common.delete">
+      <source>Delete</source>
+      <translation>Löschen</translation>
+    </message>
+    <message id="ui.common.dismiss">
+      <source>Dismiss</source>
+      <translation>Schließen</translation>
+    </message>
+    <message id="ui.common.edit">
+      <source>Edit</source>
+      <translation>Bearbeiten</translation>
+    </message>
+    <message id="ui.common.remove">
+      <source>Remove %1</source>
+      <translation>%1 entfernen</translation>
+    </message>
+    <message id="ui.common.retry">
+      <source>Try again</source>
+      <translation>Erneut versuchen</translation>
+    </message>
+    <message id="ui.common.save">
+      <source>Save</source>
+      <translation>Speichern</translation>
+    </message>
+    <message id="ui.common.saving">
+      <source>Saving</source>
+      <translation>Wird gespeichert</translation>
+    </message>
+    <message id="ui.entries.billed">
+      <source>Billed</source>
+      <translation>Abgerechnet</translation>
+    </message>
+    <message id="ui.entries.delete">
+      <source>Delete this entry</source>
+      <translation>Diesen Eintrag löschen</translation>
+    </message>
+    <message id="ui.entries.deleteBody">
+      <source>The task's total goes down by its length.</source>
+      <translation>Die Gesamtzeit der Aufgabe verringert sich um seine Dauer.</translation>
+    </message>
+    <message id="ui.entries.deleteTitle">
+      <source>Delete this time entry?</source>
+      <translation>Diesen Zeiteintrag löschen?</translation>
+    </message>
+    <message id="ui.entries.empty">
+      <source>No time yet. Press Space to start the timer, or log minutes by hand.</source>
+      <translation>Noch keine Zeit erfasst. Drücke die Leertaste, um den Timer zu starten, oder erfasse Minuten von Hand.</translation>
+    </message>
+    <message id="ui.entries.end">
+      <source>End</source>
+      <translation>Ende</translation>
+    </message>
+    <message id="ui.entries.invalid">
+      <source>Use the form 2026-03-01 09:30, with the end after the start.</source>
+      <translation>Verwende das Format 2026-03-01 09:30; das Ende muss nach dem Beginn liegen.</translation>
+    </message>
+    <message id="ui.entries.length">
+      <source>Minutes</source>
+      <translation>Minuten</translation>
+    </message>
+    <message id="ui.entries.log">
+      <source>Log</source>
+      <translation>Erfassen</translation>
+    </message>
+    <message id="ui.entries.minutes">
+      <source>Minutes worked</source>
+      <translation>Gearbeitete Minuten</translation>
+    </message>
+    <message id="ui.entries.minutesInvalid">
+      <source>Enter the minutes as a number, such as 45 or 90.</source>
+      <translation>Gib die Minuten als Zahl ein, etwa 45 oder 90.</translation>
+    </message>
+    <message id="ui.entries.start">
+      <source>Start</source>
+      <translation>Beginn</translation>
+    </message>
+    <message id="ui.entries.title">
+      <source>Time entries</source>
+      <translation>Zeiteinträge</translation>
+    </message>
+    <message id="ui.entries.total">
+      <source>Total %1</source>
+      <translation>Gesamt %1</translation>
+    </message>
+    <message id="ui.floating.hide">
+      <source>Hide the floating timer</source>
+      <translation>Schwebenden Timer ausblenden</translation>
+    </message>
+    <message id="ui.floating.title">
+      <source>Morvane timer</source>
+      <translation>Morvane-Timer</translation>
+    </message>
+    <message id="ui.inspector.addNote">
+      <source>Add a note</source>
+      <translation>Notiz hinzufügen</translation>
+    </message>
+    <message id="ui.inspector.addSubtask">
+      <source>Add a subtask</source>
+      <translation>Unteraufgabe hinzufügen</translation>
+    </message>
+    <message id="ui.inspector.assignees">
+      <source>Assigned to</source>
+      <translation>Zugewiesen an</translation>
+    </message>
+    <message id="ui.inspector.category">
+      <source>Category</source>
+      <translation>Kategorie</translation>
+    </message>
+    <message id="ui.inspector.describe">
+      <source>Notes for yourself or the client</source>
+      <translation>Notizen für dich oder den Kunden</translation>
+    </message>
+    <message id="ui.inspector.description">
+      <source>Description</source>
+      <translation>Beschreibung</translation>
+    </message>
+    <message id="ui.inspector.due">
+      <source>Due</source>
+      <translation>Fällig</translation>
+    </message>
+    <message id="ui.inspector.dueDate">
+      <source>Due date</source>
+      <translation>Fälligkeitsdatum</translation>
+    </message>
+    <message id="ui.inspector.none">
+      <source>No task selected</source>
+      <translation>Keine Aufgabe ausgewählt</translation>
+    </message>
+    <message id="ui.inspector.noneHint">
+      <source>Choose a task to see its details and time entries.</source>
+      <translation>Wähle eine Aufgabe, um ihre Details und Zeiteinträge zu sehen.</translation>
+    </message>
+    <message id="ui.inspector.notes">
+      <source>Notes</source>
+      <translation>Notizen</translation>
+    </message>
+    <message id="ui.inspector.ownPrice">
+      <source>This task has its own price.</source>
+      <translation>Diese Aufgabe hat einen eigenen Preis.</translation>
+    </message>
+    <message id="ui.inspector.price">
+      <source>Price</source>
+      <translation>Preis</translation>
+    </message>
+    <message id="ui.inspector.priority">
+      <source>Priority</source>
+      <translation>Priorität</translation>
+    </message>
+    <message id="ui.inspector.status">
+      <source>Status</source>
+      <translation>Status</translation>
+    </message>
+    <message id="ui.inspector.subtasks">
+      <source>Subtasks</source>
+      <translation>Unteraufgaben</translation>
+    </message>
+    <message id="ui.inspector.title">
+      <source>Task title</source>
+      <translation>Aufgabentitel</translation>
+    </message>
+    <message id="ui.onboarding.currency">
+      <source>Currency</source>
+      <translation>Währung</translation>
+    </message>
+    <message id="ui.onboarding.language">
+      <source>Language</source>
+      <translation>Sprache</translation>
+    </message>
+    <message id="ui.onboarding.name">
+      <source>Your name</source>
+      <translation>Dein Name</translation>
+    </message>
+    <message id="ui.onboarding.rate">
+      <source>Default hourly rate</source>
+      <translation>Standard-Stundensatz</translation>
+    </message>
+    <message id="ui.onboarding.rateInvalid">
+      <source>Enter an amount, such as 85 or 72.50.</source>
+      <translation>Gib einen Betrag ein, etwa 85 oder 72,50.</translation>
+    </message>
+    <message id="ui.onboarding.timeZone">
+      <source>Time zone</source>
+      <translation>Zeitzone</translation>
+    </message>
+    <message id="ui.palette.action">
+      <source>Action</source>
+      <translation>Aktion</translation>
+    </message>
+    <message id="ui.palette.none">
+      <source>Nothing matches.</source>
+      <translation>Keine Treffer.</translation>
+    </message>
+    <message id="ui.palette.placeholder">
+      <source>Search projects, tasks and actions</source>
+      <translation>Projekte, Aufgaben und Aktionen suchen</translation>
+    </message>
+    <message id="ui.palette.project">
+      <source>Project</source>
+      <translation>Projekt</translation>
+    </message>
+    <message id="ui.palette.task">
+      <source>Task</source>
+      <translation>Aufgabe</translation>
+    </message>
+    <message id="ui.priority.high">
+      <source>High</source>
+      <translation>Hoch</translation>
+    </message>
+    <message id="ui.priority.low">
+      <source>Low</source>
+      <translation>Niedrig</translation>
+    </message>
+    <message id="ui.priority.medium">
+      <source>Medium</source>
+      <translation>Mittel</translation>
+    </message>
+    <message id="ui.projects.actions">
+      <source>Project actions</source>
+      <translation>Projektaktionen</translation>
+    </message>
+    <message id="ui.projects.archive">
+      <source>Archive</source>
+      <translation>Archivieren</translation>
+    </message>
+    <message id="ui.projects.delete">
+      <source>Delete project…</source>
+      <translation>Projekt löschen…</translation>
+    </message>
+    <message id="ui.projects.deleteBody">
+      <source>Its tasks and their time entries are deleted too. This cannot be undone.</source>
+      <translation>Seine Aufgaben und deren Zeiteinträge werden ebenfalls gelöscht. Das lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message id="ui.projects.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>%1 löschen?</translation>
+    </message>
+    <message id="ui.projects.describe">
+      <source>Add a description</source>
+      <translation>Beschreibung hinzufügen</translation>
+    </message>
+    <message id="ui.projects.markActive">
+      <source>Mark as active</source>
+      <translation>Als aktiv markieren</translation>
+    </message>
+    <message id="ui.projects.markCompleted">
+      <source>Mark as completed</source>
+      <translation>Als abgeschlossen markieren</translation>
+    </message>
+    <message id="ui.projects.name">
+      <source>Project name</source>
+      <translation>Projektname</translation>
+    </message>
+    <message id="ui.projects.notShared">
+      <source>Not shared</source>
+      <translation>Nicht geteilt</translation>
+    </message>
+    <message id="ui.projects.share">
+      <source>Share with a team</source>
+      <translation>Mit einem Team teilen</translation>
+    </message>
+    <message id="ui.projects.status.active">
+      <source>Active</source>
+      <translation>Aktiv</translation>
+    </message>
+    <message id="ui.projects.status.archived">
+      <source>Archived</source>
+      <translation>Archiviert</translation>
+    </message>
+    <message id="ui.projects.status.completed">
+      <source>Completed</source>
+      <translation>Abgeschlossen</translation>
+    </message>
+    <message id="ui.projects.viewOnly">
+      <source>View only</source>
+      <translation>Nur Ansicht</translation>
+    </message>
+    <message id="ui.sidebar.newProjectName">
+      <source>New project name</source>
+      <translation>Name des neuen Projekts</translation>
+    </message>
+    <message id="ui.sidebar.newTeamName">
+      <source>New team name</source>
+      <translation>Name des neuen Teams</translation>
+    </message>
+    <message id="ui.sidebar.overview">
+      <source>All projects</source>
+      <translation>Alle Projekte</translation>
+    </message>
+    <message id="ui.sidebar.projects">
+      <source>Projects</source>
+      <translation>Projekte</translation>
+    </message>
+    <message id="ui.sidebar.running">
+      <source>Timer running</source>
+      <translation>Timer läuft</translation>
+    </message>
+    <message id="ui.sidebar.shared">
+      <source>Shared with a team</source>
+      <translation>Mit einem Team geteilt</translation>
+    </message>
+    <message id="ui.sidebar.teams">
+      <source>Teams</source>
+      <translation>Teams</translation>
+    </message>
+    <message id="ui.startup.backend">
+      <source>Starting your local backend…</source>
+      <translation>Dein lokales Backend wird gestartet…</translation>
+    </message>
+    <message id="ui.startup.failed">
+      <source>Your local backend could not start.</source>
+      <translation>Dein lokales Backend konnte nicht gestartet werden.</translation>
+    </message>
+    <message id="ui.startup.loading">
+      <source>Loading your projects…</source>
+      <translation>Deine Projekte werden geladen…</translation>
+    </message>
+    <message id="ui.status.completed">
+      <source>Completed</source>
+      <translation>Erledigt</translation>
+    </message>
+    <message id="ui.status.in_progress">
+      <source>In progress</source>
+      <translation>In Arbeit</translation>
+    </message>
+    <message id="ui.status.not_started">
+      <source>Not started</source>
+      <translation>Nicht begonnen</translation>
+    </message>
+    <message id="ui.tasks.add">
+      <source>Add a task and press Enter</source>
+      <translation>Aufgabe eingeben und Enter drücken</translation>
+    </message>
+    <message id="ui.tasks.bulkDeleteTitle">
+      <source>Delete the selected tasks (%1)?</source>
+      <translation>Ausgewählte Aufgaben (%1) löschen?</translation>
+    </message>
+    <message id="ui.tasks.check">
+      <source>Select %1</source>
+      <translation>%1 auswählen</translation>
+    </message>
+    <message id="ui.tasks.clearSelection">
+      <source>Clear</source>
+      <translation>Auswahl aufheben</translation>
+    </message>
+    <message id="ui.tasks.deleteBody">
+      <source>Its time entries are deleted too.</source>
+      <translation>Ihre Zeiteinträge werden ebenfalls gelöscht.</translation>
+    </message>
+    <message id="ui.tasks.deleteTitle">
+      <source>Delete this task?</source>
+      <translation>Diese Aufgabe löschen?</translation>
+    </message>
+    <message id="ui.tasks.dragHandle">
+      <source>Drag to reorder</source>
+      <translation>Zum Umsortieren ziehen</translation>
+    </message>
+    <message id="ui.tasks.empty">
+      <source>No tasks yet.</source>
+      <translation>Noch keine Aufgaben.</translation>
+    </message>
+    <message id="ui.tasks.emptyHint">
+      <source>Press Ctrl+N to add one.</source>
+      <translation>Drücke Ctrl+N, um eine anzulegen.</translation>
+    </message>
+    <message id="ui.tasks.filter">
+      <source>Filter</source>
+      <translation>Filter</translation>
+    </message>
+    <message id="ui.tasks.filter.active">
+      <source>Open</source>
+      <translation>Offen</translation>
+    </message>
+    <message id="ui.tasks.filter.all">
+      <source>All</source>
+      <translation>Alle</translation>
+    </message>
+    <message id="ui.tasks.filter.archived">
+      <source>Archived</source>
+      <translation>Archiviert</translation>
+    </message>
+    <message id="ui.tasks.filter.done">
+      <source>Done</source>
+      <translation>Erledigt</translation>
+    </message>
+    <message id="ui.tasks.list">
+      <source>Tasks</source>
+      <translation>Aufgaben</translation>
+    </message>
+    <message id="ui.tasks.markDone">
+      <source>Mark done</source>
+      <translation>Als erledigt markieren</translation>
+    </message>
+    <message id="ui.tasks.moveTo">
+      <source>Move to…</source>
+      <translation>Verschieben nach…</translation>
+    </message>
+    <message id="ui.tasks.needsProject">
+      <source>Create a project first: tasks belong to a project.</source>
+      <translation>Lege zuerst ein Projekt an: Aufgaben gehören immer zu einem Projekt.</translation>
+    </message>
+    <message id="ui.tasks.noMatch">
+      <source>No task matches “%1”.</source>
+      <translation>Keine Aufgabe passt zu „%1“.</translation>
+    </message>
+    <message id="ui.tasks.noMatchHint">
+      <source>Try fewer letters, or press Esc to clear the search.</source>
+      <translation>Versuche es mit weniger Buchstaben oder drücke Esc, um die Suche zu leeren.</translation>
+    </message>
+    <message id="ui.tasks.noProjects">
+      <source>No projects yet.</source>
+      <translation>Noch keine Projekte.</translation>
+    </message>
+    <message id="ui.tasks.noProjectsHint">
+      <source>Press Ctrl+Shift+N to create your first project.</source>
+      <translation>Drücke Ctrl+Shift+N, um dein erstes Projekt anzulegen.</translation>
+    </message>
+    <message id="ui.tasks.reopen">
+      <source>Reopen</source>
+      <translation>Wieder öffnen</translation>
+    </message>
+    <message id="ui.tasks.search">
+      <source>Search</source>
+      <translation>Suchen</translation>
+    </message>
+    <message id="ui.tasks.selected">
+      <source>%1 selected</source>
+      <translation>%1 ausgewählt</translation>
+    </message>
+    <message id="ui.tasks.sort">
+      <source>Sort</source>
+      <translation>Sortieren</translation>
+    </message>
+    <message id="ui.tasks.sort.alpha">
+      <source>Name</source>
+      <translation>Name</translation>
+    </message>
+    <message id="ui.tasks.sort.createdDesc">
+      <source>Newest first</source>
+      <translation>Neueste zuerst</translation>
+    </message>
+    <message id="ui.tasks.sort.dueAsc">
+      <source>Due date</source>
+      <translation>Fälligkeit</translation>
+    </message>
+    <message id="ui.tasks.sort.manual">
+      <source>Manual order</source>
+      <translation>Eigene Reihenfolge</translation>
+    </message>
+    <message id="ui.tasks.sort.priorityDesc">
+      <source>Priority</source>
+      <translation>Priorität</translation>
+    </message>
+    <message id="ui.tasks.sort.trackedDesc">
+      <source>Most tracked</source>
+      <translation>Meiste erfasste Zeit</translation>
+    </message>
+    <message id="ui.teams.accept">
+      <source>Accept</source>
+      <translation>Annehmen</translation>
+    </message>
+    <message id="ui.teams.decline">
+      <source>Decline</source>
+      <translation>Ablehnen</translation>
+    </message>
+    <message id="ui.teams.invitations">
+      <source>Invitations for you</source>
+      <translation>Einladungen für dich</translation>
+    </message>
+    <message id="ui.teams.invite">
+      <source>Invite by e-mail</source>
+      <translation>Per E-Mail einladen</translation>
+    </message>
+    <message id="ui.teams.inviteButton">
+      <source>Invite</source>
+      <translation>Einladen</translation>
+    </message>
+    <message id="ui.teams.members">
+      <source>Members</source>
+      <translation>Mitglieder</translation>
+    </message>
+    <message id="ui.teams.role">
+      <source>Role</source>
+      <translation>Rolle</translation>
+    </message>
+    <message id="ui.teams.role.editor">
+      <source>Editor</source>
+      <translation>Bearbeiter</translation>
+    </message>
+    <message id="ui.teams.role.owner">
+      <source>Owner</source>
+      <translation>Besitzer</translation>
+    </message>
+    <message id="ui.teams.role.viewer">
+      <source>Viewer</source>
+      <translation>Betrachter</translation>
+    </message>
+    <message id="ui.teams.viewerNote">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Nur der Besitzer und die Bearbeiter des Teams können Personen einladen.</translation>
+    </message>
+    <message id="ui.timer.idle">
+      <source>No timer running. Select a task and press Space.</source>
+      <translation>Kein Timer läuft. Wähle eine Aufgabe aus und drücke die Leertaste.</translation>
+    </message>
+    <message id="ui.timer.name">
+      <source>Timer</source>
+      <translation>Timer</translation>
+    </message>
+    <message id="ui.timer.notRunning">
+      <source>Not running</source>
+      <translation>Läuft nicht</translation>
+    </message>
+    <message id="ui.timer.offline">
+      <source>Offline</source>
+      <translation>Offline</translation>
+    </message>
+    <message id="ui.timer.offlineHint">
+      <source>Offline: changes from other devices arrive when the connection is back.</source>
+      <translation>Offline: Änderungen von anderen Geräten kommen an, sobald die Verbindung wieder steht.</translation>
+    </message>
+    <message id="ui.timer.start">
+      <source>Start</source>
+      <translation>Starten</translation>
+    </message>
+    <message id="ui.timer.stop">
+      <source>Stop</source>
+      <translation>Stoppen</translation>
+    </message>
+    <message id="ui.tray.floating">
+      <source>Floating timer</source>
+      <translation>Schwebender Timer</translation>
+    </message>
+    <message id="ui.tray.open">
+      <source>Open Morvane</source>
+      <translation>Morvane öffnen</translation>
+    </message>
+    <message id="ui.tray.quit">
+      <source>Quit</source>
+      <translation>Beenden</translation>
+    </message>
+    <message id="ui.tray.start">
+      <source>Start</source>
+      <translation>Starten</translation>
+    </message>
+    <message id="ui.tray.stop">
+      <source>Stop the timer</source>
+      <translation>Timer stoppen</translation>
+    </message>
   </context>
 </TS>

@@ -1503,5 +1503,705 @@
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>The timer of this task was started on another device, so its status was not changed.</translation>
     </message>
+    <message id="ui.action.floatingTimer">
+      <source>Show or hide the floating timer</source>
+      <translation>Show or hide the floating timer</translation>
+    </message>
+    <message id="ui.action.newProject">
+      <source>New project</source>
+      <translation>New project</translation>
+    </message>
+    <message id="ui.action.newTask">
+      <source>New task</source>
+      <translation>New task</translation>
+    </message>
+    <message id="ui.action.newTeam">
+      <source>New team</source>
+      <translation>New team</translation>
+    </message>
+    <message id="ui.action.settings">
+      <source>Settings</source>
+      <translation>Settings</translation>
+    </message>
+    <message id="ui.action.signOut">
+      <source>Sign out</source>
+      <translation>Sign out</translation>
+    </message>
+    <message id="ui.action.toggleTheme">
+      <source>Switch between light and dark</source>
+      <translation>Switch between light and dark</translation>
+    </message>
+    <message id="ui.action.toggleTimer">
+      <source>Start or stop the timer</source>
+      <translation>Start or stop the timer</translation>
+    </message>
+    <message id="ui.auth.aboutYou">
+      <source>A little about you</source>
+      <translation>A little about you</translation>
+    </message>
+    <message id="ui.auth.confirmBody">
+      <source>We sent a confirmation link to %1. Open it, then sign in here.</source>
+      <translation>We sent a confirmation link to %1. Open it, then sign in here.</translation>
+    </message>
+    <message id="ui.auth.confirmResent">
+      <source>We sent a new confirmation link to %1.</source>
+      <translation>We sent a new confirmation link to %1.</translation>
+    </message>
+    <message id="ui.auth.confirmSent">
+      <source>We sent a link to %1. Open it to confirm your address, then sign in.</source>
+      <translation>We sent a link to %1. Open it to confirm your address, then sign in.</translation>
+    </message>
+    <message id="ui.auth.confirmTitle">
+      <source>Confirm your e-mail</source>
+      <translation>Confirm your e-mail</translation>
+    </message>
+    <message id="ui.auth.continueAs">
+      <source>Continue as %1</source>
+      <translation>Continue as %1</translation>
+    </message>
+    <message id="ui.auth.continueWith">
+      <source>Continue with %1</source>
+      <translation>Continue with %1</translation>
+    </message>
+    <message id="ui.auth.createAccount">
+      <source>Create your account</source>
+      <translation>Create your account</translation>
+    </message>
+    <message id="ui.auth.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.auth.forgot">
+      <source>Forgot password?</source>
+      <translation>Forgot password?</translation>
+    </message>
+    <message id="ui.auth.getStarted">
+      <source>Get started</source>
+      <translation>Get started</translation>
+    </message>
+    <message id="ui.auth.haveAccount">
+      <source>I already have an account</source>
+      <translation>I already have an account</translation>
+    </message>
+    <message id="ui.auth.password">
+      <source>Password</source>
+      <translation>Password</translation>
+    </message>
+    <message id="ui.auth.passwordHint">
+      <source>At least 8 characters.</source>
+      <translation>At least 8 characters.</translation>
+    </message>
+    <message id="ui.auth.rememberMe">
+      <source>Remember me on this computer</source>
+      <translation>Remember me on this computer</translation>
+    </message>
+    <message id="ui.auth.resend">
+      <source>Send the link again</source>
+      <translation>Send the link again</translation>
+    </message>
+    <message id="ui.auth.resetSent">
+      <source>Check your inbox for the reset link.</source>
+      <translation>Check your inbox for the reset link.</translation>
+    </message>
+    <message id="ui.auth.resetTitle">
+      <source>Reset your password</source>
+      <translation>Reset your password</translation>
+    </message>
+    <message id="ui.auth.sendReset">
+      <source>Send the reset link</source>
+      <translation>Send the reset link</translation>
+    </message>
+    <message id="ui.auth.signInTitle">
+      <source>Sign in</source>
+      <translation>Sign in</translation>
+    </message>
+    <message id="ui.auth.toSignIn">
+      <source>Back to sign in</source>
+      <translation>Back to sign in</translation>
+    </message>
+    <message id="ui.auth.toSignUp">
+      <source>Create an account</source>
+      <translation>Create an account</translation>
+    </message>
+    <message id="ui.auth.welcome">
+      <source>Welcome to Morvane</source>
+      <translation>Welcome to Morvane</translation>
+    </message>
+    <message id="ui.auth.welcomeBody">
+      <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
+      <translation>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</translation>
+    </message>
+    <message id="ui.category.admin">
+      <source>Admin</source>
+      <translation>Admin</translation>
+    </message>
+    <message id="ui.category.billable">
+      <source>Billable</source>
+      <translation>Billable</translation>
+    </message>
+    <message id="ui.category.internal">
+      <source>Internal work</source>
+      <translation>Internal work</translation>
+    </message>
+    <message id="ui.category.none">
+      <source>None</source>
+      <translation>None</translation>
+    </message>
+    <message id="ui.common.cancel">
+      <source>Cancel</source>
+      <translation>Cancel</translation>
+    </message>
+    <message id="ui.common.continue">
+      <source>Continue</source>
+      <translation>Continue</translation>
+    </message>
+    <message id="ui.common.delete">
+      <source>Delete</source>
+      <translation>Delete</translation>
+    </message>
+    <message id="ui.common.dismiss">
+      <source>Dismiss</source>
+      <translation>Dismiss</translation>
+    </message>
+    <message id="ui.common.edit">
+      <source>Edit</source>
+      <translation>Edit</translation>
+    </message>
+    <message id="ui.common.remove">
+      <source>Remove %1</source>
+      <translation>Remove %1</translation>
+    </message>
+    <message id="ui.common.retry">
+      <source>Try again</source>
+      <translation>Try again</translation>
+    </message>
+    <message id="ui.common.save">
+      <source>Save</source>
+      <translation>Save</translation>
+    </message>
+    <message id="ui.common.saving">
+      <source>Saving</source>
+      <translation>Saving</translation>
+    </message>
+    <message id="ui.entries.billed">
+      <source>Billed</source>
+      <translation>Billed</translation>
+    </message>
+    <message id="ui.entries.delete">
+      <source>Delete this entry</source>
+      <translation>Delete this entry</translation>
+    </message>
+    <message id="ui.entries.deleteBody">
+      <source>The task's total goes down by its length.</source>
+      <translation>The task's total goes down by its length.</translation>
+    </message>
+    <message id="ui.entries.deleteTitle">
+      <source>Delete this time entry?</source>
+      <translation>Delete this time entry?</translation>
+    </message>
+    <message id="ui.entries.empty">
+      <source>No time yet. Press Space to start the timer, or log minutes by hand.</source>
+      <translation>No time yet. Press Space to start the timer, or log minutes by hand.</translation>
+    </message>
+    <message id="ui.entries.end">
+      <source>End</source>
+      <translation>End</translation>
+    </message>
+    <message id="ui.entries.invalid">
+      <source>Use the form 2026-03-01 09:30, with the end after the start.</source>
+      <translation>Use the form 2026-03-01 09:30, with the end after the start.</translation>
+    </message>
+    <message id="ui.entries.length">
+      <source>Minutes</source>
+      <translation>Minutes</translation>
+    </message>
+    <message id="ui.entries.log">
+      <source>Log</source>
+      <translation>Log</translation>
+    </message>
+    <message id="ui.entries.minutes">
+      <source>Minutes worked</source>
+      <translation>Minutes worked</translation>
+    </message>
+    <message id="ui.entries.minutesInvalid">
+      <source>Enter the minutes as a number, such as 45 or 90.</source>
+      <translation>Enter the minutes as a number, such as 45 or 90.</translation>
+    </message>
+    <message id="ui.entries.start">
+      <source>Start</source>
+      <translation>Start</translation>
+    </message>
+    <message id="ui.entries.title">
+      <source>Time entries</source>
+      <translation>Time entries</translation>
+    </message>
+    <message id="ui.entries.total">
+      <source>Total %1</source>
+      <translation>Total %1</translation>
+    </message>
+    <message id="ui.floating.hide">
+      <source>Hide the floating timer</source>
+      <translation>Hide the floating timer</translation>
+    </message>
+    <message id="ui.floating.title">
+      <source>Morvane timer</source>
+      <translation>Morvane timer</translation>
+    </message>
+    <message id="ui.inspector.addNote">
+      <source>Add a note</source>
+      <translation>Add a note</translation>
+    </message>
+    <message id="ui.inspector.addSubtask">
+      <source>Add a subtask</source>
+      <translation>Add a subtask</translation>
+    </message>
+    <message id="ui.inspector.assignees">
+      <source>Assigned to</source>
+      <translation>Assigned to</translation>
+    </message>
+    <message id="ui.inspector.category">
+      <source>Category</source>
+      <translation>Category</translation>
+    </message>
+    <message id="ui.inspector.describe">
+      <source>Notes for yourself or the client</source>
+      <translation>Notes for yourself or the client</translation>
+    </message>
+    <message id="ui.inspector.description">
+      <source>Description</source>
+      <translation>Description</translation>
+    </message>
+    <message id="ui.inspector.due">
+      <source>Due</source>
+      <translation>Due</translation>
+    </message>
+    <message id="ui.inspector.dueDate">
+      <source>Due date</source>
+      <translation>Due date</translation>
+    </message>
+    <message id="ui.inspector.none">
+      <source>No task selected</source>
+      <translation>No task selected</translation>
+    </message>
+    <message id="ui.inspector.noneHint">
+      <source>Choose a task to see its details and time entries.</source>
+      <translation>Choose a task to see its details and time entries.</translation>
+    </message>
+    <message id="ui.inspector.notes">
+      <source>Notes</source>
+      <translation>Notes</translation>
+    </message>
+    <message id="ui.inspector.ownPrice">
+      <source>This task has its own price.</source>
+      <translation>This task has its own price.</translation>
+    </message>
+    <message id="ui.inspector.price">
+      <source>Price</source>
+      <translation>Price</translation>
+    </message>
+    <message id="ui.inspector.priority">
+      <source>Priority</source>
+      <translation>Priority</translation>
+    </message>
+    <message id="ui.inspector.status">
+      <source>Status</source>
+      <translation>Status</translation>
+    </message>
+    <message id="ui.inspector.subtasks">
+      <source>Subtasks</source>
+      <translation>Subtasks</translation>
+    </message>
+    <message id="ui.inspector.title">
+      <source>Task title</source>
+      <translation>Task title</translation>
+    </message>
+    <message id="ui.onboarding.currency">
+      <source>Currency</source>
+      <translation>Currency</translation>
+    </message>
+    <message id="ui.onboarding.language">
+      <source>Language</source>
+      <translation>Language</translation>
+    </message>
+    <message id="ui.onboarding.name">
+      <source>Your name</source>
+      <translation>Your name</translation>
+    </message>
+    <message id="ui.onboarding.rate">
+      <source>Default hourly rate</source>
+      <translation>Default hourly rate</translation>
+    </message>
+    <message id="ui.onboarding.rateInvalid">
+      <source>Enter an amount, such as 85 or 72.50.</source>
+      <translation>Enter an amount, such as 85 or 72.50.</translation>
+    </message>
+    <message id="ui.onboarding.timeZone">
+      <source>Time zone</source>
+      <translation>Time zone</translation>
+    </message>
+    <message id="ui.palette.action">
+      <source>Action</source>
+      <translation>Action</translation>
+    </message>
+    <message id="ui.palette.none">
+      <source>Nothing matches.</source>
+      <translation>Nothing matches.</translation>
+    </message>
+    <message id="ui.palette.placeholder">
+      <source>Search projects, tasks and actions</source>
+      <translation>Search projects, tasks and actions</translation>
+    </message>
+    <message id="ui.palette.project">
+      <source>Project</source>
+      <translation>Project</translation>
+    </message>
+    <message id="ui.palette.task">
+      <source>Task</source>
+      <translation>Task</translation>
+    </message>
+    <message id="ui.priority.high">
+      <source>High</source>
+      <translation>High</translation>
+    </message>
+    <message id="ui.priority.low">
+      <source>Low</source>
+      <translation>Low</translation>
+    </message>
+    <message id="ui.priority.medium">
+      <source>Medium</source>
+      <translation>Medium</translation>
+    </message>
+    <message id="ui.projects.actions">
+      <source>Project actions</source>
+      <translation>Project actions</translation>
+    </message>
+    <message id="ui.projects.archive">
+      <source>Archive</source>
+      <translation>Archive</translation>
+    </message>
+    <message id="ui.projects.delete">
+      <source>Delete project…</source>
+      <translation>Delete project…</translation>
+    </message>
+    <message id="ui.projects.deleteBody">
+      <source>Its tasks and their time entries are deleted too. This cannot be undone.</source>
+      <translation>Its tasks and their time entries are deleted too. This cannot be undone.</translation>
+    </message>
+    <message id="ui.projects.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>Delete %1?</translation>
+    </message>
+    <message id="ui.projects.describe">
+      <source>Add a description</source>
+      <translation>Add a description</translation>
+    </message>
+    <message id="ui.projects.markActive">
+      <source>Mark as active</source>
+      <translation>Mark as active</translation>
+    </message>
+    <message id="ui.projects.markCompleted">
+      <source>Mark as completed</source>
+      <translation>Mark as completed</translation>
+    </message>
+    <message id="ui.projects.name">
+      <source>Project name</source>
+      <translation>Project name</translation>
+    </message>
+    <message id="ui.projects.notShared">
+      <source>Not shared</source>
+      <translation>Not shared</translation>
+    </message>
+    <message id="ui.projects.share">
+      <source>Share with a team</source>
+      <translation>Share with a team</translation>
+    </message>
+    <message id="ui.projects.status.active">
+      <source>Active</source>
+      <translation>Active</translation>
+    </message>
+    <message id="ui.projects.status.archived">
+      <source>Archived</source>
+      <translation>Archived</translation>
+    </message>
+    <message id="ui.projects.status.completed">
+      <source>Completed</source>
+      <translation>Completed</translation>
+    </message>
+    <message id="ui.projects.viewOnly">
+      <source>View only</source>
+      <translation>View only</translation>
+    </message>
+    <message id="ui.sidebar.newProjectName">
+      <source>New project name</source>
+      <translation>New project name</translation>
+    </message>
+    <message id="ui.sidebar.newTeamName">
+      <source>New team name</source>
+      <translation>New team name</translation>
+    </message>
+    <message id="ui.sidebar.overview">
+      <source>All projects</source>
+      <translation>All projects</translation>
+    </message>
+    <message id="ui.sidebar.projects">
+      <source>Projects</source>
+      <translation>Projects</translation>
+    </message>
+    <message id="ui.sidebar.running">
+      <source>Timer running</source>
+      <translation>Timer running</translation>
+    </message>
+    <message id="ui.sidebar.shared">
+      <source>Shared with a team</source>
+      <translation>Shared with a team</translation>
+    </message>
+    <message id="ui.sidebar.teams">
+      <source>Teams</source>
+      <translation>Teams</translation>
+    </message>
+    <message id="ui.startup.backend">
+      <source>Starting your local backend…</source>
+      <translation>Starting your local backend…</translation>
+    </message>
+    <message id="ui.startup.failed">
+      <source>Your local backend could not start.</source>
+      <translation>Your local backend could not start.</translation>
+    </message>
+    <message id="ui.startup.loading">
+      <source>Loading your projects…</source>
+      <translation>Loading your projects…</translation>
+    </message>
+    <message id="ui.status.completed">
+      <source>Completed</source>
+      <translation>Completed</translation>
+    </message>
+    <message id="ui.status.in_progress">
+      <source>In progress</source>
+      <translation>In progress</translation>
+    </message>
+    <message id="ui.status.not_started">
+      <source>Not started</source>
+      <translation>Not started</translation>
+    </message>
+    <message id="ui.tasks.add">
+      <source>Add a task and press Enter</source>
+      <translation>Add a task and press Enter</translation>
+    </message>
+    <message id="ui.tasks.bulkDeleteTitle">
+      <source>Delete the selected tasks (%1)?</source>
+      <translation>Delete the selected tasks (%1)?</translation>
+    </message>
+    <message id="ui.tasks.check">
+      <source>Select %1</source>
+      <translation>Select %1</translation>
+    </message>
+    <message id="ui.tasks.clearSelection">
+      <source>Clear</source>
+      <translation>Clear</translation>
+    </message>
+    <message id="ui.tasks.deleteBody">
+      <source>Its time entries are deleted too.</source>
+      <translation>Its time entries are deleted too.</translation>
+    </message>
+    <message id="ui.tasks.deleteTitle">
+      <source>Delete this task?</source>
+      <translation>Delete this task?</translation>
+    </message>
+    <message id="ui.tasks.dragHandle">
+      <source>Drag to reorder</source>
+      <translation>Drag to reorder</translation>
+    </message>
+    <message id="ui.tasks.empty">
+      <source>No tasks yet.</source>
+      <translation>No tasks yet.</translation>
+    </message>
+    <message id="ui.tasks.emptyHint">
+      <source>Press Ctrl+N to add one.</source>
+      <translation>Press Ctrl+N to add one.</translation>
+    </message>
+    <message id="ui.tasks.filter">
+      <source>Filter</source>
+      <translation>Filter</translation>
+    </message>
+    <message id="ui.tasks.filter.active">
+      <source>Open</source>
+      <translation>Open</translation>
+    </message>
+    <message id="ui.tasks.filter.all">
+      <source>All</source>
+      <translation>All</translation>
+    </message>
+    <message id="ui.tasks.filter.archived">
+      <source>Archived</source>
+      <translation>Archived</translation>
+    </message>
+    <message id="ui.tasks.filter.done">
+      <source>Done</source>
+      <translation>Done</translation>
+    </message>
+    <message id="ui.tasks.list">
+      <source>Tasks</source>
+      <translation>Tasks</translation>
+    </message>
+    <message id="ui.tasks.markDone">
+      <source>Mark done</source>
+      <translation>Mark done</translation>
+    </message>
+    <message id="ui.tasks.moveTo">
+      <source>Move to…</source>
+      <translation>Move to…</translation>
+    </message>
+    <message id="ui.tasks.needsProject">
+      <source>Create a project first: tasks belong to a project.</source>
+      <translation>Create a project first: tasks belong to a project.</translation>
+    </message>
+    <message id="ui.tasks.noMatch">
+      <source>No task matches “%1”.</source>
+      <translation>No task matches “%1”.</translation>
+    </message>
+    <message id="ui.tasks.noMatchHint">
+      <source>Try fewer letters, or press Esc to clear the search.</source>
+      <translation>Try fewer letters, or press Esc to clear the search.</translation>
+    </message>
+    <message id="ui.tasks.noProjects">
+      <source>No projects yet.</source>
+      <translation>No projects yet.</translation>
+    </message>
+    <message id="ui.tasks.noProjectsHint">
+      <source>Press Ctrl+Shift+N to create your first project.</source>
+      <translation>Press Ctrl+Shift+N to create your first project.</translation>
+    </message>
+    <message id="ui.tasks.reopen">
+      <source>Reopen</source>
+      <translation>Reopen</translation>
+    </message>
+    <message id="ui.tasks.search">
+      <source>Search</source>
+      <translation>Search</translation>
+    </message>
+    <message id="ui.tasks.selected">
+      <source>%1 selected</source>
+      <translation>%1 selected</translation>
+    </message>
+    <message id="ui.tasks.sort">
+      <source>Sort</source>
+      <translation>Sort</translation>
+    </message>
+    <message id="ui.tasks.sort.alpha">
+      <source>Name</source>
+      <translation>Name</translation>
+    </message>
+    <message id="ui.tasks.sort.createdDesc">
+      <source>Newest first</source>
+      <translation>Newest first</translation>
+    </message>
+    <message id="ui.tasks.sort.dueAsc">
+      <source>Due date</source>
+      <translation>Due date</translation>
+    </message>
+    <message id="ui.tasks.sort.manual">
+      <source>Manual order</source>
+      <translation>Manual order</translation>
+    </message>
+    <message id="ui.tasks.sort.priorityDesc">
+      <source>Priority</source>
+      <translation>Priority</translation>
+    </message>
+    <message id="ui.tasks.sort.trackedDesc">
+      <source>Most tracked</source>
+      <translation>Most tracked</translation>
+    </message>
+    <message id="ui.teams.accept">
+      <source>Accept</source>
+      <translation>Accept</translation>
+    </message>
+    <message id="ui.teams.decline">
+      <source>Decline</source>
+      <translation>Decline</translation>
+    </message>
+    <message id="ui.teams.invitations">
+      <source>Invitations for you</source>
+      <translation>Invitations for you</translation>
+    </message>
+    <message id="ui.teams.invite">
+      <source>Invite by e-mail</source>
+      <translation>Invite by e-mail</translation>
+    </message>
+    <message id="ui.teams.inviteButton">
+      <source>Invite</source>
+      <translation>Invite</translation>
+    </message>
+    <message id="ui.teams.members">
+      <source>Members</source>
+      <translation>Members</translation>
+    </message>
+    <message id="ui.teams.role">
+      <source>Role</source>
+      <translation>Role</translation>
+    </message>
+    <message id="ui.teams.role.editor">
+      <source>Editor</source>
+      <translation>Editor</translation>
+    </message>
+    <message id="ui.teams.role.owner">
+      <source>Owner</source>
+      <translation>Owner</translation>
+    </message>
+    <message id="ui.teams.role.viewer">
+      <source>Viewer</source>
+      <translation>Viewer</translation>
+    </message>
+    <message id="ui.teams.viewerNote">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Only the team owner and editors can invite people.</translation>
+    </message>
+    <message id="ui.timer.idle">
+      <source>No timer running. Select a task and press Space.</source>
+      <translation>No timer running. Select a task and press Space.</translation>
+    </message>
+    <message id="ui.timer.name">
+      <source>Timer</source>
+      <translation>Timer</translation>
+    </message>
+    <message id="ui.timer.notRunning">
+      <source>Not running</source>
+      <translation>Not running</translation>
+    </message>
+    <message id="ui.timer.offline">
+      <source>Offline</source>
+      <translation>Offline</translation>
+    </message>
+    <message id="ui.timer.offlineHint">
+      <source>Offline: changes from other devices arrive when the connection is back.</source>
+      <translation>Offline: changes from other devices arrive when the connection is back.</translation>
+    </message>
+    <message id="ui.timer.start">
+      <source>Start</source>
+      <translation>Start</translation>
+    </message>
+    <message id="ui.timer.stop">
+      <source>Stop</source>
+      <translation>Stop</translation>
+    </message>
+    <message id="ui.tray.floating">
+      <source>Floating timer</source>
+      <translation>Floating timer</translation>
+    </message>
+    <message id="ui.tray.open">
+      <source>Open Morvane</source>
+      <translation>Open Morvane</translation>
+    </message>
+    <message id="ui.tray.quit">
+      <source>Quit</source>
+      <translation>Quit</translation>
+    </message>
+    <message id="ui.tray.start">
+      <source>Start</source>
+      <translation>Start</translation>
+    </message>
+    <message id="ui.tray.stop">
+      <source>Stop the timer</source>
+      <translation>Stop the timer</translation>
+    </message>
   </context>
 </TS>

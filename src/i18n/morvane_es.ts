@@ -1503,5 +1503,705 @@
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>El temporizador de esta tarea se inició en otro dispositivo, así que su estado no se cambió.</translation>
     </message>
+    <message id="ui.action.floatingTimer">
+      <source>Show or hide the floating timer</source>
+      <translation>Mostrar u ocultar el temporizador flotante</translation>
+    </message>
+    <message id="ui.action.newProject">
+      <source>New project</source>
+      <translation>Nuevo proyecto</translation>
+    </message>
+    <message id="ui.action.newTask">
+      <source>New task</source>
+      <translation>Nueva tarea</translation>
+    </message>
+    <message id="ui.action.newTeam">
+      <source>New team</source>
+      <translation>Nuevo equipo</translation>
+    </message>
+    <message id="ui.action.settings">
+      <source>Settings</source>
+      <translation>Ajustes</translation>
+    </message>
+    <message id="ui.action.signOut">
+      <source>Sign out</source>
+      <translation>Cerrar sesión</translation>
+    </message>
+    <message id="ui.action.toggleTheme">
+      <source>Switch between light and dark</source>
+      <translation>Cambiar entre claro y oscuro</translation>
+    </message>
+    <message id="ui.action.toggleTimer">
+      <source>Start or stop the timer</source>
+      <translation>Iniciar o detener el temporizador</translation>
+    </message>
+    <message id="ui.auth.aboutYou">
+      <source>A little about you</source>
+      <translation>Un poco sobre ti</translation>
+    </message>
+    <message id="ui.auth.confirmBody">
+      <source>We sent a confirmation link to %1. Open it, then sign in here.</source>
+      <translation>Hemos enviado un enlace de confirmación a %1. Ábrelo y luego inicia sesión aquí.</translation>
+    </message>
+    <message id="ui.auth.confirmResent">
+      <source>We sent a new confirmation link to %1.</source>
+      <translation>Hemos enviado un nuevo enlace de confirmación a %1.</translation>
+    </message>
+    <message id="ui.auth.confirmSent">
+      <source>We sent a link to %1. Open it to confirm your address, then sign in.</source>
+      <translation>Hemos enviado un enlace a %1. Ábrelo para confirmar tu dirección y luego inicia sesión.</translation>
+    </message>
+    <message id="ui.auth.confirmTitle">
+      <source>Confirm your e-mail</source>
+      <translation>Confirma tu correo</translation>
+    </message>
+    <message id="ui.auth.continueAs">
+      <source>Continue as %1</source>
+      <translation>Continuar como %1</translation>
+    </message>
+    <message id="ui.auth.continueWith">
+      <source>Continue with %1</source>
+      <translation>Continuar con %1</translation>
+    </message>
+    <message id="ui.auth.createAccount">
+      <source>Create your account</source>
+      <translation>Crea tu cuenta</translation>
+    </message>
+    <message id="ui.auth.email">
+      <source>E-mail</source>
+      <translation>Correo electrónico</translation>
+    </message>
+    <message id="ui.auth.forgot">
+      <source>Forgot password?</source>
+      <translation>¿Has olvidado la contraseña?</translation>
+    </message>
+    <message id="ui.auth.getStarted">
+      <source>Get started</source>
+      <translation>Empezar</translation>
+    </message>
+    <message id="ui.auth.haveAccount">
+      <source>I already have an account</source>
+      <translation>Ya tengo una cuenta</translation>
+    </message>
+    <message id="ui.auth.password">
+      <source>Password</source>
+      <translation>Contraseña</translation>
+    </message>
+    <message id="ui.auth.passwordHint">
+      <source>At least 8 characters.</source>
+      <translation>Al menos 8 caracteres.</translation>
+    </message>
+    <message id="ui.auth.rememberMe">
+      <source>Remember me on this computer</source>
+      <translation>Recordarme en este ordenador</translation>
+    </message>
+    <message id="ui.auth.resend">
+      <source>Send the link again</source>
+      <translation>Reenviar el enlace</translation>
+    </message>
+    <message id="ui.auth.resetSent">
+      <source>Check your inbox for the reset link.</source>
+      <translation>Busca el enlace de restablecimiento en tu bandeja de entrada.</translation>
+    </message>
+    <message id="ui.auth.resetTitle">
+      <source>Reset your password</source>
+      <translation>Restablece tu contraseña</translation>
+    </message>
+    <message id="ui.auth.sendReset">
+      <source>Send the reset link</source>
+      <translation>Enviar el enlace de restablecimiento</translation>
+    </message>
+    <message id="ui.auth.signInTitle">
+      <source>Sign in</source>
+      <translation>Iniciar sesión</translation>
+    </message>
+    <message id="ui.auth.toSignIn">
+      <source>Back to sign in</source>
+      <translation>Volver al inicio de sesión</translation>
+    </message>
+    <message id="ui.auth.toSignUp">
+      <source>Create an account</source>
+      <translation>Crear una cuenta</translation>
+    </message>
+    <message id="ui.auth.welcome">
+      <source>Welcome to Morvane</source>
+      <translation>Te damos la bienvenida a Morvane</translation>
+    </message>
+    <message id="ui.auth.welcomeBody">
+      <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
+      <translation>Registra tu tiempo en proyectos y tareas, y conviértelo en facturas. Tus datos se quedan en este ordenador, salvo que conectes un servidor compartido.</translation>
+    </message>
+    <message id="ui.category.admin">
+      <source>Admin</source>
+      <translation>Administración</translation>
+    </message>
+    <message id="ui.category.billable">
+      <source>Billable</source>
+      <translation>Facturable</translation>
+    </message>
+    <message id="ui.category.internal">
+      <source>Internal work</source>
+      <translation>Trabajo interno</translation>
+    </message>
+    <message id="ui.category.none">
+      <source>None</source>
+      <translation>Ninguna</translation>
+    </message>
+    <message id="ui.common.cancel">
+      <source>Cancel</source>
+      <translation>Cancelar</translation>
+    </message>
+    <message id="ui.common.continue">
+      <source>Continue</source>
+      <translation>Continuar</translation>
+    </message>
+    <message id="ui.common.delete">
+      <source>Delete</source>
+      <translation>Eliminar</translation>
+    </message>
+    <message id="ui.common.dismiss">
+      <source>Dismiss</source>
+      <translation>Cerrar</translation>
+    </message>
+    <message id="ui.common.edit">
+      <source>Edit</source>
+      <translation>Editar</translation>
+    </message>
+    <message id="ui.common.remove">
+      <source>Remove %1</source>
+      <translation>Quitar %1</translation>
+    </message>
+    <message id="ui.common.retry">
+      <source>Try again</source>
+      <translation>Reintentar</translation>
+    </message>
+    <message id="ui.common.save">
+      <source>Save</source>
+      <translation>Guardar</translation>
+    </message>
+    <message id="ui.common.saving">
+      <source>Saving</source>
+      <translation>Guardando</translation>
+    </message>
+    <message id="ui.entries.billed">
+      <source>Billed</source>
+      <translation>Facturada</translation>
+    </message>
+    <message id="ui.entries.delete">
+      <source>Delete this entry</source>
+      <translation>Eliminar esta entrada</translation>
+    </message>
+    <message id="ui.entries.deleteBody">
+      <source>The task's total goes down by its length.</source>
+      <translation>El total de la tarea se reducirá en su duración.</translation>
+    </message>
+    <message id="ui.entries.deleteTitle">
+      <source>Delete this time entry?</source>
+      <translation>¿Eliminar esta entrada de tiempo?</translation>
+    </message>
+    <message id="ui.entries.empty">
+      <source>No time yet. Press Space to start the timer, or log minutes by hand.</source>
+      <translation>Aún no hay tiempo. Pulsa Espacio para iniciar el temporizador o registra los minutos a mano.</translation>
+    </message>
+    <message id="ui.entries.end">
+      <source>End</source>
+      <translation>Fin</translation>
+    </message>
+    <message id="ui.entries.invalid">
+      <source>Use the form 2026-03-01 09:30, with the end after the start.</source>
+      <translation>Usa el formato 2026-03-01 09:30, con el fin posterior al inicio.</translation>
+    </message>
+    <message id="ui.entries.length">
+      <source>Minutes</source>
+      <translation>Minutos</translation>
+    </message>
+    <message id="ui.entries.log">
+      <source>Log</source>
+      <translation>Registrar</translation>
+    </message>
+    <message id="ui.entries.minutes">
+      <source>Minutes worked</source>
+      <translation>Minutos trabajados</translation>
+    </message>
+    <message id="ui.entries.minutesInvalid">
+      <source>Enter the minutes as a number, such as 45 or 90.</source>
+      <translation>Introduce los minutos como número, por ejemplo 45 o 90.</translation>
+    </message>
+    <message id="ui.entries.start">
+      <source>Start</source>
+      <translation>Inicio</translation>
+    </message>
+    <message id="ui.entries.title">
+      <source>Time entries</source>
+      <translation>Entradas de tiempo</translation>
+    </message>
+    <message id="ui.entries.total">
+      <source>Total %1</source>
+      <translation>Total: %1</translation>
+    </message>
+    <message id="ui.floating.hide">
+      <source>Hide the floating timer</source>
+      <translation>Ocultar el temporizador flotante</translation>
+    </message>
+    <message id="ui.floating.title">
+      <source>Morvane timer</source>
+      <translation>Temporizador de Morvane</translation>
+    </message>
+    <message id="ui.inspector.addNote">
+      <source>Add a note</source>
+      <translation>Añadir una nota</translation>
+    </message>
+    <message id="ui.inspector.addSubtask">
+      <source>Add a subtask</source>
+      <translation>Añadir una subtarea</translation>
+    </message>
+    <message id="ui.inspector.assignees">
+      <source>Assigned to</source>
+      <translation>Asignada a</translation>
+    </message>
+    <message id="ui.inspector.category">
+      <source>Category</source>
+      <translation>Categoría</translation>
+    </message>
+    <message id="ui.inspector.describe">
+      <source>Notes for yourself or the client</source>
+      <translation>Notas para ti o para el cliente</translation>
+    </message>
+    <message id="ui.inspector.description">
+      <source>Description</source>
+      <translation>Descripción</translation>
+    </message>
+    <message id="ui.inspector.due">
+      <source>Due</source>
+      <translation>Vence</translation>
+    </message>
+    <message id="ui.inspector.dueDate">
+      <source>Due date</source>
+      <translation>Fecha límite</translation>
+    </message>
+    <message id="ui.inspector.none">
+      <source>No task selected</source>
+      <translation>Ninguna tarea seleccionada</translation>
+    </message>
+    <message id="ui.inspector.noneHint">
+      <source>Choose a task to see its details and time entries.</source>
+      <translation>Elige una tarea para ver sus detalles y entradas de tiempo.</translation>
+    </message>
+    <message id="ui.inspector.notes">
+      <source>Notes</source>
+      <translation>Notas</translation>
+    </message>
+    <message id="ui.inspector.ownPrice">
+      <source>This task has its own price.</source>
+      <translation>Esta tarea tiene su propio precio.</translation>
+    </message>
+    <message id="ui.inspector.price">
+      <source>Price</source>
+      <translation>Precio</translation>
+    </message>
+    <message id="ui.inspector.priority">
+      <source>Priority</source>
+      <translation>Prioridad</translation>
+    </message>
+    <message id="ui.inspector.status">
+      <source>Status</source>
+      <translation>Estado</translation>
+    </message>
+    <message id="ui.inspector.subtasks">
+      <source>Subtasks</source>
+      <translation>Subtareas</translation>
+    </message>
+    <message id="ui.inspector.title">
+      <source>Task title</source>
+      <translation>Título de la tarea</translation>
+    </message>
+    <message id="ui.onboarding.currency">
+      <source>Currency</source>
+      <translation>Moneda</translation>
+    </message>
+    <message id="ui.onboarding.language">
+      <source>Language</source>
+      <translation>Idioma</translation>
+    </message>
+    <message id="ui.onboarding.name">
+      <source>Your name</source>
+      <translation>Tu nombre</translation>
+    </message>
+    <message id="ui.onboarding.rate">
+      <source>Default hourly rate</source>
+      <translation>Tarifa por hora predeterminada</translation>
+    </message>
+    <message id="ui.onboarding.rateInvalid">
+      <source>Enter an amount, such as 85 or 72.50.</source>
+      <translation>Introduce un importe, por ejemplo 85 o 72,50.</translation>
+    </message>
+    <message id="ui.onboarding.timeZone">
+      <source>Time zone</source>
+      <translation>Zona horaria</translation>
+    </message>
+    <message id="ui.palette.action">
+      <source>Action</source>
+      <translation>Acción</translation>
+    </message>
+    <message id="ui.palette.none">
+      <source>Nothing matches.</source>
+      <translation>No hay resultados.</translation>
+    </message>
+    <message id="ui.palette.placeholder">
+      <source>Search projects, tasks and actions</source>
+      <translation>Buscar proyectos, tareas y acciones</translation>
+    </message>
+    <message id="ui.palette.project">
+      <source>Project</source>
+      <translation>Proyecto</translation>
+    </message>
+    <message id="ui.palette.task">
+      <source>Task</source>
+      <translation>Tarea</translation>
+    </message>
+    <message id="ui.priority.high">
+      <source>High</source>
+      <translation>Alta</translation>
+    </message>
+    <message id="ui.priority.low">
+      <source>Low</source>
+      <translation>Baja</translation>
+    </message>
+    <message id="ui.priority.medium">
+      <source>Medium</source>
+      <translation>Media</translation>
+    </message>
+    <message id="ui.projects.actions">
+      <source>Project actions</source>
+      <translation>Acciones del proyecto</translation>
+    </message>
+    <message id="ui.projects.archive">
+      <source>Archive</source>
+      <translation>Archivar</translation>
+    </message>
+    <message id="ui.projects.delete">
+      <source>Delete project…</source>
+      <translation>Eliminar proyecto…</translation>
+    </message>
+    <message id="ui.projects.deleteBody">
+      <source>Its tasks and their time entries are deleted too. This cannot be undone.</source>
+      <translation>También se eliminarán sus tareas con sus entradas de tiempo. No se puede deshacer.</translation>
+    </message>
+    <message id="ui.projects.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>¿Eliminar %1?</translation>
+    </message>
+    <message id="ui.projects.describe">
+      <source>Add a description</source>
+      <translation>Añadir una descripción</translation>
+    </message>
+    <message id="ui.projects.markActive">
+      <source>Mark as active</source>
+      <translation>Marcar como activo</translation>
+    </message>
+    <message id="ui.projects.markCompleted">
+      <source>Mark as completed</source>
+      <translation>Marcar como completado</translation>
+    </message>
+    <message id="ui.projects.name">
+      <source>Project name</source>
+      <translation>Nombre del proyecto</translation>
+    </message>
+    <message id="ui.projects.notShared">
+      <source>Not shared</source>
+      <translation>Sin compartir</translation>
+    </message>
+    <message id="ui.projects.share">
+      <source>Share with a team</source>
+      <translation>Compartir con un equipo</translation>
+    </message>
+    <message id="ui.projects.status.active">
+      <source>Active</source>
+      <translation>Activo</translation>
+    </message>
+    <message id="ui.projects.status.archived">
+      <source>Archived</source>
+      <translation>Archivado</translation>
+    </message>
+    <message id="ui.projects.status.completed">
+      <source>Completed</source>
+      <translation>Completado</translation>
+    </message>
+    <message id="ui.projects.viewOnly">
+      <source>View only</source>
+      <translation>Solo lectura</translation>
+    </message>
+    <message id="ui.sidebar.newProjectName">
+      <source>New project name</source>
+      <translation>Nombre del nuevo proyecto</translation>
+    </message>
+    <message id="ui.sidebar.newTeamName">
+      <source>New team name</source>
+      <translation>Nombre del nuevo equipo</translation>
+    </message>
+    <message id="ui.sidebar.overview">
+      <source>All projects</source>
+      <translation>Todos los proyectos</translation>
+    </message>
+    <message id="ui.sidebar.projects">
+      <source>Projects</source>
+      <translation>Proyectos</translation>
+    </message>
+    <message id="ui.sidebar.running">
+      <source>Timer running</source>
+      <translation>Temporizador en marcha</translation>
+    </message>
+    <message id="ui.sidebar.shared">
+      <source>Shared with a team</source>
+      <translation>Compartidos con un equipo</translation>
+    </message>
+    <message id="ui.sidebar.teams">
+      <source>Teams</source>
+      <translation>Equipos</translation>
+    </message>
+    <message id="ui.startup.backend">
+      <source>Starting your local backend…</source>
+      <translation>Iniciando tu servidor local…</translation>
+    </message>
+    <message id="ui.startup.failed">
+      <source>Your local backend could not start.</source>
+      <translation>No se pudo iniciar tu servidor local.</translation>
+    </message>
+    <message id="ui.startup.loading">
+      <source>Loading your projects…</source>
+      <translation>Cargando tus proyectos…</translation>
+    </message>
+    <message id="ui.status.completed">
+      <source>Completed</source>
+      <translation>Completada</translation>
+    </message>
+    <message id="ui.status.in_progress">
+      <source>In progress</source>
+      <translation>En curso</translation>
+    </message>
+    <message id="ui.status.not_started">
+      <source>Not started</source>
+      <translation>Sin empezar</translation>
+    </message>
+    <message id="ui.tasks.add">
+      <source>Add a task and press Enter</source>
+      <translation>Añade una tarea y pulsa Enter</translation>
+    </message>
+    <message id="ui.tasks.bulkDeleteTitle">
+      <source>Delete the selected tasks (%1)?</source>
+      <translation>¿Eliminar las tareas seleccionadas (%1)?</translation>
+    </message>
+    <message id="ui.tasks.check">
+      <source>Select %1</source>
+      <translation>Seleccionar %1</translation>
+    </message>
+    <message id="ui.tasks.clearSelection">
+      <source>Clear</source>
+      <translation>Deseleccionar</translation>
+    </message>
+    <message id="ui.tasks.deleteBody">
+      <source>Its time entries are deleted too.</source>
+      <translation>También se eliminarán sus entradas de tiempo.</translation>
+    </message>
+    <message id="ui.tasks.deleteTitle">
+      <source>Delete this task?</source>
+      <translation>¿Eliminar esta tarea?</translation>
+    </message>
+    <message id="ui.tasks.dragHandle">
+      <source>Drag to reorder</source>
+      <translation>Arrastra para reordenar</translation>
+    </message>
+    <message id="ui.tasks.empty">
+      <source>No tasks yet.</source>
+      <translation>Aún no hay tareas.</translation>
+    </message>
+    <message id="ui.tasks.emptyHint">
+      <source>Press Ctrl+N to add one.</source>
+      <translation>Pulsa Ctrl+N para añadir una.</translation>
+    </message>
+    <message id="ui.tasks.filter">
+      <source>Filter</source>
+      <translation>Filtrar</translation>
+    </message>
+    <message id="ui.tasks.filter.active">
+      <source>Open</source>
+      <translation>Pendientes</translation>
+    </message>
+    <message id="ui.tasks.filter.all">
+      <source>All</source>
+      <translation>Todas</translation>
+    </message>
+    <message id="ui.tasks.filter.archived">
+      <source>Archived</source>
+      <translation>Archivadas</translation>
+    </message>
+    <message id="ui.tasks.filter.done">
+      <source>Done</source>
+      <translation>Completadas</translation>
+    </message>
+    <message id="ui.tasks.list">
+      <source>Tasks</source>
+      <translation>Tareas</translation>
+    </message>
+    <message id="ui.tasks.markDone">
+      <source>Mark done</source>
+      <translation>Completar</translation>
+    </message>
+    <message id="ui.tasks.moveTo">
+      <source>Move to…</source>
+      <translation>Mover a…</translation>
+    </message>
+    <message id="ui.tasks.needsProject">
+      <source>Create a project first: tasks belong to a project.</source>
+      <translation>Crea primero un proyecto: las tareas siempre pertenecen a un proyecto.</translation>
+    </message>
+    <message id="ui.tasks.noMatch">
+      <source>No task matches “%1”.</source>
+      <translation>Ninguna tarea coincide con «%1».</translation>
+    </message>
+    <message id="ui.tasks.noMatchHint">
+      <source>Try fewer letters, or press Esc to clear the search.</source>
+      <translation>Prueba con menos letras o pulsa Esc para borrar la búsqueda.</translation>
+    </message>
+    <message id="ui.tasks.noProjects">
+      <source>No projects yet.</source>
+      <translation>Aún no hay proyectos.</translation>
+    </message>
+    <message id="ui.tasks.noProjectsHint">
+      <source>Press Ctrl+Shift+N to create your first project.</source>
+      <translation>Pulsa Ctrl+Shift+N para crear tu primer proyecto.</translation>
+    </message>
+    <message id="ui.tasks.reopen">
+      <source>Reopen</source>
+      <translation>Reabrir</translation>
+    </message>
+    <message id="ui.tasks.search">
+      <source>Search</source>
+      <translation>Buscar</translation>
+    </message>
+    <message id="ui.tasks.selected">
+      <source>%1 selected</source>
+      <translation>Seleccionadas: %1</translation>
+    </message>
+    <message id="ui.tasks.sort">
+      <source>Sort</source>
+      <translation>Ordenar</translation>
+    </message>
+    <message id="ui.tasks.sort.alpha">
+      <source>Name</source>
+      <translation>Nombre</translation>
+    </message>
+    <message id="ui.tasks.sort.createdDesc">
+      <source>Newest first</source>
+      <translation>Más recientes primero</translation>
+    </message>
+    <message id="ui.tasks.sort.dueAsc">
+      <source>Due date</source>
+      <translation>Fecha límite</translation>
+    </message>
+    <message id="ui.tasks.sort.manual">
+      <source>Manual order</source>
+      <translation>Orden manual</translation>
+    </message>
+    <message id="ui.tasks.sort.priorityDesc">
+      <source>Priority</source>
+      <translation>Prioridad</translation>
+    </message>
+    <message id="ui.tasks.sort.trackedDesc">
+      <source>Most tracked</source>
+      <translation>Más tiempo registrado</translation>
+    </message>
+    <message id="ui.teams.accept">
+      <source>Accept</source>
+      <translation>Aceptar</translation>
+    </message>
+    <message id="ui.teams.decline">
+      <source>Decline</source>
+      <translation>Rechazar</translation>
+    </message>
+    <message id="ui.teams.invitations">
+      <source>Invitations for you</source>
+      <translation>Invitaciones para ti</translation>
+    </message>
+    <message id="ui.teams.invite">
+      <source>Invite by e-mail</source>
+      <translation>Invitar por correo</translation>
+    </message>
+    <message id="ui.teams.inviteButton">
+      <source>Invite</source>
+      <translation>Invitar</translation>
+    </message>
+    <message id="ui.teams.members">
+      <source>Members</source>
+      <translation>Miembros</translation>
+    </message>
+    <message id="ui.teams.role">
+      <source>Role</source>
+      <translation>Rol</translation>
+    </message>
+    <message id="ui.teams.role.editor">
+      <source>Editor</source>
+      <translation>Editor</translation>
+    </message>
+    <message id="ui.teams.role.owner">
+      <source>Owner</source>
+      <translation>Propietario</translation>
+    </message>
+    <message id="ui.teams.role.viewer">
+      <source>Viewer</source>
+      <translation>Lector</translation>
+    </message>
+    <message id="ui.teams.viewerNote">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Solo el propietario y los editores del equipo pueden invitar a otras personas.</translation>
+    </message>
+    <message id="ui.timer.idle">
+      <source>No timer running. Select a task and press Space.</source>
+      <translation>Ningún temporizador en marcha. Selecciona una tarea y pulsa Espacio.</translation>
+    </message>
+    <message id="ui.timer.name">
+      <source>Timer</source>
+      <translation>Temporizador</translation>
+    </message>
+    <message id="ui.timer.notRunning">
+      <source>Not running</source>
+      <translation>Detenido</translation>
+    </message>
+    <message id="ui.timer.offline">
+      <source>Offline</source>
+      <translation>Sin conexión</translation>
+    </message>
+    <message id="ui.timer.offlineHint">
+      <source>Offline: changes from other devices arrive when the connection is back.</source>
+      <translation>Sin conexión: los cambios de otros dispositivos llegarán cuando vuelva la conexión.</translation>
+    </message>
+    <message id="ui.timer.start">
+      <source>Start</source>
+      <translation>Iniciar</translation>
+    </message>
+    <message id="ui.timer.stop">
+      <source>Stop</source>
+      <translation>Detener</translation>
+    </message>
+    <message id="ui.tray.floating">
+      <source>Floating timer</source>
+      <translation>Temporizador flotante</translation>
+    </message>
+    <message id="ui.tray.open">
+      <source>Open Morvane</source>
+      <translation>Abrir Morvane</translation>
+    </message>
+    <message id="ui.tray.quit">
+      <source>Quit</source>
+      <translation>Salir</translation>
+    </message>
+    <message id="ui.tray.start">
+      <source>Start</source>
+      <translation>Iniciar</translation>
+    </message>
+    <message id="ui.tray.stop">
+      <source>Stop the timer</source>
+      <translation>Detener el temporizador</translation>
+    </message>
   </context>
 </TS>

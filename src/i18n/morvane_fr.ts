@@ -1503,5 +1503,705 @@
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>Le minuteur de cette tâche a été lancé sur un autre appareil, son statut n’a donc pas été modifié.</translation>
     </message>
+    <message id="ui.action.floatingTimer">
+      <source>Show or hide the floating timer</source>
+      <translation>Afficher ou masquer le minuteur flottant</translation>
+    </message>
+    <message id="ui.action.newProject">
+      <source>New project</source>
+      <translation>Nouveau projet</translation>
+    </message>
+    <message id="ui.action.newTask">
+      <source>New task</source>
+      <translation>Nouvelle tâche</translation>
+    </message>
+    <message id="ui.action.newTeam">
+      <source>New team</source>
+      <translation>Nouvelle équipe</translation>
+    </message>
+    <message id="ui.action.settings">
+      <source>Settings</source>
+      <translation>Réglages</translation>
+    </message>
+    <message id="ui.action.signOut">
+      <source>Sign out</source>
+      <translation>Se déconnecter</translation>
+    </message>
+    <message id="ui.action.toggleTheme">
+      <source>Switch between light and dark</source>
+      <translation>Basculer entre clair et sombre</translation>
+    </message>
+    <message id="ui.action.toggleTimer">
+      <source>Start or stop the timer</source>
+      <translation>Démarrer ou arrêter le minuteur</translation>
+    </message>
+    <message id="ui.auth.aboutYou">
+      <source>A little about you</source>
+      <translation>Quelques mots sur vous</translation>
+    </message>
+    <message id="ui.auth.confirmBody">
+      <source>We sent a confirmation link to %1. Open it, then sign in here.</source>
+      <translation>Nous avons envoyé un lien de confirmation à %1. Ouvrez-le, puis connectez-vous ici.</translation>
+    </message>
+    <message id="ui.auth.confirmResent">
+      <source>We sent a new confirmation link to %1.</source>
+      <translation>Nous avons envoyé un nouveau lien de confirmation à %1.</translation>
+    </message>
+    <message id="ui.auth.confirmSent">
+      <source>We sent a link to %1. Open it to confirm your address, then sign in.</source>
+      <translation>Nous avons envoyé un lien à %1. Ouvrez-le pour confirmer votre adresse, puis connectez-vous.</translation>
+    </message>
+    <message id="ui.auth.confirmTitle">
+      <source>Confirm your e-mail</source>
+      <translation>Confirmez votre adresse e-mail</translation>
+    </message>
+    <message id="ui.auth.continueAs">
+      <source>Continue as %1</source>
+      <translation>Continuer en tant que %1</translation>
+    </message>
+    <message id="ui.auth.continueWith">
+      <source>Continue with %1</source>
+      <translation>Continuer avec %1</translation>
+    </message>
+    <message id="ui.auth.createAccount">
+      <source>Create your account</source>
+      <translation>Créez votre compte</translation>
+    </message>
+    <message id="ui.auth.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.auth.forgot">
+      <source>Forgot password?</source>
+      <translation>Mot de passe oublié ?</translation>
+    </message>
+    <message id="ui.auth.getStarted">
+      <source>Get started</source>
+      <translation>Commencer</translation>
+    </message>
+    <message id="ui.auth.haveAccount">
+      <source>I already have an account</source>
+      <translation>J’ai déjà un compte</translation>
+    </message>
+    <message id="ui.auth.password">
+      <source>Password</source>
+      <translation>Mot de passe</translation>
+    </message>
+    <message id="ui.auth.passwordHint">
+      <source>At least 8 characters.</source>
+      <translation>8 caractères minimum.</translation>
+    </message>
+    <message id="ui.auth.rememberMe">
+      <source>Remember me on this computer</source>
+      <translation>Rester connecté sur cet ordinateur</translation>
+    </message>
+    <message id="ui.auth.resend">
+      <source>Send the link again</source>
+      <translation>Renvoyer le lien</translation>
+    </message>
+    <message id="ui.auth.resetSent">
+      <source>Check your inbox for the reset link.</source>
+      <translation>Le lien de réinitialisation vous attend dans votre boîte de réception.</translation>
+    </message>
+    <message id="ui.auth.resetTitle">
+      <source>Reset your password</source>
+      <translation>Réinitialiser votre mot de passe</translation>
+    </message>
+    <message id="ui.auth.sendReset">
+      <source>Send the reset link</source>
+      <translation>Envoyer le lien de réinitialisation</translation>
+    </message>
+    <message id="ui.auth.signInTitle">
+      <source>Sign in</source>
+      <translation>Connexion</translation>
+    </message>
+    <message id="ui.auth.toSignIn">
+      <source>Back to sign in</source>
+      <translation>Retour à la connexion</translation>
+    </message>
+    <message id="ui.auth.toSignUp">
+      <source>Create an account</source>
+      <translation>Créer un compte</translation>
+    </message>
+    <message id="ui.auth.welcome">
+      <source>Welcome to Morvane</source>
+      <translation>Bienvenue dans Morvane</translation>
+    </message>
+    <message id="ui.auth.welcomeBody">
+      <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
+      <translation>Suivez le temps passé sur vos projets et tâches, puis transformez-le en factures. Vos données restent sur cet ordinateur, sauf si vous connectez un serveur partagé.</translation>
+    </message>
+    <message id="ui.category.admin">
+      <source>Admin</source>
+      <translation>Administratif</translation>
+    </message>
+    <message id="ui.category.billable">
+      <source>Billable</source>
+      <translation>Facturable</translation>
+    </message>
+    <message id="ui.category.internal">
+      <source>Internal work</source>
+      <translation>Travail interne</translation>
+    </message>
+    <message id="ui.category.none">
+      <source>None</source>
+      <translation>Aucune</translation>
+    </message>
+    <message id="ui.common.cancel">
+      <source>Cancel</source>
+      <translation>Annuler</translation>
+    </message>
+    <message id="ui.common.continue">
+      <source>Continue</source>
+      <translation>Continuer</translation>
+    </message>
+    <message id="ui.common.delete">
+      <source>Delete</source>
+      <translation>Supprimer</translation>
+    </message>
+    <message id="ui.common.dismiss">
+      <source>Dismiss</source>
+      <translation>Fermer</translation>
+    </message>
+    <message id="ui.common.edit">
+      <source>Edit</source>
+      <translation>Modifier</translation>
+    </message>
+    <message id="ui.common.remove">
+      <source>Remove %1</source>
+      <translation>Retirer %1</translation>
+    </message>
+    <message id="ui.common.retry">
+      <source>Try again</source>
+      <translation>Réessayer</translation>
+    </message>
+    <message id="ui.common.save">
+      <source>Save</source>
+      <translation>Enregistrer</translation>
+    </message>
+    <message id="ui.common.saving">
+      <source>Saving</source>
+      <translation>Enregistrement</translation>
+    </message>
+    <message id="ui.entries.billed">
+      <source>Billed</source>
+      <translation>Facturée</translation>
+    </message>
+    <message id="ui.entries.delete">
+      <source>Delete this entry</source>
+      <translation>Supprimer cette entrée</translation>
+    </message>
+    <message id="ui.entries.deleteBody">
+      <source>The task's total goes down by its length.</source>
+      <translation>Le total de la tâche diminuera d’autant.</translation>
+    </message>
+    <message id="ui.entries.deleteTitle">
+      <source>Delete this time entry?</source>
+      <translation>Supprimer cette entrée de temps ?</translation>
+    </message>
+    <message id="ui.entries.empty">
+      <source>No time yet. Press Space to start the timer, or log minutes by hand.</source>
+      <translation>Pas encore de temps. Appuyez sur Espace pour lancer le minuteur, ou saisissez des minutes à la main.</translation>
+    </message>
+    <message id="ui.entries.end">
+      <source>End</source>
+      <translation>Fin</translation>
+    </message>
+    <message id="ui.entries.invalid">
+      <source>Use the form 2026-03-01 09:30, with the end after the start.</source>
+      <translation>Utilisez le format 2026-03-01 09:30, avec une fin postérieure au début.</translation>
+    </message>
+    <message id="ui.entries.length">
+      <source>Minutes</source>
+      <translation>Minutes</translation>
+    </message>
+    <message id="ui.entries.log">
+      <source>Log</source>
+      <translation>Saisir</translation>
+    </message>
+    <message id="ui.entries.minutes">
+      <source>Minutes worked</source>
+      <translation>Minutes travaillées</translation>
+    </message>
+    <message id="ui.entries.minutesInvalid">
+      <source>Enter the minutes as a number, such as 45 or 90.</source>
+      <translation>Saisissez les minutes sous forme de nombre, par exemple 45 ou 90.</translation>
+    </message>
+    <message id="ui.entries.start">
+      <source>Start</source>
+      <translation>Début</translation>
+    </message>
+    <message id="ui.entries.title">
+      <source>Time entries</source>
+      <translation>Entrées de temps</translation>
+    </message>
+    <message id="ui.entries.total">
+      <source>Total %1</source>
+      <translation>Total : %1</translation>
+    </message>
+    <message id="ui.floating.hide">
+      <source>Hide the floating timer</source>
+      <translation>Masquer le minuteur flottant</translation>
+    </message>
+    <message id="ui.floating.title">
+      <source>Morvane timer</source>
+      <translation>Minuteur Morvane</translation>
+    </message>
+    <message id="ui.inspector.addNote">
+      <source>Add a note</source>
+      <translation>Ajouter une note</translation>
+    </message>
+    <message id="ui.inspector.addSubtask">
+      <source>Add a subtask</source>
+      <translation>Ajouter une sous-tâche</translation>
+    </message>
+    <message id="ui.inspector.assignees">
+      <source>Assigned to</source>
+      <translation>Attribuée à</translation>
+    </message>
+    <message id="ui.inspector.category">
+      <source>Category</source>
+      <translation>Catégorie</translation>
+    </message>
+    <message id="ui.inspector.describe">
+      <source>Notes for yourself or the client</source>
+      <translation>Notes pour vous ou pour le client</translation>
+    </message>
+    <message id="ui.inspector.description">
+      <source>Description</source>
+      <translation>Description</translation>
+    </message>
+    <message id="ui.inspector.due">
+      <source>Due</source>
+      <translation>Échéance</translation>
+    </message>
+    <message id="ui.inspector.dueDate">
+      <source>Due date</source>
+      <translation>Date d’échéance</translation>
+    </message>
+    <message id="ui.inspector.none">
+      <source>No task selected</source>
+      <translation>Aucune tâche sélectionnée</translation>
+    </message>
+    <message id="ui.inspector.noneHint">
+      <source>Choose a task to see its details and time entries.</source>
+      <translation>Choisissez une tâche pour voir ses détails et ses entrées de temps.</translation>
+    </message>
+    <message id="ui.inspector.notes">
+      <source>Notes</source>
+      <translation>Notes</translation>
+    </message>
+    <message id="ui.inspector.ownPrice">
+      <source>This task has its own price.</source>
+      <translation>Cette tâche a son propre prix.</translation>
+    </message>
+    <message id="ui.inspector.price">
+      <source>Price</source>
+      <translation>Prix</translation>
+    </message>
+    <message id="ui.inspector.priority">
+      <source>Priority</source>
+      <translation>Priorité</translation>
+    </message>
+    <message id="ui.inspector.status">
+      <source>Status</source>
+      <translation>Statut</translation>
+    </message>
+    <message id="ui.inspector.subtasks">
+      <source>Subtasks</source>
+      <translation>Sous-tâches</translation>
+    </message>
+    <message id="ui.inspector.title">
+      <source>Task title</source>
+      <translation>Titre de la tâche</translation>
+    </message>
+    <message id="ui.onboarding.currency">
+      <source>Currency</source>
+      <translation>Devise</translation>
+    </message>
+    <message id="ui.onboarding.language">
+      <source>Language</source>
+      <translation>Langue</translation>
+    </message>
+    <message id="ui.onboarding.name">
+      <source>Your name</source>
+      <translation>Votre nom</translation>
+    </message>
+    <message id="ui.onboarding.rate">
+      <source>Default hourly rate</source>
+      <translation>Taux horaire par défaut</translation>
+    </message>
+    <message id="ui.onboarding.rateInvalid">
+      <source>Enter an amount, such as 85 or 72.50.</source>
+      <translation>Saisissez un montant, par exemple 85 ou 72,50.</translation>
+    </message>
+    <message id="ui.onboarding.timeZone">
+      <source>Time zone</source>
+      <translation>Fuseau horaire</translation>
+    </message>
+    <message id="ui.palette.action">
+      <source>Action</source>
+      <translation>Action</translation>
+    </message>
+    <message id="ui.palette.none">
+      <source>Nothing matches.</source>
+      <translation>Aucun résultat.</translation>
+    </message>
+    <message id="ui.palette.placeholder">
+      <source>Search projects, tasks and actions</source>
+      <translation>Rechercher des projets, des tâches et des actions</translation>
+    </message>
+    <message id="ui.palette.project">
+      <source>Project</source>
+      <translation>Projet</translation>
+    </message>
+    <message id="ui.palette.task">
+      <source>Task</source>
+      <translation>Tâche</translation>
+    </message>
+    <message id="ui.priority.high">
+      <source>High</source>
+      <translation>Haute</translation>
+    </message>
+    <message id="ui.priority.low">
+      <source>Low</source>
+      <translation>Basse</translation>
+    </message>
+    <message id="ui.priority.medium">
+      <source>Medium</source>
+      <translation>Moyenne</translation>
+    </message>
+    <message id="ui.projects.actions">
+      <source>Project actions</source>
+      <translation>Actions du projet</translation>
+    </message>
+    <message id="ui.projects.archive">
+      <source>Archive</source>
+      <translation>Archiver</translation>
+    </message>
+    <message id="ui.projects.delete">
+      <source>Delete project…</source>
+      <translation>Supprimer le projet…</translation>
+    </message>
+    <message id="ui.projects.deleteBody">
+      <source>Its tasks and their time entries are deleted too. This cannot be undone.</source>
+      <translation>Ses tâches et leurs entrées de temps seront aussi supprimées. Cette action est irréversible.</translation>
+    </message>
+    <message id="ui.projects.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>Supprimer %1 ?</translation>
+    </message>
+    <message id="ui.projects.describe">
+      <source>Add a description</source>
+      <translation>Ajouter une description</translation>
+    </message>
+    <message id="ui.projects.markActive">
+      <source>Mark as active</source>
+      <translation>Marquer comme actif</translation>
+    </message>
+    <message id="ui.projects.markCompleted">
+      <source>Mark as completed</source>
+      <translation>Marquer comme terminé</translation>
+    </message>
+    <message id="ui.projects.name">
+      <source>Project name</source>
+      <translation>Nom du projet</translation>
+    </message>
+    <message id="ui.projects.notShared">
+      <source>Not shared</source>
+      <translation>Non partagé</translation>
+    </message>
+    <message id="ui.projects.share">
+      <source>Share with a team</source>
+      <translation>Partager avec une équipe</translation>
+    </message>
+    <message id="ui.projects.status.active">
+      <source>Active</source>
+      <translation>Actif</translation>
+    </message>
+    <message id="ui.projects.status.archived">
+      <source>Archived</source>
+      <translation>Archivé</translation>
+    </message>
+    <message id="ui.projects.status.completed">
+      <source>Completed</source>
+      <translation>Terminé</translation>
+    </message>
+    <message id="ui.projects.viewOnly">
+      <source>View only</source>
+      <translation>Lecture seule</translation>
+    </message>
+    <message id="ui.sidebar.newProjectName">
+      <source>New project name</source>
+      <translation>Nom du nouveau projet</translation>
+    </message>
+    <message id="ui.sidebar.newTeamName">
+      <source>New team name</source>
+      <translation>Nom de la nouvelle équipe</translation>
+    </message>
+    <message id="ui.sidebar.overview">
+      <source>All projects</source>
+      <translation>Tous les projets</translation>
+    </message>
+    <message id="ui.sidebar.projects">
+      <source>Projects</source>
+      <translation>Projets</translation>
+    </message>
+    <message id="ui.sidebar.running">
+      <source>Timer running</source>
+      <translation>Minuteur en cours</translation>
+    </message>
+    <message id="ui.sidebar.shared">
+      <source>Shared with a team</source>
+      <translation>Partagés avec une équipe</translation>
+    </message>
+    <message id="ui.sidebar.teams">
+      <source>Teams</source>
+      <translation>Équipes</translation>
+    </message>
+    <message id="ui.startup.backend">
+      <source>Starting your local backend…</source>
+      <translation>Démarrage de votre serveur local…</translation>
+    </message>
+    <message id="ui.startup.failed">
+      <source>Your local backend could not start.</source>
+      <translation>Votre serveur local n’a pas pu démarrer.</translation>
+    </message>
+    <message id="ui.startup.loading">
+      <source>Loading your projects…</source>
+      <translation>Chargement de vos projets…</translation>
+    </message>
+    <message id="ui.status.completed">
+      <source>Completed</source>
+      <translation>Terminée</translation>
+    </message>
+    <message id="ui.status.in_progress">
+      <source>In progress</source>
+      <translation>En cours</translation>
+    </message>
+    <message id="ui.status.not_started">
+      <source>Not started</source>
+      <translation>Non commencée</translation>
+    </message>
+    <message id="ui.tasks.add">
+      <source>Add a task and press Enter</source>
+      <translation>Ajoutez une tâche et appuyez sur Enter</translation>
+    </message>
+    <message id="ui.tasks.bulkDeleteTitle">
+      <source>Delete the selected tasks (%1)?</source>
+      <translation>Supprimer les tâches sélectionnées (%1) ?</translation>
+    </message>
+    <message id="ui.tasks.check">
+      <source>Select %1</source>
+      <translation>Sélectionner %1</translation>
+    </message>
+    <message id="ui.tasks.clearSelection">
+      <source>Clear</source>
+      <translation>Désélectionner</translation>
+    </message>
+    <message id="ui.tasks.deleteBody">
+      <source>Its time entries are deleted too.</source>
+      <translation>Ses entrées de temps seront aussi supprimées.</translation>
+    </message>
+    <message id="ui.tasks.deleteTitle">
+      <source>Delete this task?</source>
+      <translation>Supprimer cette tâche ?</translation>
+    </message>
+    <message id="ui.tasks.dragHandle">
+      <source>Drag to reorder</source>
+      <translation>Faire glisser pour réorganiser</translation>
+    </message>
+    <message id="ui.tasks.empty">
+      <source>No tasks yet.</source>
+      <translation>Pas encore de tâche.</translation>
+    </message>
+    <message id="ui.tasks.emptyHint">
+      <source>Press Ctrl+N to add one.</source>
+      <translation>Appuyez sur Ctrl+N pour en ajouter une.</translation>
+    </message>
+    <message id="ui.tasks.filter">
+      <source>Filter</source>
+      <translation>Filtrer</translation>
+    </message>
+    <message id="ui.tasks.filter.active">
+      <source>Open</source>
+      <translation>Ouvertes</translation>
+    </message>
+    <message id="ui.tasks.filter.all">
+      <source>All</source>
+      <translation>Toutes</translation>
+    </message>
+    <message id="ui.tasks.filter.archived">
+      <source>Archived</source>
+      <translation>Archivées</translation>
+    </message>
+    <message id="ui.tasks.filter.done">
+      <source>Done</source>
+      <translation>Terminées</translation>
+    </message>
+    <message id="ui.tasks.list">
+      <source>Tasks</source>
+      <translation>Tâches</translation>
+    </message>
+    <message id="ui.tasks.markDone">
+      <source>Mark done</source>
+      <translation>Terminer</translation>
+    </message>
+    <message id="ui.tasks.moveTo">
+      <source>Move to…</source>
+      <translation>Déplacer vers…</translation>
+    </message>
+    <message id="ui.tasks.needsProject">
+      <source>Create a project first: tasks belong to a project.</source>
+      <translation>Créez d’abord un projet : chaque tâche appartient à un projet.</translation>
+    </message>
+    <message id="ui.tasks.noMatch">
+      <source>No task matches “%1”.</source>
+      <translation>Aucune tâche ne correspond à « %1 ».</translation>
+    </message>
+    <message id="ui.tasks.noMatchHint">
+      <source>Try fewer letters, or press Esc to clear the search.</source>
+      <translation>Essayez avec moins de lettres, ou appuyez sur Esc pour effacer la recherche.</translation>
+    </message>
+    <message id="ui.tasks.noProjects">
+      <source>No projects yet.</source>
+      <translation>Pas encore de projet.</translation>
+    </message>
+    <message id="ui.tasks.noProjectsHint">
+      <source>Press Ctrl+Shift+N to create your first project.</source>
+      <translation>Appuyez sur Ctrl+Shift+N pour créer votre premier projet.</translation>
+    </message>
+    <message id="ui.tasks.reopen">
+      <source>Reopen</source>
+      <translation>Rouvrir</translation>
+    </message>
+    <message id="ui.tasks.search">
+      <source>Search</source>
+      <translation>Rechercher</translation>
+    </message>
+    <message id="ui.tasks.selected">
+      <source>%1 selected</source>
+      <translation>Sélection : %1</translation>
+    </message>
+    <message id="ui.tasks.sort">
+      <source>Sort</source>
+      <translation>Trier</translation>
+    </message>
+    <message id="ui.tasks.sort.alpha">
+      <source>Name</source>
+      <translation>Nom</translation>
+    </message>
+    <message id="ui.tasks.sort.createdDesc">
+      <source>Newest first</source>
+      <translation>Plus récentes d’abord</translation>
+    </message>
+    <message id="ui.tasks.sort.dueAsc">
+      <source>Due date</source>
+      <translation>Échéance</translation>
+    </message>
+    <message id="ui.tasks.sort.manual">
+      <source>Manual order</source>
+      <translation>Ordre manuel</translation>
+    </message>
+    <message id="ui.tasks.sort.priorityDesc">
+      <source>Priority</source>
+      <translation>Priorité</translation>
+    </message>
+    <message id="ui.tasks.sort.trackedDesc">
+      <source>Most tracked</source>
+      <translation>Plus de temps suivi</translation>
+    </message>
+    <message id="ui.teams.accept">
+      <source>Accept</source>
+      <translation>Accepter</translation>
+    </message>
+    <message id="ui.teams.decline">
+      <source>Decline</source>
+      <translation>Refuser</translation>
+    </message>
+    <message id="ui.teams.invitations">
+      <source>Invitations for you</source>
+      <translation>Invitations reçues</translation>
+    </message>
+    <message id="ui.teams.invite">
+      <source>Invite by e-mail</source>
+      <translation>Inviter par e-mail</translation>
+    </message>
+    <message id="ui.teams.inviteButton">
+      <source>Invite</source>
+      <translation>Inviter</translation>
+    </message>
+    <message id="ui.teams.members">
+      <source>Members</source>
+      <translation>Membres</translation>
+    </message>
+    <message id="ui.teams.role">
+      <source>Role</source>
+      <translation>Rôle</translation>
+    </message>
+    <message id="ui.teams.role.editor">
+      <source>Editor</source>
+      <translation>Éditeur</translation>
+    </message>
+    <message id="ui.teams.role.owner">
+      <source>Owner</source>
+      <translation>Propriétaire</translation>
+    </message>
+    <message id="ui.teams.role.viewer">
+      <source>Viewer</source>
+      <translation>Lecteur</translation>
+    </message>
+    <message id="ui.teams.viewerNote">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Seuls le propriétaire et les éditeurs de l’équipe peuvent inviter des personnes.</translation>
+    </message>
+    <message id="ui.timer.idle">
+      <source>No timer running. Select a task and press Space.</source>
+      <translation>Aucun minuteur en cours. Sélectionnez une tâche et appuyez sur Espace.</translation>
+    </message>
+    <message id="ui.timer.name">
+      <source>Timer</source>
+      <translation>Minuteur</translation>
+    </message>
+    <message id="ui.timer.notRunning">
+      <source>Not running</source>
+      <translation>Arrêté</translation>
+    </message>
+    <message id="ui.timer.offline">
+      <source>Offline</source>
+      <translation>Hors ligne</translation>
+    </message>
+    <message id="ui.timer.offlineHint">
+      <source>Offline: changes from other devices arrive when the connection is back.</source>
+      <translation>Hors ligne : les modifications faites sur d’autres appareils arriveront au retour de la connexion.</translation>
+    </message>
+    <message id="ui.timer.start">
+      <source>Start</source>
+      <translation>Démarrer</translation>
+    </message>
+    <message id="ui.timer.stop">
+      <source>Stop</source>
+      <translation>Arrêter</translation>
+    </message>
+    <message id="ui.tray.floating">
+      <source>Floating timer</source>
+      <translation>Minuteur flottant</translation>
+    </message>
+    <message id="ui.tray.open">
+      <source>Open Morvane</source>
+      <translation>Ouvrir Morvane</translation>
+    </message>
+    <message id="ui.tray.quit">
+      <source>Quit</source>
+      <translation>Quitter</translation>
+    </message>
+    <message id="ui.tray.start">
+      <source>Start</source>
+      <translation>Démarrer</translation>
+    </message>
+    <message id="ui.tray.stop">
+      <source>Stop the timer</source>
+      <translation>Arrêter le minuteur</translation>
+    </message>
   </context>
 </TS>

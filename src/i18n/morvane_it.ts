@@ -1503,5 +1503,705 @@
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>Il timer di questa attività è stato avviato su un altro dispositivo, quindi il suo stato non è stato cambiato.</translation>
     </message>
+    <message id="ui.action.floatingTimer">
+      <source>Show or hide the floating timer</source>
+      <translation>Mostra o nascondi il timer flottante</translation>
+    </message>
+    <message id="ui.action.newProject">
+      <source>New project</source>
+      <translation>Nuovo progetto</translation>
+    </message>
+    <message id="ui.action.newTask">
+      <source>New task</source>
+      <translation>Nuova attività</translation>
+    </message>
+    <message id="ui.action.newTeam">
+      <source>New team</source>
+      <translation>Nuovo team</translation>
+    </message>
+    <message id="ui.action.settings">
+      <source>Settings</source>
+      <translation>Impostazioni</translation>
+    </message>
+    <message id="ui.action.signOut">
+      <source>Sign out</source>
+      <translation>Esci dall’account</translation>
+    </message>
+    <message id="ui.action.toggleTheme">
+      <source>Switch between light and dark</source>
+      <translation>Alterna tema chiaro e scuro</translation>
+    </message>
+    <message id="ui.action.toggleTimer">
+      <source>Start or stop the timer</source>
+      <translation>Avvia o ferma il timer</translation>
+    </message>
+    <message id="ui.auth.aboutYou">
+      <source>A little about you</source>
+      <translation>Qualcosa su di te</translation>
+    </message>
+    <message id="ui.auth.confirmBody">
+      <source>We sent a confirmation link to %1. Open it, then sign in here.</source>
+      <translation>Abbiamo inviato un link di conferma a %1. Aprilo, poi accedi qui.</translation>
+    </message>
+    <message id="ui.auth.confirmResent">
+      <source>We sent a new confirmation link to %1.</source>
+      <translation>Abbiamo inviato un nuovo link di conferma a %1.</translation>
+    </message>
+    <message id="ui.auth.confirmSent">
+      <source>We sent a link to %1. Open it to confirm your address, then sign in.</source>
+      <translation>Abbiamo inviato un link a %1. Aprilo per confermare il tuo indirizzo, poi accedi.</translation>
+    </message>
+    <message id="ui.auth.confirmTitle">
+      <source>Confirm your e-mail</source>
+      <translation>Conferma la tua e-mail</translation>
+    </message>
+    <message id="ui.auth.continueAs">
+      <source>Continue as %1</source>
+      <translation>Continua come %1</translation>
+    </message>
+    <message id="ui.auth.continueWith">
+      <source>Continue with %1</source>
+      <translation>Continua con %1</translation>
+    </message>
+    <message id="ui.auth.createAccount">
+      <source>Create your account</source>
+      <translation>Crea il tuo account</translation>
+    </message>
+    <message id="ui.auth.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.auth.forgot">
+      <source>Forgot password?</source>
+      <translation>Password dimenticata?</translation>
+    </message>
+    <message id="ui.auth.getStarted">
+      <source>Get started</source>
+      <translation>Inizia</translation>
+    </message>
+    <message id="ui.auth.haveAccount">
+      <source>I already have an account</source>
+      <translation>Ho già un account</translation>
+    </message>
+    <message id="ui.auth.password">
+      <source>Password</source>
+      <translation>Password</translation>
+    </message>
+    <message id="ui.auth.passwordHint">
+      <source>At least 8 characters.</source>
+      <translation>Almeno 8 caratteri.</translation>
+    </message>
+    <message id="ui.auth.rememberMe">
+      <source>Remember me on this computer</source>
+      <translation>Ricordami su questo computer</translation>
+    </message>
+    <message id="ui.auth.resend">
+      <source>Send the link again</source>
+      <translation>Invia di nuovo il link</translation>
+    </message>
+    <message id="ui.auth.resetSent">
+      <source>Check your inbox for the reset link.</source>
+      <translation>Controlla la posta in arrivo: troverai il link di reimpostazione.</translation>
+    </message>
+    <message id="ui.auth.resetTitle">
+      <source>Reset your password</source>
+      <translation>Reimposta la password</translation>
+    </message>
+    <message id="ui.auth.sendReset">
+      <source>Send the reset link</source>
+      <translation>Invia il link di reimpostazione</translation>
+    </message>
+    <message id="ui.auth.signInTitle">
+      <source>Sign in</source>
+      <translation>Accedi</translation>
+    </message>
+    <message id="ui.auth.toSignIn">
+      <source>Back to sign in</source>
+      <translation>Torna all’accesso</translation>
+    </message>
+    <message id="ui.auth.toSignUp">
+      <source>Create an account</source>
+      <translation>Crea un account</translation>
+    </message>
+    <message id="ui.auth.welcome">
+      <source>Welcome to Morvane</source>
+      <translation>Ti diamo il benvenuto in Morvane</translation>
+    </message>
+    <message id="ui.auth.welcomeBody">
+      <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
+      <translation>Registra il tempo dedicato a progetti e attività e trasformalo in fatture. I tuoi dati restano su questo computer, a meno che tu non colleghi un server condiviso.</translation>
+    </message>
+    <message id="ui.category.admin">
+      <source>Admin</source>
+      <translation>Amministrazione</translation>
+    </message>
+    <message id="ui.category.billable">
+      <source>Billable</source>
+      <translation>Fatturabile</translation>
+    </message>
+    <message id="ui.category.internal">
+      <source>Internal work</source>
+      <translation>Lavoro interno</translation>
+    </message>
+    <message id="ui.category.none">
+      <source>None</source>
+      <translation>Nessuna</translation>
+    </message>
+    <message id="ui.common.cancel">
+      <source>Cancel</source>
+      <translation>Annulla</translation>
+    </message>
+    <message id="ui.common.continue">
+      <source>Continue</source>
+      <translation>Continua</translation>
+    </message>
+    <message id="ui.common.delete">
+      <source>Delete</source>
+      <translation>Elimina</translation>
+    </message>
+    <message id="ui.common.dismiss">
+      <source>Dismiss</source>
+      <translation>Chiudi</translation>
+    </message>
+    <message id="ui.common.edit">
+      <source>Edit</source>
+      <translation>Modifica</translation>
+    </message>
+    <message id="ui.common.remove">
+      <source>Remove %1</source>
+      <translation>Rimuovi %1</translation>
+    </message>
+    <message id="ui.common.retry">
+      <source>Try again</source>
+      <translation>Riprova</translation>
+    </message>
+    <message id="ui.common.save">
+      <source>Save</source>
+      <translation>Salva</translation>
+    </message>
+    <message id="ui.common.saving">
+      <source>Saving</source>
+      <translation>Salvataggio</translation>
+    </message>
+    <message id="ui.entries.billed">
+      <source>Billed</source>
+      <translation>Fatturata</translation>
+    </message>
+    <message id="ui.entries.delete">
+      <source>Delete this entry</source>
+      <translation>Elimina questa voce</translation>
+    </message>
+    <message id="ui.entries.deleteBody">
+      <source>The task's total goes down by its length.</source>
+      <translation>Il totale dell’attività diminuirà della sua durata.</translation>
+    </message>
+    <message id="ui.entries.deleteTitle">
+      <source>Delete this time entry?</source>
+      <translation>Eliminare questa voce di tempo?</translation>
+    </message>
+    <message id="ui.entries.empty">
+      <source>No time yet. Press Space to start the timer, or log minutes by hand.</source>
+      <translation>Ancora nessun tempo registrato. Premi Spazio per avviare il timer o registra i minuti a mano.</translation>
+    </message>
+    <message id="ui.entries.end">
+      <source>End</source>
+      <translation>Fine</translation>
+    </message>
+    <message id="ui.entries.invalid">
+      <source>Use the form 2026-03-01 09:30, with the end after the start.</source>
+      <translation>Usa il formato 2026-03-01 09:30, con la fine successiva all’inizio.</translation>
+    </message>
+    <message id="ui.entries.length">
+      <source>Minutes</source>
+      <translation>Minuti</translation>
+    </message>
+    <message id="ui.entries.log">
+      <source>Log</source>
+      <translation>Registra</translation>
+    </message>
+    <message id="ui.entries.minutes">
+      <source>Minutes worked</source>
+      <translation>Minuti lavorati</translation>
+    </message>
+    <message id="ui.entries.minutesInvalid">
+      <source>Enter the minutes as a number, such as 45 or 90.</source>
+      <translation>Inserisci i minuti come numero, ad esempio 45 o 90.</translation>
+    </message>
+    <message id="ui.entries.start">
+      <source>Start</source>
+      <translation>Inizio</translation>
+    </message>
+    <message id="ui.entries.title">
+      <source>Time entries</source>
+      <translation>Voci di tempo</translation>
+    </message>
+    <message id="ui.entries.total">
+      <source>Total %1</source>
+      <translation>Totale: %1</translation>
+    </message>
+    <message id="ui.floating.hide">
+      <source>Hide the floating timer</source>
+      <translation>Nascondi il timer flottante</translation>
+    </message>
+    <message id="ui.floating.title">
+      <source>Morvane timer</source>
+      <translation>Timer di Morvane</translation>
+    </message>
+    <message id="ui.inspector.addNote">
+      <source>Add a note</source>
+      <translation>Aggiungi una nota</translation>
+    </message>
+    <message id="ui.inspector.addSubtask">
+      <source>Add a subtask</source>
+      <translation>Aggiungi una sottoattività</translation>
+    </message>
+    <message id="ui.inspector.assignees">
+      <source>Assigned to</source>
+      <translation>Assegnata a</translation>
+    </message>
+    <message id="ui.inspector.category">
+      <source>Category</source>
+      <translation>Categoria</translation>
+    </message>
+    <message id="ui.inspector.describe">
+      <source>Notes for yourself or the client</source>
+      <translation>Note per te o per il cliente</translation>
+    </message>
+    <message id="ui.inspector.description">
+      <source>Description</source>
+      <translation>Descrizione</translation>
+    </message>
+    <message id="ui.inspector.due">
+      <source>Due</source>
+      <translation>Scadenza</translation>
+    </message>
+    <message id="ui.inspector.dueDate">
+      <source>Due date</source>
+      <translation>Data di scadenza</translation>
+    </message>
+    <message id="ui.inspector.none">
+      <source>No task selected</source>
+      <translation>Nessuna attività selezionata</translation>
+    </message>
+    <message id="ui.inspector.noneHint">
+      <source>Choose a task to see its details and time entries.</source>
+      <translation>Scegli un’attività per vederne i dettagli e le voci di tempo.</translation>
+    </message>
+    <message id="ui.inspector.notes">
+      <source>Notes</source>
+      <translation>Note</translation>
+    </message>
+    <message id="ui.inspector.ownPrice">
+      <source>This task has its own price.</source>
+      <translation>Questa attività ha un prezzo proprio.</translation>
+    </message>
+    <message id="ui.inspector.price">
+      <source>Price</source>
+      <translation>Prezzo</translation>
+    </message>
+    <message id="ui.inspector.priority">
+      <source>Priority</source>
+      <translation>Priorità</translation>
+    </message>
+    <message id="ui.inspector.status">
+      <source>Status</source>
+      <translation>Stato</translation>
+    </message>
+    <message id="ui.inspector.subtasks">
+      <source>Subtasks</source>
+      <translation>Sottoattività</translation>
+    </message>
+    <message id="ui.inspector.title">
+      <source>Task title</source>
+      <translation>Titolo dell’attività</translation>
+    </message>
+    <message id="ui.onboarding.currency">
+      <source>Currency</source>
+      <translation>Valuta</translation>
+    </message>
+    <message id="ui.onboarding.language">
+      <source>Language</source>
+      <translation>Lingua</translation>
+    </message>
+    <message id="ui.onboarding.name">
+      <source>Your name</source>
+      <translation>Il tuo nome</translation>
+    </message>
+    <message id="ui.onboarding.rate">
+      <source>Default hourly rate</source>
+      <translation>Tariffa oraria predefinita</translation>
+    </message>
+    <message id="ui.onboarding.rateInvalid">
+      <source>Enter an amount, such as 85 or 72.50.</source>
+      <translation>Inserisci un importo, ad esempio 85 o 72,50.</translation>
+    </message>
+    <message id="ui.onboarding.timeZone">
+      <source>Time zone</source>
+      <translation>Fuso orario</translation>
+    </message>
+    <message id="ui.palette.action">
+      <source>Action</source>
+      <translation>Azione</translation>
+    </message>
+    <message id="ui.palette.none">
+      <source>Nothing matches.</source>
+      <translation>Nessun risultato.</translation>
+    </message>
+    <message id="ui.palette.placeholder">
+      <source>Search projects, tasks and actions</source>
+      <translation>Cerca progetti, attività e azioni</translation>
+    </message>
+    <message id="ui.palette.project">
+      <source>Project</source>
+      <translation>Progetto</translation>
+    </message>
+    <message id="ui.palette.task">
+      <source>Task</source>
+      <translation>Attività</translation>
+    </message>
+    <message id="ui.priority.high">
+      <source>High</source>
+      <translation>Alta</translation>
+    </message>
+    <message id="ui.priority.low">
+      <source>Low</source>
+      <translation>Bassa</translation>
+    </message>
+    <message id="ui.priority.medium">
+      <source>Medium</source>
+      <translation>Media</translation>
+    </message>
+    <message id="ui.projects.actions">
+      <source>Project actions</source>
+      <translation>Azioni sul progetto</translation>
+    </message>
+    <message id="ui.projects.archive">
+      <source>Archive</source>
+      <translation>Archivia</translation>
+    </message>
+    <message id="ui.projects.delete">
+      <source>Delete project…</source>
+      <translation>Elimina progetto…</translation>
+    </message>
+    <message id="ui.projects.deleteBody">
+      <source>Its tasks and their time entries are deleted too. This cannot be undone.</source>
+      <translation>Verranno eliminate anche le sue attività e le relative voci di tempo. L’operazione non può essere annullata.</translation>
+    </message>
+    <message id="ui.projects.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>Eliminare %1?</translation>
+    </message>
+    <message id="ui.projects.describe">
+      <source>Add a description</source>
+      <translation>Aggiungi una descrizione</translation>
+    </message>
+    <message id="ui.projects.markActive">
+      <source>Mark as active</source>
+      <translation>Segna come attivo</translation>
+    </message>
+    <message id="ui.projects.markCompleted">
+      <source>Mark as completed</source>
+      <translation>Segna come completato</translation>
+    </message>
+    <message id="ui.projects.name">
+      <source>Project name</source>
+      <translation>Nome del progetto</translation>
+    </message>
+    <message id="ui.projects.notShared">
+      <source>Not shared</source>
+      <translation>Non condiviso</translation>
+    </message>
+    <message id="ui.projects.share">
+      <source>Share with a team</source>
+      <translation>Condividi con un team</translation>
+    </message>
+    <message id="ui.projects.status.active">
+      <source>Active</source>
+      <translation>Attivo</translation>
+    </message>
+    <message id="ui.projects.status.archived">
+      <source>Archived</source>
+      <translation>Archiviato</translation>
+    </message>
+    <message id="ui.projects.status.completed">
+      <source>Completed</source>
+      <translation>Completato</translation>
+    </message>
+    <message id="ui.projects.viewOnly">
+      <source>View only</source>
+      <translation>Sola lettura</translation>
+    </message>
+    <message id="ui.sidebar.newProjectName">
+      <source>New project name</source>
+      <translation>Nome del nuovo progetto</translation>
+    </message>
+    <message id="ui.sidebar.newTeamName">
+      <source>New team name</source>
+      <translation>Nome del nuovo team</translation>
+    </message>
+    <message id="ui.sidebar.overview">
+      <source>All projects</source>
+      <translation>Tutti i progetti</translation>
+    </message>
+    <message id="ui.sidebar.projects">
+      <source>Projects</source>
+      <translation>Progetti</translation>
+    </message>
+    <message id="ui.sidebar.running">
+      <source>Timer running</source>
+      <translation>Timer in corso</translation>
+    </message>
+    <message id="ui.sidebar.shared">
+      <source>Shared with a team</source>
+      <translation>Condivisi con un team</translation>
+    </message>
+    <message id="ui.sidebar.teams">
+      <source>Teams</source>
+      <translation>Team</translation>
+    </message>
+    <message id="ui.startup.backend">
+      <source>Starting your local backend…</source>
+      <translation>Avvio del server locale…</translation>
+    </message>
+    <message id="ui.startup.failed">
+      <source>Your local backend could not start.</source>
+      <translation>Impossibile avviare il server locale.</translation>
+    </message>
+    <message id="ui.startup.loading">
+      <source>Loading your projects…</source>
+      <translation>Caricamento dei progetti…</translation>
+    </message>
+    <message id="ui.status.completed">
+      <source>Completed</source>
+      <translation>Completata</translation>
+    </message>
+    <message id="ui.status.in_progress">
+      <source>In progress</source>
+      <translation>In corso</translation>
+    </message>
+    <message id="ui.status.not_started">
+      <source>Not started</source>
+      <translation>Non iniziata</translation>
+    </message>
+    <message id="ui.tasks.add">
+      <source>Add a task and press Enter</source>
+      <translation>Aggiungi un’attività e premi Enter</translation>
+    </message>
+    <message id="ui.tasks.bulkDeleteTitle">
+      <source>Delete the selected tasks (%1)?</source>
+      <translation>Eliminare le attività selezionate (%1)?</translation>
+    </message>
+    <message id="ui.tasks.check">
+      <source>Select %1</source>
+      <translation>Seleziona %1</translation>
+    </message>
+    <message id="ui.tasks.clearSelection">
+      <source>Clear</source>
+      <translation>Deseleziona</translation>
+    </message>
+    <message id="ui.tasks.deleteBody">
+      <source>Its time entries are deleted too.</source>
+      <translation>Verranno eliminate anche le sue voci di tempo.</translation>
+    </message>
+    <message id="ui.tasks.deleteTitle">
+      <source>Delete this task?</source>
+      <translation>Eliminare questa attività?</translation>
+    </message>
+    <message id="ui.tasks.dragHandle">
+      <source>Drag to reorder</source>
+      <translation>Trascina per riordinare</translation>
+    </message>
+    <message id="ui.tasks.empty">
+      <source>No tasks yet.</source>
+      <translation>Ancora nessuna attività.</translation>
+    </message>
+    <message id="ui.tasks.emptyHint">
+      <source>Press Ctrl+N to add one.</source>
+      <translation>Premi Ctrl+N per aggiungerne una.</translation>
+    </message>
+    <message id="ui.tasks.filter">
+      <source>Filter</source>
+      <translation>Filtra</translation>
+    </message>
+    <message id="ui.tasks.filter.active">
+      <source>Open</source>
+      <translation>Da fare</translation>
+    </message>
+    <message id="ui.tasks.filter.all">
+      <source>All</source>
+      <translation>Tutte</translation>
+    </message>
+    <message id="ui.tasks.filter.archived">
+      <source>Archived</source>
+      <translation>Archiviate</translation>
+    </message>
+    <message id="ui.tasks.filter.done">
+      <source>Done</source>
+      <translation>Completate</translation>
+    </message>
+    <message id="ui.tasks.list">
+      <source>Tasks</source>
+      <translation>Attività</translation>
+    </message>
+    <message id="ui.tasks.markDone">
+      <source>Mark done</source>
+      <translation>Completa</translation>
+    </message>
+    <message id="ui.tasks.moveTo">
+      <source>Move to…</source>
+      <translation>Sposta in…</translation>
+    </message>
+    <message id="ui.tasks.needsProject">
+      <source>Create a project first: tasks belong to a project.</source>
+      <translation>Crea prima un progetto: ogni attività appartiene a un progetto.</translation>
+    </message>
+    <message id="ui.tasks.noMatch">
+      <source>No task matches “%1”.</source>
+      <translation>Nessuna attività corrisponde a «%1».</translation>
+    </message>
+    <message id="ui.tasks.noMatchHint">
+      <source>Try fewer letters, or press Esc to clear the search.</source>
+      <translation>Prova con meno lettere o premi Esc per cancellare la ricerca.</translation>
+    </message>
+    <message id="ui.tasks.noProjects">
+      <source>No projects yet.</source>
+      <translation>Ancora nessun progetto.</translation>
+    </message>
+    <message id="ui.tasks.noProjectsHint">
+      <source>Press Ctrl+Shift+N to create your first project.</source>
+      <translation>Premi Ctrl+Shift+N per creare il tuo primo progetto.</translation>
+    </message>
+    <message id="ui.tasks.reopen">
+      <source>Reopen</source>
+      <translation>Riapri</translation>
+    </message>
+    <message id="ui.tasks.search">
+      <source>Search</source>
+      <translation>Cerca</translation>
+    </message>
+    <message id="ui.tasks.selected">
+      <source>%1 selected</source>
+      <translation>Selezionate: %1</translation>
+    </message>
+    <message id="ui.tasks.sort">
+      <source>Sort</source>
+      <translation>Ordina</translation>
+    </message>
+    <message id="ui.tasks.sort.alpha">
+      <source>Name</source>
+      <translation>Nome</translation>
+    </message>
+    <message id="ui.tasks.sort.createdDesc">
+      <source>Newest first</source>
+      <translation>Più recenti prima</translation>
+    </message>
+    <message id="ui.tasks.sort.dueAsc">
+      <source>Due date</source>
+      <translation>Scadenza</translation>
+    </message>
+    <message id="ui.tasks.sort.manual">
+      <source>Manual order</source>
+      <translation>Ordine manuale</translation>
+    </message>
+    <message id="ui.tasks.sort.priorityDesc">
+      <source>Priority</source>
+      <translation>Priorità</translation>
+    </message>
+    <message id="ui.tasks.sort.trackedDesc">
+      <source>Most tracked</source>
+      <translation>Più tempo registrato</translation>
+    </message>
+    <message id="ui.teams.accept">
+      <source>Accept</source>
+      <translation>Accetta</translation>
+    </message>
+    <message id="ui.teams.decline">
+      <source>Decline</source>
+      <translation>Rifiuta</translation>
+    </message>
+    <message id="ui.teams.invitations">
+      <source>Invitations for you</source>
+      <translation>Inviti per te</translation>
+    </message>
+    <message id="ui.teams.invite">
+      <source>Invite by e-mail</source>
+      <translation>Invita via e-mail</translation>
+    </message>
+    <message id="ui.teams.inviteButton">
+      <source>Invite</source>
+      <translation>Invita</translation>
+    </message>
+    <message id="ui.teams.members">
+      <source>Members</source>
+      <translation>Membri</translation>
+    </message>
+    <message id="ui.teams.role">
+      <source>Role</source>
+      <translation>Ruolo</translation>
+    </message>
+    <message id="ui.teams.role.editor">
+      <source>Editor</source>
+      <translation>Editor</translation>
+    </message>
+    <message id="ui.teams.role.owner">
+      <source>Owner</source>
+      <translation>Proprietario</translation>
+    </message>
+    <message id="ui.teams.role.viewer">
+      <source>Viewer</source>
+      <translation>Lettore</translation>
+    </message>
+    <message id="ui.teams.viewerNote">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>Solo il proprietario e gli editor del team possono invitare persone.</translation>
+    </message>
+    <message id="ui.timer.idle">
+      <source>No timer running. Select a task and press Space.</source>
+      <translation>Nessun timer in corso. Seleziona un’attività e premi Spazio.</translation>
+    </message>
+    <message id="ui.timer.name">
+      <source>Timer</source>
+      <translation>Timer</translation>
+    </message>
+    <message id="ui.timer.notRunning">
+      <source>Not running</source>
+      <translation>Fermo</translation>
+    </message>
+    <message id="ui.timer.offline">
+      <source>Offline</source>
+      <translation>Offline</translation>
+    </message>
+    <message id="ui.timer.offlineHint">
+      <source>Offline: changes from other devices arrive when the connection is back.</source>
+      <translation>Offline: le modifiche dagli altri dispositivi arriveranno quando torna la connessione.</translation>
+    </message>
+    <message id="ui.timer.start">
+      <source>Start</source>
+      <translation>Avvia</translation>
+    </message>
+    <message id="ui.timer.stop">
+      <source>Stop</source>
+      <translation>Ferma</translation>
+    </message>
+    <message id="ui.tray.floating">
+      <source>Floating timer</source>
+      <translation>Timer flottante</translation>
+    </message>
+    <message id="ui.tray.open">
+      <source>Open Morvane</source>
+      <translation>Apri Morvane</translation>
+    </message>
+    <message id="ui.tray.quit">
+      <source>Quit</source>
+      <translation>Esci</translation>
+    </message>
+    <message id="ui.tray.start">
+      <source>Start</source>
+      <translation>Avvia</translation>
+    </message>
+    <message id="ui.tray.stop">
+      <source>Stop the timer</source>
+      <translation>Ferma il timer</translation>
+    </message>
   </context>
 </TS>

@@ -1503,5 +1503,705 @@
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>ตัวจับเวลาของงานนี้เริ่มบนอุปกรณ์อื่น จึงไม่ได้เปลี่ยนสถานะของงาน</translation>
     </message>
+    <message id="ui.action.floatingTimer">
+      <source>Show or hide the floating timer</source>
+      <translation>แสดงหรือซ่อนตัวจับเวลาแบบลอย</translation>
+    </message>
+    <message id="ui.action.newProject">
+      <source>New project</source>
+      <translation>โปรเจกต์ใหม่</translation>
+    </message>
+    <message id="ui.action.newTask">
+      <source>New task</source>
+      <translation>งานใหม่</translation>
+    </message>
+    <message id="ui.action.newTeam">
+      <source>New team</source>
+      <translation>ทีมใหม่</translation>
+    </message>
+    <message id="ui.action.settings">
+      <source>Settings</source>
+      <translation>การตั้งค่า</translation>
+    </message>
+    <message id="ui.action.signOut">
+      <source>Sign out</source>
+      <translation>ออกจากระบบ</translation>
+    </message>
+    <message id="ui.action.toggleTheme">
+      <source>Switch between light and dark</source>
+      <translation>สลับโหมดสว่างและมืด</translation>
+    </message>
+    <message id="ui.action.toggleTimer">
+      <source>Start or stop the timer</source>
+      <translation>เริ่มหรือหยุดตัวจับเวลา</translation>
+    </message>
+    <message id="ui.auth.aboutYou">
+      <source>A little about you</source>
+      <translation>เกี่ยวกับคุณสักเล็กน้อย</translation>
+    </message>
+    <message id="ui.auth.confirmBody">
+      <source>We sent a confirmation link to %1. Open it, then sign in here.</source>
+      <translation>เราส่งลิงก์ยืนยันไปที่ %1 แล้ว เปิดลิงก์นั้น แล้วลงชื่อเข้าใช้ที่นี่</translation>
+    </message>
+    <message id="ui.auth.confirmResent">
+      <source>We sent a new confirmation link to %1.</source>
+      <translation>เราส่งลิงก์ยืนยันใหม่ไปที่ %1 แล้ว</translation>
+    </message>
+    <message id="ui.auth.confirmSent">
+      <source>We sent a link to %1. Open it to confirm your address, then sign in.</source>
+      <translation>เราส่งลิงก์ไปที่ %1 แล้ว เปิดลิงก์เพื่อยืนยันอีเมลของคุณ แล้วลงชื่อเข้าใช้</translation>
+    </message>
+    <message id="ui.auth.confirmTitle">
+      <source>Confirm your e-mail</source>
+      <translation>ยืนยันอีเมลของคุณ</translation>
+    </message>
+    <message id="ui.auth.continueAs">
+      <source>Continue as %1</source>
+      <translation>ดำเนินการต่อในชื่อ %1</translation>
+    </message>
+    <message id="ui.auth.continueWith">
+      <source>Continue with %1</source>
+      <translation>ดำเนินการต่อด้วย %1</translation>
+    </message>
+    <message id="ui.auth.createAccount">
+      <source>Create your account</source>
+      <translation>สร้างบัญชีของคุณ</translation>
+    </message>
+    <message id="ui.auth.email">
+      <source>E-mail</source>
+      <translation>อีเมล</translation>
+    </message>
+    <message id="ui.auth.forgot">
+      <source>Forgot password?</source>
+      <translation>ลืมรหัสผ่านใช่ไหม</translation>
+    </message>
+    <message id="ui.auth.getStarted">
+      <source>Get started</source>
+      <translation>เริ่มต้นใช้งาน</translation>
+    </message>
+    <message id="ui.auth.haveAccount">
+      <source>I already have an account</source>
+      <translation>ฉันมีบัญชีอยู่แล้ว</translation>
+    </message>
+    <message id="ui.auth.password">
+      <source>Password</source>
+      <translation>รหัสผ่าน</translation>
+    </message>
+    <message id="ui.auth.passwordHint">
+      <source>At least 8 characters.</source>
+      <translation>อย่างน้อย 8 ตัวอักษร</translation>
+    </message>
+    <message id="ui.auth.rememberMe">
+      <source>Remember me on this computer</source>
+      <translation>จดจำฉันไว้ในคอมพิวเตอร์เครื่องนี้</translation>
+    </message>
+    <message id="ui.auth.resend">
+      <source>Send the link again</source>
+      <translation>ส่งลิงก์อีกครั้ง</translation>
+    </message>
+    <message id="ui.auth.resetSent">
+      <source>Check your inbox for the reset link.</source>
+      <translation>ตรวจสอบกล่องจดหมายของคุณเพื่อดูลิงก์รีเซ็ต</translation>
+    </message>
+    <message id="ui.auth.resetTitle">
+      <source>Reset your password</source>
+      <translation>รีเซ็ตรหัสผ่าน</translation>
+    </message>
+    <message id="ui.auth.sendReset">
+      <source>Send the reset link</source>
+      <translation>ส่งลิงก์รีเซ็ต</translation>
+    </message>
+    <message id="ui.auth.signInTitle">
+      <source>Sign in</source>
+      <translation>ลงชื่อเข้าใช้</translation>
+    </message>
+    <message id="ui.auth.toSignIn">
+      <source>Back to sign in</source>
+      <translation>กลับไปหน้าลงชื่อเข้าใช้</translation>
+    </message>
+    <message id="ui.auth.toSignUp">
+      <source>Create an account</source>
+      <translation>สร้างบัญชี</translation>
+    </message>
+    <message id="ui.auth.welcome">
+      <source>Welcome to Morvane</source>
+      <translation>ยินดีต้อนรับสู่ Morvane</translation>
+    </message>
+    <message id="ui.auth.welcomeBody">
+      <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
+      <translation>บันทึกเวลาที่ใช้กับโปรเจกต์และงาน แล้วเปลี่ยนเป็นใบแจ้งหนี้ ข้อมูลของคุณจะอยู่ในคอมพิวเตอร์เครื่องนี้ เว้นแต่คุณจะเชื่อมต่อเซิร์ฟเวอร์ที่ใช้ร่วมกัน</translation>
+    </message>
+    <message id="ui.category.admin">
+      <source>Admin</source>
+      <translation>งานธุรการ</translation>
+    </message>
+    <message id="ui.category.billable">
+      <source>Billable</source>
+      <translation>เรียกเก็บเงินได้</translation>
+    </message>
+    <message id="ui.category.internal">
+      <source>Internal work</source>
+      <translation>งานภายใน</translation>
+    </message>
+    <message id="ui.category.none">
+      <source>None</source>
+      <translation>ไม่มี</translation>
+    </message>
+    <message id="ui.common.cancel">
+      <source>Cancel</source>
+      <translation>ยกเลิก</translation>
+    </message>
+    <message id="ui.common.continue">
+      <source>Continue</source>
+      <translation>ดำเนินการต่อ</translation>
+    </message>
+    <message id="ui.common.delete">
+      <source>Delete</source>
+      <translation>ลบ</translation>
+    </message>
+    <message id="ui.common.dismiss">
+      <source>Dismiss</source>
+      <translation>ปิด</translation>
+    </message>
+    <message id="ui.common.edit">
+      <source>Edit</source>
+      <translation>แก้ไข</translation>
+    </message>
+    <message id="ui.common.remove">
+      <source>Remove %1</source>
+      <translation>นำ %1 ออก</translation>
+    </message>
+    <message id="ui.common.retry">
+      <source>Try again</source>
+      <translation>ลองอีกครั้ง</translation>
+    </message>
+    <message id="ui.common.save">
+      <source>Save</source>
+      <translation>บันทึก</translation>
+    </message>
+    <message id="ui.common.saving">
+      <source>Saving</source>
+      <translation>กำลังบันทึก</translation>
+    </message>
+    <message id="ui.entries.billed">
+      <source>Billed</source>
+      <translation>เรียกเก็บเงินแล้ว</translation>
+    </message>
+    <message id="ui.entries.delete">
+      <source>Delete this entry</source>
+      <translation>ลบรายการนี้</translation>
+    </message>
+    <message id="ui.entries.deleteBody">
+      <source>The task's total goes down by its length.</source>
+      <translation>ยอดรวมของงานจะลดลงตามระยะเวลาของรายการนี้</translation>
+    </message>
+    <message id="ui.entries.deleteTitle">
+      <source>Delete this time entry?</source>
+      <translation>ลบรายการเวลานี้ใช่ไหม</translation>
+    </message>
+    <message id="ui.entries.empty">
+      <source>No time yet. Press Space to start the timer, or log minutes by hand.</source>
+      <translation>ยังไม่มีเวลาที่บันทึกไว้ กด Space เพื่อเริ่มตัวจับเวลา หรือบันทึกจำนวนนาทีเอง</translation>
+    </message>
+    <message id="ui.entries.end">
+      <source>End</source>
+      <translation>สิ้นสุด</translation>
+    </message>
+    <message id="ui.entries.invalid">
+      <source>Use the form 2026-03-01 09:30, with the end after the start.</source>
+      <translation>ใช้รูปแบบ 2026-03-01 09:30 และเวลาสิ้นสุดต้องอยู่หลังเวลาเริ่ม</translation>
+    </message>
+    <message id="ui.entries.length">
+      <source>Minutes</source>
+      <translation>นาที</translation>
+    </message>
+    <message id="ui.entries.log">
+      <source>Log</source>
+      <translation>บันทึกเวลา</translation>
+    </message>
+    <message id="ui.entries.minutes">
+      <source>Minutes worked</source>
+      <translation>จำนวนนาทีที่ทำงาน</translation>
+    </message>
+    <message id="ui.entries.minutesInvalid">
+      <source>Enter the minutes as a number, such as 45 or 90.</source>
+      <translation>กรอกจำนวนนาทีเป็นตัวเลข เช่น 45 หรือ 90</translation>
+    </message>
+    <message id="ui.entries.start">
+      <source>Start</source>
+      <translation>เริ่ม</translation>
+    </message>
+    <message id="ui.entries.title">
+      <source>Time entries</source>
+      <translation>รายการเวลา</translation>
+    </message>
+    <message id="ui.entries.total">
+      <source>Total %1</source>
+      <translation>รวม %1</translation>
+    </message>
+    <message id="ui.floating.hide">
+      <source>Hide the floating timer</source>
+      <translation>ซ่อนตัวจับเวลาแบบลอย</translation>
+    </message>
+    <message id="ui.floating.title">
+      <source>Morvane timer</source>
+      <translation>ตัวจับเวลา Morvane</translation>
+    </message>
+    <message id="ui.inspector.addNote">
+      <source>Add a note</source>
+      <translation>เพิ่มโน้ต</translation>
+    </message>
+    <message id="ui.inspector.addSubtask">
+      <source>Add a subtask</source>
+      <translation>เพิ่มงานย่อย</translation>
+    </message>
+    <message id="ui.inspector.assignees">
+      <source>Assigned to</source>
+      <translation>มอบหมายให้</translation>
+    </message>
+    <message id="ui.inspector.category">
+      <source>Category</source>
+      <translation>หมวดหมู่</translation>
+    </message>
+    <message id="ui.inspector.describe">
+      <source>Notes for yourself or the client</source>
+      <translation>โน้ตสำหรับตัวคุณเองหรือลูกค้า</translation>
+    </message>
+    <message id="ui.inspector.description">
+      <source>Description</source>
+      <translation>คำอธิบาย</translation>
+    </message>
+    <message id="ui.inspector.due">
+      <source>Due</source>
+      <translation>ครบกำหนด</translation>
+    </message>
+    <message id="ui.inspector.dueDate">
+      <source>Due date</source>
+      <translation>วันครบกำหนด</translation>
+    </message>
+    <message id="ui.inspector.none">
+      <source>No task selected</source>
+      <translation>ไม่ได้เลือกงาน</translation>
+    </message>
+    <message id="ui.inspector.noneHint">
+      <source>Choose a task to see its details and time entries.</source>
+      <translation>เลือกงานเพื่อดูรายละเอียดและรายการเวลา</translation>
+    </message>
+    <message id="ui.inspector.notes">
+      <source>Notes</source>
+      <translation>โน้ต</translation>
+    </message>
+    <message id="ui.inspector.ownPrice">
+      <source>This task has its own price.</source>
+      <translation>งานนี้มีราคาของตัวเอง</translation>
+    </message>
+    <message id="ui.inspector.price">
+      <source>Price</source>
+      <translation>ราคา</translation>
+    </message>
+    <message id="ui.inspector.priority">
+      <source>Priority</source>
+      <translation>ความสำคัญ</translation>
+    </message>
+    <message id="ui.inspector.status">
+      <source>Status</source>
+      <translation>สถานะ</translation>
+    </message>
+    <message id="ui.inspector.subtasks">
+      <source>Subtasks</source>
+      <translation>งานย่อย</translation>
+    </message>
+    <message id="ui.inspector.title">
+      <source>Task title</source>
+      <translation>ชื่องาน</translation>
+    </message>
+    <message id="ui.onboarding.currency">
+      <source>Currency</source>
+      <translation>สกุลเงิน</translation>
+    </message>
+    <message id="ui.onboarding.language">
+      <source>Language</source>
+      <translation>ภาษา</translation>
+    </message>
+    <message id="ui.onboarding.name">
+      <source>Your name</source>
+      <translation>ชื่อของคุณ</translation>
+    </message>
+    <message id="ui.onboarding.rate">
+      <source>Default hourly rate</source>
+      <translation>อัตรารายชั่วโมงเริ่มต้น</translation>
+    </message>
+    <message id="ui.onboarding.rateInvalid">
+      <source>Enter an amount, such as 85 or 72.50.</source>
+      <translation>กรอกจำนวนเงิน เช่น 85 หรือ 72.50</translation>
+    </message>
+    <message id="ui.onboarding.timeZone">
+      <source>Time zone</source>
+      <translation>เขตเวลา</translation>
+    </message>
+    <message id="ui.palette.action">
+      <source>Action</source>
+      <translation>คำสั่ง</translation>
+    </message>
+    <message id="ui.palette.none">
+      <source>Nothing matches.</source>
+      <translation>ไม่พบรายการที่ตรงกัน</translation>
+    </message>
+    <message id="ui.palette.placeholder">
+      <source>Search projects, tasks and actions</source>
+      <translation>ค้นหาโปรเจกต์ งาน และคำสั่ง</translation>
+    </message>
+    <message id="ui.palette.project">
+      <source>Project</source>
+      <translation>โปรเจกต์</translation>
+    </message>
+    <message id="ui.palette.task">
+      <source>Task</source>
+      <translation>งาน</translation>
+    </message>
+    <message id="ui.priority.high">
+      <source>High</source>
+      <translation>สูง</translation>
+    </message>
+    <message id="ui.priority.low">
+      <source>Low</source>
+      <translation>ต่ำ</translation>
+    </message>
+    <message id="ui.priority.medium">
+      <source>Medium</source>
+      <translation>ปานกลาง</translation>
+    </message>
+    <message id="ui.projects.actions">
+      <source>Project actions</source>
+      <translation>การดำเนินการกับโปรเจกต์</translation>
+    </message>
+    <message id="ui.projects.archive">
+      <source>Archive</source>
+      <translation>เก็บถาวร</translation>
+    </message>
+    <message id="ui.projects.delete">
+      <source>Delete project…</source>
+      <translation>ลบโปรเจกต์…</translation>
+    </message>
+    <message id="ui.projects.deleteBody">
+      <source>Its tasks and their time entries are deleted too. This cannot be undone.</source>
+      <translation>งานในโปรเจกต์และรายการเวลาของงานเหล่านั้นจะถูกลบไปด้วย และจะเลิกทำไม่ได้</translation>
+    </message>
+    <message id="ui.projects.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>ลบ %1 ใช่ไหม</translation>
+    </message>
+    <message id="ui.projects.describe">
+      <source>Add a description</source>
+      <translation>เพิ่มคำอธิบาย</translation>
+    </message>
+    <message id="ui.projects.markActive">
+      <source>Mark as active</source>
+      <translation>ทำเครื่องหมายว่าใช้งานอยู่</translation>
+    </message>
+    <message id="ui.projects.markCompleted">
+      <source>Mark as completed</source>
+      <translation>ทำเครื่องหมายว่าเสร็จสิ้น</translation>
+    </message>
+    <message id="ui.projects.name">
+      <source>Project name</source>
+      <translation>ชื่อโปรเจกต์</translation>
+    </message>
+    <message id="ui.projects.notShared">
+      <source>Not shared</source>
+      <translation>ไม่ได้แชร์</translation>
+    </message>
+    <message id="ui.projects.share">
+      <source>Share with a team</source>
+      <translation>แชร์กับทีม</translation>
+    </message>
+    <message id="ui.projects.status.active">
+      <source>Active</source>
+      <translation>ใช้งานอยู่</translation>
+    </message>
+    <message id="ui.projects.status.archived">
+      <source>Archived</source>
+      <translation>เก็บถาวรแล้ว</translation>
+    </message>
+    <message id="ui.projects.status.completed">
+      <source>Completed</source>
+      <translation>เสร็จสิ้น</translation>
+    </message>
+    <message id="ui.projects.viewOnly">
+      <source>View only</source>
+      <translation>ดูได้อย่างเดียว</translation>
+    </message>
+    <message id="ui.sidebar.newProjectName">
+      <source>New project name</source>
+      <translation>ชื่อโปรเจกต์ใหม่</translation>
+    </message>
+    <message id="ui.sidebar.newTeamName">
+      <source>New team name</source>
+      <translation>ชื่อทีมใหม่</translation>
+    </message>
+    <message id="ui.sidebar.overview">
+      <source>All projects</source>
+      <translation>โปรเจกต์ทั้งหมด</translation>
+    </message>
+    <message id="ui.sidebar.projects">
+      <source>Projects</source>
+      <translation>โปรเจกต์</translation>
+    </message>
+    <message id="ui.sidebar.running">
+      <source>Timer running</source>
+      <translation>ตัวจับเวลากำลังทำงาน</translation>
+    </message>
+    <message id="ui.sidebar.shared">
+      <source>Shared with a team</source>
+      <translation>แชร์กับทีม</translation>
+    </message>
+    <message id="ui.sidebar.teams">
+      <source>Teams</source>
+      <translation>ทีม</translation>
+    </message>
+    <message id="ui.startup.backend">
+      <source>Starting your local backend…</source>
+      <translation>กำลังเริ่มแบ็กเอนด์ในเครื่องของคุณ…</translation>
+    </message>
+    <message id="ui.startup.failed">
+      <source>Your local backend could not start.</source>
+      <translation>แบ็กเอนด์ในเครื่องของคุณเริ่มทำงานไม่ได้</translation>
+    </message>
+    <message id="ui.startup.loading">
+      <source>Loading your projects…</source>
+      <translation>กำลังโหลดโปรเจกต์ของคุณ…</translation>
+    </message>
+    <message id="ui.status.completed">
+      <source>Completed</source>
+      <translation>เสร็จสิ้น</translation>
+    </message>
+    <message id="ui.status.in_progress">
+      <source>In progress</source>
+      <translation>กำลังดำเนินการ</translation>
+    </message>
+    <message id="ui.status.not_started">
+      <source>Not started</source>
+      <translation>ยังไม่เริ่ม</translation>
+    </message>
+    <message id="ui.tasks.add">
+      <source>Add a task and press Enter</source>
+      <translation>พิมพ์งานใหม่แล้วกด Enter</translation>
+    </message>
+    <message id="ui.tasks.bulkDeleteTitle">
+      <source>Delete the selected tasks (%1)?</source>
+      <translation>ลบงานที่เลือก (%1) ใช่ไหม</translation>
+    </message>
+    <message id="ui.tasks.check">
+      <source>Select %1</source>
+      <translation>เลือก %1</translation>
+    </message>
+    <message id="ui.tasks.clearSelection">
+      <source>Clear</source>
+      <translation>ล้าง</translation>
+    </message>
+    <message id="ui.tasks.deleteBody">
+      <source>Its time entries are deleted too.</source>
+      <translation>รายการเวลาของงานนี้จะถูกลบไปด้วย</translation>
+    </message>
+    <message id="ui.tasks.deleteTitle">
+      <source>Delete this task?</source>
+      <translation>ลบงานนี้ใช่ไหม</translation>
+    </message>
+    <message id="ui.tasks.dragHandle">
+      <source>Drag to reorder</source>
+      <translation>ลากเพื่อจัดลำดับใหม่</translation>
+    </message>
+    <message id="ui.tasks.empty">
+      <source>No tasks yet.</source>
+      <translation>ยังไม่มีงาน</translation>
+    </message>
+    <message id="ui.tasks.emptyHint">
+      <source>Press Ctrl+N to add one.</source>
+      <translation>กด Ctrl+N เพื่อเพิ่มงาน</translation>
+    </message>
+    <message id="ui.tasks.filter">
+      <source>Filter</source>
+      <translation>ตัวกรอง</translation>
+    </message>
+    <message id="ui.tasks.filter.active">
+      <source>Open</source>
+      <translation>ยังไม่เสร็จ</translation>
+    </message>
+    <message id="ui.tasks.filter.all">
+      <source>All</source>
+      <translation>ทั้งหมด</translation>
+    </message>
+    <message id="ui.tasks.filter.archived">
+      <source>Archived</source>
+      <translation>เก็บถาวรแล้ว</translation>
+    </message>
+    <message id="ui.tasks.filter.done">
+      <source>Done</source>
+      <translation>เสร็จแล้ว</translation>
+    </message>
+    <message id="ui.tasks.list">
+      <source>Tasks</source>
+      <translation>งาน</translation>
+    </message>
+    <message id="ui.tasks.markDone">
+      <source>Mark done</source>
+      <translation>ทำเครื่องหมายว่าเสร็จแล้ว</translation>
+    </message>
+    <message id="ui.tasks.moveTo">
+      <source>Move to…</source>
+      <translation>ย้ายไปที่…</translation>
+    </message>
+    <message id="ui.tasks.needsProject">
+      <source>Create a project first: tasks belong to a project.</source>
+      <translation>สร้างโปรเจกต์ก่อน เพราะงานทุกงานต้องอยู่ในโปรเจกต์</translation>
+    </message>
+    <message id="ui.tasks.noMatch">
+      <source>No task matches “%1”.</source>
+      <translation>ไม่มีงานที่ตรงกับ “%1”</translation>
+    </message>
+    <message id="ui.tasks.noMatchHint">
+      <source>Try fewer letters, or press Esc to clear the search.</source>
+      <translation>ลองพิมพ์ให้สั้นลง หรือกด Esc เพื่อล้างการค้นหา</translation>
+    </message>
+    <message id="ui.tasks.noProjects">
+      <source>No projects yet.</source>
+      <translation>ยังไม่มีโปรเจกต์</translation>
+    </message>
+    <message id="ui.tasks.noProjectsHint">
+      <source>Press Ctrl+Shift+N to create your first project.</source>
+      <translation>กด Ctrl+Shift+N เพื่อสร้างโปรเจกต์แรกของคุณ</translation>
+    </message>
+    <message id="ui.tasks.reopen">
+      <source>Reopen</source>
+      <translation>เปิดใหม่</translation>
+    </message>
+    <message id="ui.tasks.search">
+      <source>Search</source>
+      <translation>ค้นหา</translation>
+    </message>
+    <message id="ui.tasks.selected">
+      <source>%1 selected</source>
+      <translation>เลือกแล้ว %1 รายการ</translation>
+    </message>
+    <message id="ui.tasks.sort">
+      <source>Sort</source>
+      <translation>เรียงลำดับ</translation>
+    </message>
+    <message id="ui.tasks.sort.alpha">
+      <source>Name</source>
+      <translation>ชื่อ</translation>
+    </message>
+    <message id="ui.tasks.sort.createdDesc">
+      <source>Newest first</source>
+      <translation>ใหม่สุดก่อน</translation>
+    </message>
+    <message id="ui.tasks.sort.dueAsc">
+      <source>Due date</source>
+      <translation>วันครบกำหนด</translation>
+    </message>
+    <message id="ui.tasks.sort.manual">
+      <source>Manual order</source>
+      <translation>ลำดับที่จัดเอง</translation>
+    </message>
+    <message id="ui.tasks.sort.priorityDesc">
+      <source>Priority</source>
+      <translation>ความสำคัญ</translation>
+    </message>
+    <message id="ui.tasks.sort.trackedDesc">
+      <source>Most tracked</source>
+      <translation>ใช้เวลามากที่สุด</translation>
+    </message>
+    <message id="ui.teams.accept">
+      <source>Accept</source>
+      <translation>ยอมรับ</translation>
+    </message>
+    <message id="ui.teams.decline">
+      <source>Decline</source>
+      <translation>ปฏิเสธ</translation>
+    </message>
+    <message id="ui.teams.invitations">
+      <source>Invitations for you</source>
+      <translation>คำเชิญถึงคุณ</translation>
+    </message>
+    <message id="ui.teams.invite">
+      <source>Invite by e-mail</source>
+      <translation>เชิญทางอีเมล</translation>
+    </message>
+    <message id="ui.teams.inviteButton">
+      <source>Invite</source>
+      <translation>เชิญ</translation>
+    </message>
+    <message id="ui.teams.members">
+      <source>Members</source>
+      <translation>สมาชิก</translation>
+    </message>
+    <message id="ui.teams.role">
+      <source>Role</source>
+      <translation>บทบาท</translation>
+    </message>
+    <message id="ui.teams.role.editor">
+      <source>Editor</source>
+      <translation>ผู้แก้ไข</translation>
+    </message>
+    <message id="ui.teams.role.owner">
+      <source>Owner</source>
+      <translation>เจ้าของ</translation>
+    </message>
+    <message id="ui.teams.role.viewer">
+      <source>Viewer</source>
+      <translation>ผู้ดู</translation>
+    </message>
+    <message id="ui.teams.viewerNote">
+      <source>Only the team owner and editors can invite people.</source>
+      <translation>เฉพาะเจ้าของทีมและผู้แก้ไขเท่านั้นที่เชิญคนอื่นได้</translation>
+    </message>
+    <message id="ui.timer.idle">
+      <source>No timer running. Select a task and press Space.</source>
+      <translation>ไม่มีตัวจับเวลาที่ทำงานอยู่ เลือกงานแล้วกด Space</translation>
+    </message>
+    <message id="ui.timer.name">
+      <source>Timer</source>
+      <translation>ตัวจับเวลา</translation>
+    </message>
+    <message id="ui.timer.notRunning">
+      <source>Not running</source>
+      <translation>ไม่ได้ทำงาน</translation>
+    </message>
+    <message id="ui.timer.offline">
+      <source>Offline</source>
+      <translation>ออฟไลน์</translation>
+    </message>
+    <message id="ui.timer.offlineHint">
+      <source>Offline: changes from other devices arrive when the connection is back.</source>
+      <translation>ออฟไลน์: การเปลี่ยนแปลงจากอุปกรณ์อื่นจะเข้ามาเมื่อกลับมาเชื่อมต่อได้</translation>
+    </message>
+    <message id="ui.timer.start">
+      <source>Start</source>
+      <translation>เริ่ม</translation>
+    </message>
+    <message id="ui.timer.stop">
+      <source>Stop</source>
+      <translation>หยุด</translation>
+    </message>
+    <message id="ui.tray.floating">
+      <source>Floating timer</source>
+      <translation>ตัวจับเวลาแบบลอย</translation>
+    </message>
+    <message id="ui.tray.open">
+      <source>Open Morvane</source>
+      <translation>เปิด Morvane</translation>
+    </message>
+    <message id="ui.tray.quit">
+      <source>Quit</source>
+      <translation>ออก</translation>
+    </message>
+    <message id="ui.tray.start">
+      <source>Start</source>
+      <translation>เริ่ม</translation>
+    </message>
+    <message id="ui.tray.stop">
+      <source>Stop the timer</source>
+      <translation>หยุดตัวจับเวลา</translation>
+    </message>
   </context>
 </TS>

@@ -1266,6 +1266,11 @@ QCoro::Task<bool> AppStore::moveTask(QString taskId, QString projectId)
     co_return co_await patchTask(taskId, patch, "Move task failed: ");
 }
 
+QCoro::Task<bool> AppStore::updateTaskPriority(QString taskId, TaskPriority priority)
+{
+    co_return co_await patchTask(taskId, TaskPriorityPatch{priority}, "Update task failed: ");
+}
+
 QCoro::Task<QStringList> AppStore::writeStatus(Session session, QStringList taskIds, TaskStatus status,
                                                const char *logPrefix)
 {

@@ -233,6 +233,7 @@ public:
     QCoro::Task<std::optional<TaskItem>> createTask(TaskInsert draft);
     QCoro::Task<bool> updateTask(QString taskId, TaskPatch patch);
     QCoro::Task<bool> moveTask(QString taskId, QString projectId);
+    QCoro::Task<bool> updateTaskPriority(QString taskId, TaskPriority priority);
     // Never stops or changes a running timer: a task whose timer runs keeps its status, and the
     // user learns that the timer was started elsewhere.
     QCoro::Task<bool> setTaskStatus(QString taskId, TaskStatus status);
@@ -338,6 +339,8 @@ public:
     [[nodiscard]] double unbilledTotal(const QString &projectId = {}) const;
     // Billed tracked seconds ÷ tracked seconds of the project; none when nothing is tracked.
     [[nodiscard]] std::optional<double> billedFraction(const QString &projectId) const;
+    // The same share for one task.
+    [[nodiscard]] std::optional<double> taskBilledFraction(const QString &taskId) const;
     // Where an invoice of the project should start: the day of its earliest unbilled work.
     [[nodiscard]] std::optional<QDate> smartInvoiceStartDate(const QString &projectId) const;
     // The object path of an invoice's PDF: the owner's folder, "invoices", the file.

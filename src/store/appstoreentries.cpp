@@ -76,6 +76,12 @@ void AppStore::appendEntryLocally(const TimeEntry &entry)
         m_recentEntries.prepend(entry);
     }
     emit entriesChanged();
+    // New or edited work is unbilled until an invoice takes it; the read of the unbilled view is
+    // kept in step so that shares and totals do not count it as billed meanwhile.
+    if (m_unbilledReady && !m_billedEntryIds.contains(entry.id)) {
+        m_unbilledEntries.append(entry);
+        emit unbilledEntriesChanged();
+    }
 }
 
 void AppStore::replaceEntry(const TimeEntry &entry)
@@ -94,6 +100,9 @@ void AppStore::removeEntry(const QString &entryId)
     changed |= m_recentEntries.removeIf([&](const TimeEntry &entry) { return entry.id == entryId; }) > 0;
     if (changed) {
         emit entriesChanged();
+    }
+    if (m_unbilledEntries.removeIf([&](const TimeEntry &entry) { return entry.id == entryId; }) > 0) {
+        emit unbilledEntriesChanged();
     }
 }
 

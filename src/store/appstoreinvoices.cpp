@@ -843,6 +843,21 @@ std::optional<double> AppStore::billedFraction(const QString &projectId) const
     return std::clamp(double(tracked - unbilled) / double(tracked), 0.0, 1.0);
 }
 
+std::optional<double> AppStore::taskBilledFraction(const QString &taskId) const
+{
+    const std::optional<TaskItem> item = task(taskId);
+    if (!item || item->timeSpentSeconds <= 0) {
+        return std::nullopt;
+    }
+    qint64 unbilled = 0;
+    for (const TimeEntry &entry : m_unbilledEntries) {
+        if (entry.taskId == taskId) {
+            unbilled += entry.durationSeconds;
+        }
+    }
+    return std::clamp(double(item->timeSpentSeconds - unbilled) / double(item->timeSpentSeconds), 0.0, 1.0);
+}
+
 std::optional<QDate> AppStore::smartInvoiceStartDate(const QString &projectId) const
 {
     std::optional<QDateTime> earliest;

@@ -141,6 +141,19 @@ struct TaskPatch
     friend bool operator==(const TaskPatch &, const TaskPatch &) = default;
 };
 
+struct TaskPriorityPatch
+{
+    TaskPriority priority = TaskPriority::Medium;
+
+    static constexpr std::string_view wireName = "TaskPriorityPatch";
+    static constexpr auto wireFields()
+    {
+        using Wire::field;
+        return std::tuple{field("priority", &TaskPriorityPatch::priority)};
+    }
+    friend bool operator==(const TaskPriorityPatch &, const TaskPriorityPatch &) = default;
+};
+
 struct TaskMovePatch
 {
     QString projectId;

@@ -376,6 +376,10 @@ private slots:
         QCOMPARE(store().unbilledTotal(noProject), 0.0);
         QCOMPARE(store().smartInvoiceStartDate(noProject), std::nullopt);
         QCOMPARE(store().billedFraction(noProject), std::nullopt);
+        QCOMPARE(store().taskBilledFraction(task), std::optional(1.0 / 3.0));
+        // Work logged now counts as unbilled without another read of the view.
+        QVERIFY(runBlocking(store().logManualMinutes(task, 60)));
+        QCOMPARE(store().taskBilledFraction(task), std::optional(0.25));
     }
 };
 

@@ -1,0 +1,126 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Qt.labs.settings
+import Morvane.Ui
+
+// The three panes under the timer strip: sidebar, list, inspector.
+Rectangle {
+    id: main
+    color: Theme.background
+    readonly property var workspace: Shell.workspace
+    readonly property bool compactSidebar: width < Theme.sidebarFoldWidth
+    readonly property bool showInspector: width >= Theme.inspectorFoldWidth
+    property string teamId: ""
+    property alias sidebarWidth: sidebar.preferredWidth
+    property alias inspectorWidth: inspectorPane.preferredWidth
+    signal paletteRequested()
+
+    Settings {
+        category: "panes"
+        property alias sidebarWidth: main.sidebarWidth
+        property alias inspectorWidth: main.inspectorWidth
+        property alias projectId: main.rememberedProject
+    }
+    property string rememberedProject: ""
+    Component.onCompleted: if (rememberedProject) workspace.selectedProjectId = rememberedProject
+    Connections {
+        target: main.workspace
+        function onSelectionChanged() { main.rememberedProject = main.workspace.selectedProjectId }
+    }
+
+    function runAction(name) {
+        if (name === "newTask") taskList.startNewTask()
+        else if (name === "newProject") sidebar.startNewProject()
+        else if (name === "newTeam") sidebar.startNewTeam()
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        TimerStrip { Layout.fillWidth: true }
+
+        Banner {
+            Layout.fillWidth: true
+            Layout.margins: visible ? Theme.space2 : 0
+            text: workspace.lastError
+            onDismissed: workspace.dismissError()
+        }
+        Banner {
+            Layout.fillWidth: true
+            Layout.margins: visible ? Theme.space2 : 0
+            error: false
+            text: workspace.message
+            onDismissed: workspace.dismissError()
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            spacing: 0
+
+            Sidebar {
+                id: sidebar
+                property int preferredWidth: Theme.sidebarWidth
+                Layout.fillHeight: true
+                Layout.preferredWidth: main.compactSidebar ? Theme.sidebarCompactWidth : preferredWidth
+                compact: main.compactSidebar
+                onTeamChosen: (id) => main.teamId = id
+                onProjectChosen: main.teamId = ""
+            }
+            Rectangle { Layout.fillHeight: true; Layout.preferredWidth: 1; color: Theme.border }
+
+            ColumnLayout {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                spacing: 0
+                ProjectHeader {
+                    Layout.fillWidth: true
+                    visible: main.teamId === ""
+                }
+                TaskList {
+                    id: taskList
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+                    visible: main.teamId === ""
+                }
+                TeamView {
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+                    visible: main.teamId !== ""
+                    teamId: main.teamId
+                }
+            }
+
+            Rectangle {
+                Layout.fillHeight: true
+                Layout.preferredWidth: 1
+                color: Theme.border
+                visible: inspectorPane.visible
+            }
+            Inspector {
+                id: inspectorPane
+                property int preferredWidth: Theme.inspectorWidth
+                Layout.fillHeight: true
+                Layout.preferredWidth: preferredWidth
+                visible: main.showInspector && main.teamId === ""
+            }
+        }
+    }
+
+    // Keys of the main window; text fields keep their own keys while they have focus.
+    Shortcut { sequence: "Ctrl+N"; onActivated: taskList.startNewTask() }
+    Shortcut { sequence: "Ctrl+Shift+N"; onActivated: sidebar.startNewProject() }
+    Shortcut { sequence: "Ctrl+F"; onActivated: taskList.focusFilter() }
+    Repeater {
+        model: 9
+        Item {
+            required property int index
+            Shortcut {
+                sequence: "Ctrl+" + (index + 1)
+                onActivated: { main.teamId = ""; main.workspace.selectProjectAt(index + 1) }
+            }
+        }
+    }
+}

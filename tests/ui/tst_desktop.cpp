@@ -1,0 +1,253 @@
+#include "backend/secretstore.h"
+#include "i18n/language.h"
+#include "store/storedevice.h"
+#include "support/testbackend.h"
+#include "ui/desktopapp.h"
+#include "ui/desktopshell.h"
+
+#include <QAbstractItemModelTester>
+#include <QAccessible>
+#include <QApplication>
+#include <QDir>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(Morvane_UiPlugin)
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int patience = 20000;
+const QString email = u"ada@example.com"_s;
+
+// The rows of a list model as the view reads them, by role name.
+QStringList column(const RowsModel *model, const QString &role)
+{
+    QStringList values;
+    for (const QVariantHash &row : model->rows()) {
+        values << row.value(role).toString();
+    }
+    return values;
+}
+
+} // namespace
+
+// The real window over a real backend: what a person does on the first day, end to end.
+class TestDesktop : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestBackend m_backend;
+    QTemporaryDir m_dir;
+    std::unique_ptr<DesktopShell> m_shell;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QQuickWindow *m_window = nullptr;
+    std::vector<std::unique_ptr<QAbstractItemModelTester>> m_testers;
+
+    Workspace *workspace() const { return m_shell->workspace(); }
+    AppStore *store() const { return m_shell->store(); }
+
+    template<typename T = QQuickItem>
+    T *item(const char *name) const
+    {
+        return m_window->findChild<T *>(QString::fromLatin1(name));
+    }
+
+    // Every screen in both languages and both schemes, saved beside the test for a person to look at.
+    void shoot(const QString &name)
+    {
+        const QString folder = QCoreApplication::applicationDirPath() + u"/screenshots"_s;
+        QDir().mkpath(folder);
+        const QString language = m_shell->language();
+        for (const QString &code : {u"en"_s, u"ja"_s}) {
+            m_shell->setLanguage(code);
+            for (const QString &scheme : {u"light"_s, u"dark"_s}) {
+                m_shell->setColorScheme(scheme);
+                QTest::qWait(50);
+                const QImage image = m_window->grabWindow();
+                QVERIFY(!image.isNull());
+                QVERIFY(image.save(folder + u'/' + name + u'-' + code + u'-' + scheme + u".png"_s));
+            }
+        }
+        m_shell->setLanguage(language);
+        m_shell->setColorScheme(u"light"_s);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
+        DesktopShell::Options options;
+        const Config config{m_backend.url(), QString::fromLatin1(m_backend.anonKey())};
+        options.backend = [config]() -> QCoro::Task<Config> { co_return config; };
+        const QString secrets = m_dir.filePath(u"secrets.json"_s);
+        options.secrets = [secrets]() -> QCoro::Task<std::shared_ptr<SecretStore>> {
+            co_return SecretStore::file(secrets);
+        };
+        options.settings = std::make_shared<QSettings>(m_dir.filePath(u"morvane.conf"_s), QSettings::IniFormat);
+        options.followDesktopScheme = false;
+        m_shell = std::make_unique<DesktopShell>(options);
+        m_shell->setColorScheme(u"light"_s);
+        DesktopShell::setInstance(m_shell.get());
+
+        QQuickStyle::setStyle(u"Basic"_s);
+        m_engine = std::make_unique<QQmlApplicationEngine>();
+        DesktopApp::prepareEngine(*m_engine);
+        m_shell->setEngine(m_engine.get());
+        m_engine->load(QUrl(u"qrc:/Morvane/Ui/Main.qml"_s));
+        QCOMPARE(m_engine->rootObjects().size(), 1);
+        m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
+        QVERIFY(m_window);
+        for (RowsModel *model : {workspace()->sidebar(), workspace()->tasks(), workspace()->palette()}) {
+            m_testers.push_back(std::make_unique<QAbstractItemModelTester>(
+                model, QAbstractItemModelTester::FailureReportingMode::QtTest));
+        }
+        m_shell->start();
+    }
+
+    void cleanupTestCase()
+    {
+        m_testers.clear();
+        m_engine.reset();
+        m_shell.reset();
+    }
+
+    void firstStartSignsUpWithTheOnboardingAnswers()
+    {
+        QTRY_COMPARE_WITH_TIMEOUT(m_shell->phase(), DesktopShell::SignedOut, patience);
+        shoot(u"welcome"_s);
+        m_shell->signUp(email, QString::fromLatin1(StoreDevice::password), u"Ada Lovelace"_s, u"en"_s, u"CHF"_s,
+                        u"95,50"_s, u"Europe/Zurich"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(m_shell->phase(), DesktopShell::Ready, patience);
+        QTRY_VERIFY_WITH_TIMEOUT(store()->profile().has_value(), patience);
+        QCOMPARE(store()->profile()->displayName, u"Ada Lovelace"_s);
+        QCOMPARE(store()->currency(), u"CHF"_s);
+        QCOMPARE(store()->defaultHourlyRate(), 95.5);
+        shoot(u"main-empty"_s);
+    }
+
+    void aProjectATaskAndItsTime()
+    {
+        workspace()->createProject(u"Website redesign"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(column(workspace()->sidebar(), u"title"_s).contains(u"Website redesign"_s), patience);
+        QTRY_VERIFY(!workspace()->selectedProjectId().isEmpty());
+        workspace()->createTask(u"Design the home page"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->tasks()->rowCount(), 1, patience);
+        QTRY_VERIFY(workspace()->inspector()->present());
+
+        workspace()->toggleTimer(workspace()->selectedTaskId());
+        QTRY_VERIFY_WITH_TIMEOUT(workspace()->timerRunning(), patience);
+        QTRY_VERIFY(item("timerClock")->isVisible());
+        QCOMPARE(column(workspace()->sidebar(), u"running"_s).count(u"true"_s), 2); // overview and project
+        workspace()->toggleTimer({});
+        QTRY_VERIFY_WITH_TIMEOUT(!workspace()->timerRunning(), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->inspector()->entries().size(), 1, patience);
+
+        // Edit the run's length, then log a quarter of an hour by hand.
+        const QString entryId = workspace()->inspector()->entries().first().toMap().value(u"id"_s).toString();
+        QVERIFY(workspace()->inspector()->editEntryDuration(entryId, u"30"_s));
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->inspector()->tracked(), u"30m"_s, patience);
+        QVERIFY(!workspace()->inspector()->logMinutes(u"soon"_s));
+        QVERIFY(workspace()->inspector()->logMinutes(u"15"_s));
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->inspector()->entries().size(), 2, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->inspector()->tracked(), u"45m"_s, patience);
+
+        for (const char *title : {"Write the copy", "Pick the photos", "Launch"}) {
+            workspace()->createTask(QString::fromLatin1(title));
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->tasks()->rowCount(), 4, patience);
+        workspace()->createProject(u"Bookkeeping"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(column(workspace()->sidebar(), u"title"_s).contains(u"Bookkeeping"_s), patience);
+        workspace()->selectProjectAt(2);
+        QTRY_COMPARE(workspace()->project().value(u"name"_s).toString(), u"Website redesign"_s);
+        QTRY_COMPARE(workspace()->tasks()->rowCount(), 4);
+        workspace()->selectTask(workspace()->tasks()->rows().first().value(u"id"_s).toString());
+        workspace()->startTimer(workspace()->selectedTaskId());
+        QTRY_VERIFY_WITH_TIMEOUT(workspace()->timerRunning(), patience);
+        shoot(u"main-filled"_s);
+    }
+
+    void thePaletteRanksTheObviousHitFirst()
+    {
+        workspace()->searchPalette(u"web"_s);
+        QCOMPARE(workspace()->palette()->rows().first().value(u"title"_s).toString(), u"Website redesign"_s);
+        workspace()->searchPalette(u"photos"_s);
+        QCOMPARE(workspace()->palette()->rows().first().value(u"title"_s).toString(), u"Pick the photos"_s);
+        workspace()->searchPalette(u"zzzz"_s);
+        QCOMPARE(workspace()->palette()->rowCount(), 0);
+    }
+
+    void aTimerStartedOnAnotherDeviceShowsHere()
+    {
+        workspace()->stopTimer();
+        QTRY_VERIFY_WITH_TIMEOUT(!workspace()->timerRunning(), patience);
+        auto other = StoreDevice::signIn(m_backend, email);
+        QVERIFY(other && other->refresh());
+        const QString taskId = other->store->tasks(workspace()->selectedProjectId()).last().id;
+        QVERIFY(runBlocking(other->store->startTimer(taskId)));
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->runningTaskId(), taskId, patience);
+        QVERIFY(runBlocking(other->store->stopTimer(taskId)));
+        QTRY_VERIFY_WITH_TIMEOUT(!workspace()->timerRunning(), patience);
+    }
+
+    void switchingTheLanguageRetranslatesTheOpenWindow()
+    {
+        workspace()->selectProject({});
+        m_shell->setLanguage(u"ja"_s);
+        QTRY_COMPARE(column(workspace()->sidebar(), u"title"_s).first(), u"すべてのプロジェクト"_s);
+        QTRY_COMPARE(item("projectNameField")->property("text").toString(), u"すべてのプロジェクト"_s);
+        m_shell->setLanguage(u"en"_s);
+        QTRY_COMPARE(item("projectNameField")->property("text").toString(), u"All projects"_s);
+    }
+
+    // Everything reachable with Tab says what it is.
+    void everyFocusableControlHasANameAndARole()
+    {
+        QAccessible::setActive(true);
+        QStringList nameless;
+        int focusable = 0;
+        QList<QQuickItem *> items{m_window->contentItem()};
+        for (qsizetype i = 0; i < items.size(); ++i) {
+            QQuickItem *control = items.at(i);
+            items << control->childItems();
+            // Controls take Tab through their focus policy, plain items through activeFocusOnTab.
+            const QVariant policy = control->property("focusPolicy");
+            const bool tabbable = policy.isValid() ? (policy.toInt() & Qt::TabFocus) : control->activeFocusOnTab();
+            if (!control->isVisible() || !control->isEnabled() || !tabbable) {
+                continue;
+            }
+            ++focusable;
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control);
+            if (!accessible || accessible->text(QAccessible::Name).trimmed().isEmpty() ||
+                accessible->role() == QAccessible::NoRole) {
+                nameless << QString::fromLatin1(control->metaObject()->className()) + u' ' + control->objectName();
+            }
+        }
+        QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(u", "_s)));
+        QVERIFY2(focusable > 15, qPrintable(QString::number(focusable)));
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QUICK_BACKEND", "software");
+    // The window keeps its sizes and choices in the user's settings; the test's go with it.
+    QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName(u"morvane"_s);
+    QApplication::setApplicationName(u"morvane"_s);
+    QApplication::setFont(QFont(u"Inter"_s, 10));
+    Language::apply(u"en"_s);
+    TestDesktop test;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_desktop.moc"
