@@ -12,7 +12,7 @@ QtObject {
     readonly property color text: dark ? "#F5F5F4" : "#1C1917"
     readonly property color muted: dark ? "#A8A29E" : "#78716C"
     readonly property color accent: dark ? "#2DD4BF" : "#0F766E"
-    readonly property color onAccent: dark ? "#0C0A09" : "#FFFFFF"
+    readonly property color textOnAccent: dark ? "#0C0A09" : "#FFFFFF"
     readonly property color danger: dark ? "#F87171" : "#B91C1C"
     readonly property color success: dark ? "#4ADE80" : "#15803D"
     readonly property color running: dark ? "#F87171" : "#DC2626"

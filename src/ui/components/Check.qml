@@ -23,7 +23,7 @@ CheckBox {
             anchors.centerIn: parent
             text: "✓"
             visible: control.checked
-            color: Theme.onAccent
+            color: Theme.textOnAccent
             font.pixelSize: 12
             font.weight: Font.Bold
         }

@@ -22,7 +22,7 @@ Rectangle {
         id: label
         anchors.centerIn: parent
         text: chip.text
-        color: chip.tone === "deepPrimary" ? Theme.onAccent : chip.toneColor
+        color: chip.tone === "deepPrimary" ? Theme.textOnAccent : chip.toneColor
         font.pixelSize: Theme.fontSmall - 1
         font.weight: Font.DemiBold
     }

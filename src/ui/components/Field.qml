@@ -11,7 +11,7 @@ TextField {
     color: Theme.text
     placeholderTextColor: Theme.muted
     selectionColor: Theme.accent
-    selectedTextColor: Theme.onAccent
+    selectedTextColor: Theme.textOnAccent
     leftPadding: Theme.space2
     rightPadding: Theme.space2
     Accessible.name: placeholderText

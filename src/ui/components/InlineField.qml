@@ -12,7 +12,7 @@ TextField {
     color: Theme.text
     placeholderTextColor: Theme.muted
     selectionColor: Theme.accent
-    selectedTextColor: Theme.onAccent
+    selectedTextColor: Theme.textOnAccent
     leftPadding: Theme.space2
     rightPadding: Theme.space2
     implicitHeight: Math.max(Theme.controlHeight, contentHeight + 2 * Theme.space1)

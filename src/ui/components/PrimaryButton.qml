@@ -14,7 +14,7 @@ Button {
     contentItem: Text {
         text: control.text
         font: control.font
-        color: Theme.onAccent
+        color: Theme.textOnAccent
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

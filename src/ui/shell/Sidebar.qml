@@ -81,7 +81,7 @@ Rectangle {
                         Text {
                             anchors.centerIn: parent
                             text: row.kind === "overview" ? "∗" : row.title.charAt(0).toUpperCase()
-                            color: row.isCurrent ? Theme.onAccent : Theme.text
+                            color: row.isCurrent ? Theme.textOnAccent : Theme.text
                             font.pixelSize: Theme.fontSmall
                             font.weight: Font.DemiBold
                         }

@@ -11,6 +11,8 @@ Rectangle {
     readonly property var workspace: Shell.workspace
     readonly property var checked: workspace.checkedTaskIds
     readonly property bool manual: workspace.sort === "manual" && workspace.selectedProjectId !== ""
+    // Without a project there is nothing to add a task to, search or sort.
+    readonly property bool hasProjects: workspace.projectChoices.length > 0 || workspace.selectedProjectId !== ""
     property string anchorTaskId: ""
 
     function startNewTask() { newTask.forceActiveFocus() }
@@ -22,6 +24,7 @@ Rectangle {
 
         Field {
             id: newTask
+            visible: root.hasProjects
             Layout.fillWidth: true
             Layout.leftMargin: Theme.space4
             Layout.rightMargin: Theme.space4
@@ -33,6 +36,7 @@ Rectangle {
             Keys.onEscapePressed: { text = ""; list.forceActiveFocus() }
         }
         RowLayout {
+            visible: root.hasProjects
             Layout.fillWidth: true
             Layout.leftMargin: Theme.space4
             Layout.rightMargin: Theme.space4
