@@ -275,8 +275,9 @@ public:
     // on another device) keeps that run.
     QCoro::Task<bool> startTimer(QString taskId);
     // Writes the run as one entry and adds it to the task's total. A run that another device
-    // stopped meanwhile is left as that device wrote it.
-    QCoro::Task<bool> stopTimer(QString taskId);
+    // stopped meanwhile is left as that device wrote it. `endedAt` ends the run earlier than now
+    // (the moment the person left); it is held between the run's start and now.
+    QCoro::Task<bool> stopTimer(QString taskId, std::optional<QDateTime> endedAt = std::nullopt);
     // An entry of `minutes` (fractional) ending now.
     QCoro::Task<bool> logManualMinutes(QString taskId, double minutes);
     // Loads every entry of one task, older ones than the recent window included.
@@ -408,7 +409,7 @@ private:
                                          const char *logPrefix);
     QCoro::Task<> reloadMembers(Session session, QString teamId);
     QCoro::Task<std::optional<TaskItem>> readTask(Session &session, QString taskId);
-    QCoro::Task<bool> stopRun(Session &session, TaskItem running);
+    QCoro::Task<bool> stopRun(Session &session, TaskItem running, std::optional<QDateTime> endedAt = std::nullopt);
     // Updates one entry with `patch`, or deletes it without one; then the task's total follows.
     QCoro::Task<bool> writeEntry(QString entryId, std::optional<TimeEntryPatch> patch, const char *logPrefix);
     void replaceEntry(const TimeEntry &entry);

@@ -165,7 +165,7 @@ QCoro::Task<bool> AppStore::startTimer(QString taskId)
     }
 }
 
-QCoro::Task<bool> AppStore::stopTimer(QString taskId)
+QCoro::Task<bool> AppStore::stopTimer(QString taskId, std::optional<QDateTime> endedAt)
 {
     std::optional<Session> session = co_await openSession("Stop timer failed: ");
     if (!session) {
@@ -182,14 +182,14 @@ QCoro::Task<bool> AppStore::stopTimer(QString taskId)
             failed("Stop timer failed: ", u"no task "_s + taskId, StoreText::taskNotSaved());
             co_return false;
         }
-        co_return co_await stopRun(*session, *current);
+        co_return co_await stopRun(*session, *current, endedAt);
     } catch (const MorvaneError &error) {
         writeFailed("Stop timer failed: ", error, StoreText::taskNotSaved());
         co_return false;
     }
 }
 
-QCoro::Task<bool> AppStore::stopRun(Session &session, TaskItem running)
+QCoro::Task<bool> AppStore::stopRun(Session &session, TaskItem running, std::optional<QDateTime> endedAt)
 {
     const char *const logPrefix = "Stop timer failed: ";
     const std::optional<QDateTime> started = isoDate(running.startedAt);
@@ -199,8 +199,10 @@ QCoro::Task<bool> AppStore::stopRun(Session &session, TaskItem running)
         co_return true;
     }
     const Supabase client = m_auth.client();
+    // An end before the start or after now would log time nobody spent.
     const QDateTime now = m_clock();
-    const qint64 run = qMax<qint64>(0, started->secsTo(now));
+    const QDateTime end = endedAt ? qBound(*started, *endedAt, qMax(*started, now)) : now;
+    const qint64 run = qMax<qint64>(0, started->secsTo(end));
     const StopTimerPatch stop{TaskStatus::NotStarted, running.timeSpentSeconds + run};
     try {
         const QueryItems claim = claimQuery(running.id, running.startedAt);
@@ -224,7 +226,7 @@ QCoro::Task<bool> AppStore::stopRun(Session &session, TaskItem running)
         insert.taskId = running.id;
         insert.projectId = running.projectId;
         insert.startedAt = isoString(*started);
-        insert.endedAt = isoString(now);
+        insert.endedAt = isoString(end);
         insert.durationSeconds = run;
         insert.loggedByUserId = m_currentUserId;
         if (!m_auth.email().isEmpty()) {

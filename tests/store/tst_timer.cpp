@@ -242,6 +242,36 @@ private slots:
         QCOMPARE(taskRow(task), "not_started|1020");
     }
 
+    void aStopAtAGivenInstantEndsTheEntryThere_data()
+    {
+        QTest::addColumn<qint64>("endOffset");
+        QTest::addColumn<qint64>("logged");
+        // The run lasts an hour on the clock; the stop names an instant relative to its start.
+        QTest::newRow("the moment the person left") << qint64(1200) << qint64(1200);
+        QTest::newRow("before the start is held at the start") << qint64(-60) << qint64(0);
+        QTest::newRow("after now is held at now") << qint64(7200) << qint64(3600);
+    }
+
+    void aStopAtAGivenInstantEndsTheEntryThere()
+    {
+        QFETCH(qint64, endOffset);
+        QFETCH(qint64, logged);
+        const QString task = newTask(QString::fromLatin1(QTest::currentDataTag()));
+        QVERIFY(runBlocking(m_laptop->store->logManualMinutes(task, 1)));
+        QVERIFY(start(*m_laptop, task));
+        const QDateTime started = *isoDate(m_laptop->store->task(task)->startedAt);
+        advance(3600);
+        QVERIFY(runBlocking(m_laptop->store->stopTimer(task, started.addSecs(endOffset))));
+        QCOMPARE(taskRow(task), "not_started|" + QByteArray::number(60 + logged));
+        QCOMPARE(sql("SELECT extract(epoch FROM ended_at)::bigint || '|' || duration_seconds FROM time_entries "
+                     "WHERE task_id = $1 AND started_at = (SELECT max(started_at) FROM time_entries WHERE task_id = $1)",
+                     task),
+                 QByteArray::number(started.toSecsSinceEpoch() + logged) + '|' + QByteArray::number(logged));
+        // The other device reads the same total from the backend.
+        QVERIFY(m_desktop->refresh());
+        QCOMPARE(m_desktop->store->task(task)->timeSpentSeconds, 60 + logged);
+    }
+
     void entriesByHandKeepTheTotal()
     {
         const QString task = newTask(u"Meetings"_s);
