@@ -105,7 +105,7 @@ QList<Command> commands()
         {u"tasks"_s, [] { return qtTrId("cli.command.tasks"); }, runTasksCommand},
         //% "Teams and their members: teams list|create|invite|invitations|accept|decline|assign"
         {u"teams"_s, [] { return qtTrId("cli.command.teams"); }, runTeamsCommand},
-        //% "Start, stop or show the timer: timer start|stop|status"
+        //% "Start, stop or show the timer: timer start|stop|toggle|status"
         {u"timer"_s, [] { return qtTrId("cli.command.timer"); }, runTimerCommand},
         //% "Log minutes of work on a task: log <task> <minutes>"
         {u"log"_s, [] { return qtTrId("cli.command.log"); }, runLogCommand},

@@ -50,8 +50,9 @@ void printEntry(QTextStream &out, const AppStore &store, const TimeEntry &entry)
 {
     const std::optional<TaskItem> task = store.task(entry.taskId);
     out << Cli::shortId(entry.id) << u"  "_s << localTime(entry.startedAt, u"yyyy-MM-dd HH:mm"_s) << u"–"_s
-        << localTime(entry.endedAt, u"HH:mm"_s) << u"  "_s << TimerStore::format(entry.durationSeconds).rightJustified(8)
-        << u"  "_s << (task ? task->title : Cli::shortId(entry.taskId)) << u'\n';
+        << localTime(entry.endedAt, u"HH:mm"_s) << u"  "_s
+        << TimerStore::format(entry.durationSeconds).rightJustified(8) << u"  "_s
+        << (task ? task->title : Cli::shortId(entry.taskId)) << u'\n';
 }
 
 } // namespace
@@ -66,9 +67,10 @@ int runTimerCommand(const QStringList &arguments, QTextStream &out, QTextStream 
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
     const qsizetype count = positional.size();
-    //% "Usage: morvane timer start <task> | stop [<task>] | status [--json]"
+    //% "Usage: morvane timer start <task> | stop [<task>] | toggle | status [--json]"
     const QString usageText = qtTrId("cli.timer.usage");
-    if (!((action == u"start" && count == 2) || (action == u"stop" && count <= 2) || (action == u"status" && count == 1))) {
+    if (!((action == u"start" && count == 2) || (action == u"stop" && count <= 2) ||
+          ((action == u"status" || action == u"toggle") && count == 1))) {
         return Cli::usage(err, usageText);
     }
     CliSession session;
@@ -96,7 +98,21 @@ int runTimerCommand(const QStringList &arguments, QTextStream &out, QTextStream 
     }
 
     std::optional<TaskItem> task;
-    if (count == 2) {
+    bool starting = action == u"start";
+    if (action == u"toggle") {
+        // What a desktop shortcut runs: stop what runs, else go on with the task worked on last
+        // (the store holds the entries newest first).
+        task = store.runningTask();
+        for (qsizetype i = 0; !task && i < store.recentEntries().size(); ++i) {
+            task = store.task(store.recentEntries().at(i).taskId);
+            starting = true;
+        }
+        if (!task) {
+            //% "No task has time yet, so there is none to go on with. Start one with: morvane timer start <task>"
+            err << qtTrId("cli.timer.nothingToResume") << Qt::endl;
+            return 1;
+        }
+    } else if (count == 2) {
         task = session.task(positional.at(1), err);
         if (!task) {
             return 1;
@@ -108,7 +124,7 @@ int runTimerCommand(const QStringList &arguments, QTextStream &out, QTextStream 
             return 0;
         }
     }
-    if (action == u"start") {
+    if (starting) {
         if (!runBlocking(store.startTimer(task->id))) {
             return session.failed(err);
         }
@@ -198,7 +214,8 @@ int runEntriesCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     }
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
-    //% "Usage: morvane entries [--task T] [--json] | entries edit <entry> [--start T] [--end T] [--minutes N] | entries rm <entry>"
+    //% "Usage: morvane entries [--task T] [--json] | entries edit <entry> [--start T] [--end T] [--minutes N] | entries
+    //rm <entry>"
     const QString usageText = qtTrId("cli.entries.usage");
     const bool changes = parser.isSet(start) || parser.isSet(end) || parser.isSet(minutes);
     if (!(positional.isEmpty() || (action == u"edit" && positional.size() == 2 && changes) ||

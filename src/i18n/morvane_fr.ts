@@ -304,8 +304,8 @@
       <translation>Les équipes et leurs membres : teams list|create|invite|invitations|accept|decline|assign</translation>
     </message>
     <message id="cli.command.timer">
-      <source>Start, stop or show the timer: timer start|stop|status</source>
-      <translation>Démarrer, arrêter ou afficher le minuteur : timer start|stop|status</translation>
+      <source>Start, stop or show the timer: timer start|stop|toggle|status</source>
+      <translation>Démarrer, arrêter ou afficher le minuteur : timer start|stop|toggle|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -955,6 +955,10 @@
       <source>No timer runs.</source>
       <translation>Aucun minuteur en cours.</translation>
     </message>
+    <message id="cli.timer.nothingToResume">
+      <source>No task has time yet, so there is none to go on with. Start one with: morvane timer start &lt;task&gt;</source>
+      <translation>Aucune tâche n'a encore de temps, il n'y en a donc aucune à reprendre. Démarrez-en une avec : morvane timer start &lt;task&gt;</translation>
+    </message>
     <message id="cli.timer.running">
       <source>%1 (%2): %3 running, %4 in all</source>
       <translation>%1 (%2) : %3 en cours, %4 au total</translation>
@@ -968,8 +972,8 @@
       <translation>%1 arrêté : %2 enregistré, %3 au total.</translation>
     </message>
     <message id="cli.timer.usage">
-      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</source>
-      <translation>Utilisation : morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</translation>
+      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
+      <translation>Utilisation : morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -304,8 +304,8 @@
       <translation>チームとメンバー: teams list|create|invite|invitations|accept|decline|assign</translation>
     </message>
     <message id="cli.command.timer">
-      <source>Start, stop or show the timer: timer start|stop|status</source>
-      <translation>タイマーの開始・停止・表示: timer start|stop|status</translation>
+      <source>Start, stop or show the timer: timer start|stop|toggle|status</source>
+      <translation>タイマーの開始・停止・表示: timer start|stop|toggle|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -955,6 +955,10 @@
       <source>No timer runs.</source>
       <translation>動作中のタイマーはありません。</translation>
     </message>
+    <message id="cli.timer.nothingToResume">
+      <source>No task has time yet, so there is none to go on with. Start one with: morvane timer start &lt;task&gt;</source>
+      <translation>まだ時間が記録されたタスクがないため、続けるタスクがありません。次で開始してください: morvane timer start &lt;task&gt;</translation>
+    </message>
     <message id="cli.timer.running">
       <source>%1 (%2): %3 running, %4 in all</source>
       <translation>%1 (%2): 計測中 %3、合計 %4</translation>
@@ -968,8 +972,8 @@
       <translation>%1 を停止しました: 記録 %2、合計 %3。</translation>
     </message>
     <message id="cli.timer.usage">
-      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</source>
-      <translation>使い方: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</translation>
+      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
+      <translation>使い方: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -304,8 +304,8 @@
       <translation>Teams en hun leden: teams list|create|invite|invitations|accept|decline|assign</translation>
     </message>
     <message id="cli.command.timer">
-      <source>Start, stop or show the timer: timer start|stop|status</source>
-      <translation>De timer starten, stoppen of tonen: timer start|stop|status</translation>
+      <source>Start, stop or show the timer: timer start|stop|toggle|status</source>
+      <translation>De timer starten, stoppen of tonen: timer start|stop|toggle|status</translation>
     </message>
     <message id="cli.commands">
       <source>Commands:</source>
@@ -955,6 +955,10 @@
       <source>No timer runs.</source>
       <translation>Er loopt geen timer.</translation>
     </message>
+    <message id="cli.timer.nothingToResume">
+      <source>No task has time yet, so there is none to go on with. Start one with: morvane timer start &lt;task&gt;</source>
+      <translation>Nog geen enkele taak heeft tijd, dus er is geen om mee verder te gaan. Start er een met: morvane timer start &lt;task&gt;</translation>
+    </message>
     <message id="cli.timer.running">
       <source>%1 (%2): %3 running, %4 in all</source>
       <translation>%1 (%2): %3 lopend, %4 in totaal</translation>
@@ -968,8 +972,8 @@
       <translation>%1 gestopt: %2 geregistreerd, %3 in totaal.</translation>
     </message>
     <message id="cli.timer.usage">
-      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</source>
-      <translation>Gebruik: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | status [--json]</translation>
+      <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
+      <translation>Gebruik: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
     </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>

@@ -173,6 +173,10 @@ private slots:
         const QByteArray total =
             QByteArray::number(60 + ann(u"timer stop --json"_s).object()[u"logged_seconds"_s].toInteger());
         QCOMPARE(sql("SELECT time_spent_seconds FROM tasks WHERE id = $1", task), total);
+        // Toggling goes on with the task of the newest entry, then stops what runs.
+        QCOMPARE(ann(u"log %1 1"_s.arg(addTask(m_studio, u"Follow-ups"_s))).code, 0);
+        QCOMPARE(ann(u"timer toggle"_s).out, u"Timer started on Follow-ups.\n"_s);
+        QVERIFY(ann(u"timer toggle"_s).out.startsWith(u"Stopped Follow-ups: "_s));
     }
 
     void entriesAreEditedAndRemoved()
