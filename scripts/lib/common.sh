@@ -51,6 +51,7 @@ MORVANE_PACKAGES=(
     qml6-module-qttest
     fonts-noto-cjk
     libqt6svg6
+    libxss-dev
 )
 
 morvane_missing_packages() {

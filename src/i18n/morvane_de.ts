@@ -1751,6 +1751,30 @@
       <source>Morvane timer</source>
       <translation>Morvane-Timer</translation>
     </message>
+    <message id="ui.idle.body">
+      <source>The timer of “%1” kept running while you were away from %2 to %3. What should happen to that time?</source>
+      <translation>Der Timer von „%1“ lief weiter, während Sie von %2 bis %3 abwesend waren. Was soll mit dieser Zeit geschehen?</translation>
+    </message>
+    <message id="ui.idle.discard">
+      <source>Discard it and stop the timer</source>
+      <translation>Verwerfen und Timer stoppen</translation>
+    </message>
+    <message id="ui.idle.discardContinue">
+      <source>Discard it and go on</source>
+      <translation>Verwerfen und weitermachen</translation>
+    </message>
+    <message id="ui.idle.keep">
+      <source>Keep the time</source>
+      <translation>Zeit behalten</translation>
+    </message>
+    <message id="ui.idle.notification">
+      <source>The timer of “%1” ran while you were away from %2 to %3.</source>
+      <translation>Der Timer von „%1“ lief, während Sie von %2 bis %3 abwesend waren.</translation>
+    </message>
+    <message id="ui.idle.title">
+      <source>You were away</source>
+      <translation>Sie waren abwesend</translation>
+    </message>
     <message id="ui.inspector.addNote">
       <source>Add a note</source>
       <translation>Notiz hinzufügen</translation>
@@ -1934,6 +1958,14 @@
     <message id="ui.projects.viewOnly">
       <source>View only</source>
       <translation>Nur Ansicht</translation>
+    </message>
+    <message id="ui.reminder.body">
+      <source>Start a timer so that the work you are doing now is counted.</source>
+      <translation>Starten Sie einen Timer, damit die Arbeit, die Sie gerade tun, gezählt wird.</translation>
+    </message>
+    <message id="ui.reminder.title">
+      <source>No timer is running</source>
+      <translation>Es läuft kein Timer</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
@@ -2158,6 +2190,18 @@
     <message id="ui.teams.viewerNote">
       <source>Only the team owner and editors can invite people.</source>
       <translation>Nur der Besitzer und die Bearbeiter des Teams können Personen einladen.</translation>
+    </message>
+    <message id="ui.timeLimit.body">
+      <source>“%1” was stopped at %2, and the time until then is logged.</source>
+      <translation>„%1“ wurde um %2 gestoppt; die Zeit bis dahin ist erfasst.</translation>
+    </message>
+    <message id="ui.timeLimit.endOfDay">
+      <source>Timer stopped at the end of your day</source>
+      <translation>Timer am Ende Ihres Arbeitstags gestoppt</translation>
+    </message>
+    <message id="ui.timeLimit.longestRun">
+      <source>Timer stopped after its longest run</source>
+      <translation>Timer nach der längsten Laufzeit gestoppt</translation>
     </message>
     <message id="ui.timer.idle">
       <source>No timer running. Select a task and press Space.</source>

@@ -1751,6 +1751,30 @@
       <source>Morvane timer</source>
       <translation>Morvane timer</translation>
     </message>
+    <message id="ui.idle.body">
+      <source>The timer of “%1” kept running while you were away from %2 to %3. What should happen to that time?</source>
+      <translation>The timer of “%1” kept running while you were away from %2 to %3. What should happen to that time?</translation>
+    </message>
+    <message id="ui.idle.discard">
+      <source>Discard it and stop the timer</source>
+      <translation>Discard it and stop the timer</translation>
+    </message>
+    <message id="ui.idle.discardContinue">
+      <source>Discard it and go on</source>
+      <translation>Discard it and go on</translation>
+    </message>
+    <message id="ui.idle.keep">
+      <source>Keep the time</source>
+      <translation>Keep the time</translation>
+    </message>
+    <message id="ui.idle.notification">
+      <source>The timer of “%1” ran while you were away from %2 to %3.</source>
+      <translation>The timer of “%1” ran while you were away from %2 to %3.</translation>
+    </message>
+    <message id="ui.idle.title">
+      <source>You were away</source>
+      <translation>You were away</translation>
+    </message>
     <message id="ui.inspector.addNote">
       <source>Add a note</source>
       <translation>Add a note</translation>
@@ -1934,6 +1958,14 @@
     <message id="ui.projects.viewOnly">
       <source>View only</source>
       <translation>View only</translation>
+    </message>
+    <message id="ui.reminder.body">
+      <source>Start a timer so that the work you are doing now is counted.</source>
+      <translation>Start a timer so that the work you are doing now is counted.</translation>
+    </message>
+    <message id="ui.reminder.title">
+      <source>No timer is running</source>
+      <translation>No timer is running</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
@@ -2158,6 +2190,18 @@
     <message id="ui.teams.viewerNote">
       <source>Only the team owner and editors can invite people.</source>
       <translation>Only the team owner and editors can invite people.</translation>
+    </message>
+    <message id="ui.timeLimit.body">
+      <source>“%1” was stopped at %2, and the time until then is logged.</source>
+      <translation>“%1” was stopped at %2, and the time until then is logged.</translation>
+    </message>
+    <message id="ui.timeLimit.endOfDay">
+      <source>Timer stopped at the end of your day</source>
+      <translation>Timer stopped at the end of your day</translation>
+    </message>
+    <message id="ui.timeLimit.longestRun">
+      <source>Timer stopped after its longest run</source>
+      <translation>Timer stopped after its longest run</translation>
     </message>
     <message id="ui.timer.idle">
       <source>No timer running. Select a task and press Space.</source>

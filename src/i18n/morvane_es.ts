@@ -1751,6 +1751,30 @@
       <source>Morvane timer</source>
       <translation>Temporizador de Morvane</translation>
     </message>
+    <message id="ui.idle.body">
+      <source>The timer of “%1” kept running while you were away from %2 to %3. What should happen to that time?</source>
+      <translation>El temporizador de «%1» siguió en marcha mientras estaba ausente, de %2 a %3. ¿Qué hacemos con ese tiempo?</translation>
+    </message>
+    <message id="ui.idle.discard">
+      <source>Discard it and stop the timer</source>
+      <translation>Descartarlo y detener el temporizador</translation>
+    </message>
+    <message id="ui.idle.discardContinue">
+      <source>Discard it and go on</source>
+      <translation>Descartarlo y continuar</translation>
+    </message>
+    <message id="ui.idle.keep">
+      <source>Keep the time</source>
+      <translation>Conservar el tiempo</translation>
+    </message>
+    <message id="ui.idle.notification">
+      <source>The timer of “%1” ran while you were away from %2 to %3.</source>
+      <translation>El temporizador de «%1» estuvo en marcha mientras estaba ausente, de %2 a %3.</translation>
+    </message>
+    <message id="ui.idle.title">
+      <source>You were away</source>
+      <translation>Ha estado ausente</translation>
+    </message>
     <message id="ui.inspector.addNote">
       <source>Add a note</source>
       <translation>Añadir una nota</translation>
@@ -1934,6 +1958,14 @@
     <message id="ui.projects.viewOnly">
       <source>View only</source>
       <translation>Solo lectura</translation>
+    </message>
+    <message id="ui.reminder.body">
+      <source>Start a timer so that the work you are doing now is counted.</source>
+      <translation>Inicie un temporizador para que cuente el trabajo que está haciendo ahora.</translation>
+    </message>
+    <message id="ui.reminder.title">
+      <source>No timer is running</source>
+      <translation>No hay ningún temporizador en marcha</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
@@ -2158,6 +2190,18 @@
     <message id="ui.teams.viewerNote">
       <source>Only the team owner and editors can invite people.</source>
       <translation>Solo el propietario y los editores del equipo pueden invitar a otras personas.</translation>
+    </message>
+    <message id="ui.timeLimit.body">
+      <source>“%1” was stopped at %2, and the time until then is logged.</source>
+      <translation>«%1» se detuvo a las %2; el tiempo hasta entonces queda registrado.</translation>
+    </message>
+    <message id="ui.timeLimit.endOfDay">
+      <source>Timer stopped at the end of your day</source>
+      <translation>Temporizador detenido al final de su jornada</translation>
+    </message>
+    <message id="ui.timeLimit.longestRun">
+      <source>Timer stopped after its longest run</source>
+      <translation>Temporizador detenido tras su duración máxima</translation>
     </message>
     <message id="ui.timer.idle">
       <source>No timer running. Select a task and press Space.</source>

@@ -1751,6 +1751,30 @@
       <source>Morvane timer</source>
       <translation>Minuteur Morvane</translation>
     </message>
+    <message id="ui.idle.body">
+      <source>The timer of “%1” kept running while you were away from %2 to %3. What should happen to that time?</source>
+      <translation>Le minuteur de « %1 » a continué pendant votre absence, de %2 à %3. Que faire de ce temps ?</translation>
+    </message>
+    <message id="ui.idle.discard">
+      <source>Discard it and stop the timer</source>
+      <translation>L'écarter et arrêter le minuteur</translation>
+    </message>
+    <message id="ui.idle.discardContinue">
+      <source>Discard it and go on</source>
+      <translation>L'écarter et continuer</translation>
+    </message>
+    <message id="ui.idle.keep">
+      <source>Keep the time</source>
+      <translation>Garder le temps</translation>
+    </message>
+    <message id="ui.idle.notification">
+      <source>The timer of “%1” ran while you were away from %2 to %3.</source>
+      <translation>Le minuteur de « %1 » a tourné pendant votre absence, de %2 à %3.</translation>
+    </message>
+    <message id="ui.idle.title">
+      <source>You were away</source>
+      <translation>Vous étiez absent</translation>
+    </message>
     <message id="ui.inspector.addNote">
       <source>Add a note</source>
       <translation>Ajouter une note</translation>
@@ -1934,6 +1958,14 @@
     <message id="ui.projects.viewOnly">
       <source>View only</source>
       <translation>Lecture seule</translation>
+    </message>
+    <message id="ui.reminder.body">
+      <source>Start a timer so that the work you are doing now is counted.</source>
+      <translation>Démarrez un minuteur pour que le travail que vous faites maintenant soit compté.</translation>
+    </message>
+    <message id="ui.reminder.title">
+      <source>No timer is running</source>
+      <translation>Aucun minuteur en cours</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
@@ -2158,6 +2190,18 @@
     <message id="ui.teams.viewerNote">
       <source>Only the team owner and editors can invite people.</source>
       <translation>Seuls le propriétaire et les éditeurs de l’équipe peuvent inviter des personnes.</translation>
+    </message>
+    <message id="ui.timeLimit.body">
+      <source>“%1” was stopped at %2, and the time until then is logged.</source>
+      <translation>« %1 » a été arrêté à %2 ; le temps jusque-là est enregistré.</translation>
+    </message>
+    <message id="ui.timeLimit.endOfDay">
+      <source>Timer stopped at the end of your day</source>
+      <translation>Minuteur arrêté à la fin de votre journée</translation>
+    </message>
+    <message id="ui.timeLimit.longestRun">
+      <source>Timer stopped after its longest run</source>
+      <translation>Minuteur arrêté après sa durée maximale</translation>
     </message>
     <message id="ui.timer.idle">
       <source>No timer running. Select a task and press Space.</source>

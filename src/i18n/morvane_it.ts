@@ -1751,6 +1751,30 @@
       <source>Morvane timer</source>
       <translation>Timer di Morvane</translation>
     </message>
+    <message id="ui.idle.body">
+      <source>The timer of “%1” kept running while you were away from %2 to %3. What should happen to that time?</source>
+      <translation>Il timer di «%1» ha continuato a girare mentre eri assente, dalle %2 alle %3. Cosa vuoi fare di quel tempo?</translation>
+    </message>
+    <message id="ui.idle.discard">
+      <source>Discard it and stop the timer</source>
+      <translation>Scartalo e ferma il timer</translation>
+    </message>
+    <message id="ui.idle.discardContinue">
+      <source>Discard it and go on</source>
+      <translation>Scartalo e continua</translation>
+    </message>
+    <message id="ui.idle.keep">
+      <source>Keep the time</source>
+      <translation>Tieni il tempo</translation>
+    </message>
+    <message id="ui.idle.notification">
+      <source>The timer of “%1” ran while you were away from %2 to %3.</source>
+      <translation>Il timer di «%1» è rimasto attivo mentre eri assente, dalle %2 alle %3.</translation>
+    </message>
+    <message id="ui.idle.title">
+      <source>You were away</source>
+      <translation>Eri assente</translation>
+    </message>
     <message id="ui.inspector.addNote">
       <source>Add a note</source>
       <translation>Aggiungi una nota</translation>
@@ -1934,6 +1958,14 @@
     <message id="ui.projects.viewOnly">
       <source>View only</source>
       <translation>Sola lettura</translation>
+    </message>
+    <message id="ui.reminder.body">
+      <source>Start a timer so that the work you are doing now is counted.</source>
+      <translation>Avvia un timer perché il lavoro che stai facendo ora venga conteggiato.</translation>
+    </message>
+    <message id="ui.reminder.title">
+      <source>No timer is running</source>
+      <translation>Nessun timer in corso</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
@@ -2158,6 +2190,18 @@
     <message id="ui.teams.viewerNote">
       <source>Only the team owner and editors can invite people.</source>
       <translation>Solo il proprietario e gli editor del team possono invitare persone.</translation>
+    </message>
+    <message id="ui.timeLimit.body">
+      <source>“%1” was stopped at %2, and the time until then is logged.</source>
+      <translation>«%1» è stato fermato alle %2; il tempo fino ad allora è registrato.</translation>
+    </message>
+    <message id="ui.timeLimit.endOfDay">
+      <source>Timer stopped at the end of your day</source>
+      <translation>Timer fermato alla fine della tua giornata</translation>
+    </message>
+    <message id="ui.timeLimit.longestRun">
+      <source>Timer stopped after its longest run</source>
+      <translation>Timer fermato dopo la durata massima</translation>
     </message>
     <message id="ui.timer.idle">
       <source>No timer running. Select a task and press Space.</source>

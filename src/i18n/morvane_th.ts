@@ -1751,6 +1751,30 @@
       <source>Morvane timer</source>
       <translation>ตัวจับเวลา Morvane</translation>
     </message>
+    <message id="ui.idle.body">
+      <source>The timer of “%1” kept running while you were away from %2 to %3. What should happen to that time?</source>
+      <translation>ตัวจับเวลาของ “%1” ยังทำงานอยู่ขณะที่คุณไม่อยู่ ตั้งแต่ %2 ถึง %3 จะทำอย่างไรกับเวลาช่วงนั้น</translation>
+    </message>
+    <message id="ui.idle.discard">
+      <source>Discard it and stop the timer</source>
+      <translation>ทิ้งเวลานั้นและหยุดตัวจับเวลา</translation>
+    </message>
+    <message id="ui.idle.discardContinue">
+      <source>Discard it and go on</source>
+      <translation>ทิ้งเวลานั้นแล้วทำต่อ</translation>
+    </message>
+    <message id="ui.idle.keep">
+      <source>Keep the time</source>
+      <translation>เก็บเวลาไว้</translation>
+    </message>
+    <message id="ui.idle.notification">
+      <source>The timer of “%1” ran while you were away from %2 to %3.</source>
+      <translation>ตัวจับเวลาของ “%1” ทำงานอยู่ขณะที่คุณไม่อยู่ ตั้งแต่ %2 ถึง %3</translation>
+    </message>
+    <message id="ui.idle.title">
+      <source>You were away</source>
+      <translation>คุณไม่อยู่ที่เครื่อง</translation>
+    </message>
     <message id="ui.inspector.addNote">
       <source>Add a note</source>
       <translation>เพิ่มโน้ต</translation>
@@ -1934,6 +1958,14 @@
     <message id="ui.projects.viewOnly">
       <source>View only</source>
       <translation>ดูได้อย่างเดียว</translation>
+    </message>
+    <message id="ui.reminder.body">
+      <source>Start a timer so that the work you are doing now is counted.</source>
+      <translation>เริ่มตัวจับเวลาเพื่อให้งานที่คุณกำลังทำอยู่ถูกนับ</translation>
+    </message>
+    <message id="ui.reminder.title">
+      <source>No timer is running</source>
+      <translation>ไม่มีตัวจับเวลาที่ทำงานอยู่</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
@@ -2158,6 +2190,18 @@
     <message id="ui.teams.viewerNote">
       <source>Only the team owner and editors can invite people.</source>
       <translation>เฉพาะเจ้าของทีมและผู้แก้ไขเท่านั้นที่เชิญคนอื่นได้</translation>
+    </message>
+    <message id="ui.timeLimit.body">
+      <source>“%1” was stopped at %2, and the time until then is logged.</source>
+      <translation>หยุด “%1” เมื่อเวลา %2 และบันทึกเวลาจนถึงตอนนั้นแล้ว</translation>
+    </message>
+    <message id="ui.timeLimit.endOfDay">
+      <source>Timer stopped at the end of your day</source>
+      <translation>หยุดตัวจับเวลาเมื่อสิ้นสุดวันทำงาน</translation>
+    </message>
+    <message id="ui.timeLimit.longestRun">
+      <source>Timer stopped after its longest run</source>
+      <translation>หยุดตัวจับเวลาเมื่อครบเวลาสูงสุด</translation>
     </message>
     <message id="ui.timer.idle">
       <source>No timer running. Select a task and press Space.</source>

@@ -55,6 +55,23 @@ ApplicationWindow {
     }
 
     FloatingTimer { id: floating }
+
+    IdleDialog {
+        id: idleDialog
+        watcher: Shell.idle
+        taskTitle: window.workspace.runningTaskTitle
+    }
+    Connections {
+        target: Shell.idle
+        function onQuestionChanged() {
+            if (Shell.idle.asking) {
+                idleDialog.open()
+                Shell.activate()
+            } else {
+                idleDialog.close()
+            }
+        }
+    }
     TrayIcon {
         onShowWindow: Shell.activate()
         onToggleFloating: floating.visible = !floating.visible

@@ -10,6 +10,7 @@
 #include "store/appstore.h"
 #include "store/pendingonboarding.h"
 #include "store/sessionsequence.h"
+#include "ui/timedecisions.h"
 #include "ui/workspace.h"
 
 #include <QDBusConnection>
@@ -78,6 +79,7 @@ DesktopShell::DesktopShell(Options options, QObject *parent)
     if (m_options.followDesktopScheme) {
         watchDesktopScheme();
     }
+    m_idle = createTimeDecisions(*this, m_options.clock);
 }
 
 DesktopShell::~DesktopShell()

@@ -38,6 +38,8 @@ class DesktopShell : public QObject
     Q_PROPERTY(QObject *store READ storeObject NOTIFY storesChanged)
     Q_PROPERTY(QObject *timer READ timerObject NOTIFY storesChanged)
     Q_PROPERTY(Workspace *workspace READ workspace CONSTANT)
+    // Time that needs a decision: the idle question, the timer limits and reminders (an IdleWatcher).
+    Q_PROPERTY(QObject *idle READ idleWatcher CONSTANT)
     Q_PROPERTY(QStringList providers READ providers NOTIFY providersChanged)
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
     Q_PROPERTY(QString language READ language NOTIFY languageChanged)
@@ -87,6 +89,7 @@ public:
     [[nodiscard]] QObject *storeObject() const;
     [[nodiscard]] QObject *timerObject() const;
     [[nodiscard]] Workspace *workspace() const { return m_workspace; }
+    [[nodiscard]] QObject *idleWatcher() const { return m_idle; }
     [[nodiscard]] QStringList providers() const { return m_providers; }
     [[nodiscard]] QString notice() const { return m_notice; }
     [[nodiscard]] QString language() const;
@@ -157,6 +160,7 @@ private:
     std::unique_ptr<AppStore> m_store;
     std::unique_ptr<SessionSequence> m_sequence;
     Workspace *m_workspace = nullptr;
+    QObject *m_idle = nullptr;
     QStringList m_providers;
     QString m_notice;
     QString m_colorScheme;
