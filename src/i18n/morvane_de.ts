@@ -1483,6 +1483,10 @@
       <source>The invitation could not be answered. Try again.</source>
       <translation>Die Einladung konnte nicht beantwortet werden. Versuche es erneut.</translation>
     </message>
+    <message id="team.err.memberNotChanged">
+      <source>The member was not changed: only the team owner can change roles and remove people.</source>
+      <translation>Das Mitglied wurde nicht geändert: Nur der Teaminhaber kann Rollen ändern und Personen entfernen.</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>Das Team wurde nicht angelegt. Versuche es erneut.</translation>
@@ -1654,6 +1658,10 @@
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Abbrechen</translation>
+    </message>
+    <message id="ui.common.close">
+      <source>Close</source>
+      <translation>Schließen</translation>
     </message>
     <message id="ui.common.continue">
       <source>Continue</source>
@@ -1967,6 +1975,118 @@
       <source>No timer is running</source>
       <translation>Es läuft kein Timer</translation>
     </message>
+    <message id="ui.settings.account">
+      <source>Account</source>
+      <translation>Konto</translation>
+    </message>
+    <message id="ui.settings.appearance">
+      <source>Appearance</source>
+      <translation>Darstellung</translation>
+    </message>
+    <message id="ui.settings.backend">
+      <source>Backend</source>
+      <translation>Backend</translation>
+    </message>
+    <message id="ui.settings.backend.apply">
+      <source>Use this backend</source>
+      <translation>Dieses Backend verwenden</translation>
+    </message>
+    <message id="ui.settings.backend.invalid">
+      <source>Enter the server's https address and its public key.</source>
+      <translation>Gib die https-Adresse des Servers und seinen öffentlichen Schlüssel ein.</translation>
+    </message>
+    <message id="ui.settings.backend.local">
+      <source>This computer (private, nothing to set up)</source>
+      <translation>Dieser Computer (privat, keine Einrichtung nötig)</translation>
+    </message>
+    <message id="ui.settings.backend.remote">
+      <source>A shared server (for teams and several computers)</source>
+      <translation>Ein gemeinsamer Server (für Teams und mehrere Computer)</translation>
+    </message>
+    <message id="ui.settings.deleteAccount">
+      <source>Delete my account</source>
+      <translation>Mein Konto löschen</translation>
+    </message>
+    <message id="ui.settings.deleteConfirm">
+      <source>Your e-mail address, to confirm</source>
+      <translation>Deine E-Mail-Adresse zur Bestätigung</translation>
+    </message>
+    <message id="ui.settings.deleteHint">
+      <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
+      <translation>Wenn du dein Konto löschst, werden deine Projekte, Aufgaben, Zeiten und Rechnungen endgültig vom Server entfernt. Gib zur Bestätigung deine E-Mail-Adresse ein.</translation>
+    </message>
+    <message id="ui.settings.local.folder">
+      <source>Data folder</source>
+      <translation>Datenordner</translation>
+    </message>
+    <message id="ui.settings.local.running">
+      <source>Running</source>
+      <translation>Läuft</translation>
+    </message>
+    <message id="ui.settings.local.size">
+      <source>Size</source>
+      <translation>Größe</translation>
+    </message>
+    <message id="ui.settings.local.start">
+      <source>Start</source>
+      <translation>Starten</translation>
+    </message>
+    <message id="ui.settings.local.starting">
+      <source>Starting</source>
+      <translation>Startet</translation>
+    </message>
+    <message id="ui.settings.local.state">
+      <source>State</source>
+      <translation>Status</translation>
+    </message>
+    <message id="ui.settings.local.stop">
+      <source>Stop</source>
+      <translation>Beenden</translation>
+    </message>
+    <message id="ui.settings.local.stopped">
+      <source>Stopped</source>
+      <translation>Beendet</translation>
+    </message>
+    <message id="ui.settings.looks">
+      <source>Language and appearance</source>
+      <translation>Sprache und Darstellung</translation>
+    </message>
+    <message id="ui.settings.profile">
+      <source>Profile</source>
+      <translation>Profil</translation>
+    </message>
+    <message id="ui.settings.remote.key">
+      <source>Public key</source>
+      <translation>Öffentlicher Schlüssel</translation>
+    </message>
+    <message id="ui.settings.remote.url">
+      <source>Address</source>
+      <translation>Adresse</translation>
+    </message>
+    <message id="ui.settings.saved">
+      <source>Saved.</source>
+      <translation>Gespeichert.</translation>
+    </message>
+    <message id="ui.settings.scheme.dark">
+      <source>Dark</source>
+      <translation>Dunkel</translation>
+    </message>
+    <message id="ui.settings.scheme.light">
+      <source>Light</source>
+      <translation>Hell</translation>
+    </message>
+    <message id="ui.settings.scheme.system">
+      <source>As the desktop</source>
+      <translation>Wie der Desktop</translation>
+    </message>
+    <message id="ui.settings.signedInAs">
+      <source>Signed in as %1</source>
+      <translation>Angemeldet als %1</translation>
+    </message>
+    <message id="ui.settings.switchTo">
+      <source>Switch to %1</source>
+      <translation>Zu %1 wechseln</translation>
+    </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
       <translation>Name des neuen Projekts</translation>
@@ -2167,9 +2287,29 @@
       <source>Invite</source>
       <translation>Einladen</translation>
     </message>
+    <message id="ui.teams.leave">
+      <source>Leave the team</source>
+      <translation>Team verlassen</translation>
+    </message>
+    <message id="ui.teams.leaveTitle">
+      <source>Leave %1?</source>
+      <translation>%1 verlassen?</translation>
+    </message>
     <message id="ui.teams.members">
       <source>Members</source>
       <translation>Mitglieder</translation>
+    </message>
+    <message id="ui.teams.remove">
+      <source>Remove</source>
+      <translation>Entfernen</translation>
+    </message>
+    <message id="ui.teams.removeBody">
+      <source>The team's projects are no longer shared with them. Their own time stays theirs.</source>
+      <translation>Die Projekte des Teams werden nicht mehr mit dieser Person geteilt. Eigene Zeiten bleiben ihre.</translation>
+    </message>
+    <message id="ui.teams.removeTitle">
+      <source>Remove this member?</source>
+      <translation>Dieses Mitglied entfernen?</translation>
     </message>
     <message id="ui.teams.role">
       <source>Role</source>

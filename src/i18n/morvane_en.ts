@@ -1483,6 +1483,10 @@
       <source>The invitation could not be answered. Try again.</source>
       <translation>The invitation could not be answered. Try again.</translation>
     </message>
+    <message id="team.err.memberNotChanged">
+      <source>The member was not changed: only the team owner can change roles and remove people.</source>
+      <translation>The member was not changed: only the team owner can change roles and remove people.</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>The team was not created. Try again.</translation>
@@ -1654,6 +1658,10 @@
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Cancel</translation>
+    </message>
+    <message id="ui.common.close">
+      <source>Close</source>
+      <translation>Close</translation>
     </message>
     <message id="ui.common.continue">
       <source>Continue</source>
@@ -1967,6 +1975,118 @@
       <source>No timer is running</source>
       <translation>No timer is running</translation>
     </message>
+    <message id="ui.settings.account">
+      <source>Account</source>
+      <translation>Account</translation>
+    </message>
+    <message id="ui.settings.appearance">
+      <source>Appearance</source>
+      <translation>Appearance</translation>
+    </message>
+    <message id="ui.settings.backend">
+      <source>Backend</source>
+      <translation>Backend</translation>
+    </message>
+    <message id="ui.settings.backend.apply">
+      <source>Use this backend</source>
+      <translation>Use this backend</translation>
+    </message>
+    <message id="ui.settings.backend.invalid">
+      <source>Enter the server's https address and its public key.</source>
+      <translation>Enter the server's https address and its public key.</translation>
+    </message>
+    <message id="ui.settings.backend.local">
+      <source>This computer (private, nothing to set up)</source>
+      <translation>This computer (private, nothing to set up)</translation>
+    </message>
+    <message id="ui.settings.backend.remote">
+      <source>A shared server (for teams and several computers)</source>
+      <translation>A shared server (for teams and several computers)</translation>
+    </message>
+    <message id="ui.settings.deleteAccount">
+      <source>Delete my account</source>
+      <translation>Delete my account</translation>
+    </message>
+    <message id="ui.settings.deleteConfirm">
+      <source>Your e-mail address, to confirm</source>
+      <translation>Your e-mail address, to confirm</translation>
+    </message>
+    <message id="ui.settings.deleteHint">
+      <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
+      <translation>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</translation>
+    </message>
+    <message id="ui.settings.local.folder">
+      <source>Data folder</source>
+      <translation>Data folder</translation>
+    </message>
+    <message id="ui.settings.local.running">
+      <source>Running</source>
+      <translation>Running</translation>
+    </message>
+    <message id="ui.settings.local.size">
+      <source>Size</source>
+      <translation>Size</translation>
+    </message>
+    <message id="ui.settings.local.start">
+      <source>Start</source>
+      <translation>Start</translation>
+    </message>
+    <message id="ui.settings.local.starting">
+      <source>Starting</source>
+      <translation>Starting</translation>
+    </message>
+    <message id="ui.settings.local.state">
+      <source>State</source>
+      <translation>State</translation>
+    </message>
+    <message id="ui.settings.local.stop">
+      <source>Stop</source>
+      <translation>Stop</translation>
+    </message>
+    <message id="ui.settings.local.stopped">
+      <source>Stopped</source>
+      <translation>Stopped</translation>
+    </message>
+    <message id="ui.settings.looks">
+      <source>Language and appearance</source>
+      <translation>Language and appearance</translation>
+    </message>
+    <message id="ui.settings.profile">
+      <source>Profile</source>
+      <translation>Profile</translation>
+    </message>
+    <message id="ui.settings.remote.key">
+      <source>Public key</source>
+      <translation>Public key</translation>
+    </message>
+    <message id="ui.settings.remote.url">
+      <source>Address</source>
+      <translation>Address</translation>
+    </message>
+    <message id="ui.settings.saved">
+      <source>Saved.</source>
+      <translation>Saved.</translation>
+    </message>
+    <message id="ui.settings.scheme.dark">
+      <source>Dark</source>
+      <translation>Dark</translation>
+    </message>
+    <message id="ui.settings.scheme.light">
+      <source>Light</source>
+      <translation>Light</translation>
+    </message>
+    <message id="ui.settings.scheme.system">
+      <source>As the desktop</source>
+      <translation>As the desktop</translation>
+    </message>
+    <message id="ui.settings.signedInAs">
+      <source>Signed in as %1</source>
+      <translation>Signed in as %1</translation>
+    </message>
+    <message id="ui.settings.switchTo">
+      <source>Switch to %1</source>
+      <translation>Switch to %1</translation>
+    </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
       <translation>New project name</translation>
@@ -2167,9 +2287,29 @@
       <source>Invite</source>
       <translation>Invite</translation>
     </message>
+    <message id="ui.teams.leave">
+      <source>Leave the team</source>
+      <translation>Leave the team</translation>
+    </message>
+    <message id="ui.teams.leaveTitle">
+      <source>Leave %1?</source>
+      <translation>Leave %1?</translation>
+    </message>
     <message id="ui.teams.members">
       <source>Members</source>
       <translation>Members</translation>
+    </message>
+    <message id="ui.teams.remove">
+      <source>Remove</source>
+      <translation>Remove</translation>
+    </message>
+    <message id="ui.teams.removeBody">
+      <source>The team's projects are no longer shared with them. Their own time stays theirs.</source>
+      <translation>The team's projects are no longer shared with them. Their own time stays theirs.</translation>
+    </message>
+    <message id="ui.teams.removeTitle">
+      <source>Remove this member?</source>
+      <translation>Remove this member?</translation>
     </message>
     <message id="ui.teams.role">
       <source>Role</source>

@@ -1483,6 +1483,10 @@
       <source>The invitation could not be answered. Try again.</source>
       <translation>No se pudo responder a la invitación. Inténtalo de nuevo.</translation>
     </message>
+    <message id="team.err.memberNotChanged">
+      <source>The member was not changed: only the team owner can change roles and remove people.</source>
+      <translation>El miembro no se ha cambiado: solo el propietario del equipo puede cambiar roles y quitar personas.</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>El equipo no se creó. Vuelve a intentarlo.</translation>
@@ -1654,6 +1658,10 @@
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Cancelar</translation>
+    </message>
+    <message id="ui.common.close">
+      <source>Close</source>
+      <translation>Cerrar</translation>
     </message>
     <message id="ui.common.continue">
       <source>Continue</source>
@@ -1967,6 +1975,118 @@
       <source>No timer is running</source>
       <translation>No hay ningún temporizador en marcha</translation>
     </message>
+    <message id="ui.settings.account">
+      <source>Account</source>
+      <translation>Cuenta</translation>
+    </message>
+    <message id="ui.settings.appearance">
+      <source>Appearance</source>
+      <translation>Apariencia</translation>
+    </message>
+    <message id="ui.settings.backend">
+      <source>Backend</source>
+      <translation>Servidor</translation>
+    </message>
+    <message id="ui.settings.backend.apply">
+      <source>Use this backend</source>
+      <translation>Usar este servidor</translation>
+    </message>
+    <message id="ui.settings.backend.invalid">
+      <source>Enter the server's https address and its public key.</source>
+      <translation>Introduce la dirección https del servidor y su clave pública.</translation>
+    </message>
+    <message id="ui.settings.backend.local">
+      <source>This computer (private, nothing to set up)</source>
+      <translation>Este ordenador (privado, sin configuración)</translation>
+    </message>
+    <message id="ui.settings.backend.remote">
+      <source>A shared server (for teams and several computers)</source>
+      <translation>Un servidor compartido (para equipos y varios ordenadores)</translation>
+    </message>
+    <message id="ui.settings.deleteAccount">
+      <source>Delete my account</source>
+      <translation>Eliminar mi cuenta</translation>
+    </message>
+    <message id="ui.settings.deleteConfirm">
+      <source>Your e-mail address, to confirm</source>
+      <translation>Tu dirección de correo, para confirmar</translation>
+    </message>
+    <message id="ui.settings.deleteHint">
+      <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
+      <translation>Al eliminar tu cuenta se borran para siempre del servidor tus proyectos, tareas, tiempo y facturas. Escribe tu dirección de correo para confirmar.</translation>
+    </message>
+    <message id="ui.settings.local.folder">
+      <source>Data folder</source>
+      <translation>Carpeta de datos</translation>
+    </message>
+    <message id="ui.settings.local.running">
+      <source>Running</source>
+      <translation>En marcha</translation>
+    </message>
+    <message id="ui.settings.local.size">
+      <source>Size</source>
+      <translation>Tamaño</translation>
+    </message>
+    <message id="ui.settings.local.start">
+      <source>Start</source>
+      <translation>Iniciar</translation>
+    </message>
+    <message id="ui.settings.local.starting">
+      <source>Starting</source>
+      <translation>Iniciando</translation>
+    </message>
+    <message id="ui.settings.local.state">
+      <source>State</source>
+      <translation>Estado</translation>
+    </message>
+    <message id="ui.settings.local.stop">
+      <source>Stop</source>
+      <translation>Detener</translation>
+    </message>
+    <message id="ui.settings.local.stopped">
+      <source>Stopped</source>
+      <translation>Detenido</translation>
+    </message>
+    <message id="ui.settings.looks">
+      <source>Language and appearance</source>
+      <translation>Idioma y apariencia</translation>
+    </message>
+    <message id="ui.settings.profile">
+      <source>Profile</source>
+      <translation>Perfil</translation>
+    </message>
+    <message id="ui.settings.remote.key">
+      <source>Public key</source>
+      <translation>Clave pública</translation>
+    </message>
+    <message id="ui.settings.remote.url">
+      <source>Address</source>
+      <translation>Dirección</translation>
+    </message>
+    <message id="ui.settings.saved">
+      <source>Saved.</source>
+      <translation>Guardado.</translation>
+    </message>
+    <message id="ui.settings.scheme.dark">
+      <source>Dark</source>
+      <translation>Oscuro</translation>
+    </message>
+    <message id="ui.settings.scheme.light">
+      <source>Light</source>
+      <translation>Claro</translation>
+    </message>
+    <message id="ui.settings.scheme.system">
+      <source>As the desktop</source>
+      <translation>Como el escritorio</translation>
+    </message>
+    <message id="ui.settings.signedInAs">
+      <source>Signed in as %1</source>
+      <translation>Sesión iniciada como %1</translation>
+    </message>
+    <message id="ui.settings.switchTo">
+      <source>Switch to %1</source>
+      <translation>Cambiar a %1</translation>
+    </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
       <translation>Nombre del nuevo proyecto</translation>
@@ -2167,9 +2287,29 @@
       <source>Invite</source>
       <translation>Invitar</translation>
     </message>
+    <message id="ui.teams.leave">
+      <source>Leave the team</source>
+      <translation>Salir del equipo</translation>
+    </message>
+    <message id="ui.teams.leaveTitle">
+      <source>Leave %1?</source>
+      <translation>¿Salir de %1?</translation>
+    </message>
     <message id="ui.teams.members">
       <source>Members</source>
       <translation>Miembros</translation>
+    </message>
+    <message id="ui.teams.remove">
+      <source>Remove</source>
+      <translation>Quitar</translation>
+    </message>
+    <message id="ui.teams.removeBody">
+      <source>The team's projects are no longer shared with them. Their own time stays theirs.</source>
+      <translation>Los proyectos del equipo dejan de compartirse con esa persona. Su propio tiempo sigue siendo suyo.</translation>
+    </message>
+    <message id="ui.teams.removeTitle">
+      <source>Remove this member?</source>
+      <translation>¿Quitar a este miembro?</translation>
     </message>
     <message id="ui.teams.role">
       <source>Role</source>

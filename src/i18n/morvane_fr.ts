@@ -1483,6 +1483,10 @@
       <source>The invitation could not be answered. Try again.</source>
       <translation>Impossible de répondre à l'invitation. Réessayez.</translation>
     </message>
+    <message id="team.err.memberNotChanged">
+      <source>The member was not changed: only the team owner can change roles and remove people.</source>
+      <translation>Le membre n’a pas été modifié : seul le propriétaire de l’équipe peut changer les rôles et retirer des personnes.</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>L’équipe n’a pas été créée. Réessayez.</translation>
@@ -1654,6 +1658,10 @@
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Annuler</translation>
+    </message>
+    <message id="ui.common.close">
+      <source>Close</source>
+      <translation>Fermer</translation>
     </message>
     <message id="ui.common.continue">
       <source>Continue</source>
@@ -1967,6 +1975,118 @@
       <source>No timer is running</source>
       <translation>Aucun minuteur en cours</translation>
     </message>
+    <message id="ui.settings.account">
+      <source>Account</source>
+      <translation>Compte</translation>
+    </message>
+    <message id="ui.settings.appearance">
+      <source>Appearance</source>
+      <translation>Apparence</translation>
+    </message>
+    <message id="ui.settings.backend">
+      <source>Backend</source>
+      <translation>Serveur</translation>
+    </message>
+    <message id="ui.settings.backend.apply">
+      <source>Use this backend</source>
+      <translation>Utiliser ce serveur</translation>
+    </message>
+    <message id="ui.settings.backend.invalid">
+      <source>Enter the server's https address and its public key.</source>
+      <translation>Saisissez l’adresse https du serveur et sa clé publique.</translation>
+    </message>
+    <message id="ui.settings.backend.local">
+      <source>This computer (private, nothing to set up)</source>
+      <translation>Cet ordinateur (privé, rien à configurer)</translation>
+    </message>
+    <message id="ui.settings.backend.remote">
+      <source>A shared server (for teams and several computers)</source>
+      <translation>Un serveur partagé (pour les équipes et plusieurs ordinateurs)</translation>
+    </message>
+    <message id="ui.settings.deleteAccount">
+      <source>Delete my account</source>
+      <translation>Supprimer mon compte</translation>
+    </message>
+    <message id="ui.settings.deleteConfirm">
+      <source>Your e-mail address, to confirm</source>
+      <translation>Votre adresse e-mail, pour confirmer</translation>
+    </message>
+    <message id="ui.settings.deleteHint">
+      <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
+      <translation>Supprimer votre compte efface définitivement du serveur vos projets, tâches, temps et factures. Saisissez votre adresse e-mail pour confirmer.</translation>
+    </message>
+    <message id="ui.settings.local.folder">
+      <source>Data folder</source>
+      <translation>Dossier des données</translation>
+    </message>
+    <message id="ui.settings.local.running">
+      <source>Running</source>
+      <translation>En marche</translation>
+    </message>
+    <message id="ui.settings.local.size">
+      <source>Size</source>
+      <translation>Taille</translation>
+    </message>
+    <message id="ui.settings.local.start">
+      <source>Start</source>
+      <translation>Démarrer</translation>
+    </message>
+    <message id="ui.settings.local.starting">
+      <source>Starting</source>
+      <translation>Démarrage</translation>
+    </message>
+    <message id="ui.settings.local.state">
+      <source>State</source>
+      <translation>État</translation>
+    </message>
+    <message id="ui.settings.local.stop">
+      <source>Stop</source>
+      <translation>Arrêter</translation>
+    </message>
+    <message id="ui.settings.local.stopped">
+      <source>Stopped</source>
+      <translation>Arrêté</translation>
+    </message>
+    <message id="ui.settings.looks">
+      <source>Language and appearance</source>
+      <translation>Langue et apparence</translation>
+    </message>
+    <message id="ui.settings.profile">
+      <source>Profile</source>
+      <translation>Profil</translation>
+    </message>
+    <message id="ui.settings.remote.key">
+      <source>Public key</source>
+      <translation>Clé publique</translation>
+    </message>
+    <message id="ui.settings.remote.url">
+      <source>Address</source>
+      <translation>Adresse</translation>
+    </message>
+    <message id="ui.settings.saved">
+      <source>Saved.</source>
+      <translation>Enregistré.</translation>
+    </message>
+    <message id="ui.settings.scheme.dark">
+      <source>Dark</source>
+      <translation>Sombre</translation>
+    </message>
+    <message id="ui.settings.scheme.light">
+      <source>Light</source>
+      <translation>Clair</translation>
+    </message>
+    <message id="ui.settings.scheme.system">
+      <source>As the desktop</source>
+      <translation>Comme le bureau</translation>
+    </message>
+    <message id="ui.settings.signedInAs">
+      <source>Signed in as %1</source>
+      <translation>Connecté en tant que %1</translation>
+    </message>
+    <message id="ui.settings.switchTo">
+      <source>Switch to %1</source>
+      <translation>Passer à %1</translation>
+    </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
       <translation>Nom du nouveau projet</translation>
@@ -2167,9 +2287,29 @@
       <source>Invite</source>
       <translation>Inviter</translation>
     </message>
+    <message id="ui.teams.leave">
+      <source>Leave the team</source>
+      <translation>Quitter l’équipe</translation>
+    </message>
+    <message id="ui.teams.leaveTitle">
+      <source>Leave %1?</source>
+      <translation>Quitter %1 ?</translation>
+    </message>
     <message id="ui.teams.members">
       <source>Members</source>
       <translation>Membres</translation>
+    </message>
+    <message id="ui.teams.remove">
+      <source>Remove</source>
+      <translation>Retirer</translation>
+    </message>
+    <message id="ui.teams.removeBody">
+      <source>The team's projects are no longer shared with them. Their own time stays theirs.</source>
+      <translation>Les projets de l’équipe ne sont plus partagés avec cette personne. Son propre temps lui reste.</translation>
+    </message>
+    <message id="ui.teams.removeTitle">
+      <source>Remove this member?</source>
+      <translation>Retirer ce membre ?</translation>
     </message>
     <message id="ui.teams.role">
       <source>Role</source>

@@ -1483,6 +1483,10 @@
       <source>The invitation could not be answered. Try again.</source>
       <translation>Impossibile rispondere all'invito. Riprova.</translation>
     </message>
+    <message id="team.err.memberNotChanged">
+      <source>The member was not changed: only the team owner can change roles and remove people.</source>
+      <translation>Il membro non è stato modificato: solo il proprietario del team può cambiare i ruoli e rimuovere persone.</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>Il team non è stato creato. Riprova.</translation>
@@ -1654,6 +1658,10 @@
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Annulla</translation>
+    </message>
+    <message id="ui.common.close">
+      <source>Close</source>
+      <translation>Chiudi</translation>
     </message>
     <message id="ui.common.continue">
       <source>Continue</source>
@@ -1967,6 +1975,118 @@
       <source>No timer is running</source>
       <translation>Nessun timer in corso</translation>
     </message>
+    <message id="ui.settings.account">
+      <source>Account</source>
+      <translation>Account</translation>
+    </message>
+    <message id="ui.settings.appearance">
+      <source>Appearance</source>
+      <translation>Aspetto</translation>
+    </message>
+    <message id="ui.settings.backend">
+      <source>Backend</source>
+      <translation>Server</translation>
+    </message>
+    <message id="ui.settings.backend.apply">
+      <source>Use this backend</source>
+      <translation>Usa questo server</translation>
+    </message>
+    <message id="ui.settings.backend.invalid">
+      <source>Enter the server's https address and its public key.</source>
+      <translation>Inserisci l’indirizzo https del server e la sua chiave pubblica.</translation>
+    </message>
+    <message id="ui.settings.backend.local">
+      <source>This computer (private, nothing to set up)</source>
+      <translation>Questo computer (privato, niente da configurare)</translation>
+    </message>
+    <message id="ui.settings.backend.remote">
+      <source>A shared server (for teams and several computers)</source>
+      <translation>Un server condiviso (per team e più computer)</translation>
+    </message>
+    <message id="ui.settings.deleteAccount">
+      <source>Delete my account</source>
+      <translation>Elimina il mio account</translation>
+    </message>
+    <message id="ui.settings.deleteConfirm">
+      <source>Your e-mail address, to confirm</source>
+      <translation>Il tuo indirizzo e-mail, per conferma</translation>
+    </message>
+    <message id="ui.settings.deleteHint">
+      <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
+      <translation>Eliminando l’account cancelli per sempre dal server progetti, attività, tempo e fatture. Digita il tuo indirizzo e-mail per confermare.</translation>
+    </message>
+    <message id="ui.settings.local.folder">
+      <source>Data folder</source>
+      <translation>Cartella dei dati</translation>
+    </message>
+    <message id="ui.settings.local.running">
+      <source>Running</source>
+      <translation>In esecuzione</translation>
+    </message>
+    <message id="ui.settings.local.size">
+      <source>Size</source>
+      <translation>Dimensione</translation>
+    </message>
+    <message id="ui.settings.local.start">
+      <source>Start</source>
+      <translation>Avvia</translation>
+    </message>
+    <message id="ui.settings.local.starting">
+      <source>Starting</source>
+      <translation>Avvio in corso</translation>
+    </message>
+    <message id="ui.settings.local.state">
+      <source>State</source>
+      <translation>Stato</translation>
+    </message>
+    <message id="ui.settings.local.stop">
+      <source>Stop</source>
+      <translation>Ferma</translation>
+    </message>
+    <message id="ui.settings.local.stopped">
+      <source>Stopped</source>
+      <translation>Fermo</translation>
+    </message>
+    <message id="ui.settings.looks">
+      <source>Language and appearance</source>
+      <translation>Lingua e aspetto</translation>
+    </message>
+    <message id="ui.settings.profile">
+      <source>Profile</source>
+      <translation>Profilo</translation>
+    </message>
+    <message id="ui.settings.remote.key">
+      <source>Public key</source>
+      <translation>Chiave pubblica</translation>
+    </message>
+    <message id="ui.settings.remote.url">
+      <source>Address</source>
+      <translation>Indirizzo</translation>
+    </message>
+    <message id="ui.settings.saved">
+      <source>Saved.</source>
+      <translation>Salvato.</translation>
+    </message>
+    <message id="ui.settings.scheme.dark">
+      <source>Dark</source>
+      <translation>Scuro</translation>
+    </message>
+    <message id="ui.settings.scheme.light">
+      <source>Light</source>
+      <translation>Chiaro</translation>
+    </message>
+    <message id="ui.settings.scheme.system">
+      <source>As the desktop</source>
+      <translation>Come il desktop</translation>
+    </message>
+    <message id="ui.settings.signedInAs">
+      <source>Signed in as %1</source>
+      <translation>Accesso come %1</translation>
+    </message>
+    <message id="ui.settings.switchTo">
+      <source>Switch to %1</source>
+      <translation>Passa a %1</translation>
+    </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
       <translation>Nome del nuovo progetto</translation>
@@ -2167,9 +2287,29 @@
       <source>Invite</source>
       <translation>Invita</translation>
     </message>
+    <message id="ui.teams.leave">
+      <source>Leave the team</source>
+      <translation>Lascia il team</translation>
+    </message>
+    <message id="ui.teams.leaveTitle">
+      <source>Leave %1?</source>
+      <translation>Lasciare %1?</translation>
+    </message>
     <message id="ui.teams.members">
       <source>Members</source>
       <translation>Membri</translation>
+    </message>
+    <message id="ui.teams.remove">
+      <source>Remove</source>
+      <translation>Rimuovi</translation>
+    </message>
+    <message id="ui.teams.removeBody">
+      <source>The team's projects are no longer shared with them. Their own time stays theirs.</source>
+      <translation>I progetti del team non sono più condivisi con questa persona. Il suo tempo resta suo.</translation>
+    </message>
+    <message id="ui.teams.removeTitle">
+      <source>Remove this member?</source>
+      <translation>Rimuovere questo membro?</translation>
     </message>
     <message id="ui.teams.role">
       <source>Role</source>

@@ -1483,6 +1483,10 @@
       <source>The invitation could not be answered. Try again.</source>
       <translation>ไม่สามารถตอบคำเชิญได้ โปรดลองอีกครั้ง</translation>
     </message>
+    <message id="team.err.memberNotChanged">
+      <source>The member was not changed: only the team owner can change roles and remove people.</source>
+      <translation>ไม่ได้เปลี่ยนสมาชิก: เฉพาะเจ้าของทีมเท่านั้นที่เปลี่ยนบทบาทและนำคนออกได้</translation>
+    </message>
     <message id="team.err.notCreated">
       <source>The team was not created. Try again.</source>
       <translation>สร้างทีมไม่ได้ โปรดลองอีกครั้ง</translation>
@@ -1654,6 +1658,10 @@
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>ยกเลิก</translation>
+    </message>
+    <message id="ui.common.close">
+      <source>Close</source>
+      <translation>ปิด</translation>
     </message>
     <message id="ui.common.continue">
       <source>Continue</source>
@@ -1967,6 +1975,118 @@
       <source>No timer is running</source>
       <translation>ไม่มีตัวจับเวลาที่ทำงานอยู่</translation>
     </message>
+    <message id="ui.settings.account">
+      <source>Account</source>
+      <translation>บัญชี</translation>
+    </message>
+    <message id="ui.settings.appearance">
+      <source>Appearance</source>
+      <translation>รูปลักษณ์</translation>
+    </message>
+    <message id="ui.settings.backend">
+      <source>Backend</source>
+      <translation>แบ็กเอนด์</translation>
+    </message>
+    <message id="ui.settings.backend.apply">
+      <source>Use this backend</source>
+      <translation>ใช้แบ็กเอนด์นี้</translation>
+    </message>
+    <message id="ui.settings.backend.invalid">
+      <source>Enter the server's https address and its public key.</source>
+      <translation>กรอกที่อยู่ https ของเซิร์ฟเวอร์และคีย์สาธารณะ</translation>
+    </message>
+    <message id="ui.settings.backend.local">
+      <source>This computer (private, nothing to set up)</source>
+      <translation>คอมพิวเตอร์เครื่องนี้ (ส่วนตัว ไม่ต้องตั้งค่า)</translation>
+    </message>
+    <message id="ui.settings.backend.remote">
+      <source>A shared server (for teams and several computers)</source>
+      <translation>เซิร์ฟเวอร์ที่ใช้ร่วมกัน (สำหรับทีมและหลายเครื่อง)</translation>
+    </message>
+    <message id="ui.settings.deleteAccount">
+      <source>Delete my account</source>
+      <translation>ลบบัญชีของฉัน</translation>
+    </message>
+    <message id="ui.settings.deleteConfirm">
+      <source>Your e-mail address, to confirm</source>
+      <translation>อีเมลของคุณ เพื่อยืนยัน</translation>
+    </message>
+    <message id="ui.settings.deleteHint">
+      <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
+      <translation>การลบบัญชีจะลบโปรเจกต์ งาน เวลา และใบแจ้งหนี้ของคุณออกจากเซิร์ฟเวอร์อย่างถาวร พิมพ์อีเมลของคุณเพื่อยืนยัน</translation>
+    </message>
+    <message id="ui.settings.local.folder">
+      <source>Data folder</source>
+      <translation>โฟลเดอร์ข้อมูล</translation>
+    </message>
+    <message id="ui.settings.local.running">
+      <source>Running</source>
+      <translation>กำลังทำงาน</translation>
+    </message>
+    <message id="ui.settings.local.size">
+      <source>Size</source>
+      <translation>ขนาด</translation>
+    </message>
+    <message id="ui.settings.local.start">
+      <source>Start</source>
+      <translation>เริ่ม</translation>
+    </message>
+    <message id="ui.settings.local.starting">
+      <source>Starting</source>
+      <translation>กำลังเริ่ม</translation>
+    </message>
+    <message id="ui.settings.local.state">
+      <source>State</source>
+      <translation>สถานะ</translation>
+    </message>
+    <message id="ui.settings.local.stop">
+      <source>Stop</source>
+      <translation>หยุด</translation>
+    </message>
+    <message id="ui.settings.local.stopped">
+      <source>Stopped</source>
+      <translation>หยุดแล้ว</translation>
+    </message>
+    <message id="ui.settings.looks">
+      <source>Language and appearance</source>
+      <translation>ภาษาและรูปลักษณ์</translation>
+    </message>
+    <message id="ui.settings.profile">
+      <source>Profile</source>
+      <translation>โปรไฟล์</translation>
+    </message>
+    <message id="ui.settings.remote.key">
+      <source>Public key</source>
+      <translation>คีย์สาธารณะ</translation>
+    </message>
+    <message id="ui.settings.remote.url">
+      <source>Address</source>
+      <translation>ที่อยู่</translation>
+    </message>
+    <message id="ui.settings.saved">
+      <source>Saved.</source>
+      <translation>บันทึกแล้ว</translation>
+    </message>
+    <message id="ui.settings.scheme.dark">
+      <source>Dark</source>
+      <translation>มืด</translation>
+    </message>
+    <message id="ui.settings.scheme.light">
+      <source>Light</source>
+      <translation>สว่าง</translation>
+    </message>
+    <message id="ui.settings.scheme.system">
+      <source>As the desktop</source>
+      <translation>ตามเดสก์ท็อป</translation>
+    </message>
+    <message id="ui.settings.signedInAs">
+      <source>Signed in as %1</source>
+      <translation>ลงชื่อเข้าใช้เป็น %1</translation>
+    </message>
+    <message id="ui.settings.switchTo">
+      <source>Switch to %1</source>
+      <translation>สลับไปที่ %1</translation>
+    </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>
       <translation>ชื่อโปรเจกต์ใหม่</translation>
@@ -2167,9 +2287,29 @@
       <source>Invite</source>
       <translation>เชิญ</translation>
     </message>
+    <message id="ui.teams.leave">
+      <source>Leave the team</source>
+      <translation>ออกจากทีม</translation>
+    </message>
+    <message id="ui.teams.leaveTitle">
+      <source>Leave %1?</source>
+      <translation>ออกจาก %1 ใช่ไหม</translation>
+    </message>
     <message id="ui.teams.members">
       <source>Members</source>
       <translation>สมาชิก</translation>
+    </message>
+    <message id="ui.teams.remove">
+      <source>Remove</source>
+      <translation>นำออก</translation>
+    </message>
+    <message id="ui.teams.removeBody">
+      <source>The team's projects are no longer shared with them. Their own time stays theirs.</source>
+      <translation>โปรเจกต์ของทีมจะไม่ถูกแชร์กับบุคคลนี้อีก เวลาของเขายังเป็นของเขาเอง</translation>
+    </message>
+    <message id="ui.teams.removeTitle">
+      <source>Remove this member?</source>
+      <translation>นำสมาชิกคนนี้ออกใช่ไหม</translation>
     </message>
     <message id="ui.teams.role">
       <source>Role</source>

@@ -305,6 +305,10 @@ public:
     // Accepting brings the team, its members and its projects in; declining removes the invitation.
     QCoro::Task<bool> acceptInvitation(QString teamId);
     QCoro::Task<bool> declineInvitation(QString teamId);
+    // Only the team's owner changes roles and removes members; a member may remove themselves
+    // (leave). A refusal sets `lastError` and changes nothing.
+    QCoro::Task<bool> setMemberRole(QString teamId, QString userId, TeamRole role);
+    QCoro::Task<bool> removeMember(QString teamId, QString userId);
 
     // Invoices. Each operation answers whether it succeeded and sets `lastError` otherwise.
     [[nodiscard]] const QList<Invoice> &invoices() const { return m_invoices; }

@@ -7,10 +7,32 @@
 #include "backend/authstore.h"
 #include "backend/supabase.h"
 #include "backend/supabaseerror.h"
+#include "model/isodate.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace StoreDetail {
 
 using namespace Qt::StringLiterals;
+
+// Instants compare as numbers; an unreadable one sorts first.
+inline qint64 instantKey(const std::optional<QString> &text)
+{
+    const std::optional<QDateTime> instant = isoDate(text);
+    return instant ? instant->toMSecsSinceEpoch() : std::numeric_limits<qint64>::min();
+}
+
+// Owners, then editors, then viewers, each group by address.
+inline void sortMembers(QList<TeamMember> &members)
+{
+    std::stable_sort(members.begin(), members.end(), [](const TeamMember &a, const TeamMember &b) {
+        if (a.role != b.role) {
+            return a.role < b.role;
+        }
+        return a.email.compare(b.email, Qt::CaseInsensitive) < 0;
+    });
+}
 
 inline QueryItems idFilter(const QString &id)
 {

@@ -81,6 +81,12 @@ QString onboardingNotSaved()
     return qtTrId("onboarding.err.notSaved");
 }
 
+QString memberNotChanged()
+{
+    //% "The member was not changed: only the team owner can change roles and remove people."
+    return qtTrId("team.err.memberNotChanged");
+}
+
 QString invitationNotAnswered()
 {
     //% "The invitation could not be answered. Try again."

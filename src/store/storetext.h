@@ -23,5 +23,6 @@ QString profileNotSaved();
 QString onboardingNotSaved();
 QString teamNotCreated();
 QString invitationNotAnswered();
+QString memberNotChanged();
 
 } // namespace StoreText

@@ -271,6 +271,19 @@ struct TeamInsert
     friend bool operator==(const TeamInsert &, const TeamInsert &) = default;
 };
 
+struct TeamMemberRolePatch
+{
+    TeamRole role = TeamRole::Viewer;
+
+    static constexpr std::string_view wireName = "TeamMemberRolePatch";
+    static constexpr auto wireFields()
+    {
+        using Wire::field;
+        return std::tuple{field("role", &TeamMemberRolePatch::role)};
+    }
+    friend bool operator==(const TeamMemberRolePatch &, const TeamMemberRolePatch &) = default;
+};
+
 struct InviteByEmailArgs
 {
     QString teamIdParam;

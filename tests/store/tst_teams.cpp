@@ -170,6 +170,39 @@ private slots:
         QTEST(outcome.text(), "text");
     }
 
+    void onlyTheOwnerChangesRolesAndMembersMayLeave()
+    {
+        auto gus = StoreDevice::signUp(m_backend, u"gus@example.nl"_s, u"Gus"_s);
+        QVERIFY(gus);
+        QCOMPARE(invite(u"owner"_s, u"gus@example.nl"_s).kind, InviteOutcome::Kind::Invited);
+        QVERIFY(gus->refresh() && runBlocking(gus->store->acceptInvitation(m_team)));
+        const auto roleOfGus = [&]() -> std::optional<TeamRole> {
+            if (!m_owner->refresh()) {
+                return std::nullopt;
+            }
+            for (const TeamMember &member : m_owner->store->membersByTeam().value(m_team)) {
+                if (member.userId == gus->userId()) {
+                    return std::optional(member.role);
+                }
+            }
+            return std::optional<TeamRole>();
+        };
+
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Change member role failed: "_s));
+        QVERIFY(!runBlocking(m_editor->store->setMemberRole(m_team, gus->userId(), TeamRole::Editor)));
+        QCOMPARE(m_editor->store->lastError(),
+                 u"The member was not changed: only the team owner can change roles and remove people."_s);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Remove member failed: "_s));
+        QVERIFY(!runBlocking(m_editor->store->removeMember(m_team, gus->userId())));
+        QCOMPARE(roleOfGus(), TeamRole::Viewer);
+
+        QVERIFY(runBlocking(m_owner->store->setMemberRole(m_team, gus->userId(), TeamRole::Editor)));
+        QCOMPARE(roleOfGus(), TeamRole::Editor);
+        QVERIFY(runBlocking(gus->store->removeMember(m_team, gus->userId())));
+        QVERIFY(gus->store->teams().isEmpty());
+        QCOMPARE(roleOfGus(), std::nullopt);
+    }
+
     void aFullTeamIsExplained()
     {
         // Members up to the limit of ten, added behind the store's back.
