@@ -62,6 +62,7 @@ DesktopShell::DesktopShell(Options options, QObject *parent)
     : QObject(parent)
     , m_options(std::move(options))
     , m_workspace(new Workspace(this))
+    , m_preferences(new Preferences(*this))
 {
     if (!m_options.backend) {
         m_options.backend = [] { return Startup::ensureBackend(); };
@@ -144,6 +145,22 @@ void DesktopShell::setNotice(const QString &notice)
 
 void DesktopShell::start()
 {
+    startBackend();
+}
+
+void DesktopShell::restart()
+{
+    if (m_auth) {
+        m_workspace->setStore(nullptr);
+        m_sequence.reset();
+        m_store->stopSync();
+        disconnect(m_auth.get(), nullptr, this, nullptr);
+        m_retired.push_back(std::move(m_store));
+        m_retired.push_back(std::move(m_auth));
+        m_providers.clear();
+        emit providersChanged();
+        emit storesChanged();
+    }
     startBackend();
 }
 

@@ -2,6 +2,7 @@
 
 #include "backend/config.h"
 #include "model/clock.h"
+#include "ui/preferences.h"
 #include "ui/workspace.h"
 
 #include <QDBusVariant>
@@ -40,6 +41,7 @@ class DesktopShell : public QObject
     Q_PROPERTY(Workspace *workspace READ workspace CONSTANT)
     // Time that needs a decision: the idle question, the timer limits and reminders (an IdleWatcher).
     Q_PROPERTY(QObject *idle READ idleWatcher CONSTANT)
+    Q_PROPERTY(Preferences *preferences READ preferences CONSTANT)
     Q_PROPERTY(QStringList providers READ providers NOTIFY providersChanged)
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
     Q_PROPERTY(QString language READ language NOTIFY languageChanged)
@@ -90,6 +92,7 @@ public:
     [[nodiscard]] QObject *timerObject() const;
     [[nodiscard]] Workspace *workspace() const { return m_workspace; }
     [[nodiscard]] QObject *idleWatcher() const { return m_idle; }
+    [[nodiscard]] Preferences *preferences() const { return m_preferences; }
     [[nodiscard]] QStringList providers() const { return m_providers; }
     [[nodiscard]] QString notice() const { return m_notice; }
     [[nodiscard]] QString language() const;
@@ -106,6 +109,9 @@ public:
 
     // Starts the backend (again, after a failure) and restores the session.
     Q_INVOKABLE void start();
+    // Leaves the current backend and starts again with the configuration as it is now (after the
+    // settings named another one).
+    void restart();
 
     Q_INVOKABLE void signIn(const QString &email, const QString &password);
     // Keeps the onboarding answers for this address, then creates the account.
@@ -161,6 +167,10 @@ private:
     std::unique_ptr<SessionSequence> m_sequence;
     Workspace *m_workspace = nullptr;
     QObject *m_idle = nullptr;
+    Preferences *m_preferences = nullptr;
+    // Stores of a backend left behind: operations may still run on them, so they stay until the
+    // process ends rather than being destroyed under those operations.
+    std::vector<std::unique_ptr<QObject>> m_retired;
     QStringList m_providers;
     QString m_notice;
     QString m_colorScheme;

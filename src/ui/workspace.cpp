@@ -412,13 +412,15 @@ QVariantList Workspace::teams() const
         for (const TeamMember &member : m_store->membersByTeam().value(team.id)) {
             members << QVariantMap{{u"userId"_s, member.userId},
                                    {u"email"_s, member.email},
-                                   {u"role"_s, Wire::enumName(member.role)}};
+                                   {u"role"_s, Wire::enumName(member.role)},
+                                   {u"isMe"_s, member.userId == m_store->currentUserId()}};
         }
         const std::optional<TeamRole> role = m_store->roleInTeam(team.id);
         list << QVariantMap{{u"id"_s, team.id},
                             {u"name"_s, team.name},
                             {u"members"_s, members},
-                            {u"canInvite"_s, role == TeamRole::Owner || role == TeamRole::Editor}};
+                            {u"canInvite"_s, role == TeamRole::Owner || role == TeamRole::Editor},
+                            {u"canManage"_s, role == TeamRole::Owner}};
     }
     return list;
 }
@@ -529,6 +531,21 @@ void Workspace::invite(const QString &teamId, const QString &email, const QStrin
             self->setMessage(outcome.text());
         }
     }(this, m_store, teamId, email.trimmed(), *value);
+}
+
+void Workspace::setMemberRole(const QString &teamId, const QString &userId, const QString &role)
+{
+    const std::optional<TeamRole> value = Wire::enumFromName<TeamRole>(role);
+    if (m_store && value) {
+        m_store->setMemberRole(teamId, userId, *value);
+    }
+}
+
+void Workspace::removeMember(const QString &teamId, const QString &userId)
+{
+    if (m_store) {
+        m_store->removeMember(teamId, userId);
+    }
 }
 
 void Workspace::answerInvitation(const QString &teamId, bool accept)

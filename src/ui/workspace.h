@@ -130,6 +130,8 @@ public:
     Q_INVOKABLE void createTeam(const QString &name);
     Q_INVOKABLE void invite(const QString &teamId, const QString &email, const QString &role);
     Q_INVOKABLE void answerInvitation(const QString &teamId, bool accept);
+    Q_INVOKABLE void setMemberRole(const QString &teamId, const QString &userId, const QString &role);
+    Q_INVOKABLE void removeMember(const QString &teamId, const QString &userId);
 
     // The palette: ranks projects, tasks and actions against `query`.
     Q_INVOKABLE void searchPalette(const QString &query);

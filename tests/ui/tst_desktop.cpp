@@ -79,6 +79,33 @@ private:
         m_shell->setColorScheme(u"light"_s);
     }
 
+    // Everything reachable with Tab on the screen as it is now says what it is.
+    void checkControlsHaveNames()
+    {
+        QAccessible::setActive(true);
+        QStringList nameless;
+        int focusable = 0;
+        QList<QQuickItem *> items{m_window->contentItem()};
+        for (qsizetype i = 0; i < items.size(); ++i) {
+            QQuickItem *control = items.at(i);
+            items << control->childItems();
+            // Controls take Tab through their focus policy, plain items through activeFocusOnTab.
+            const QVariant policy = control->property("focusPolicy");
+            const bool tabbable = policy.isValid() ? (policy.toInt() & Qt::TabFocus) : control->activeFocusOnTab();
+            if (!control->isVisible() || !control->isEnabled() || !tabbable) {
+                continue;
+            }
+            ++focusable;
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control);
+            if (!accessible || accessible->text(QAccessible::Name).trimmed().isEmpty() ||
+                accessible->role() == QAccessible::NoRole) {
+                nameless << QString::fromLatin1(control->metaObject()->className()) + u' ' + control->objectName();
+            }
+        }
+        QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(u", "_s)));
+        QVERIFY2(focusable > 10, qPrintable(QString::number(focusable)));
+    }
+
 private slots:
     void initTestCase()
     {
@@ -171,6 +198,7 @@ private slots:
         workspace()->startTimer(workspace()->selectedTaskId());
         QTRY_VERIFY_WITH_TIMEOUT(workspace()->timerRunning(), patience);
         shoot(u"main-filled"_s);
+        checkControlsHaveNames();
     }
 
     void thePaletteRanksTheObviousHitFirst()
@@ -206,32 +234,27 @@ private slots:
         QTRY_COMPARE(item("projectNameField")->property("text").toString(), u"All projects"_s);
     }
 
-    // Everything reachable with Tab says what it is.
-    void everyFocusableControlHasANameAndARole()
+    void settingsSaveTheProfileAndMoveToAnotherBackend()
     {
-        QAccessible::setActive(true);
-        QStringList nameless;
-        int focusable = 0;
-        QList<QQuickItem *> items{m_window->contentItem()};
-        for (qsizetype i = 0; i < items.size(); ++i) {
-            QQuickItem *control = items.at(i);
-            items << control->childItems();
-            // Controls take Tab through their focus policy, plain items through activeFocusOnTab.
-            const QVariant policy = control->property("focusPolicy");
-            const bool tabbable = policy.isValid() ? (policy.toInt() & Qt::TabFocus) : control->activeFocusOnTab();
-            if (!control->isVisible() || !control->isEnabled() || !tabbable) {
-                continue;
-            }
-            ++focusable;
-            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control);
-            if (!accessible || accessible->text(QAccessible::Name).trimmed().isEmpty() ||
-                accessible->role() == QAccessible::NoRole) {
-                nameless << QString::fromLatin1(control->metaObject()->className()) + u' ' + control->objectName();
-            }
-        }
-        QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(u", "_s)));
-        QVERIFY2(focusable > 15, qPrintable(QString::number(focusable)));
+        QTest::keyClick(m_window, Qt::Key_Comma, Qt::ControlModifier);
+        QTRY_VERIFY(m_window->findChild<QQuickItem *>(u"signOutButton"_s));
+        shoot(u"settings"_s);
+        checkControlsHaveNames();
+        Preferences *prefs = m_shell->preferences();
+        QVERIFY(!prefs->saveProfile(u"Ada"_s, u"lots"_s, u"EUR"_s));
+        QVERIFY(prefs->saveProfile(u"Ada L."_s, u"120"_s, u"EUR"_s));
+        QTRY_COMPARE_WITH_TIMEOUT(store()->defaultHourlyRate(), 120.0, patience);
+        QCOMPARE(store()->currency(), u"EUR"_s);
+
+        QVERIFY(!prefs->useBackend(u"ftp://example.com"_s, u"key"_s));
+        QVERIFY(!prefs->useBackend(m_backend.url().toString(), {}));
+        QVERIFY(prefs->useBackend(m_backend.url().toString(), QString::fromLatin1(m_backend.anonKey())));
+        QVERIFY(!prefs->usesLocalBackend());
+        // The session comes back on the new connection with everything in it.
+        QTRY_COMPARE_WITH_TIMEOUT(m_shell->phase(), DesktopShell::Ready, patience);
+        QTRY_VERIFY_WITH_TIMEOUT(column(workspace()->sidebar(), u"title"_s).contains(u"Website redesign"_s), patience);
     }
+
 };
 
 int main(int argc, char *argv[])

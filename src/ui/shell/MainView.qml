@@ -12,6 +12,7 @@ Rectangle {
     readonly property bool compactSidebar: width < Theme.sidebarFoldWidth
     readonly property bool showInspector: width >= Theme.inspectorFoldWidth
     property string teamId: ""
+    property bool settingsOpen: false
     property alias sidebarWidth: sidebar.preferredWidth
     property alias inspectorWidth: inspectorPane.preferredWidth
     signal paletteRequested()
@@ -33,6 +34,7 @@ Rectangle {
         if (name === "newTask") taskList.startNewTask()
         else if (name === "newProject") sidebar.startNewProject()
         else if (name === "newTeam") sidebar.startNewTeam()
+        else if (name === "settings") settingsOpen = true
     }
 
     ColumnLayout {
@@ -66,8 +68,9 @@ Rectangle {
                 Layout.fillHeight: true
                 Layout.preferredWidth: main.compactSidebar ? Theme.sidebarCompactWidth : preferredWidth
                 compact: main.compactSidebar
-                onTeamChosen: (id) => main.teamId = id
-                onProjectChosen: main.teamId = ""
+                onTeamChosen: (id) => { main.teamId = id; main.settingsOpen = false }
+                onProjectChosen: { main.teamId = ""; main.settingsOpen = false }
+                onSettingsChosen: main.settingsOpen = true
             }
             Rectangle { Layout.fillHeight: true; Layout.preferredWidth: 1; color: Theme.border }
 
@@ -75,6 +78,7 @@ Rectangle {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 spacing: 0
+                visible: !main.settingsOpen
                 ProjectHeader {
                     Layout.fillWidth: true
                     visible: main.teamId === ""
@@ -92,6 +96,16 @@ Rectangle {
                     teamId: main.teamId
                 }
             }
+            Loader {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                active: main.settingsOpen
+                visible: active
+                sourceComponent: SettingsView {
+                    focus: true
+                    onClosed: main.settingsOpen = false
+                }
+            }
 
             Rectangle {
                 Layout.fillHeight: true
@@ -104,7 +118,7 @@ Rectangle {
                 property int preferredWidth: Theme.inspectorWidth
                 Layout.fillHeight: true
                 Layout.preferredWidth: preferredWidth
-                visible: main.showInspector && main.teamId === ""
+                visible: main.showInspector && main.teamId === "" && !main.settingsOpen
             }
         }
     }
@@ -113,6 +127,7 @@ Rectangle {
     Shortcut { sequence: "Ctrl+N"; onActivated: taskList.startNewTask() }
     Shortcut { sequence: "Ctrl+Shift+N"; onActivated: sidebar.startNewProject() }
     Shortcut { sequence: "Ctrl+F"; onActivated: taskList.focusFilter() }
+    Shortcut { sequence: "Ctrl+,"; onActivated: main.settingsOpen = true }
     Repeater {
         model: 9
         Item {

@@ -12,6 +12,7 @@ Rectangle {
     readonly property var workspace: Shell.workspace
     signal teamChosen(string id)
     signal projectChosen()
+    signal settingsChosen()
 
     function startNewProject() { newProject.visible = true; newProject.forceActiveFocus() }
     function startNewTeam() { newTeam.visible = true; newTeam.forceActiveFocus() }
@@ -158,6 +159,13 @@ Rectangle {
             visible: !sidebar.compact
             text: "+ " + qsTrId("ui.action.newTeam")
             onClicked: sidebar.startNewTeam()
+        }
+        FlatButton {
+            objectName: "settingsButton"
+            Layout.fillWidth: true
+            text: sidebar.compact ? "⚙" : qsTrId("ui.action.settings")
+            Accessible.name: qsTrId("ui.action.settings")
+            onClicked: sidebar.settingsChosen()
         }
     }
 }

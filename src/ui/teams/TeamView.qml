@@ -14,6 +14,32 @@ Rectangle {
         return null
     }
 
+    readonly property var roles: [
+        { value: "editor", label: qsTrId("ui.teams.role.editor") },
+        { value: "viewer", label: qsTrId("ui.teams.role.viewer") },
+        { value: "owner", label: qsTrId("ui.teams.role.owner") }
+    ]
+    function roleName(role) {
+        return role === "owner" ? qsTrId("ui.teams.role.owner")
+             : role === "editor" ? qsTrId("ui.teams.role.editor")
+             : qsTrId("ui.teams.role.viewer")
+    }
+
+    ConfirmDialog {
+        id: confirmRemove
+        property string userId
+        property bool isMe: false
+        title: isMe
+               //% "Leave %1?"
+               ? qsTrId("ui.teams.leaveTitle").arg(root.team ? root.team.name : "")
+               //% "Remove this member?"
+               : qsTrId("ui.teams.removeTitle")
+        //% "The team's projects are no longer shared with them. Their own time stays theirs."
+        body: isMe ? "" : qsTrId("ui.teams.removeBody")
+        confirmText: isMe ? qsTrId("ui.teams.leave") : qsTrId("ui.teams.remove")
+        onConfirmed: root.workspace.removeMember(root.teamId, userId)
+    }
+
     ColumnLayout {
         anchors.fill: parent
         anchors.margins: Theme.space4
@@ -32,19 +58,43 @@ Rectangle {
         Repeater {
             model: root.team ? root.team.members : []
             RowLayout {
+                id: member
                 required property var modelData
                 Layout.fillWidth: true
+                spacing: Theme.space2
                 Text {
                     Layout.fillWidth: true
-                    text: modelData.email
+                    text: member.modelData.email
                     color: Theme.text
                     elide: Text.ElideRight
                 }
                 Chip {
-                    tone: modelData.role === "owner" ? "primary" : "muted"
-                    text: modelData.role === "owner" ? qsTrId("ui.teams.role.owner")
-                        : modelData.role === "editor" ? qsTrId("ui.teams.role.editor")
-                        : qsTrId("ui.teams.role.viewer")
+                    visible: !root.team.canManage || member.modelData.isMe
+                    tone: member.modelData.role === "owner" ? "primary" : "muted"
+                    text: root.roleName(member.modelData.role)
+                }
+                Choice {
+                    Layout.preferredWidth: 130
+                    visible: root.team.canManage && !member.modelData.isMe
+                    model: root.roles
+                    value: member.modelData.role
+                    Accessible.name: qsTrId("ui.teams.role") + " " + member.modelData.email
+                    onChosen: (role) => root.workspace.setMemberRole(root.teamId, member.modelData.userId, role)
+                }
+                FlatButton {
+                    compact: true
+                    danger: true
+                    visible: member.modelData.isMe ? member.modelData.role !== "owner" : root.team.canManage
+                    text: member.modelData.isMe
+                          //% "Leave the team"
+                          ? qsTrId("ui.teams.leave")
+                          //% "Remove"
+                          : qsTrId("ui.teams.remove")
+                    onClicked: {
+                        confirmRemove.userId = member.modelData.userId
+                        confirmRemove.isMe = member.modelData.isMe
+                        confirmRemove.open()
+                    }
                 }
             }
         }
@@ -72,21 +122,15 @@ Rectangle {
                 value: "editor"
                 //% "Role"
                 Accessible.name: qsTrId("ui.teams.role")
-                model: [
-                    //% "Editor"
-                    { value: "editor", label: qsTrId("ui.teams.role.editor") },
-                    //% "Viewer"
-                    { value: "viewer", label: qsTrId("ui.teams.role.viewer") },
-                    //% "Owner"
-                    { value: "owner", label: qsTrId("ui.teams.role.owner") }
-                ]
+                model: root.roles
+                onChosen: (chosen) => value = chosen
             }
             PrimaryButton {
                 id: inviteButton
                 //% "Invite"
                 text: qsTrId("ui.teams.inviteButton")
                 enabled: inviteEmail.text.length > 0
-                onClicked: { root.workspace.invite(root.teamId, inviteEmail.text, role.currentValue); inviteEmail.text = "" }
+                onClicked: { root.workspace.invite(root.teamId, inviteEmail.text, role.value); inviteEmail.text = "" }
             }
         }
         Text {

@@ -1,0 +1,327 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Morvane.Ui
+
+// Account, profile, language, appearance and backend, each saved where it belongs.
+Rectangle {
+    id: root
+    color: Theme.background
+    readonly property var prefs: Shell.preferences
+    signal closed()
+
+    Component.onCompleted: prefs.refreshLocal()
+    Keys.onEscapePressed: root.closed()
+
+    component Section: ColumnLayout {
+        property alias title: heading.text
+        default property alias content: body.data
+        Layout.fillWidth: true
+        spacing: Theme.space2
+        Text {
+            id: heading
+            color: Theme.text
+            font.pixelSize: Theme.fontLarge
+            font.weight: Font.DemiBold
+            Layout.topMargin: Theme.space4
+        }
+        Rectangle { Layout.fillWidth: true; Layout.preferredHeight: 1; color: Theme.border }
+        ColumnLayout {
+            id: body
+            Layout.fillWidth: true
+            spacing: Theme.space2
+        }
+    }
+
+    Flickable {
+        anchors.fill: parent
+        contentHeight: column.implicitHeight + 2 * Theme.space5
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        ScrollBar.vertical: ScrollBar {}
+
+        ColumnLayout {
+            id: column
+            x: Theme.space5
+            y: Theme.space4
+            width: Math.min(parent.width - 2 * Theme.space5, 640)
+            spacing: Theme.space2
+
+            RowLayout {
+                Layout.fillWidth: true
+                Text {
+                    Layout.fillWidth: true
+                    //% "Settings"
+                    text: qsTrId("ui.action.settings")
+                    color: Theme.text
+                    font.pixelSize: Theme.fontTitle
+                    font.weight: Font.DemiBold
+                }
+                FlatButton {
+                    //% "Close"
+                    text: qsTrId("ui.common.close")
+                    onClicked: root.closed()
+                }
+            }
+            Banner {
+                Layout.fillWidth: true
+                error: false
+                text: root.prefs.message
+                onDismissed: root.prefs.clearMessage()
+            }
+
+            Section {
+                //% "Profile"
+                title: qsTrId("ui.settings.profile")
+                FieldLabel { text: qsTrId("ui.onboarding.name") }
+                Field {
+                    id: nameField
+                    Layout.fillWidth: true
+                    text: root.prefs.displayName
+                    Accessible.name: qsTrId("ui.onboarding.name")
+                }
+                RowLayout {
+                    Layout.fillWidth: true
+                    spacing: Theme.space3
+                    ColumnLayout {
+                        Layout.fillWidth: true
+                        FieldLabel { text: qsTrId("ui.onboarding.rate") }
+                        Field {
+                            id: rateField
+                            Layout.fillWidth: true
+                            text: root.prefs.hourlyRate
+                            invalid: !Shell.isRate(text)
+                            Accessible.name: qsTrId("ui.onboarding.rate")
+                        }
+                    }
+                    ColumnLayout {
+                        Layout.preferredWidth: 160
+                        FieldLabel { text: qsTrId("ui.onboarding.currency") }
+                        Choice {
+                            id: currencyBox
+                            Layout.fillWidth: true
+                            model: Shell.currencies.map(code => ({ value: code, label: code }))
+                            value: root.prefs.currency
+                            Accessible.name: qsTrId("ui.onboarding.currency")
+                            onChosen: (code) => value = code
+                        }
+                    }
+                }
+                Text {
+                    visible: rateField.invalid
+                    color: Theme.danger
+                    font.pixelSize: Theme.fontSmall
+                    text: qsTrId("ui.onboarding.rateInvalid")
+                }
+                PrimaryButton {
+                    enabled: !rateField.invalid
+                    text: qsTrId("ui.common.save")
+                    onClicked: root.prefs.saveProfile(nameField.text, rateField.text, currencyBox.value)
+                }
+            }
+
+            Section {
+                //% "Language and appearance"
+                title: qsTrId("ui.settings.looks")
+                GridLayout {
+                    Layout.fillWidth: true
+                    columns: 2
+                    columnSpacing: Theme.space3
+                    FieldLabel { text: qsTrId("ui.onboarding.language") }
+                    Choice {
+                        Layout.fillWidth: true
+                        model: Shell.languages.map(code => ({ value: code, label: Shell.languageName(code) }))
+                        value: Shell.language
+                        Accessible.name: qsTrId("ui.onboarding.language")
+                        onChosen: (code) => root.prefs.setLanguage(code)
+                    }
+                    FieldLabel {
+                        //% "Appearance"
+                        text: qsTrId("ui.settings.appearance")
+                    }
+                    Choice {
+                        Layout.fillWidth: true
+                        Accessible.name: qsTrId("ui.settings.appearance")
+                        model: [
+                            //% "As the desktop"
+                            { value: "system", label: qsTrId("ui.settings.scheme.system") },
+                            //% "Light"
+                            { value: "light", label: qsTrId("ui.settings.scheme.light") },
+                            //% "Dark"
+                            { value: "dark", label: qsTrId("ui.settings.scheme.dark") }
+                        ]
+                        value: Shell.colorScheme
+                        onChosen: (scheme) => Shell.colorScheme = scheme
+                    }
+                }
+            }
+
+            Section {
+                //% "Account"
+                title: qsTrId("ui.settings.account")
+                Text {
+                    //% "Signed in as %1"
+                    text: qsTrId("ui.settings.signedInAs").arg(root.prefs.email)
+                    color: Theme.text
+                }
+                Repeater {
+                    model: Shell.auth ? Shell.auth.accounts.filter(a => a.email !== root.prefs.email) : []
+                    FlatButton {
+                        required property var modelData
+                        //% "Switch to %1"
+                        text: qsTrId("ui.settings.switchTo").arg(modelData.email)
+                        onClicked: Shell.switchAccount(modelData.id)
+                    }
+                }
+                FlatButton {
+                    objectName: "signOutButton"
+                    text: qsTrId("ui.action.signOut")
+                    onClicked: Shell.signOut()
+                }
+                Text {
+                    Layout.fillWidth: true
+                    Layout.topMargin: Theme.space3
+                    wrapMode: Text.Wrap
+                    color: Theme.muted
+                    //% "Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm."
+                    text: qsTrId("ui.settings.deleteHint")
+                }
+                RowLayout {
+                    Layout.fillWidth: true
+                    Field {
+                        id: confirmField
+                        Layout.fillWidth: true
+                        placeholderText: root.prefs.email
+                        //% "Your e-mail address, to confirm"
+                        Accessible.name: qsTrId("ui.settings.deleteConfirm")
+                    }
+                    PrimaryButton {
+                        danger: true
+                        enabled: confirmField.text.trim().toLowerCase() === root.prefs.email.toLowerCase()
+                        //% "Delete my account"
+                        text: qsTrId("ui.settings.deleteAccount")
+                        onClicked: root.prefs.deleteAccount(confirmField.text)
+                    }
+                }
+            }
+
+            Section {
+                //% "Backend"
+                title: qsTrId("ui.settings.backend")
+                Radio {
+                    id: localChoice
+                    checked: root.prefs.usesLocalBackend
+                    //% "This computer (private, nothing to set up)"
+                    text: qsTrId("ui.settings.backend.local")
+                }
+                GridLayout {
+                    Layout.fillWidth: true
+                    Layout.leftMargin: Theme.space5
+                    visible: localChoice.checked
+                    columns: 2
+                    columnSpacing: Theme.space3
+                    FieldLabel {
+                        //% "State"
+                        text: qsTrId("ui.settings.local.state")
+                    }
+                    RowLayout {
+                        Chip {
+                            tone: root.prefs.localState === "running" ? "success" : "muted"
+                            text: root.prefs.localState === "running"
+                                  //% "Running"
+                                  ? qsTrId("ui.settings.local.running")
+                                  : root.prefs.localState === "starting"
+                                    //% "Starting"
+                                    ? qsTrId("ui.settings.local.starting")
+                                    //% "Stopped"
+                                    : qsTrId("ui.settings.local.stopped")
+                        }
+                        FlatButton {
+                            compact: true
+                            enabled: !root.prefs.busy
+                            text: root.prefs.localState === "running"
+                                  //% "Stop"
+                                  ? qsTrId("ui.settings.local.stop")
+                                  //% "Start"
+                                  : qsTrId("ui.settings.local.start")
+                            onClicked: root.prefs.localState === "running" ? root.prefs.stopLocal() : root.prefs.startLocal()
+                        }
+                    }
+                    FieldLabel {
+                        //% "Data folder"
+                        text: qsTrId("ui.settings.local.folder")
+                    }
+                    Text {
+                        Layout.fillWidth: true
+                        text: root.prefs.localDataDir
+                        color: Theme.text
+                        elide: Text.ElideMiddle
+                        font.family: Theme.monoFamily
+                        font.pixelSize: Theme.fontSmall
+                    }
+                    FieldLabel {
+                        //% "Size"
+                        text: qsTrId("ui.settings.local.size")
+                    }
+                    Text {
+                        text: root.prefs.localSize
+                        color: Theme.text
+                    }
+                }
+                Radio {
+                    id: remoteChoice
+                    checked: !root.prefs.usesLocalBackend
+                    //% "A shared server (for teams and several computers)"
+                    text: qsTrId("ui.settings.backend.remote")
+                }
+                GridLayout {
+                    Layout.fillWidth: true
+                    Layout.leftMargin: Theme.space5
+                    visible: remoteChoice.checked
+                    columns: 2
+                    columnSpacing: Theme.space3
+                    FieldLabel {
+                        //% "Address"
+                        text: qsTrId("ui.settings.remote.url")
+                    }
+                    Field {
+                        id: urlField
+                        Layout.fillWidth: true
+                        text: root.prefs.backendUrl
+                        placeholderText: "https://"
+                        Accessible.name: qsTrId("ui.settings.remote.url")
+                    }
+                    FieldLabel {
+                        //% "Public key"
+                        text: qsTrId("ui.settings.remote.key")
+                    }
+                    Field {
+                        id: keyField
+                        Layout.fillWidth: true
+                        text: root.prefs.backendKey
+                        Accessible.name: qsTrId("ui.settings.remote.key")
+                    }
+                }
+                Text {
+                    id: backendProblem
+                    visible: text !== ""
+                    color: Theme.danger
+                    font.pixelSize: Theme.fontSmall
+                }
+                PrimaryButton {
+                    enabled: localChoice.checked !== root.prefs.usesLocalBackend
+                             || (remoteChoice.checked && (urlField.text !== root.prefs.backendUrl
+                                                           || keyField.text !== root.prefs.backendKey))
+                    //% "Use this backend"
+                    text: qsTrId("ui.settings.backend.apply")
+                    onClicked: {
+                        const ok = localChoice.checked ? root.prefs.useBackend("", "")
+                                                       : root.prefs.useBackend(urlField.text, keyField.text)
+                        //% "Enter the server's https address and its public key."
+                        backendProblem.text = ok ? "" : qsTrId("ui.settings.backend.invalid")
+                    }
+                }
+            }
+        }
+    }
+}
