@@ -1,10 +1,9 @@
 #include "urlscheme.h"
 
-#include <QDir>
+#include "backend/desktopentry.h"
+
 #include <QFile>
-#include <QFileInfo>
 #include <QLocalSocket>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <unistd.h>
@@ -15,25 +14,6 @@ namespace {
 
 const QString mimeType = u"x-scheme-handler/morvane"_s;
 const QString defaultsGroup = u"[Default Applications]"_s;
-
-// Quotes an Exec argument as the desktop entry format wants it.
-QString execQuoted(const QString &program)
-{
-    QString quoted = program;
-    quoted.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s).replace(u'`', u"\\`"_s).replace(u'$', u"\\$"_s);
-    return u'"' + quoted + u'"';
-}
-
-bool writeFile(const QString &path, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return false;
-    }
-    file.write(content);
-    return file.commit();
-}
 
 // mimeapps.list with the scheme's default set to our entry; other groups and keys untouched.
 QString withDefault(const QString &current)
@@ -96,24 +76,13 @@ QString mimeAppsPath()
 
 bool registerHandler(const QString &program)
 {
-    const QString entry = u"[Desktop Entry]\n"
-                          u"Type=Application\n"
-                          u"Name=Morvane\n"
-                          u"Comment=Time tracking and invoices\n"
-                          u"Exec="_s +
-                          execQuoted(program) +
-                          u" %u\n"
-                          u"Terminal=false\n"
-                          u"Categories=Office;ProjectManagement;\n"
-                          u"MimeType="_s +
-                          mimeType + u";\n"_s;
-    if (!writeFile(desktopEntryPath(), entry.toUtf8())) {
+    if (!DesktopEntry::write(desktopEntryPath(), DesktopEntry::text(program))) {
         return false;
     }
     QFile current(mimeAppsPath());
     const QString existing = current.open(QIODevice::ReadOnly) ? QString::fromUtf8(current.readAll()) : QString();
     current.close();
-    return writeFile(mimeAppsPath(), withDefault(existing).toUtf8());
+    return DesktopEntry::write(mimeAppsPath(), withDefault(existing));
 }
 
 bool isRegistered()
@@ -125,8 +94,7 @@ bool isRegistered()
     if (!list.open(QIODevice::ReadOnly)) {
         return false;
     }
-    return QString::fromUtf8(list.readAll())
-        .contains(mimeType + u'=' + desktopEntryName.toString());
+    return QString::fromUtf8(list.readAll()).contains(mimeType + u'=' + desktopEntryName.toString());
 }
 
 } // namespace UrlScheme
