@@ -2015,6 +2015,22 @@
       <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
       <translation>Wenn du dein Konto löschst, werden deine Projekte, Aufgaben, Zeiten und Rechnungen endgültig vom Server entfernt. Gib zur Bestätigung deine E-Mail-Adresse ein.</translation>
     </message>
+    <message id="ui.settings.endOfDay">
+      <source>Stop the timer at the end of the day</source>
+      <translation>Timer am Ende des Arbeitstags anhalten</translation>
+    </message>
+    <message id="ui.settings.every">
+      <source>every (minutes)</source>
+      <translation>alle (Minuten)</translation>
+    </message>
+    <message id="ui.settings.from">
+      <source>From</source>
+      <translation>Von</translation>
+    </message>
+    <message id="ui.settings.idleAfter">
+      <source>Ask about idle time after (minutes)</source>
+      <translation>Nach Leerlaufzeit fragen nach (Minuten)</translation>
+    </message>
     <message id="ui.settings.local.folder">
       <source>Data folder</source>
       <translation>Datenordner</translation>
@@ -2047,6 +2063,10 @@
       <source>Stopped</source>
       <translation>Beendet</translation>
     </message>
+    <message id="ui.settings.longestRun">
+      <source>Longest run (minutes, 0 for none)</source>
+      <translation>Längste Laufzeit (Minuten, 0 für keine)</translation>
+    </message>
     <message id="ui.settings.looks">
       <source>Language and appearance</source>
       <translation>Sprache und Darstellung</translation>
@@ -2054,6 +2074,10 @@
     <message id="ui.settings.profile">
       <source>Profile</source>
       <translation>Profil</translation>
+    </message>
+    <message id="ui.settings.reminders">
+      <source>Remind me when no timer runs during working hours</source>
+      <translation>Erinnere mich, wenn während der Arbeitszeit kein Timer läuft</translation>
     </message>
     <message id="ui.settings.remote.key">
       <source>Public key</source>
@@ -2086,6 +2110,14 @@
     <message id="ui.settings.switchTo">
       <source>Switch to %1</source>
       <translation>Zu %1 wechseln</translation>
+    </message>
+    <message id="ui.settings.timer">
+      <source>Timer</source>
+      <translation>Timer</translation>
+    </message>
+    <message id="ui.settings.to">
+      <source>to</source>
+      <translation>bis</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>

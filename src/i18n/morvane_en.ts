@@ -2015,6 +2015,22 @@
       <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
       <translation>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</translation>
     </message>
+    <message id="ui.settings.endOfDay">
+      <source>Stop the timer at the end of the day</source>
+      <translation>Stop the timer at the end of the day</translation>
+    </message>
+    <message id="ui.settings.every">
+      <source>every (minutes)</source>
+      <translation>every (minutes)</translation>
+    </message>
+    <message id="ui.settings.from">
+      <source>From</source>
+      <translation>From</translation>
+    </message>
+    <message id="ui.settings.idleAfter">
+      <source>Ask about idle time after (minutes)</source>
+      <translation>Ask about idle time after (minutes)</translation>
+    </message>
     <message id="ui.settings.local.folder">
       <source>Data folder</source>
       <translation>Data folder</translation>
@@ -2047,6 +2063,10 @@
       <source>Stopped</source>
       <translation>Stopped</translation>
     </message>
+    <message id="ui.settings.longestRun">
+      <source>Longest run (minutes, 0 for none)</source>
+      <translation>Longest run (minutes, 0 for none)</translation>
+    </message>
     <message id="ui.settings.looks">
       <source>Language and appearance</source>
       <translation>Language and appearance</translation>
@@ -2054,6 +2074,10 @@
     <message id="ui.settings.profile">
       <source>Profile</source>
       <translation>Profile</translation>
+    </message>
+    <message id="ui.settings.reminders">
+      <source>Remind me when no timer runs during working hours</source>
+      <translation>Remind me when no timer runs during working hours</translation>
     </message>
     <message id="ui.settings.remote.key">
       <source>Public key</source>
@@ -2086,6 +2110,14 @@
     <message id="ui.settings.switchTo">
       <source>Switch to %1</source>
       <translation>Switch to %1</translation>
+    </message>
+    <message id="ui.settings.timer">
+      <source>Timer</source>
+      <translation>Timer</translation>
+    </message>
+    <message id="ui.settings.to">
+      <source>to</source>
+      <translation>to</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>

@@ -2015,6 +2015,22 @@
       <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
       <translation>Al eliminar tu cuenta se borran para siempre del servidor tus proyectos, tareas, tiempo y facturas. Escribe tu dirección de correo para confirmar.</translation>
     </message>
+    <message id="ui.settings.endOfDay">
+      <source>Stop the timer at the end of the day</source>
+      <translation>Detener el temporizador al final del día</translation>
+    </message>
+    <message id="ui.settings.every">
+      <source>every (minutes)</source>
+      <translation>cada (minutos)</translation>
+    </message>
+    <message id="ui.settings.from">
+      <source>From</source>
+      <translation>De</translation>
+    </message>
+    <message id="ui.settings.idleAfter">
+      <source>Ask about idle time after (minutes)</source>
+      <translation>Preguntar por el tiempo inactivo tras (minutos)</translation>
+    </message>
     <message id="ui.settings.local.folder">
       <source>Data folder</source>
       <translation>Carpeta de datos</translation>
@@ -2047,6 +2063,10 @@
       <source>Stopped</source>
       <translation>Detenido</translation>
     </message>
+    <message id="ui.settings.longestRun">
+      <source>Longest run (minutes, 0 for none)</source>
+      <translation>Duración máxima (minutos, 0 para ninguna)</translation>
+    </message>
     <message id="ui.settings.looks">
       <source>Language and appearance</source>
       <translation>Idioma y apariencia</translation>
@@ -2054,6 +2074,10 @@
     <message id="ui.settings.profile">
       <source>Profile</source>
       <translation>Perfil</translation>
+    </message>
+    <message id="ui.settings.reminders">
+      <source>Remind me when no timer runs during working hours</source>
+      <translation>Recordarme cuando no haya temporizador en horario de trabajo</translation>
     </message>
     <message id="ui.settings.remote.key">
       <source>Public key</source>
@@ -2086,6 +2110,14 @@
     <message id="ui.settings.switchTo">
       <source>Switch to %1</source>
       <translation>Cambiar a %1</translation>
+    </message>
+    <message id="ui.settings.timer">
+      <source>Timer</source>
+      <translation>Temporizador</translation>
+    </message>
+    <message id="ui.settings.to">
+      <source>to</source>
+      <translation>a</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>

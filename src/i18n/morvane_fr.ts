@@ -2015,6 +2015,22 @@
       <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
       <translation>Supprimer votre compte efface définitivement du serveur vos projets, tâches, temps et factures. Saisissez votre adresse e-mail pour confirmer.</translation>
     </message>
+    <message id="ui.settings.endOfDay">
+      <source>Stop the timer at the end of the day</source>
+      <translation>Arrêter le minuteur en fin de journée</translation>
+    </message>
+    <message id="ui.settings.every">
+      <source>every (minutes)</source>
+      <translation>toutes les (minutes)</translation>
+    </message>
+    <message id="ui.settings.from">
+      <source>From</source>
+      <translation>De</translation>
+    </message>
+    <message id="ui.settings.idleAfter">
+      <source>Ask about idle time after (minutes)</source>
+      <translation>Demander pour le temps d’inactivité après (minutes)</translation>
+    </message>
     <message id="ui.settings.local.folder">
       <source>Data folder</source>
       <translation>Dossier des données</translation>
@@ -2047,6 +2063,10 @@
       <source>Stopped</source>
       <translation>Arrêté</translation>
     </message>
+    <message id="ui.settings.longestRun">
+      <source>Longest run (minutes, 0 for none)</source>
+      <translation>Durée maximale (minutes, 0 pour aucune)</translation>
+    </message>
     <message id="ui.settings.looks">
       <source>Language and appearance</source>
       <translation>Langue et apparence</translation>
@@ -2054,6 +2074,10 @@
     <message id="ui.settings.profile">
       <source>Profile</source>
       <translation>Profil</translation>
+    </message>
+    <message id="ui.settings.reminders">
+      <source>Remind me when no timer runs during working hours</source>
+      <translation>Me rappeler quand aucun minuteur ne tourne pendant les heures de travail</translation>
     </message>
     <message id="ui.settings.remote.key">
       <source>Public key</source>
@@ -2086,6 +2110,14 @@
     <message id="ui.settings.switchTo">
       <source>Switch to %1</source>
       <translation>Passer à %1</translation>
+    </message>
+    <message id="ui.settings.timer">
+      <source>Timer</source>
+      <translation>Minuteur</translation>
+    </message>
+    <message id="ui.settings.to">
+      <source>to</source>
+      <translation>à</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>

@@ -2015,6 +2015,22 @@
       <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
       <translation>Eliminando l’account cancelli per sempre dal server progetti, attività, tempo e fatture. Digita il tuo indirizzo e-mail per confermare.</translation>
     </message>
+    <message id="ui.settings.endOfDay">
+      <source>Stop the timer at the end of the day</source>
+      <translation>Ferma il timer a fine giornata</translation>
+    </message>
+    <message id="ui.settings.every">
+      <source>every (minutes)</source>
+      <translation>ogni (minuti)</translation>
+    </message>
+    <message id="ui.settings.from">
+      <source>From</source>
+      <translation>Dalle</translation>
+    </message>
+    <message id="ui.settings.idleAfter">
+      <source>Ask about idle time after (minutes)</source>
+      <translation>Chiedi del tempo di inattività dopo (minuti)</translation>
+    </message>
     <message id="ui.settings.local.folder">
       <source>Data folder</source>
       <translation>Cartella dei dati</translation>
@@ -2047,6 +2063,10 @@
       <source>Stopped</source>
       <translation>Fermo</translation>
     </message>
+    <message id="ui.settings.longestRun">
+      <source>Longest run (minutes, 0 for none)</source>
+      <translation>Durata massima (minuti, 0 per nessuna)</translation>
+    </message>
     <message id="ui.settings.looks">
       <source>Language and appearance</source>
       <translation>Lingua e aspetto</translation>
@@ -2054,6 +2074,10 @@
     <message id="ui.settings.profile">
       <source>Profile</source>
       <translation>Profilo</translation>
+    </message>
+    <message id="ui.settings.reminders">
+      <source>Remind me when no timer runs during working hours</source>
+      <translation>Ricordamelo se nessun timer è attivo durante l’orario di lavoro</translation>
     </message>
     <message id="ui.settings.remote.key">
       <source>Public key</source>
@@ -2086,6 +2110,14 @@
     <message id="ui.settings.switchTo">
       <source>Switch to %1</source>
       <translation>Passa a %1</translation>
+    </message>
+    <message id="ui.settings.timer">
+      <source>Timer</source>
+      <translation>Timer</translation>
+    </message>
+    <message id="ui.settings.to">
+      <source>to</source>
+      <translation>alle</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>

@@ -2015,6 +2015,22 @@
       <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
       <translation>アカウントを削除すると、プロジェクト、タスク、作業時間、請求書がサーバーから完全に消去されます。確認のためメールアドレスを入力してください。</translation>
     </message>
+    <message id="ui.settings.endOfDay">
+      <source>Stop the timer at the end of the day</source>
+      <translation>終業時刻にタイマーを停止</translation>
+    </message>
+    <message id="ui.settings.every">
+      <source>every (minutes)</source>
+      <translation>間隔（分）</translation>
+    </message>
+    <message id="ui.settings.from">
+      <source>From</source>
+      <translation>開始</translation>
+    </message>
+    <message id="ui.settings.idleAfter">
+      <source>Ask about idle time after (minutes)</source>
+      <translation>離席時間を確認するまで（分）</translation>
+    </message>
     <message id="ui.settings.local.folder">
       <source>Data folder</source>
       <translation>データフォルダー</translation>
@@ -2047,6 +2063,10 @@
       <source>Stopped</source>
       <translation>停止中</translation>
     </message>
+    <message id="ui.settings.longestRun">
+      <source>Longest run (minutes, 0 for none)</source>
+      <translation>最長の連続計測（分、0 で無制限）</translation>
+    </message>
     <message id="ui.settings.looks">
       <source>Language and appearance</source>
       <translation>言語と外観</translation>
@@ -2054,6 +2074,10 @@
     <message id="ui.settings.profile">
       <source>Profile</source>
       <translation>プロフィール</translation>
+    </message>
+    <message id="ui.settings.reminders">
+      <source>Remind me when no timer runs during working hours</source>
+      <translation>勤務時間中にタイマーが動いていなければ知らせる</translation>
     </message>
     <message id="ui.settings.remote.key">
       <source>Public key</source>
@@ -2086,6 +2110,14 @@
     <message id="ui.settings.switchTo">
       <source>Switch to %1</source>
       <translation>%1 に切り替え</translation>
+    </message>
+    <message id="ui.settings.timer">
+      <source>Timer</source>
+      <translation>タイマー</translation>
+    </message>
+    <message id="ui.settings.to">
+      <source>to</source>
+      <translation>終了</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>

@@ -2015,6 +2015,22 @@
       <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
       <translation>Als je je account verwijdert, worden je projecten, taken, tijd en facturen definitief van de server gewist. Typ je e-mailadres om te bevestigen.</translation>
     </message>
+    <message id="ui.settings.endOfDay">
+      <source>Stop the timer at the end of the day</source>
+      <translation>De timer stoppen aan het eind van de dag</translation>
+    </message>
+    <message id="ui.settings.every">
+      <source>every (minutes)</source>
+      <translation>elke (minuten)</translation>
+    </message>
+    <message id="ui.settings.from">
+      <source>From</source>
+      <translation>Van</translation>
+    </message>
+    <message id="ui.settings.idleAfter">
+      <source>Ask about idle time after (minutes)</source>
+      <translation>Vragen naar inactieve tijd na (minuten)</translation>
+    </message>
     <message id="ui.settings.local.folder">
       <source>Data folder</source>
       <translation>Gegevensmap</translation>
@@ -2047,6 +2063,10 @@
       <source>Stopped</source>
       <translation>Gestopt</translation>
     </message>
+    <message id="ui.settings.longestRun">
+      <source>Longest run (minutes, 0 for none)</source>
+      <translation>Langste meting (minuten, 0 voor geen)</translation>
+    </message>
     <message id="ui.settings.looks">
       <source>Language and appearance</source>
       <translation>Taal en weergave</translation>
@@ -2054,6 +2074,10 @@
     <message id="ui.settings.profile">
       <source>Profile</source>
       <translation>Profiel</translation>
+    </message>
+    <message id="ui.settings.reminders">
+      <source>Remind me when no timer runs during working hours</source>
+      <translation>Herinner me als er tijdens werktijd geen timer loopt</translation>
     </message>
     <message id="ui.settings.remote.key">
       <source>Public key</source>
@@ -2086,6 +2110,14 @@
     <message id="ui.settings.switchTo">
       <source>Switch to %1</source>
       <translation>Overschakelen naar %1</translation>
+    </message>
+    <message id="ui.settings.timer">
+      <source>Timer</source>
+      <translation>Timer</translation>
+    </message>
+    <message id="ui.settings.to">
+      <source>to</source>
+      <translation>tot</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>

@@ -2015,6 +2015,22 @@
       <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
       <translation>Excluir sua conta apaga de vez do servidor seus projetos, tarefas, horas e faturas. Digite seu e-mail para confirmar.</translation>
     </message>
+    <message id="ui.settings.endOfDay">
+      <source>Stop the timer at the end of the day</source>
+      <translation>Parar o cronômetro no fim do dia</translation>
+    </message>
+    <message id="ui.settings.every">
+      <source>every (minutes)</source>
+      <translation>a cada (minutos)</translation>
+    </message>
+    <message id="ui.settings.from">
+      <source>From</source>
+      <translation>Das</translation>
+    </message>
+    <message id="ui.settings.idleAfter">
+      <source>Ask about idle time after (minutes)</source>
+      <translation>Perguntar sobre tempo ocioso após (minutos)</translation>
+    </message>
     <message id="ui.settings.local.folder">
       <source>Data folder</source>
       <translation>Pasta de dados</translation>
@@ -2047,6 +2063,10 @@
       <source>Stopped</source>
       <translation>Parado</translation>
     </message>
+    <message id="ui.settings.longestRun">
+      <source>Longest run (minutes, 0 for none)</source>
+      <translation>Duração máxima (minutos, 0 para nenhuma)</translation>
+    </message>
     <message id="ui.settings.looks">
       <source>Language and appearance</source>
       <translation>Idioma e aparência</translation>
@@ -2054,6 +2074,10 @@
     <message id="ui.settings.profile">
       <source>Profile</source>
       <translation>Perfil</translation>
+    </message>
+    <message id="ui.settings.reminders">
+      <source>Remind me when no timer runs during working hours</source>
+      <translation>Lembrar-me quando nenhum cronômetro estiver rodando no horário de trabalho</translation>
     </message>
     <message id="ui.settings.remote.key">
       <source>Public key</source>
@@ -2086,6 +2110,14 @@
     <message id="ui.settings.switchTo">
       <source>Switch to %1</source>
       <translation>Mudar para %1</translation>
+    </message>
+    <message id="ui.settings.timer">
+      <source>Timer</source>
+      <translation>Cronômetro</translation>
+    </message>
+    <message id="ui.settings.to">
+      <source>to</source>
+      <translation>às</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>

@@ -2015,6 +2015,22 @@
       <source>Deleting your account removes your projects, tasks, time and invoices from the server for good. Type your e-mail address to confirm.</source>
       <translation>การลบบัญชีจะลบโปรเจกต์ งาน เวลา และใบแจ้งหนี้ของคุณออกจากเซิร์ฟเวอร์อย่างถาวร พิมพ์อีเมลของคุณเพื่อยืนยัน</translation>
     </message>
+    <message id="ui.settings.endOfDay">
+      <source>Stop the timer at the end of the day</source>
+      <translation>หยุดตัวจับเวลาเมื่อสิ้นวันทำงาน</translation>
+    </message>
+    <message id="ui.settings.every">
+      <source>every (minutes)</source>
+      <translation>ทุก ๆ (นาที)</translation>
+    </message>
+    <message id="ui.settings.from">
+      <source>From</source>
+      <translation>ตั้งแต่</translation>
+    </message>
+    <message id="ui.settings.idleAfter">
+      <source>Ask about idle time after (minutes)</source>
+      <translation>ถามเรื่องเวลาที่ไม่ได้ใช้งานหลังจาก (นาที)</translation>
+    </message>
     <message id="ui.settings.local.folder">
       <source>Data folder</source>
       <translation>โฟลเดอร์ข้อมูล</translation>
@@ -2047,6 +2063,10 @@
       <source>Stopped</source>
       <translation>หยุดแล้ว</translation>
     </message>
+    <message id="ui.settings.longestRun">
+      <source>Longest run (minutes, 0 for none)</source>
+      <translation>ระยะจับเวลานานสุด (นาที, 0 คือไม่จำกัด)</translation>
+    </message>
     <message id="ui.settings.looks">
       <source>Language and appearance</source>
       <translation>ภาษาและรูปลักษณ์</translation>
@@ -2054,6 +2074,10 @@
     <message id="ui.settings.profile">
       <source>Profile</source>
       <translation>โปรไฟล์</translation>
+    </message>
+    <message id="ui.settings.reminders">
+      <source>Remind me when no timer runs during working hours</source>
+      <translation>เตือนเมื่อไม่มีตัวจับเวลาทำงานในเวลางาน</translation>
     </message>
     <message id="ui.settings.remote.key">
       <source>Public key</source>
@@ -2086,6 +2110,14 @@
     <message id="ui.settings.switchTo">
       <source>Switch to %1</source>
       <translation>สลับไปที่ %1</translation>
+    </message>
+    <message id="ui.settings.timer">
+      <source>Timer</source>
+      <translation>ตัวจับเวลา</translation>
+    </message>
+    <message id="ui.settings.to">
+      <source>to</source>
+      <translation>ถึง</translation>
     </message>
     <message id="ui.sidebar.newProjectName">
       <source>New project name</source>

@@ -398,9 +398,13 @@ void DesktopShell::setLanguage(const QString &code)
 
 QString DesktopShell::languageName(const QString &code)
 {
-    const QLocale locale(code);
-    const QString name = locale.nativeLanguageName();
-    return name.isEmpty() ? code : name.left(1).toUpper() + name.mid(1);
+    // Each language by its own name, as people look for it in a list.
+    static const QHash<QString, QString> names{
+        {u"en"_s, u"English"_s},   {u"nl"_s, u"Nederlands"_s}, {u"de"_s, u"Deutsch"_s},
+        {u"fr"_s, u"Français"_s},  {u"es"_s, u"Español"_s},    {u"it"_s, u"Italiano"_s},
+        {u"pt"_s, u"Português"_s}, {u"ja"_s, u"日本語"_s},     {u"th"_s, u"ไทย"_s},
+    };
+    return names.value(code, code);
 }
 
 bool DesktopShell::isRate(const QString &text)

@@ -157,6 +157,117 @@ Rectangle {
             }
 
             Section {
+                //% "Timer"
+                title: qsTrId("ui.settings.timer")
+                readonly property var idle: Shell.idle
+                GridLayout {
+                    Layout.fillWidth: true
+                    columns: 2
+                    columnSpacing: Theme.space3
+                    FieldLabel {
+                        //% "Ask about idle time after (minutes)"
+                        text: qsTrId("ui.settings.idleAfter")
+                    }
+                    Field {
+                        Layout.preferredWidth: 120
+                        text: Shell.idle.idleThresholdMinutes
+                        inputMethodHints: Qt.ImhDigitsOnly
+                        validator: IntValidator { bottom: 1; top: 480 }
+                        Accessible.name: qsTrId("ui.settings.idleAfter")
+                        onEditingFinished: if (acceptableInput) Shell.idle.idleThresholdMinutes = parseInt(text)
+                    }
+                    FieldLabel {
+                        //% "Stop the timer at the end of the day"
+                        text: qsTrId("ui.settings.endOfDay")
+                    }
+                    Field {
+                        Layout.preferredWidth: 120
+                        text: Shell.idle.endOfDay
+                        placeholderText: "18:00"
+                        validator: RegularExpressionValidator { regularExpression: /^$|^([01]?\d|2[0-3]):[0-5]\d$/ }
+                        Accessible.name: qsTrId("ui.settings.endOfDay")
+                        onEditingFinished: if (acceptableInput) Shell.idle.endOfDay = text
+                    }
+                    FieldLabel {
+                        //% "Longest run (minutes, 0 for none)"
+                        text: qsTrId("ui.settings.longestRun")
+                    }
+                    Field {
+                        Layout.preferredWidth: 120
+                        text: Shell.idle.maxRunMinutes
+                        inputMethodHints: Qt.ImhDigitsOnly
+                        validator: IntValidator { bottom: 0; top: 1440 }
+                        Accessible.name: qsTrId("ui.settings.longestRun")
+                        onEditingFinished: if (acceptableInput) Shell.idle.maxRunMinutes = parseInt(text)
+                    }
+                }
+                Check {
+                    checked: Shell.idle.remindersEnabled
+                    //% "Remind me when no timer runs during working hours"
+                    text: qsTrId("ui.settings.reminders")
+                    onToggled: Shell.idle.remindersEnabled = checked
+                }
+                RowLayout {
+                    visible: Shell.idle.remindersEnabled
+                    Layout.leftMargin: Theme.space5
+                    spacing: Theme.space2
+                    Repeater {
+                        model: 7
+                        FlatButton {
+                            required property int index
+                            compact: true
+                            checkable: true
+                            checked: Shell.idle.reminderDays.indexOf(index + 1) >= 0
+                            text: Qt.locale().dayName((index + 1) % 7, Locale.ShortFormat)
+                            onToggled: {
+                                const days = Shell.idle.reminderDays.filter(d => d !== index + 1)
+                                if (checked) days.push(index + 1)
+                                Shell.idle.reminderDays = days.sort()
+                            }
+                        }
+                    }
+                }
+                RowLayout {
+                    visible: Shell.idle.remindersEnabled
+                    Layout.leftMargin: Theme.space5
+                    spacing: Theme.space2
+                    FieldLabel {
+                        //% "From"
+                        text: qsTrId("ui.settings.from")
+                    }
+                    Field {
+                        Layout.preferredWidth: 80
+                        text: Shell.idle.reminderFrom
+                        validator: RegularExpressionValidator { regularExpression: /^([01]?\d|2[0-3]):[0-5]\d$/ }
+                        Accessible.name: qsTrId("ui.settings.from")
+                        onEditingFinished: if (acceptableInput) Shell.idle.reminderFrom = text
+                    }
+                    FieldLabel {
+                        //% "to"
+                        text: qsTrId("ui.settings.to")
+                    }
+                    Field {
+                        Layout.preferredWidth: 80
+                        text: Shell.idle.reminderTo
+                        validator: RegularExpressionValidator { regularExpression: /^([01]?\d|2[0-3]):[0-5]\d$/ }
+                        Accessible.name: qsTrId("ui.settings.to")
+                        onEditingFinished: if (acceptableInput) Shell.idle.reminderTo = text
+                    }
+                    FieldLabel {
+                        //% "every (minutes)"
+                        text: qsTrId("ui.settings.every")
+                    }
+                    Field {
+                        Layout.preferredWidth: 80
+                        text: Shell.idle.reminderEveryMinutes
+                        validator: IntValidator { bottom: 5; top: 480 }
+                        Accessible.name: qsTrId("ui.settings.every")
+                        onEditingFinished: if (acceptableInput) Shell.idle.reminderEveryMinutes = parseInt(text)
+                    }
+                }
+            }
+
+            Section {
                 //% "Account"
                 title: qsTrId("ui.settings.account")
                 Text {
