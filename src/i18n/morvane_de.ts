@@ -1983,6 +1983,10 @@
       <source>Appearance</source>
       <translation>Darstellung</translation>
     </message>
+    <message id="ui.settings.autostart">
+      <source>Start Morvane when I log in</source>
+      <translation>Morvane beim Anmelden starten</translation>
+    </message>
     <message id="ui.settings.backend">
       <source>Backend</source>
       <translation>Backend</translation>

@@ -1983,6 +1983,10 @@
       <source>Appearance</source>
       <translation>Apariencia</translation>
     </message>
+    <message id="ui.settings.autostart">
+      <source>Start Morvane when I log in</source>
+      <translation>Abrir Morvane al iniciar sesión</translation>
+    </message>
     <message id="ui.settings.backend">
       <source>Backend</source>
       <translation>Servidor</translation>

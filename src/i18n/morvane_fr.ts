@@ -1983,6 +1983,10 @@
       <source>Appearance</source>
       <translation>Apparence</translation>
     </message>
+    <message id="ui.settings.autostart">
+      <source>Start Morvane when I log in</source>
+      <translation>Lancer Morvane à l’ouverture de session</translation>
+    </message>
     <message id="ui.settings.backend">
       <source>Backend</source>
       <translation>Serveur</translation>

@@ -1983,6 +1983,10 @@
       <source>Appearance</source>
       <translation>Aspetto</translation>
     </message>
+    <message id="ui.settings.autostart">
+      <source>Start Morvane when I log in</source>
+      <translation>Avvia Morvane all’accesso</translation>
+    </message>
     <message id="ui.settings.backend">
       <source>Backend</source>
       <translation>Server</translation>

@@ -1983,6 +1983,10 @@
       <source>Appearance</source>
       <translation>外観</translation>
     </message>
+    <message id="ui.settings.autostart">
+      <source>Start Morvane when I log in</source>
+      <translation>ログイン時に Morvane を起動</translation>
+    </message>
     <message id="ui.settings.backend">
       <source>Backend</source>
       <translation>バックエンド</translation>

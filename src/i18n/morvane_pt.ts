@@ -1983,6 +1983,10 @@
       <source>Appearance</source>
       <translation>Aparência</translation>
     </message>
+    <message id="ui.settings.autostart">
+      <source>Start Morvane when I log in</source>
+      <translation>Abrir o Morvane ao iniciar a sessão</translation>
+    </message>
     <message id="ui.settings.backend">
       <source>Backend</source>
       <translation>Servidor</translation>

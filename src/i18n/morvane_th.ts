@@ -1983,6 +1983,10 @@
       <source>Appearance</source>
       <translation>รูปลักษณ์</translation>
     </message>
+    <message id="ui.settings.autostart">
+      <source>Start Morvane when I log in</source>
+      <translation>เปิด Morvane เมื่อเข้าสู่ระบบ</translation>
+    </message>
     <message id="ui.settings.backend">
       <source>Backend</source>
       <translation>แบ็กเอนด์</translation>

@@ -34,6 +34,7 @@ qint64 folderSize(const QString &path)
 Preferences::Preferences(DesktopShell &shell)
     : QObject(&shell)
     , m_shell(shell)
+    , m_autostart(new Autostart(this))
 {
     connect(&shell, &DesktopShell::storesChanged, this, [this] {
         if (AppStore *store = m_shell.store()) {

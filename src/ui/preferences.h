@@ -6,6 +6,8 @@
 
 #include <QCoroTask>
 
+#include "backend/autostart.h"
+
 class DesktopShell;
 
 // What the settings screen edits that the shell does not own itself: the profile, the backend
@@ -28,6 +30,7 @@ class Preferences : public QObject
     Q_PROPERTY(QString localSize READ localSize NOTIFY localChanged)
     Q_PROPERTY(bool busy READ busy NOTIFY busyChanged)
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
+    Q_PROPERTY(Autostart *autostart READ autostart CONSTANT)
 
 public:
     explicit Preferences(DesktopShell &shell);
@@ -44,6 +47,7 @@ public:
     [[nodiscard]] QString localSize() const { return m_localSize; }
     [[nodiscard]] bool busy() const { return m_busy; }
     [[nodiscard]] QString message() const { return m_message; }
+    [[nodiscard]] Autostart *autostart() const { return m_autostart; }
 
     // Answers false (and writes nothing) when the rate cannot be read.
     Q_INVOKABLE bool saveProfile(const QString &displayName, const QString &hourlyRate, const QString &currency);
@@ -72,6 +76,7 @@ private:
     void setMessage(const QString &message);
 
     DesktopShell &m_shell;
+    Autostart *m_autostart;
     QString m_localState;
     QString m_localSize;
     bool m_busy = false;

@@ -202,6 +202,12 @@ Rectangle {
                     }
                 }
                 Check {
+                    checked: root.prefs.autostart.enabled
+                    //% "Start Morvane when I log in"
+                    text: qsTrId("ui.settings.autostart")
+                    onToggled: root.prefs.autostart.enabled = checked
+                }
+                Check {
                     checked: Shell.idle.remindersEnabled
                     //% "Remind me when no timer runs during working hours"
                     text: qsTrId("ui.settings.reminders")
