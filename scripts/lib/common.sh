@@ -52,6 +52,7 @@ MORVANE_PACKAGES=(
     fonts-noto-cjk
     libqt6svg6
     libxss-dev
+    libxcb1-dev
 )
 
 morvane_missing_packages() {

@@ -3,6 +3,7 @@
 #include "backend/urlscheme.h"
 #include "i18n/language.h"
 #include "ui/desktopshell.h"
+#include "ui/globalshortcut.h"
 
 #include <QApplication>
 #include <QFont>
@@ -110,6 +111,10 @@ int run(int argc, char *argv[])
         return 1;
     }
     shell.start();
+    // Off X11 the person binds `morvane timer toggle` in the desktop's keyboard settings instead.
+    GlobalShortcut shortcut;
+    QObject::connect(&shortcut, &GlobalShortcut::activated, &shell, [&shell] { shell.workspace()->toggleTimer({}); });
+    shortcut.setShortcut(QKeySequence(u"Ctrl+Alt+Space"_s));
     return QApplication::exec();
 }
 
