@@ -201,6 +201,62 @@ private slots:
         checkControlsHaveNames();
     }
 
+    void reorderingAndBulkChangesFollowTheList()
+    {
+        workspace()->stopTimer();
+        QTRY_VERIFY_WITH_TIMEOUT(!workspace()->timerRunning(), patience);
+        const QStringList before = column(workspace()->tasks(), u"id"_s);
+        workspace()->moveTaskInList(before.last(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(column(workspace()->tasks(), u"id"_s).first(), before.last(), patience);
+        // Completed work sinks below the open tasks, whatever the order.
+        workspace()->toggleChecked(before.at(0));
+        workspace()->toggleChecked(before.at(1));
+        workspace()->bulkSetStatus(u"completed"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(column(workspace()->tasks(), u"status"_s).mid(2),
+                                  QStringList(2, u"completed"_s), patience);
+        workspace()->bulkSetStatus(u"not_started"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(column(workspace()->tasks(), u"status"_s).count(u"completed"_s), 0, patience);
+        workspace()->clearChecked();
+    }
+
+    // A team mate's project shared with Ada as a viewer: she sees it, cannot change it, and the
+    // window shows that rather than refusing after the fact.
+    void aViewerSeesATeamProjectReadOnly()
+    {
+        auto bo = StoreDevice::signUp(m_backend, u"bo@example.com"_s, u"Bo"_s);
+        QVERIFY(bo && bo->refresh());
+        const std::optional<Team> team = runBlocking(bo->store->createTeam(u"Studio Bo"_s));
+        QVERIFY(team);
+        QCOMPARE(runBlocking(bo->store->inviteMember(team->id, email, TeamRole::Viewer)).kind,
+                 InviteOutcome::Kind::Invited);
+        ProjectInsert project;
+        project.userId = bo->userId();
+        project.teamId = team->id;
+        project.name = u"Client site"_s;
+        const std::optional<Project> shared = runBlocking(bo->store->createProject(project));
+        QVERIFY(shared);
+        QVERIFY(runBlocking(bo->store->createTask(TaskInsert{bo->userId(), shared->id, u"Wireframes"_s})));
+
+        QVERIFY(runBlocking(store()->refreshAll()));
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->invitations().size(), 1, patience);
+        workspace()->answerInvitation(team->id, true);
+        QTRY_VERIFY_WITH_TIMEOUT(column(workspace()->sidebar(), u"title"_s).contains(u"Client site"_s), patience);
+        workspace()->selectProject(shared->id);
+        QTRY_COMPARE(workspace()->tasks()->rowCount(), 1);
+        QCOMPARE(workspace()->project().value(u"canEdit"_s), false);
+        QCOMPARE(workspace()->tasks()->rows().first().value(u"editable"_s), false);
+        workspace()->selectTask(workspace()->tasks()->rows().first().value(u"id"_s).toString());
+        QTRY_VERIFY(workspace()->inspector()->present());
+        QVERIFY(!workspace()->inspector()->canEdit());
+        QVERIFY(item("taskTitleField")->property("readOnly").toBool());
+        shoot(u"viewer"_s);
+
+        item("mainView")->setProperty("teamId", team->id);
+        QTRY_COMPARE(workspace()->teams().size(), 1);
+        shoot(u"team"_s);
+        item("mainView")->setProperty("teamId", QString());
+    }
+
     void thePaletteRanksTheObviousHitFirst()
     {
         workspace()->searchPalette(u"web"_s);
@@ -217,7 +273,11 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!workspace()->timerRunning(), patience);
         auto other = StoreDevice::signIn(m_backend, email);
         QVERIFY(other && other->refresh());
-        const QString taskId = other->store->tasks(workspace()->selectedProjectId()).last().id;
+        QString projectId;
+        for (const Project &project : other->store->projects()) {
+            projectId = project.name == u"Website redesign" ? project.id : projectId;
+        }
+        const QString taskId = other->store->tasks(projectId).last().id;
         QVERIFY(runBlocking(other->store->startTimer(taskId)));
         QTRY_COMPARE_WITH_TIMEOUT(workspace()->runningTaskId(), taskId, patience);
         QVERIFY(runBlocking(other->store->stopTimer(taskId)));

@@ -7,6 +7,7 @@ import Morvane.Ui
 // The three panes under the timer strip: sidebar, list, inspector.
 Rectangle {
     id: main
+    objectName: "mainView"
     color: Theme.background
     readonly property var workspace: Shell.workspace
     readonly property bool compactSidebar: width < Theme.sidebarFoldWidth

@@ -24,7 +24,8 @@ Rectangle {
 
         Field {
             id: newTask
-            visible: root.hasProjects
+            // A viewer of a team's project adds nothing to it.
+            visible: root.hasProjects && (root.workspace.selectedProjectId === "" || root.workspace.project.canEdit === true)
             Layout.fillWidth: true
             Layout.leftMargin: Theme.space4
             Layout.rightMargin: Theme.space4

@@ -57,7 +57,8 @@ Rectangle {
         PrimaryButton {
             objectName: "timerButton"
             danger: strip.workspace.timerRunning
-            enabled: strip.workspace.timerRunning || strip.workspace.selectedTaskId !== ""
+            enabled: strip.workspace.timerRunning
+                     || (strip.workspace.selectedTaskId !== "" && strip.workspace.inspector.canEdit)
             text: strip.workspace.timerRunning
                   //% "Stop"
                   ? qsTrId("ui.timer.stop")
