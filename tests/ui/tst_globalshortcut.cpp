@@ -9,24 +9,6 @@ class TestGlobalShortcut : public QObject
     Q_OBJECT
 
 private slots:
-    void keysAsX11NamesThem_data()
-    {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<qint64>("keysym");
-        QTest::newRow("space") << int(Qt::Key_Space) << qint64(0x20);
-        QTest::newRow("letter, as on the unshifted key") << int(Qt::Key_T) << qint64(0x74);
-        QTest::newRow("last function key") << int(Qt::Key_F24) << qint64(0xffd5);
-        QTest::newRow("no name") << int(Qt::Key_Escape) << qint64(-1);
-    }
-
-    void keysAsX11NamesThem()
-    {
-        QFETCH(int, key);
-        QFETCH(qint64, keysym);
-        const std::optional<std::uint32_t> named = GlobalShortcut::keysym(Qt::Key(key));
-        QCOMPARE(named ? qint64(*named) : -1, keysym);
-    }
-
     void locksDoNotMatter_data()
     {
         QTest::addColumn<int>("state");
@@ -35,7 +17,6 @@ private slots:
         QTest::newRow("exactly") << 0x0c << true;
         QTest::newRow("caps and num lock on") << (0x0c | 0x02 | 0x10) << true;
         QTest::newRow("shift as well") << (0x0c | 0x01) << false;
-        QTest::newRow("super as well") << (0x0c | 0x40) << false;
         QTest::newRow("control alone") << 0x04 << false;
     }
 
