@@ -47,7 +47,13 @@ ApplicationWindow {
     }
     Component { id: startupView; StartupView {} }
     Component { id: authView; AuthView {} }
-    Component { id: mainView; MainView { onPaletteRequested: palette.openPalette() } }
+    Component {
+        id: mainView
+        MainView {
+            onPaletteRequested: palette.openPalette()
+            onFloatingToggled: floating.visible = !floating.visible
+        }
+    }
 
     CommandPalette {
         id: palette

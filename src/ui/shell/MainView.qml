@@ -17,6 +17,7 @@ Rectangle {
     property alias sidebarWidth: sidebar.preferredWidth
     property alias inspectorWidth: inspectorPane.preferredWidth
     signal paletteRequested()
+    signal floatingToggled()
 
     Settings {
         category: "panes"
@@ -42,7 +43,10 @@ Rectangle {
         anchors.fill: parent
         spacing: 0
 
-        TimerStrip { Layout.fillWidth: true }
+        TimerStrip {
+            Layout.fillWidth: true
+            onFloatingToggled: main.floatingToggled()
+        }
 
         Banner {
             Layout.fillWidth: true
@@ -89,6 +93,7 @@ Rectangle {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     visible: main.teamId === ""
+                    onEditRequested: inspectorPane.editTitle()
                 }
                 TeamView {
                     Layout.fillWidth: true
@@ -103,7 +108,7 @@ Rectangle {
                 active: main.settingsOpen
                 visible: active
                 sourceComponent: SettingsView {
-                    focus: true
+                    Component.onCompleted: forceActiveFocus()
                     onClosed: main.settingsOpen = false
                 }
             }

@@ -10,6 +10,13 @@ Rectangle {
     readonly property var task: Shell.workspace.inspector
     readonly property bool editable: task.canEdit
 
+    function editTitle() {
+        if (editable) {
+            titleField.forceActiveFocus()
+            titleField.selectAll()
+        }
+    }
+
     EmptyState {
         anchors.centerIn: parent
         width: parent.width - 2 * Theme.space5

@@ -15,6 +15,9 @@ Rectangle {
     readonly property bool hasProjects: workspace.projectChoices.length > 0 || workspace.selectedProjectId !== ""
     property string anchorTaskId: ""
 
+    // Enter on a task: its title in the inspector takes the keyboard.
+    signal editRequested()
+
     function startNewTask() { newTask.forceActiveFocus() }
     function focusFilter() { search.forceActiveFocus(); search.selectAll() }
 
@@ -211,6 +214,8 @@ Rectangle {
             Keys.onUpPressed: root.workspace.selectNeighbor(false)
             Keys.onDownPressed: root.workspace.selectNeighbor(true)
             Keys.onSpacePressed: root.workspace.toggleTimer(root.workspace.selectedTaskId)
+            Keys.onReturnPressed: root.editRequested()
+            Keys.onEnterPressed: root.editRequested()
             Keys.onDeletePressed: if (root.workspace.selectedTaskId !== "") confirmDelete.open()
             Keys.onEscapePressed: root.workspace.clearChecked()
 

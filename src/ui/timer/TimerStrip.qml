@@ -7,6 +7,7 @@ import Morvane.Ui
 Rectangle {
     id: strip
     readonly property var workspace: Shell.workspace
+    signal floatingToggled()
     implicitHeight: Theme.stripHeight
     color: workspace.timerRunning ? Qt.rgba(Theme.running.r, Theme.running.g, Theme.running.b, 0.10) : Theme.surface
     Accessible.role: Accessible.StatusBar
@@ -53,6 +54,16 @@ Rectangle {
             font.family: Theme.monoFamily
             font.pixelSize: Theme.fontLarge
             font.weight: Font.DemiBold
+        }
+        FlatButton {
+            compact: true
+            text: "⧉"
+            //% "Show or hide the floating timer"
+            Accessible.name: qsTrId("ui.action.floatingTimer")
+            ToolTip.text: Accessible.name
+            ToolTip.visible: hovered
+            ToolTip.delay: 500
+            onClicked: strip.floatingToggled()
         }
         PrimaryButton {
             objectName: "timerButton"
