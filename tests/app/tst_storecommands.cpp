@@ -173,7 +173,9 @@ private slots:
         const QByteArray total =
             QByteArray::number(60 + ann(u"timer stop --json"_s).object()[u"logged_seconds"_s].toInteger());
         QCOMPARE(sql("SELECT time_spent_seconds FROM tasks WHERE id = $1", task), total);
-        // Toggling goes on with the task of the newest entry, then stops what runs.
+        // Toggling goes on with the task of the newest entry, then stops what runs. A logged entry
+        // ends at a whole second, so it is the newer one only from the next second on.
+        QTest::qWait(1000);
         QCOMPARE(ann(u"log %1 1"_s.arg(addTask(m_studio, u"Follow-ups"_s))).code, 0);
         QCOMPARE(ann(u"timer toggle"_s).out, u"Timer started on Follow-ups.\n"_s);
         QVERIFY(ann(u"timer toggle"_s).out.startsWith(u"Stopped Follow-ups: "_s));
