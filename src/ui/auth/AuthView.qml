@@ -101,6 +101,12 @@ Rectangle {
                     visible: root.mode === "onboarding"
                     onDone: root.show("signUp")
                 }
+                FlatButton {
+                    Layout.fillWidth: true
+                    visible: root.mode === "onboarding"
+                    text: qsTrId("ui.auth.haveAccount")
+                    onClicked: root.show("signIn")
+                }
 
                 // Remembered accounts: one click switches.
                 Repeater {

@@ -6,6 +6,8 @@ Button {
     id: control
     property bool danger: false
     property bool compact: false
+    // A picture instead of the text; the text stays as the accessible name.
+    property url iconSource
     flat: true
     implicitHeight: compact ? 24 : Theme.controlHeight
     leftPadding: compact ? Theme.space2 : Theme.space3
@@ -13,7 +15,13 @@ Button {
     font.pixelSize: compact ? Theme.fontSmall : Theme.fontBody
     Accessible.name: text
     contentItem: Text {
-        text: control.text
+        text: control.iconSource.toString() === "" ? control.text : ""
+        Image {
+            anchors.centerIn: parent
+            source: control.iconSource
+            sourceSize: Qt.size(16, 16)
+            visible: control.iconSource.toString() !== ""
+        }
         font: control.font
         color: control.danger ? Theme.danger : (control.checked ? Theme.accent : Theme.text)
         horizontalAlignment: Text.AlignHCenter

@@ -12,6 +12,9 @@ Window {
     readonly property var workspace: Shell.workspace
     width: 280
     height: 56
+    // Until the person moves it: the top right corner, clear of panels.
+    x: Screen.desktopAvailableWidth - width - Theme.space5
+    y: Theme.space6 + Theme.space4
     visible: false
     color: "transparent"
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint

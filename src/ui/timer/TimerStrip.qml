@@ -57,9 +57,9 @@ Rectangle {
         }
         FlatButton {
             compact: true
-            text: "⧉"
+            iconSource: "qrc:/Morvane/Ui/icons/floating.svg"
             //% "Show or hide the floating timer"
-            Accessible.name: qsTrId("ui.action.floatingTimer")
+            text: qsTrId("ui.action.floatingTimer")
             ToolTip.text: Accessible.name
             ToolTip.visible: hovered
             ToolTip.delay: 500
