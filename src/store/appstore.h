@@ -346,6 +346,9 @@ public:
     [[nodiscard]] std::optional<double> billedFraction(const QString &projectId) const;
     // The same share for one task.
     [[nodiscard]] std::optional<double> taskBilledFraction(const QString &taskId) const;
+    // The same share for every task with tracked time, in one pass over the unbilled work: a list
+    // of thousands of tasks asking one by one would go through all of it for each.
+    [[nodiscard]] QHash<QString, double> taskBilledFractions() const;
     // Where an invoice of the project should start: the day of its earliest unbilled work.
     [[nodiscard]] std::optional<QDate> smartInvoiceStartDate(const QString &projectId) const;
     // The object path of an invoice's PDF: the owner's folder, "invoices", the file.

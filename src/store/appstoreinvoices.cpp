@@ -217,6 +217,12 @@ QString safeFileName(QString name)
     return name.isEmpty() ? u"invoice"_s : name;
 }
 
+// Of `tracked` seconds, the share no longer unbilled.
+double billedShare(qint64 tracked, qint64 unbilled)
+{
+    return std::clamp(double(tracked - unbilled) / double(tracked), 0.0, 1.0);
+}
+
 } // namespace
 
 QString AppStore::invoicePdfPath(const QString &ownerId, const QString &fileName)
@@ -840,7 +846,7 @@ std::optional<double> AppStore::billedFraction(const QString &projectId) const
             unbilled += entry.durationSeconds;
         }
     }
-    return std::clamp(double(tracked - unbilled) / double(tracked), 0.0, 1.0);
+    return billedShare(tracked, unbilled);
 }
 
 std::optional<double> AppStore::taskBilledFraction(const QString &taskId) const
@@ -855,7 +861,24 @@ std::optional<double> AppStore::taskBilledFraction(const QString &taskId) const
             unbilled += entry.durationSeconds;
         }
     }
-    return std::clamp(double(item->timeSpentSeconds - unbilled) / double(item->timeSpentSeconds), 0.0, 1.0);
+    return billedShare(item->timeSpentSeconds, unbilled);
+}
+
+QHash<QString, double> AppStore::taskBilledFractions() const
+{
+    QHash<QString, qint64> unbilled;
+    for (const TimeEntry &entry : m_unbilledEntries) {
+        unbilled[entry.taskId] += entry.durationSeconds;
+    }
+    QHash<QString, double> fractions;
+    for (const QList<TaskItem> &tasks : m_tasksByProject) {
+        for (const TaskItem &task : tasks) {
+            if (task.timeSpentSeconds > 0) {
+                fractions.insert(task.id, billedShare(task.timeSpentSeconds, unbilled.value(task.id)));
+            }
+        }
+    }
+    return fractions;
 }
 
 std::optional<QDate> AppStore::smartInvoiceStartDate(const QString &projectId) const

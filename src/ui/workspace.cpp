@@ -113,6 +113,7 @@ void Workspace::setStore(AppStore *store)
         disconnect(m_store->timerObject(), nullptr, this, nullptr);
     }
     m_store = store;
+    m_rowCache.clear();
     m_inspector->setStore(store);
     if (store) {
         for (auto signal : {&AppStore::projectsChanged, &AppStore::tasksChanged, &AppStore::teamsChanged,
@@ -121,6 +122,13 @@ void Workspace::setStore(AppStore *store)
                             &AppStore::selectedProjectIdChanged, &AppStore::unbilledEntriesChanged,
                             &AppStore::profileChanged, &AppStore::runningTaskChanged}) {
             connect(store, signal, this, &Workspace::scheduleRebuild);
+        }
+        // Everything but the choice of rows (search, filter, sort, project) can change what a row says.
+        for (auto signal : {&AppStore::projectsChanged, &AppStore::tasksChanged, &AppStore::teamsChanged,
+                            &AppStore::savingTaskIdsChanged, &AppStore::selectedTaskIdsChanged,
+                            &AppStore::unbilledEntriesChanged, &AppStore::profileChanged,
+                            &AppStore::runningTaskChanged}) {
+            connect(store, signal, this, [this] { m_rowCache.clear(); });
         }
         connect(store, &AppStore::projectsChanged, this, &Workspace::projectChanged);
         connect(store, &AppStore::teamsChanged, this, &Workspace::projectChanged);
@@ -162,6 +170,7 @@ void Workspace::setStore(AppStore *store)
 
 void Workspace::retranslate()
 {
+    m_rowCache.clear();
     rebuildSidebar();
     rebuildTasks();
     emit m_inspector->changed();
@@ -722,8 +731,11 @@ QVariantList Workspace::recentTasks() const
     }
     QStringList seen;
     const auto add = [&](const QString &taskId) {
+        if (seen.contains(taskId)) {
+            return;
+        }
         const std::optional<TaskItem> task = m_store->task(taskId);
-        if (!task || seen.contains(taskId) || seen.size() >= 5) {
+        if (!task) {
             return;
         }
         seen << taskId;
@@ -735,7 +747,11 @@ QVariantList Workspace::recentTasks() const
     if (!m_lastRunningTaskId.isEmpty()) {
         add(m_lastRunningTaskId);
     }
+    // Newest first: the first five tasks found are the list, however many entries follow.
     for (const TimeEntry &entry : m_store->recentEntries()) {
+        if (seen.size() >= 5) {
+            break;
+        }
         add(entry.taskId);
     }
     return list;
@@ -823,52 +839,66 @@ void Workspace::rebuildSidebar()
 QList<TaskItem> Workspace::visibleTasks() const
 {
     const QString projectId = m_store->selectedProjectId();
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    QList<TaskItem> tasks;
+    const QString query = m_store->searchQuery().trimmed();
+    const auto matches = [&](const TaskItem &task) {
+        return query.isEmpty() || task.title.contains(query, Qt::CaseInsensitive) ||
+               (task.description && task.description->contains(query, Qt::CaseInsensitive));
+    };
     if (!projectId.isEmpty()) {
-        tasks = m_store->filteredSortedTasks(projectId);
-    } else {
-        // All projects: the active projects' tasks as one list, in the same order rules.
-        QList<TaskItem> all;
-        for (const Project &project : m_store->projects()) {
-            if (project.status == ProjectStatus::Active) {
-                all << m_store->tasks(project.id);
+        QList<TaskItem> found = m_store->filteredSortedTasks(projectId);
+        found.removeIf([&](const TaskItem &task) { return !matches(task); });
+        return found;
+    }
+    // All projects: the active projects' tasks as one list, in the same order rules. The search
+    // goes first, so that a narrowing search sorts few tasks; the sorts are stable, so the order
+    // is the same either way.
+    QList<TaskItem> all;
+    for (const Project &project : m_store->projects()) {
+        if (project.status == ProjectStatus::Active) {
+            for (const TaskItem &task : m_store->tasksByProject().value(project.id)) {
+                if (matches(task)) {
+                    all << task;
+                }
             }
         }
-        std::stable_sort(all.begin(), all.end(), [](const TaskItem &a, const TaskItem &b) {
-            return a.createdAt.value_or(QString()) > b.createdAt.value_or(QString());
-        });
-        tasks = TaskOrder::filterAndSort(all, m_store->taskFilter(), m_store->taskSort(), now);
     }
-    const QString query = m_store->searchQuery().trimmed();
-    if (query.isEmpty()) {
-        return tasks;
-    }
-    QList<TaskItem> found;
-    for (const TaskItem &task : tasks) {
-        if (task.title.contains(query, Qt::CaseInsensitive) ||
-            task.description.value_or(QString()).contains(query, Qt::CaseInsensitive)) {
-            found << task;
-        }
-    }
-    return found;
+    static const QString never;
+    std::stable_sort(all.begin(), all.end(), [](const TaskItem &a, const TaskItem &b) {
+        return (a.createdAt ? *a.createdAt : never) > (b.createdAt ? *b.createdAt : never);
+    });
+    return TaskOrder::filterAndSort(all, m_store->taskFilter(), m_store->taskSort(), QDateTime::currentDateTimeUtc());
 }
 
-QVariantHash Workspace::taskRow(const TaskItem &task) const
+// What every row of one rebuild shares, looked up once: asked per task, the projects, roles and
+// unbilled work would be searched ten thousand times over for a busy account.
+struct Workspace::RowContext
 {
-    const std::optional<Project> project = m_store->project(task.projectId);
-    const Project *projectPtr = project ? &*project : nullptr;
-    const double rate = m_store->defaultHourlyRate();
-    const Billing billing = Earnings::resolve(&task, projectPtr, rate);
-    const BilledChip::Chip chip = m_store->unbilledReady()
-                                      ? BilledChip::classify(m_store->taskBilledFraction(task.id), true)
-                                      : BilledChip::Chip{};
+    QHash<QString, Project> projects;
+    QHash<QString, bool> editable;
+    QHash<QString, double> billed;
+    bool unbilledReady = false;
+    double rate = 0;
+    QString currency;
+    QLocale locale;
+    QDate today = QDate::currentDate();
+};
+
+QVariantHash Workspace::taskRow(const TaskItem &task, const RowContext &context) const
+{
+    const auto project = context.projects.constFind(task.projectId);
+    const Project *projectPtr = project != context.projects.cend() ? &*project : nullptr;
+    const Billing billing = Earnings::resolve(&task, projectPtr, context.rate);
+    const auto billed = context.billed.constFind(task.id);
+    const BilledChip::Chip chip =
+        context.unbilledReady
+            ? BilledChip::classify(billed != context.billed.cend() ? std::optional(*billed) : std::nullopt, true)
+            : BilledChip::Chip{};
     QString due;
     bool overdue = false;
     if (task.dueDate && task.dueDate->size() >= 10) {
         const QDate day = QDate::fromString(task.dueDate->left(10), Qt::ISODate);
-        due = QLocale().toString(day, QLocale::ShortFormat);
-        overdue = task.status != TaskStatus::Completed && day < QDate::currentDate();
+        due = context.locale.toString(day, QLocale::ShortFormat);
+        overdue = task.status != TaskStatus::Completed && day < context.today;
     }
     QString subtasks;
     if (task.attachments && task.attachments->subtasks && !task.attachments->subtasks->isEmpty()) {
@@ -881,7 +911,7 @@ QVariantHash Workspace::taskRow(const TaskItem &task) const
         {u"id"_s, task.id},
         {u"title"_s, task.title},
         {u"projectId"_s, task.projectId},
-        {u"projectName"_s, project ? project->name : QString()},
+        {u"projectName"_s, projectPtr ? projectPtr->name : QString()},
         {u"status"_s, Wire::enumName(task.status)},
         {u"priority"_s, Wire::enumName(task.priority)},
         {u"due"_s, due},
@@ -890,13 +920,13 @@ QVariantHash Workspace::taskRow(const TaskItem &task) const
         {u"chipLabel"_s, chip.label},
         {u"chipTone"_s, toneName(chip.tone)},
         {u"chipOpacity"_s, chip.opacity},
-        {u"price"_s, Earnings::describe(billing, m_store->currency(),
-                                        Earnings::legacyRate(&task, projectPtr, rate))},
+        {u"price"_s, Earnings::describe(billing, context.currency,
+                                        Earnings::legacyRate(&task, projectPtr, context.rate))},
         {u"saving"_s, m_store->savingTaskIds().contains(task.id)},
         {u"checked"_s, m_store->selectedTaskIds().contains(task.id)},
         {u"running"_s, task.status == TaskStatus::InProgress},
         {u"subtasks"_s, subtasks},
-        {u"editable"_s, m_store->isProjectAdmin(task.projectId)},
+        {u"editable"_s, context.editable.value(task.projectId)},
     };
 }
 
@@ -905,9 +935,33 @@ void Workspace::rebuildTasks()
     QList<QVariantHash> rows;
     if (m_store) {
         const QList<TaskItem> tasks = visibleTasks();
+        // A row says "overdue" against today.
+        if (m_rowCacheDay != QDate::currentDate()) {
+            m_rowCache.clear();
+            m_rowCacheDay = QDate::currentDate();
+        }
+        std::optional<RowContext> context;
         rows.reserve(tasks.size());
         for (const TaskItem &task : tasks) {
-            rows << taskRow(task);
+            const auto cached = m_rowCache.constFind(task.id);
+            if (cached != m_rowCache.cend()) {
+                rows << *cached;
+                continue;
+            }
+            if (!context) {
+                context.emplace();
+                for (const Project &project : m_store->projects()) {
+                    context->projects.insert(project.id, project);
+                    context->editable.insert(project.id, m_store->isProjectAdmin(project.id));
+                }
+                context->unbilledReady = m_store->unbilledReady();
+                if (context->unbilledReady) {
+                    context->billed = m_store->taskBilledFractions();
+                }
+                context->rate = m_store->defaultHourlyRate();
+                context->currency = m_store->currency();
+            }
+            rows << m_rowCache.insert(task.id, taskRow(task, *context)).value();
         }
     }
     m_tasks->setRows(std::move(rows));

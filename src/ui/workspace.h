@@ -160,7 +160,8 @@ private:
     void scheduleRebuild();
     void setMessage(const QString &message);
     [[nodiscard]] QList<TaskItem> visibleTasks() const;
-    [[nodiscard]] QVariantHash taskRow(const TaskItem &task) const;
+    struct RowContext;
+    [[nodiscard]] QVariantHash taskRow(const TaskItem &task, const RowContext &context) const;
 
     QPointer<AppStore> m_store;
     RowsModel *m_sidebar;
@@ -171,4 +172,8 @@ private:
     QString m_lastRunningTaskId;
     // Many store signals arrive together after a refresh; the rows are rebuilt once.
     QTimer m_rebuild;
+    // Built task rows by id, kept while only the choice of rows changes: a keystroke in the search
+    // then picks rows instead of building thousands again.
+    QHash<QString, QVariantHash> m_rowCache;
+    QDate m_rowCacheDay;
 };

@@ -380,6 +380,8 @@ private slots:
         // Work logged now counts as unbilled without another read of the view.
         QVERIFY(runBlocking(store().logManualMinutes(task, 60)));
         QCOMPARE(store().taskBilledFraction(task), std::optional(0.25));
+        // The whole list's shares at once agree with the one task's.
+        QCOMPARE(store().taskBilledFractions().value(task, -1), 0.25);
     }
 };
 
