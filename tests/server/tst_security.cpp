@@ -512,6 +512,8 @@ private slots:
         // clang-format off
         const Rule rules[]{
             {"projects", "owner cannot hand a project to someone else", "PATCH owner/private", "user_id=$stranger", "403"},
+            // The editor still sees the row afterwards, so only the policy's owner check refuses this.
+            {"projects", "editor cannot take over a team project", "PATCH owner/team", "user_id=$editor", "403"},
             {"projects", "viewer cannot move a project into the team", "PATCH viewer/private", "team_id=$team", "403"},
             {"projects", "editor can move a project into the team", "PATCH editor/private", "team_id=$team", "done"},
             {"tasks", "editor cannot move a team task into the owner's private project", "PATCH owner/team",

@@ -143,7 +143,8 @@ Rectangle {
                         id: moveMenu
                         y: moveButton.height
                         Repeater {
-                            model: root.workspace.projectChoices
+                            // Built when the menu opens: hundreds of projects cost the list's start.
+                            model: moveMenu.visible ? root.workspace.projectChoices : []
                             MenuItem {
                                 required property var modelData
                                 text: modelData.name
