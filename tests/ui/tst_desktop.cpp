@@ -1,4 +1,6 @@
 #include "backend/secretstore.h"
+#include "pg/pgconnection.h"
+#include "store/idlewatcher.h"
 #include "i18n/language.h"
 #include "store/storedevice.h"
 #include "support/testbackend.h"
@@ -49,6 +51,7 @@ private:
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QQuickWindow *m_window = nullptr;
     std::vector<std::unique_ptr<QAbstractItemModelTester>> m_testers;
+    qint64 m_clockOffset = 0;
 
     Workspace *workspace() const { return m_shell->workspace(); }
     AppStore *store() const { return m_shell->store(); }
@@ -152,6 +155,8 @@ private slots:
         };
         options.settings = std::make_shared<QSettings>(m_dir.filePath(u"morvane.conf"_s), QSettings::IniFormat);
         options.followDesktopScheme = false;
+        // Real time, moved on by the tests that need a later moment.
+        options.clock = [this] { return QDateTime::currentDateTimeUtc().addSecs(m_clockOffset); };
         m_shell = std::make_unique<DesktopShell>(options);
         m_shell->setColorScheme(u"light"_s);
         DesktopShell::setInstance(m_shell.get());
@@ -305,6 +310,61 @@ private slots:
         QTRY_COMPARE(workspace()->teams().size(), 1);
         shoot(u"team"_s);
         item("mainView")->setProperty("teamId", QString());
+    }
+
+    void eachIdleChoiceSettlesTheAbsence_data()
+    {
+        QTest::addColumn<QString>("choice");
+        QTest::addColumn<bool>("running");
+        QTest::addColumn<bool>("logged");
+        QTest::newRow("keep the time") << u"keep"_s << true << false;
+        QTest::newRow("discard the idle time") << u"discard"_s << false << true;
+        QTest::newRow("discard it and go on") << u"discardAndContinue"_s << true << true;
+    }
+
+    // The run began half an hour ago; the person left twenty minutes ago and is back now.
+    void eachIdleChoiceSettlesTheAbsence()
+    {
+        QFETCH(QString, choice);
+        QFETCH(bool, running);
+        QFETCH(bool, logged);
+        website();
+        const QString taskId = workspace()->tasks()->rows().first().value(u"id"_s).toString();
+        workspace()->selectTask(taskId);
+        workspace()->startTimer(taskId);
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->runningTaskId(), taskId, patience);
+        // Each absence is a new one, an hour after the last was settled.
+        m_clockOffset += 3600;
+        const QDateTime now = QDateTime::currentDateTimeUtc().addSecs(m_clockOffset);
+        m_backend.database().exec("UPDATE tasks SET started_at = $2 WHERE id = $1",
+                                  {taskId.toUtf8(), now.addSecs(-30 * 60).toString(Qt::ISODate).toUtf8()});
+        QVERIFY(runBlocking(store()->refreshAll()));
+        const qint64 trackedBefore = store()->task(taskId)->timeSpentSeconds;
+
+        auto *idle = qobject_cast<IdleWatcher *>(m_shell->idleWatcher());
+        QVERIFY(idle);
+        idle->onIdleTime(20 * 60 * 1000);
+        idle->onIdleTime(0);
+        QVERIFY(idle->isAsking());
+        QObject *dialog = m_window->findChild<QObject *>(u"idleDialog"_s);
+        QTRY_VERIFY(dialog && dialog->property("visible").toBool());
+        if (choice == u"keep") {
+            shoot(u"idle"_s);
+        }
+        QVERIFY(QMetaObject::invokeMethod(idle, choice.toLatin1().constData()));
+        QTRY_VERIFY(!dialog->property("visible").toBool());
+
+        if (logged) {
+            // Ten minutes of work, up to the moment the person left.
+            QTRY_VERIFY_WITH_TIMEOUT(store()->task(taskId)->timeSpentSeconds > trackedBefore, patience);
+            QVERIFY(qAbs(store()->task(taskId)->timeSpentSeconds - trackedBefore - 600) < 30);
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(workspace()->runningTaskId() == taskId, running, patience);
+        if (!logged) {
+            QCOMPARE(store()->task(taskId)->timeSpentSeconds, trackedBefore);
+        }
+        workspace()->stopTimer();
+        QTRY_VERIFY_WITH_TIMEOUT(!workspace()->timerRunning(), patience);
     }
 
     void thePaletteRanksTheObviousHitFirst()

@@ -23,7 +23,7 @@ Popup {
     // Esc, or the question withdrawn because the timer stopped elsewhere: the time stays.
     onClosed: if (watcher.asking) watcher.keep()
 
-    function clock(instant) { return Qt.formatTime(instant, Locale.ShortFormat) }
+    function clock(instant) { return instant.toLocaleTimeString(Qt.locale(), Locale.ShortFormat) }
 
     contentItem: ColumnLayout {
         spacing: Theme.space3
