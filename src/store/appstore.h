@@ -436,6 +436,8 @@ private:
     void setTeams(QList<Team> teams, QHash<QString, QList<TeamMember>> members);
     void setInvitations(QList<TeamInvitation> invitations);
     QCoro::Task<bool> answerInvitation(QString teamId, bool accept);
+    // Changes a member's role, or removes the member without one.
+    QCoro::Task<bool> writeMember(QString teamId, QString userId, std::optional<TeamRole> role);
     void setClients(QList<Client> all);
     void setSelectedTaskIds(QSet<QString> ids);
     void mergeProject(const Project &project);

@@ -242,33 +242,17 @@ QCoro::Task<InviteOutcome> AppStore::inviteMember(QString teamId, QString email,
 
 QCoro::Task<bool> AppStore::setMemberRole(QString teamId, QString userId, TeamRole role)
 {
-    const char *const logPrefix = "Change member role failed: ";
-    std::optional<Session> session = co_await openSession(logPrefix);
-    if (!session) {
-        co_return false;
-    }
-    try {
-        const QueryItems query{{u"team_id"_s, u"eq."_s + teamId}, {u"user_id"_s, u"eq."_s + userId}};
-        const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
-            return client.update<TeamMember>(u"team_members"_s, token, query, TeamMemberRolePatch{role});
-        };
-        if ((co_await authorized(*session, rowsRequest)).isEmpty()) {
-            failed(logPrefix, u"no row matched"_s, StoreText::memberNotChanged());
-            co_return false;
-        }
-    } catch (const MorvaneError &error) {
-        failed(logPrefix, error.message(), isRefusal(error) ? StoreText::memberNotChanged() : error.message());
-        co_return false;
-    }
-    if (isCurrent(*session)) {
-        co_await reloadMembers(*session, teamId);
-    }
-    co_return true;
+    co_return co_await writeMember(teamId, userId, role);
 }
 
 QCoro::Task<bool> AppStore::removeMember(QString teamId, QString userId)
 {
-    const char *const logPrefix = "Remove member failed: ";
+    co_return co_await writeMember(teamId, userId, std::nullopt);
+}
+
+QCoro::Task<bool> AppStore::writeMember(QString teamId, QString userId, std::optional<TeamRole> role)
+{
+    const char *const logPrefix = role ? "Change member role failed: " : "Remove member failed: ";
     std::optional<Session> session = co_await openSession(logPrefix);
     if (!session) {
         co_return false;
@@ -276,7 +260,8 @@ QCoro::Task<bool> AppStore::removeMember(QString teamId, QString userId)
     try {
         const QueryItems query{{u"team_id"_s, u"eq."_s + teamId}, {u"user_id"_s, u"eq."_s + userId}};
         const auto rowsRequest = [&, client = m_auth.client()](const QString &token) {
-            return deleteReturning<TeamMember>(client, u"team_members"_s, token, query);
+            return role ? client.update<TeamMember>(u"team_members"_s, token, query, TeamMemberRolePatch{*role})
+                        : deleteReturning<TeamMember>(client, u"team_members"_s, token, query);
         };
         if ((co_await authorized(*session, rowsRequest)).isEmpty()) {
             failed(logPrefix, u"no row matched"_s, StoreText::memberNotChanged());
@@ -290,7 +275,7 @@ QCoro::Task<bool> AppStore::removeMember(QString teamId, QString userId)
         co_return false;
     }
     // Leaving a team takes its projects out of sight: everything is read again.
-    if (userId == m_currentUserId) {
+    if (!role && userId == m_currentUserId) {
         co_return co_await refreshAll();
     }
     co_await reloadMembers(*session, teamId);

@@ -193,28 +193,25 @@ QCoro::Task<> Preferences::readLocal()
 
 void Preferences::startLocal()
 {
-    [](QPointer<Preferences> self) -> QCoro::Task<> {
-        self->setBusy(true);
-        try {
-            co_await Startup::localServer().ensureRunning();
-        } catch (const LocalServerError &error) {
-            if (self) {
-                self->setMessage(error.message());
-            }
-        }
-        if (self) {
-            self->setBusy(false);
-            co_await self->readLocal();
-        }
-    }(this);
+    changeLocal(true);
 }
 
 void Preferences::stopLocal()
 {
-    [](QPointer<Preferences> self) -> QCoro::Task<> {
+    changeLocal(false);
+}
+
+void Preferences::changeLocal(bool run)
+{
+    [](QPointer<Preferences> self, bool run) -> QCoro::Task<> {
         self->setBusy(true);
         try {
-            co_await Startup::localServer().stop();
+            const LocalServer server = Startup::localServer();
+            if (run) {
+                co_await server.ensureRunning();
+            } else {
+                co_await server.stop();
+            }
         } catch (const LocalServerError &error) {
             if (self) {
                 self->setMessage(error.message());
@@ -224,7 +221,7 @@ void Preferences::stopLocal()
             self->setBusy(false);
             co_await self->readLocal();
         }
-    }(this);
+    }(this, run);
 }
 
 bool Preferences::deleteAccount(const QString &confirmation)

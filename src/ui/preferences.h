@@ -72,6 +72,7 @@ signals:
 
 private:
     QCoro::Task<> readLocal();
+    void changeLocal(bool run);
     void setBusy(bool busy);
     void setMessage(const QString &message);
 
