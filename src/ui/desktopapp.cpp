@@ -91,7 +91,12 @@ int run(int argc, char *argv[])
     QObject::connect(&instance, &QLocalServer::newConnection, &shell, [&] {
         while (QLocalSocket *socket = instance.nextPendingConnection()) {
             QObject::connect(socket, &QLocalSocket::readyRead, socket, [socket, &shell] {
-                if (!socket->peek(1 << 16).contains("\n\n")) {
+                // A handover is a few addresses; anything longer is not one of ours.
+                constexpr qint64 handoverLimit = 1 << 16;
+                if (!socket->peek(handoverLimit).contains("\n\n")) {
+                    if (socket->bytesAvailable() >= handoverLimit) {
+                        socket->abort();
+                    }
                     return;
                 }
                 for (const QByteArray &line : socket->readAll().split('\n')) {

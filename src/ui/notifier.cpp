@@ -102,7 +102,11 @@ void Notifier::send(const Pending &notification)
 {
     const bool buttons = m_capabilities->contains(u"actions"_s);
     const uint replaces = m_shown.key(notification.key);
-    const QDBusMessage call = notifyMessage(notification.title, notification.body,
+    // Bodies carry names that others typed (a team mate's task title); a service that reads markup
+    // would otherwise show their tags, links and images.
+    const QString body = m_capabilities->contains(u"body-markup"_s) ? notification.body.toHtmlEscaped()
+                                                                     : notification.body;
+    const QDBusMessage call = notifyMessage(notification.title, body,
                                             buttons ? notification.actions : QList<Action>{}, replaces);
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, key = notification.key, replaces] {

@@ -20,13 +20,15 @@ public:
     QStringList capabilities;
     QList<uint> replaced;
     QList<QStringList> actions;
+    QStringList bodies;
     QList<uint> closed;
 
 public slots:
     QStringList GetCapabilities() { return capabilities; }
-    uint Notify(const QString &, uint replaces, const QString &, const QString &, const QString &,
+    uint Notify(const QString &, uint replaces, const QString &, const QString &, const QString &body,
                 const QStringList &buttons, const QVariantMap &, int)
     {
+        bodies.append(body);
         replaced.append(replaces);
         actions.append(buttons);
         return replaces != 0 ? replaces : uint(replaced.size()) + 40;
@@ -65,15 +67,20 @@ private slots:
     {
         QTest::addColumn<QStringList>("capabilities");
         QTest::addColumn<QStringList>("sentActions");
+        QTest::addColumn<QString>("sentBody");
         QTest::newRow("buttons") << QStringList{u"body"_s, u"actions"_s}
-                                 << QStringList{u"keep"_s, u"Keep"_s, u"discard"_s, u"Discard"_s};
-        QTest::newRow("no buttons") << QStringList{u"body"_s} << QStringList{};
+                                 << QStringList{u"keep"_s, u"Keep"_s, u"discard"_s, u"Discard"_s}
+                                 << u"<b>Design</b> & review"_s;
+        // A team mate's title is text, not markup, where the service would read markup.
+        QTest::newRow("no buttons, markup read") << QStringList{u"body"_s, u"body-markup"_s} << QStringList{}
+                                                 << u"&lt;b&gt;Design&lt;/b&gt; &amp; review"_s;
     }
 
     void actionsWhereTheServiceShowsThem()
     {
         QFETCH(QStringList, capabilities);
         QFETCH(QStringList, sentActions);
+        QFETCH(QString, sentBody);
         QDBusConnection serviceBus = bus(u"service"_s);
         NotificationService service;
         service.capabilities = capabilities;
@@ -85,10 +92,11 @@ private slots:
             Notifier notifier(bus(u"app"_s));
             QSignalSpy chosen(&notifier, &Notifier::actionInvoked);
             const QList<Notifier::Action> actions{{u"keep"_s, u"Keep"_s}, {u"discard"_s, u"Discard"_s}};
-            notifier.notify(u"idle"_s, u"Away for 12 minutes"_s, u"Design review"_s, actions);
+            notifier.notify(u"idle"_s, u"Away for 12 minutes"_s, u"<b>Design</b> & review"_s, actions);
             notifier.notify(u"reminder"_s, u"Still working?"_s, QString());
             QTRY_COMPARE(service.replaced, (QList<uint>{0, 0}));
             QCOMPARE(service.actions.first(), sentActions);
+            QCOMPARE(service.bodies.first(), sentBody);
 
             // The same key replaces what the service shows instead of adding a second one.
             notifier.notify(u"idle"_s, u"Away for 13 minutes"_s, u"Design review"_s, actions);

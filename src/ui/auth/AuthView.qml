@@ -40,6 +40,7 @@ Rectangle {
                 spacing: Theme.space3
 
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     color: Theme.text
                     font.pixelSize: Theme.fontTitle
@@ -55,6 +56,7 @@ Rectangle {
                         : qsTrId("ui.auth.signInTitle")
                 }
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     color: Theme.muted
                     font.pixelSize: Theme.fontBody
@@ -153,6 +155,7 @@ Rectangle {
                     onAccepted: submit.clicked()
                 }
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     visible: root.mode === "signUp"
                     color: Theme.muted
@@ -170,6 +173,7 @@ Rectangle {
                     font.pixelSize: Theme.fontBody
                     onToggled: if (root.auth) root.auth.rememberMe = checked
                     contentItem: Text {
+                        textFormat: Text.PlainText
                         leftPadding: remember.indicator.width + Theme.space2
                         text: remember.text
                         color: Theme.text

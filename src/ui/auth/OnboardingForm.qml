@@ -60,6 +60,7 @@ ColumnLayout {
         inputMethodHints: Qt.ImhFormattedNumbersOnly
     }
     Text {
+        textFormat: Text.PlainText
         visible: rateField.invalid
         color: Theme.danger
         font.pixelSize: Theme.fontSmall

@@ -21,6 +21,7 @@ Rectangle {
         anchors.rightMargin: Theme.space2
         spacing: Theme.space2
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             text: banner.text
             color: banner.error ? Theme.danger : Theme.text

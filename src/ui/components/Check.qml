@@ -20,6 +20,7 @@ CheckBox {
         border.color: control.checked || control.visualFocus ? Theme.accent : Theme.muted
         opacity: control.enabled ? 1 : 0.5
         Text {
+            textFormat: Text.PlainText
             anchors.centerIn: parent
             text: "✓"
             visible: control.checked
@@ -29,6 +30,7 @@ CheckBox {
         }
     }
     contentItem: Text {
+        textFormat: Text.PlainText
         leftPadding: control.text ? control.indicator.width + control.spacing : control.indicator.width
         text: control.text
         font: control.font

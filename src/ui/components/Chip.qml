@@ -19,6 +19,7 @@ Rectangle {
     Accessible.role: Accessible.StaticText
     Accessible.name: text
     Text {
+        textFormat: Text.PlainText
         id: label
         anchors.centerIn: parent
         text: chip.text

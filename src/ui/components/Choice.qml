@@ -20,6 +20,7 @@ ComboBox {
     function sync() { currentIndex = Math.max(0, indexOfValue(value)) }
 
     contentItem: Text {
+        textFormat: Text.PlainText
         leftPadding: Theme.space2
         rightPadding: control.indicator.width
         text: control.displayText
@@ -29,6 +30,7 @@ ComboBox {
         elide: Text.ElideRight
     }
     indicator: Text {
+        textFormat: Text.PlainText
         x: control.width - width - Theme.space2
         y: (control.height - height) / 2
         text: "▾"
@@ -50,6 +52,7 @@ ComboBox {
         height: Theme.controlHeight
         highlighted: control.highlightedIndex === index
         contentItem: Text {
+            textFormat: Text.PlainText
             text: option.modelData[control.textRole] !== undefined ? option.modelData[control.textRole]
                                                                       : option.modelData
             color: Theme.text

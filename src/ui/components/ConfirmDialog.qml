@@ -24,6 +24,7 @@ Popup {
     contentItem: ColumnLayout {
         spacing: Theme.space3
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             text: dialog.title
             color: Theme.text
@@ -32,6 +33,7 @@ Popup {
             wrapMode: Text.Wrap
         }
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             text: dialog.body
             color: Theme.muted

@@ -8,6 +8,7 @@ ColumnLayout {
     property alias hint: body.text
     spacing: Theme.space2
     Text {
+        textFormat: Text.PlainText
         id: heading
         Layout.alignment: Qt.AlignHCenter
         Layout.maximumWidth: 420
@@ -18,6 +19,7 @@ ColumnLayout {
         wrapMode: Text.Wrap
     }
     Text {
+        textFormat: Text.PlainText
         id: body
         Layout.alignment: Qt.AlignHCenter
         Layout.maximumWidth: 420

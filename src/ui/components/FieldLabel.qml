@@ -2,6 +2,7 @@ import QtQuick
 import Morvane.Ui
 
 Text {
+    textFormat: Text.PlainText
     color: Theme.muted
     font.pixelSize: Theme.fontSmall
     font.weight: Font.DemiBold

@@ -15,6 +15,7 @@ Button {
     font.pixelSize: compact ? Theme.fontSmall : Theme.fontBody
     Accessible.name: text
     contentItem: Text {
+        textFormat: Text.PlainText
         text: control.iconSource.toString() === "" ? control.text : ""
         Image {
             anchors.centerIn: parent

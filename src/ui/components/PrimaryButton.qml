@@ -12,6 +12,7 @@ Button {
     font.weight: Font.DemiBold
     Accessible.name: text
     contentItem: Text {
+        textFormat: Text.PlainText
         text: control.text
         font: control.font
         color: Theme.textOnAccent

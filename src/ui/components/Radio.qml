@@ -28,6 +28,7 @@ RadioButton {
         }
     }
     contentItem: Text {
+        textFormat: Text.PlainText
         leftPadding: control.indicator.width + control.spacing
         text: control.text
         font: control.font

@@ -18,6 +18,7 @@ ColumnLayout {
             text: qsTrId("ui.entries.title")
         }
         Text {
+            textFormat: Text.PlainText
             //% "Total %1"
             text: qsTrId("ui.entries.total").arg(root.inspector.tracked)
             color: Theme.muted
@@ -54,6 +55,7 @@ ColumnLayout {
         }
     }
     Text {
+        textFormat: Text.PlainText
         visible: minutes.bad
         color: Theme.danger
         font.pixelSize: Theme.fontSmall
@@ -62,6 +64,7 @@ ColumnLayout {
     }
 
     Text {
+        textFormat: Text.PlainText
         visible: root.inspector.entries.length === 0
         Layout.fillWidth: true
         wrapMode: Text.Wrap
@@ -94,11 +97,13 @@ ColumnLayout {
                     Layout.fillWidth: true
                     spacing: Theme.space2
                     Text {
+                        textFormat: Text.PlainText
                         text: entry.modelData.day
                         color: Theme.text
                         font.pixelSize: Theme.fontSmall
                     }
                     Text {
+                        textFormat: Text.PlainText
                         Layout.fillWidth: true
                         text: entry.modelData.span
                         color: Theme.muted
@@ -112,6 +117,7 @@ ColumnLayout {
                         text: qsTrId("ui.entries.billed")
                     }
                     Text {
+                        textFormat: Text.PlainText
                         text: entry.modelData.duration
                         color: Theme.text
                         font.family: Theme.monoFamily
@@ -171,6 +177,7 @@ ColumnLayout {
                         Accessible.name: qsTrId("ui.entries.length")
                     }
                     Text {
+                        textFormat: Text.PlainText
                         id: problem
                         Layout.columnSpan: 2
                         visible: text !== ""

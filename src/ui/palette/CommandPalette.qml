@@ -91,12 +91,14 @@ Popup {
                         tone: hit.kind === "action" ? "primary" : "muted"
                     }
                     Text {
+                        textFormat: Text.PlainText
                         Layout.fillWidth: true
                         text: hit.title
                         color: Theme.text
                         elide: Text.ElideRight
                     }
                     Text {
+                        textFormat: Text.PlainText
                         text: hit.subtitle
                         color: Theme.muted
                         font.pixelSize: Theme.fontSmall
@@ -107,6 +109,7 @@ Popup {
             }
         }
         Text {
+            textFormat: Text.PlainText
             visible: results.count === 0
             Layout.alignment: Qt.AlignHCenter
             color: Theme.muted

@@ -19,6 +19,7 @@ Rectangle {
         Layout.fillWidth: true
         spacing: Theme.space2
         Text {
+            textFormat: Text.PlainText
             id: heading
             color: Theme.text
             font.pixelSize: Theme.fontLarge
@@ -50,6 +51,7 @@ Rectangle {
             RowLayout {
                 Layout.fillWidth: true
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     //% "Settings"
                     text: qsTrId("ui.action.settings")
@@ -108,6 +110,7 @@ Rectangle {
                     }
                 }
                 Text {
+                    textFormat: Text.PlainText
                     visible: rateField.invalid
                     color: Theme.danger
                     font.pixelSize: Theme.fontSmall
@@ -277,6 +280,7 @@ Rectangle {
                 //% "Account"
                 title: qsTrId("ui.settings.account")
                 Text {
+                    textFormat: Text.PlainText
                     //% "Signed in as %1"
                     text: qsTrId("ui.settings.signedInAs").arg(root.prefs.email)
                     color: Theme.text
@@ -296,6 +300,7 @@ Rectangle {
                     onClicked: Shell.signOut()
                 }
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     Layout.topMargin: Theme.space3
                     wrapMode: Text.Wrap
@@ -308,7 +313,7 @@ Rectangle {
                     Field {
                         id: confirmField
                         Layout.fillWidth: true
-                        placeholderText: root.prefs.email
+                        placeholderText: "name@example.com"
                         //% "Your e-mail address, to confirm"
                         Accessible.name: qsTrId("ui.settings.deleteConfirm")
                     }
@@ -369,6 +374,7 @@ Rectangle {
                         text: qsTrId("ui.settings.local.folder")
                     }
                     Text {
+                        textFormat: Text.PlainText
                         Layout.fillWidth: true
                         text: root.prefs.localDataDir
                         color: Theme.text
@@ -381,6 +387,7 @@ Rectangle {
                         text: qsTrId("ui.settings.local.size")
                     }
                     Text {
+                        textFormat: Text.PlainText
                         text: root.prefs.localSize
                         color: Theme.text
                     }
@@ -420,6 +427,7 @@ Rectangle {
                     }
                 }
                 Text {
+                    textFormat: Text.PlainText
                     id: backendProblem
                     visible: text !== ""
                     color: Theme.danger

@@ -53,9 +53,19 @@ Rectangle {
                 enabled: kind !== "header"
                 focusPolicy: Qt.NoFocus
                 Accessible.name: title
-                ToolTip.visible: sidebar.compact && hovered && kind !== "header"
-                ToolTip.text: title
-                ToolTip.delay: 400
+                // Names are the person's own text, never markup.
+                ToolTip {
+                    visible: sidebar.compact && row.hovered && row.kind !== "header"
+                    delay: 400
+                    text: row.title
+                    contentItem: Text {
+                        textFormat: Text.PlainText
+                        text: row.title
+                        color: Theme.text
+                        font.pixelSize: Theme.fontSmall
+                    }
+                    background: Rectangle { color: Theme.surface; border.color: Theme.border; radius: Theme.radiusControl }
+                }
                 onClicked: {
                     if (kind === "team") {
                         sidebar.chosenTeam = id
@@ -80,6 +90,7 @@ Rectangle {
                         radius: Theme.radiusControl
                         color: row.isCurrent ? Theme.accent : Theme.hover
                         Text {
+                            textFormat: Text.PlainText
                             anchors.centerIn: parent
                             text: row.kind === "overview" ? "∗" : row.title.charAt(0).toUpperCase()
                             color: row.isCurrent ? Theme.textOnAccent : Theme.text
@@ -88,6 +99,7 @@ Rectangle {
                         }
                     }
                     Text {
+                        textFormat: Text.PlainText
                         visible: !sidebar.compact
                         Layout.fillWidth: true
                         text: row.title
@@ -98,6 +110,7 @@ Rectangle {
                         font.capitalization: row.kind === "header" ? Font.AllUppercase : Font.MixedCase
                     }
                     Text {
+                        textFormat: Text.PlainText
                         visible: !sidebar.compact && row.shared
                         text: "⇄"
                         color: Theme.muted
@@ -116,6 +129,7 @@ Rectangle {
                         Accessible.name: qsTrId("ui.sidebar.running")
                     }
                     Text {
+                        textFormat: Text.PlainText
                         visible: !sidebar.compact && row.kind !== "header" && row.count > 0
                         text: row.count
                         color: Theme.muted

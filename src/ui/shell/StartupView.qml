@@ -24,6 +24,7 @@ Rectangle {
             implicitHeight: 32
         }
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap

@@ -45,6 +45,7 @@ Rectangle {
             RowLayout {
                 Layout.fillWidth: true
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     text: root.task.projectName
                     color: Theme.muted
@@ -166,6 +167,7 @@ Rectangle {
             }
             TextArea {
                 id: description
+                textFormat: TextEdit.PlainText
                 Layout.fillWidth: true
                 Layout.minimumHeight: 64
                 readOnly: !root.editable
@@ -196,6 +198,7 @@ Rectangle {
                 text: qsTrId("ui.inspector.price")
             }
             Text {
+                textFormat: Text.PlainText
                 Layout.fillWidth: true
                 text: root.task.price
                 color: Theme.text
@@ -204,6 +207,7 @@ Rectangle {
                 wrapMode: Text.Wrap
             }
             Text {
+                textFormat: Text.PlainText
                 Layout.fillWidth: true
                 text: root.task.priceSource
                 color: Theme.muted
@@ -229,6 +233,7 @@ Rectangle {
                         onToggled: root.task.setSubtaskDone(modelData.id, checked)
                     }
                     Text {
+                        textFormat: Text.PlainText
                         Layout.fillWidth: true
                         text: modelData.title
                         color: modelData.done ? Theme.muted : Theme.text
@@ -284,12 +289,14 @@ Rectangle {
                     Layout.fillWidth: true
                     spacing: 0
                     Text {
+                        textFormat: Text.PlainText
                         Layout.fillWidth: true
                         text: modelData.text
                         color: Theme.text
                         wrapMode: Text.Wrap
                     }
                     Text {
+                        textFormat: Text.PlainText
                         text: [modelData.author, modelData.when].filter(s => s).join(" · ")
                         color: Theme.muted
                         font.pixelSize: Theme.fontSmall

@@ -115,6 +115,7 @@ Rectangle {
                 anchors.rightMargin: Theme.space1
                 spacing: Theme.space2
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     //% "%1 selected"
                     text: qsTrId("ui.tasks.selected").arg(root.checked.length)

@@ -49,6 +49,7 @@ Rectangle {
         spacing: Theme.space2
 
         Text {
+            textFormat: Text.PlainText
             // Drag handle: only where the order is the person's own.
             visible: row.draggable && row.editable
             text: "⠿"
@@ -87,6 +88,7 @@ Rectangle {
             Layout.fillWidth: true
             spacing: 0
             Text {
+                textFormat: Text.PlainText
                 Layout.fillWidth: true
                 text: row.title
                 elide: Text.ElideRight
@@ -95,6 +97,7 @@ Rectangle {
                 font.strikeout: row.status === "completed"
             }
             Text {
+                textFormat: Text.PlainText
                 Layout.fillWidth: true
                 visible: row.showProject
                 text: row.projectName
@@ -112,18 +115,21 @@ Rectangle {
             Accessible.name: qsTrId("ui.common.saving")
         }
         Text {
+            textFormat: Text.PlainText
             visible: row.subtasks !== ""
             text: "☑ " + row.subtasks
             color: Theme.muted
             font.pixelSize: Theme.fontSmall
         }
         Text {
+            textFormat: Text.PlainText
             visible: row.due !== ""
             text: row.due
             color: row.overdue ? Theme.danger : Theme.muted
             font.pixelSize: Theme.fontSmall
         }
         Text {
+            textFormat: Text.PlainText
             Layout.preferredWidth: 110
             horizontalAlignment: Text.AlignRight
             text: row.price
@@ -133,6 +139,7 @@ Rectangle {
             font.pixelSize: Theme.fontSmall
         }
         Text {
+            textFormat: Text.PlainText
             Layout.preferredWidth: 64
             horizontalAlignment: Text.AlignRight
             text: row.tracked

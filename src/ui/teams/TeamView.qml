@@ -46,6 +46,7 @@ Rectangle {
         spacing: Theme.space3
 
         Text {
+            textFormat: Text.PlainText
             text: root.team ? root.team.name : ""
             color: Theme.text
             font.pixelSize: Theme.fontTitle
@@ -63,6 +64,7 @@ Rectangle {
                 Layout.fillWidth: true
                 spacing: Theme.space2
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     text: member.modelData.email
                     color: Theme.text
@@ -134,6 +136,7 @@ Rectangle {
             }
         }
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             visible: root.team && !root.team.canInvite
             wrapMode: Text.Wrap
@@ -154,6 +157,7 @@ Rectangle {
                 required property var modelData
                 Layout.fillWidth: true
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     text: modelData.teamName + (modelData.invitedBy ? " · " + modelData.invitedBy : "")
                     color: Theme.text

@@ -54,6 +54,7 @@ Window {
                 Layout.fillWidth: true
                 spacing: 0
                 Text {
+                    textFormat: Text.PlainText
                     Layout.fillWidth: true
                     elide: Text.ElideRight
                     color: Theme.text
@@ -64,6 +65,7 @@ Window {
                     //% "Not running"
                 }
                 Text {
+                    textFormat: Text.PlainText
                     text: floating.workspace.timerText
                     color: floating.workspace.timerRunning ? Theme.running : Theme.muted
                     font.family: Theme.monoFamily

@@ -28,6 +28,7 @@ Popup {
     contentItem: ColumnLayout {
         spacing: Theme.space3
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             //% "You were away"
             text: qsTrId("ui.idle.title")
@@ -37,6 +38,7 @@ Popup {
             wrapMode: Text.Wrap
         }
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             //% "The timer of “%1” kept running while you were away from %2 to %3. What should happen to that time?"
             text: (qsTrId("ui.idle.body")).arg(dialog.taskTitle)

@@ -27,6 +27,7 @@ Rectangle {
             color: strip.workspace.timerRunning ? Theme.running : Theme.border
         }
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             elide: Text.ElideRight
             color: strip.workspace.timerRunning ? Theme.text : Theme.muted
@@ -47,6 +48,7 @@ Rectangle {
             }
         }
         Text {
+            textFormat: Text.PlainText
             objectName: "timerClock"
             visible: strip.workspace.timerRunning
             text: strip.workspace.timerText
@@ -78,6 +80,7 @@ Rectangle {
             onClicked: strip.workspace.toggleTimer(strip.workspace.timerRunning ? "" : strip.workspace.selectedTaskId)
         }
         Text {
+            textFormat: Text.PlainText
             visible: !strip.workspace.online && Shell.phase === Shell.Ready
             //% "Offline: changes from other devices arrive when the connection is back."
             ToolTip.text: qsTrId("ui.timer.offlineHint")
