@@ -63,7 +63,17 @@ IdleWatcher *createTimeDecisions(DesktopShell &shell, const Clock &clock)
         const QString body = qtTrId("ui.idle.notification")
                                  .arg(taskTitle(shell, watcher->questionTaskId()), clockTime(watcher->leftAt()),
                                       clockTime(watcher->returnedAt()));
-        notifier->notify(u"idle"_s, title, body);
+        // Where the service shows buttons the question can be answered from the notification too.
+        notifier->notify(u"idle"_s, title, body,
+                         {{u"discardAndContinue"_s, qtTrId("ui.idle.discardContinue")},
+                          {u"discard"_s, qtTrId("ui.idle.discard")},
+                          {u"keep"_s, qtTrId("ui.idle.keep")}});
+    });
+    QObject::connect(notifier, &Notifier::actionInvoked, watcher, [watcher](const QString &key, const QString &action) {
+        static const QStringList answers{u"keep"_s, u"discard"_s, u"discardAndContinue"_s};
+        if (key == u"idle" && watcher->isAsking() && answers.contains(action)) {
+            QMetaObject::invokeMethod(watcher, action.toLatin1().constData());
+        }
     });
     watcher->start();
     return watcher;
