@@ -1,3 +1,4 @@
+#include "backend/localserver.h"
 #include "backend/secretstore.h"
 #include "pg/pgconnection.h"
 #include "store/idlewatcher.h"
@@ -63,8 +64,9 @@ private:
     }
 
     // Every screen in both languages and both schemes, saved beside the test for a person to look at.
-    void shoot(const QString &name)
+    void shoot(const QString &name, QQuickWindow *window = nullptr)
     {
+        window = window ? window : m_window;
         const QString folder = QCoreApplication::applicationDirPath() + u"/screenshots"_s;
         QDir().mkpath(folder);
         const QString language = m_shell->language();
@@ -73,7 +75,7 @@ private:
             for (const QString &scheme : {u"light"_s, u"dark"_s}) {
                 m_shell->setColorScheme(scheme);
                 QTest::qWait(50);
-                const QImage image = m_window->grabWindow();
+                const QImage image = window->grabWindow();
                 QVERIFY(!image.isNull());
                 QVERIFY(image.save(folder + u'/' + name + u'-' + code + u'-' + scheme + u".png"_s));
             }
@@ -160,7 +162,14 @@ private slots:
         QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
         DesktopShell::Options options;
         const Config config{m_backend.url(), QString::fromLatin1(m_backend.anonKey())};
-        options.backend = [config]() -> QCoro::Task<Config> { co_return config; };
+        // The first start fails as a local backend that cannot start does; "Try again" works.
+        options.backend = [config, attempts = std::make_shared<int>(0)]() -> QCoro::Task<Config> {
+            if ((*attempts)++ == 0) {
+                throw LocalServerError(LocalServerError::Kind::ExitedEarly, u"/home/ada/.local/share/morvane/server"_s,
+                                       u"morvane-server: cannot listen on 127.0.0.1:54321"_s);
+            }
+            co_return config;
+        };
         const QString secrets = m_dir.filePath(u"secrets.json"_s);
         options.secrets = [secrets]() -> QCoro::Task<std::shared_ptr<SecretStore>> {
             co_return SecretStore::file(secrets);
@@ -197,8 +206,16 @@ private slots:
 
     void firstStartSignsUpWithTheOnboardingAnswers()
     {
+        QTRY_COMPARE_WITH_TIMEOUT(m_shell->phase(), DesktopShell::BackendFailed, patience);
+        QVERIFY(m_shell->backendError().contains(u"54321"_s));
+        shoot(u"backend-failed"_s);
+        m_shell->start();
         QTRY_COMPARE_WITH_TIMEOUT(m_shell->phase(), DesktopShell::SignedOut, patience);
         shoot(u"welcome"_s);
+        for (const char *mode : {"onboarding", "signUp", "signIn", "forgot"}) {
+            item("authView")->setProperty("mode", QString::fromLatin1(mode));
+            shoot(u"auth-"_s + QString::fromLatin1(mode));
+        }
         signUpOnce();
         QCOMPARE(store()->profile()->displayName, u"Ada Lovelace"_s);
         QCOMPARE(store()->currency(), u"CHF"_s);
@@ -246,6 +263,11 @@ private slots:
         workspace()->startTimer(workspace()->selectedTaskId());
         QTRY_VERIFY_WITH_TIMEOUT(workspace()->timerRunning(), patience);
         shoot(u"main-filled"_s);
+        auto *floating = m_window->findChild<QQuickWindow *>(u"floatingTimer"_s);
+        QVERIFY(floating);
+        floating->setVisible(true);
+        shoot(u"floating"_s, floating);
+        floating->setVisible(false);
         checkControlsHaveNames();
         // Narrow: the inspector folds away and the sidebar shows initials; wide: more of each.
         for (const QSize size : {QSize(860, 640), QSize(1920, 1200)}) {
@@ -382,6 +404,15 @@ private slots:
     void thePaletteRanksTheObviousHitFirst()
     {
         website();
+        QTest::keyClick(m_window, Qt::Key_K, Qt::ControlModifier);
+        QObject *palette = m_window->findChild<QObject *>(u"commandPalette"_s);
+        QTRY_VERIFY(palette && palette->property("visible").toBool());
+        for (const char key : {'d', 'e', 's'}) {
+            QTest::keyClick(m_window, key);
+        }
+        shoot(u"palette"_s);
+        QTest::keyClick(m_window, Qt::Key_Escape);
+        QTRY_VERIFY(!palette->property("visible").toBool());
         workspace()->searchPalette(u"web"_s);
         QCOMPARE(workspace()->palette()->rows().first().value(u"title"_s).toString(), u"Website redesign"_s);
         workspace()->searchPalette(u"photos"_s);

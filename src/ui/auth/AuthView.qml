@@ -6,6 +6,7 @@ import Morvane.Ui
 // Sign in, create an account (the onboarding answers first), reset a password, confirm an address.
 Rectangle {
     id: root
+    objectName: "authView"
     color: Theme.background
     property string mode: Shell.auth && Shell.auth.accounts.length === 0 && !Shell.auth.unconfirmedEmail
                           ? "welcome" : "signIn"
