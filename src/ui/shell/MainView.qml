@@ -14,6 +14,11 @@ Rectangle {
     readonly property bool showInspector: width >= Theme.inspectorFoldWidth
     property string teamId: ""
     property bool settingsOpen: false
+    // A screen that takes the list and the inspector's place, by id; empty shows the tasks.
+    property string page: ""
+    // The screens reached from the sidebar's links, in the order it lists them: { id, title, source }.
+    readonly property var pageLinks: [
+    ]
     property alias sidebarWidth: sidebar.preferredWidth
     property alias inspectorWidth: inspectorPane.preferredWidth
     signal paletteRequested()
@@ -73,9 +78,12 @@ Rectangle {
                 Layout.fillHeight: true
                 Layout.preferredWidth: main.compactSidebar ? Theme.sidebarCompactWidth : preferredWidth
                 compact: main.compactSidebar
-                onTeamChosen: (id) => { main.teamId = id; main.settingsOpen = false }
-                onProjectChosen: { main.teamId = ""; main.settingsOpen = false }
+                links: main.pageLinks
+                currentPage: main.settingsOpen ? "" : main.page
+                onTeamChosen: (id) => { main.teamId = id; main.settingsOpen = false; main.page = "" }
+                onProjectChosen: { main.teamId = ""; main.settingsOpen = false; main.page = "" }
                 onSettingsChosen: main.settingsOpen = true
+                onPageChosen: (id) => { main.teamId = ""; main.settingsOpen = false; main.page = id }
             }
             Rectangle { Layout.fillHeight: true; Layout.preferredWidth: 1; color: Theme.border }
 
@@ -83,7 +91,7 @@ Rectangle {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 spacing: 0
-                visible: !main.settingsOpen
+                visible: !main.settingsOpen && main.page === ""
                 ProjectHeader {
                     Layout.fillWidth: true
                     visible: main.teamId === ""
@@ -100,6 +108,17 @@ Rectangle {
                     Layout.fillHeight: true
                     visible: main.teamId !== ""
                     teamId: main.teamId
+                }
+            }
+            Loader {
+                objectName: "pageLoader"
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                active: !main.settingsOpen && main.page !== ""
+                visible: active
+                source: {
+                    const link = main.pageLinks.find(l => l.id === main.page)
+                    return link ? link.source : ""
                 }
             }
             Loader {
@@ -124,7 +143,7 @@ Rectangle {
                 property int preferredWidth: Theme.inspectorWidth
                 Layout.fillHeight: true
                 Layout.preferredWidth: preferredWidth
-                visible: main.showInspector && main.teamId === "" && !main.settingsOpen
+                visible: main.showInspector && main.teamId === "" && !main.settingsOpen && main.page === ""
             }
         }
     }

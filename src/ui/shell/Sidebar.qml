@@ -13,6 +13,9 @@ Rectangle {
     signal teamChosen(string id)
     signal projectChosen()
     signal settingsChosen()
+    signal pageChosen(string id)
+    property var links: []
+    property string currentPage: ""
 
     function startNewProject() { newProject.visible = true; newProject.forceActiveFocus() }
     function startNewTeam() { newTeam.visible = true; newTeam.forceActiveFocus() }
@@ -136,6 +139,34 @@ Rectangle {
                         font.family: Theme.monoFamily
                         font.pixelSize: Theme.fontSmall
                     }
+                }
+            }
+        }
+
+        // Links to the screens beside the task lists.
+        Repeater {
+            model: sidebar.links
+            ItemDelegate {
+                id: link
+                required property var modelData
+                Layout.fillWidth: true
+                implicitHeight: Theme.rowHeight - 6
+                focusPolicy: Qt.NoFocus
+                Accessible.name: modelData.title
+                onClicked: sidebar.pageChosen(modelData.id)
+                background: Rectangle {
+                    radius: Theme.radiusControl
+                    color: sidebar.currentPage === link.modelData.id ? Theme.selected
+                         : link.hovered ? Theme.hover : "transparent"
+                }
+                contentItem: Text {
+                    textFormat: Text.PlainText
+                    text: sidebar.compact ? link.modelData.title.charAt(0) : link.modelData.title
+                    color: Theme.text
+                    font.pixelSize: Theme.fontBody
+                    font.weight: sidebar.currentPage === link.modelData.id ? Font.DemiBold : Font.Normal
+                    elide: Text.ElideRight
+                    horizontalAlignment: sidebar.compact ? Text.AlignHCenter : Text.AlignLeft
                 }
             }
         }
