@@ -975,9 +975,21 @@
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Aufruf: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
     </message>
+    <message id="client.err.nameMissing">
+      <source>A client needs a name.</source>
+      <translation>Ein Kunde braucht einen Namen.</translation>
+    </message>
+    <message id="client.err.notCreated">
+      <source>The client was not saved: you may not add clients to that team.</source>
+      <translation>Der Kunde wurde nicht gespeichert: Du darfst diesem Team keine Kunden hinzufügen.</translation>
+    </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>
       <translation>Deine Kunden konnten nicht geladen werden.</translation>
+    </message>
+    <message id="client.err.notSaved">
+      <source>The client was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>Der Kunde wurde nicht geändert: Du darfst ihn nicht bearbeiten, oder es gibt ihn nicht mehr.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>

@@ -975,9 +975,21 @@
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
     </message>
+    <message id="client.err.nameMissing">
+      <source>A client needs a name.</source>
+      <translation>A client needs a name.</translation>
+    </message>
+    <message id="client.err.notCreated">
+      <source>The client was not saved: you may not add clients to that team.</source>
+      <translation>The client was not saved: you may not add clients to that team.</translation>
+    </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>
       <translation>Your clients could not be loaded.</translation>
+    </message>
+    <message id="client.err.notSaved">
+      <source>The client was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>The client was not changed: you may not edit it, or it no longer exists.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>

@@ -975,9 +975,21 @@
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Uso: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
     </message>
+    <message id="client.err.nameMissing">
+      <source>A client needs a name.</source>
+      <translation>Un cliente necesita un nombre.</translation>
+    </message>
+    <message id="client.err.notCreated">
+      <source>The client was not saved: you may not add clients to that team.</source>
+      <translation>El cliente no se ha guardado: no puedes añadir clientes a ese equipo.</translation>
+    </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>
       <translation>No se pudieron cargar tus clientes.</translation>
+    </message>
+    <message id="client.err.notSaved">
+      <source>The client was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>El cliente no se ha cambiado: no puedes editarlo o ya no existe.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>

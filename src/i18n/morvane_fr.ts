@@ -975,9 +975,21 @@
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Utilisation : morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
     </message>
+    <message id="client.err.nameMissing">
+      <source>A client needs a name.</source>
+      <translation>Un client doit avoir un nom.</translation>
+    </message>
+    <message id="client.err.notCreated">
+      <source>The client was not saved: you may not add clients to that team.</source>
+      <translation>Le client n'a pas été enregistré : vous ne pouvez pas ajouter de clients à cette équipe.</translation>
+    </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>
       <translation>Vos clients n’ont pas pu être chargés.</translation>
+    </message>
+    <message id="client.err.notSaved">
+      <source>The client was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>Le client n'a pas été modifié : vous ne pouvez pas le modifier, ou il n'existe plus.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>

@@ -975,9 +975,21 @@
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Uso: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
     </message>
+    <message id="client.err.nameMissing">
+      <source>A client needs a name.</source>
+      <translation>Un cliente deve avere un nome.</translation>
+    </message>
+    <message id="client.err.notCreated">
+      <source>The client was not saved: you may not add clients to that team.</source>
+      <translation>Il cliente non è stato salvato: non puoi aggiungere clienti a quel team.</translation>
+    </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>
       <translation>Non è stato possibile caricare i tuoi clienti.</translation>
+    </message>
+    <message id="client.err.notSaved">
+      <source>The client was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>Il cliente non è stato modificato: non puoi modificarlo, oppure non esiste più.</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>

@@ -975,9 +975,21 @@
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>วิธีใช้: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
     </message>
+    <message id="client.err.nameMissing">
+      <source>A client needs a name.</source>
+      <translation>ลูกค้าต้องมีชื่อ</translation>
+    </message>
+    <message id="client.err.notCreated">
+      <source>The client was not saved: you may not add clients to that team.</source>
+      <translation>ไม่ได้บันทึกลูกค้า: คุณไม่มีสิทธิ์เพิ่มลูกค้าในทีมนั้น</translation>
+    </message>
     <message id="client.err.notLoaded">
       <source>Your clients could not be loaded.</source>
       <translation>โหลดลูกค้าของคุณไม่ได้</translation>
+    </message>
+    <message id="client.err.notSaved">
+      <source>The client was not changed: you may not edit it, or it no longer exists.</source>
+      <translation>ไม่ได้เปลี่ยนข้อมูลลูกค้า: คุณไม่มีสิทธิ์แก้ไข หรือลูกค้ารายนี้ไม่มีอยู่แล้ว</translation>
     </message>
     <message id="config.source.environment">
       <source>environment</source>

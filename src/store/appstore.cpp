@@ -328,22 +328,6 @@ void AppStore::setInvitations(QList<TeamInvitation> invitations)
     emit invitationsChanged();
 }
 
-void AppStore::setClients(QList<Client> all)
-{
-    QList<Client> active;
-    for (const Client &client : all) {
-        if (!client.isArchived()) {
-            active.append(client);
-        }
-    }
-    if (m_allClients == all && m_clients == active) {
-        return;
-    }
-    m_allClients = std::move(all);
-    m_clients = std::move(active);
-    emit clientsChanged();
-}
-
 // ---- Sessions --------------------------------------------------------------------------------
 
 QCoro::Task<std::optional<AppStore::Session>> AppStore::openSession(const char *logPrefix)
@@ -567,29 +551,6 @@ void AppStore::tasksDidChange()
         m_runningKey = key;
         m_timer.bind(running);
         emit runningTaskChanged();
-    }
-}
-
-QCoro::Task<bool> AppStore::loadClients()
-{
-    std::optional<Session> session = co_await openSession("Load clients failed: ");
-    if (!session) {
-        co_return false;
-    }
-    try {
-        const QueryItems query{{u"select"_s, u"*"_s}, {u"order"_s, u"name.asc"_s}};
-        const auto allRequest = [&, client = m_auth.client()](const QString &token) {
-            return client.select<Client>(u"clients"_s, token, query);
-        };
-        QList<Client> all = co_await authorized(*session, allRequest);
-        if (!isCurrent(*session)) {
-            co_return false;
-        }
-        setClients(std::move(all));
-        co_return true;
-    } catch (const MorvaneError &error) {
-        failed("Load clients failed: ", error.message(), StoreText::clientsNotLoaded());
-        co_return false;
     }
 }
 

@@ -310,6 +310,13 @@ public:
     QCoro::Task<bool> setMemberRole(QString teamId, QString userId, TeamRole role);
     QCoro::Task<bool> removeMember(QString teamId, QString userId);
 
+    // Clients. Names and fields are trimmed; an empty field is no value, and a client needs a name.
+    QCoro::Task<std::optional<Client>> createClient(ClientInsert draft);
+    QCoro::Task<bool> updateClient(QString clientId, ClientPatch patch);
+    // Archives the client rather than deleting the row: invoices and trips that name it keep
+    // their link and show it, while `clients` (what the lists and the composer offer) drops it.
+    QCoro::Task<bool> deleteClient(QString clientId);
+
     // Invoices. Each operation answers whether it succeeded and sets `lastError` otherwise.
     [[nodiscard]] const QList<Invoice> &invoices() const { return m_invoices; }
     [[nodiscard]] std::optional<Invoice> invoice(const QString &invoiceId) const;
@@ -439,6 +446,8 @@ private:
     // Changes a member's role, or removes the member without one.
     QCoro::Task<bool> writeMember(QString teamId, QString userId, std::optional<TeamRole> role);
     void setClients(QList<Client> all);
+    void mergeClient(const Client &client);
+    QCoro::Task<bool> patchClient(QString clientId, AnyEncodable body, const char *logPrefix);
     void setSelectedTaskIds(QSet<QString> ids);
     void mergeProject(const Project &project);
     void removeProject(const QString &projectId);

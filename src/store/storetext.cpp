@@ -27,6 +27,24 @@ QString clientsNotLoaded()
     return qtTrId("client.err.notLoaded");
 }
 
+QString clientNameMissing()
+{
+    //% "A client needs a name."
+    return qtTrId("client.err.nameMissing");
+}
+
+QString clientNotCreated()
+{
+    //% "The client was not saved: you may not add clients to that team."
+    return qtTrId("client.err.notCreated");
+}
+
+QString clientNotSaved()
+{
+    //% "The client was not changed: you may not edit it, or it no longer exists."
+    return qtTrId("client.err.notSaved");
+}
+
 QString writeFailed()
 {
     //% "The change could not be saved. Check the connection and try again."

@@ -384,3 +384,39 @@ struct TaskPricePatch
     }
     friend bool operator==(const TaskPricePatch &, const TaskPricePatch &) = default;
 };
+
+// What the client form saves. The form always shows these fields, so an emptied one clears its
+// column; the name changes only when given. The columns the form does not show (phone, bank
+// account, notes, colour, the geocoded place) are never touched.
+struct ClientPatch
+{
+    std::optional<QString> name;
+    std::optional<QString> email;
+    std::optional<QString> address;
+    std::optional<QString> vatId;
+    std::optional<QString> kvk;
+
+    static constexpr std::string_view wireName = "ClientPatch";
+    static constexpr auto wireFields()
+    {
+        using Wire::field;
+        using Wire::FieldFlag;
+        return std::tuple{
+            field("name", &ClientPatch::name),
+            field("email", &ClientPatch::email, FieldFlag::NullWhenAbsent),
+            field("address", &ClientPatch::address, FieldFlag::NullWhenAbsent),
+            field("vat_id", &ClientPatch::vatId, FieldFlag::NullWhenAbsent),
+            field("kvk", &ClientPatch::kvk, FieldFlag::NullWhenAbsent),
+        };
+    }
+    friend bool operator==(const ClientPatch &, const ClientPatch &) = default;
+};
+
+struct ClientArchivePatch
+{
+    bool archived = true;
+
+    static constexpr std::string_view wireName = "ClientArchivePatch";
+    static constexpr auto wireFields() { return std::tuple{Wire::field("archived", &ClientArchivePatch::archived)}; }
+    friend bool operator==(const ClientArchivePatch &, const ClientArchivePatch &) = default;
+};
