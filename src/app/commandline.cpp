@@ -1,6 +1,7 @@
 #include "commandline.h"
 
 #include "app/authcommands.h"
+#include "app/exportcommand.h"
 #include "app/renderinvoice.h"
 #include "app/servercommand.h"
 #include "app/sessionscommands.h"
@@ -118,6 +119,8 @@ QList<Command> commands()
         {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
         //% "Invoices: invoice draft|create|list|show|status|void|rm|pdf"
         {u"invoice"_s, [] { return qtTrId("cli.command.invoice"); }, runInvoiceCommand},
+        //% "Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]"
+        {u"export"_s, [] { return qtTrId("cli.command.export"); }, runExportCommand},
     };
 }
 

@@ -271,6 +271,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Zeiteinträge anzeigen, bearbeiten oder löschen: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.export">
+      <source>Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Zeiteinträge oder Rechnungen eines Zeitraums als CSV für die Steuerberatung: export entries|invoices --from TAG --to TAG [--out DATEI]</translation>
+    </message>
     <message id="cli.command.invoice">
       <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
       <translation>Rechnungen: invoice draft|create|list|show|status|void|rm|pdf</translation>
@@ -382,6 +386,38 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Unbekannter Befehl: %1. Mit morvane --help wird die Befehlsliste angezeigt.</translation>
+    </message>
+    <message id="cli.export.argument.kind">
+      <source>What to export: entries or invoices.</source>
+      <translation>Was exportiert wird: entries (Zeiteinträge) oder invoices (Rechnungen).</translation>
+    </message>
+    <message id="cli.export.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Erster Tag des Zeitraums (JJJJ-MM-TT).</translation>
+    </message>
+    <message id="cli.export.option.help">
+      <source>Show this help.</source>
+      <translation>Diese Hilfe anzeigen.</translation>
+    </message>
+    <message id="cli.export.option.out">
+      <source>The CSV file to write; without it the CSV goes to standard output.</source>
+      <translation>Die zu schreibende CSV-Datei; ohne sie geht die CSV auf die Standardausgabe.</translation>
+    </message>
+    <message id="cli.export.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Letzter Tag des Zeitraums (JJJJ-MM-TT), eingeschlossen.</translation>
+    </message>
+    <message id="cli.export.usage">
+      <source>Usage: morvane export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Aufruf: morvane export entries|invoices --from TAG --to TAG [--out DATEI]</translation>
+    </message>
+    <message id="cli.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>%1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message id="cli.export.written">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 gespeichert (Zeilen: %2).</translation>
     </message>
     <message id="cli.invoice.ambiguous">
       <source>Several invoices match %1; give more of the id or the number.</source>
@@ -1762,6 +1798,70 @@
     <message id="ui.entries.total">
       <source>Total %1</source>
       <translation>Gesamt %1</translation>
+    </message>
+    <message id="ui.export.action">
+      <source>Export for the accountant…</source>
+      <translation>Export für die Steuerberatung…</translation>
+    </message>
+    <message id="ui.export.badPeriod">
+      <source>Enter both days as YYYY-MM-DD, the first not after the last.</source>
+      <translation>Beide Tage als JJJJ-MM-TT eingeben, den ersten nicht nach dem letzten.</translation>
+    </message>
+    <message id="ui.export.body">
+      <source>A CSV file that spreadsheets and bookkeeping programs read: one row per time entry or invoice of the period.</source>
+      <translation>Eine CSV-Datei, die Tabellenkalkulationen und Buchhaltungsprogramme lesen: eine Zeile je Zeiteintrag oder Rechnung des Zeitraums.</translation>
+    </message>
+    <message id="ui.export.close">
+      <source>Close</source>
+      <translation>Schließen</translation>
+    </message>
+    <message id="ui.export.csvFilter">
+      <source>CSV files (*.csv)</source>
+      <translation>CSV-Dateien (*.csv)</translation>
+    </message>
+    <message id="ui.export.entries">
+      <source>Time entries</source>
+      <translation>Zeiteinträge</translation>
+    </message>
+    <message id="ui.export.fileTitle">
+      <source>Save the CSV file</source>
+      <translation>CSV-Datei speichern</translation>
+    </message>
+    <message id="ui.export.from">
+      <source>From</source>
+      <translation>Von</translation>
+    </message>
+    <message id="ui.export.invoices">
+      <source>Invoices</source>
+      <translation>Rechnungen</translation>
+    </message>
+    <message id="ui.export.notReady">
+      <source>Choose a period and a file first.</source>
+      <translation>Zuerst einen Zeitraum und eine Datei wählen.</translation>
+    </message>
+    <message id="ui.export.save">
+      <source>Save…</source>
+      <translation>Speichern…</translation>
+    </message>
+    <message id="ui.export.saved">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 gespeichert (Zeilen: %2).</translation>
+    </message>
+    <message id="ui.export.saving">
+      <source>Saving…</source>
+      <translation>Wird gespeichert…</translation>
+    </message>
+    <message id="ui.export.title">
+      <source>Export for the accountant</source>
+      <translation>Export für die Steuerberatung</translation>
+    </message>
+    <message id="ui.export.to">
+      <source>To</source>
+      <translation>Bis</translation>
+    </message>
+    <message id="ui.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>%1 konnte nicht geschrieben werden: %2</translation>
     </message>
     <message id="ui.floating.hide">
       <source>Hide the floating timer</source>

@@ -271,6 +271,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>List, edit or delete time entries: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.export">
+      <source>Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]</translation>
+    </message>
     <message id="cli.command.invoice">
       <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
       <translation>Invoices: invoice draft|create|list|show|status|void|rm|pdf</translation>
@@ -382,6 +386,38 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Unknown command: %1. Run morvane --help for the list of commands.</translation>
+    </message>
+    <message id="cli.export.argument.kind">
+      <source>What to export: entries or invoices.</source>
+      <translation>What to export: entries or invoices.</translation>
+    </message>
+    <message id="cli.export.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>First day of the period (yyyy-MM-dd).</translation>
+    </message>
+    <message id="cli.export.option.help">
+      <source>Show this help.</source>
+      <translation>Show this help.</translation>
+    </message>
+    <message id="cli.export.option.out">
+      <source>The CSV file to write; without it the CSV goes to standard output.</source>
+      <translation>The CSV file to write; without it the CSV goes to standard output.</translation>
+    </message>
+    <message id="cli.export.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Last day of the period (yyyy-MM-dd), included.</translation>
+    </message>
+    <message id="cli.export.usage">
+      <source>Usage: morvane export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Usage: morvane export entries|invoices --from DAY --to DAY [--out FILE]</translation>
+    </message>
+    <message id="cli.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Could not write %1: %2</translation>
+    </message>
+    <message id="cli.export.written">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>Saved %1 (rows: %2).</translation>
     </message>
     <message id="cli.invoice.ambiguous">
       <source>Several invoices match %1; give more of the id or the number.</source>
@@ -1762,6 +1798,70 @@
     <message id="ui.entries.total">
       <source>Total %1</source>
       <translation>Total %1</translation>
+    </message>
+    <message id="ui.export.action">
+      <source>Export for the accountant…</source>
+      <translation>Export for the accountant…</translation>
+    </message>
+    <message id="ui.export.badPeriod">
+      <source>Enter both days as YYYY-MM-DD, the first not after the last.</source>
+      <translation>Enter both days as YYYY-MM-DD, the first not after the last.</translation>
+    </message>
+    <message id="ui.export.body">
+      <source>A CSV file that spreadsheets and bookkeeping programs read: one row per time entry or invoice of the period.</source>
+      <translation>A CSV file that spreadsheets and bookkeeping programs read: one row per time entry or invoice of the period.</translation>
+    </message>
+    <message id="ui.export.close">
+      <source>Close</source>
+      <translation>Close</translation>
+    </message>
+    <message id="ui.export.csvFilter">
+      <source>CSV files (*.csv)</source>
+      <translation>CSV files (*.csv)</translation>
+    </message>
+    <message id="ui.export.entries">
+      <source>Time entries</source>
+      <translation>Time entries</translation>
+    </message>
+    <message id="ui.export.fileTitle">
+      <source>Save the CSV file</source>
+      <translation>Save the CSV file</translation>
+    </message>
+    <message id="ui.export.from">
+      <source>From</source>
+      <translation>From</translation>
+    </message>
+    <message id="ui.export.invoices">
+      <source>Invoices</source>
+      <translation>Invoices</translation>
+    </message>
+    <message id="ui.export.notReady">
+      <source>Choose a period and a file first.</source>
+      <translation>Choose a period and a file first.</translation>
+    </message>
+    <message id="ui.export.save">
+      <source>Save…</source>
+      <translation>Save…</translation>
+    </message>
+    <message id="ui.export.saved">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>Saved %1 (rows: %2).</translation>
+    </message>
+    <message id="ui.export.saving">
+      <source>Saving…</source>
+      <translation>Saving…</translation>
+    </message>
+    <message id="ui.export.title">
+      <source>Export for the accountant</source>
+      <translation>Export for the accountant</translation>
+    </message>
+    <message id="ui.export.to">
+      <source>To</source>
+      <translation>To</translation>
+    </message>
+    <message id="ui.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Could not write %1: %2</translation>
     </message>
     <message id="ui.floating.hide">
       <source>Hide the floating timer</source>

@@ -271,6 +271,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Listar, editar o eliminar entradas de tiempo: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.export">
+      <source>Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Registros de tiempo o facturas de un periodo en CSV para el gestor: export entries|invoices --from DÍA --to DÍA [--out ARCHIVO]</translation>
+    </message>
     <message id="cli.command.invoice">
       <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
       <translation>Facturas: invoice draft|create|list|show|status|void|rm|pdf</translation>
@@ -382,6 +386,38 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Comando desconocido: %1. Ejecuta morvane --help para ver la lista de comandos.</translation>
+    </message>
+    <message id="cli.export.argument.kind">
+      <source>What to export: entries or invoices.</source>
+      <translation>Qué se exporta: entries (registros de tiempo) o invoices (facturas).</translation>
+    </message>
+    <message id="cli.export.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Primer día del periodo (aaaa-MM-dd).</translation>
+    </message>
+    <message id="cli.export.option.help">
+      <source>Show this help.</source>
+      <translation>Mostrar esta ayuda.</translation>
+    </message>
+    <message id="cli.export.option.out">
+      <source>The CSV file to write; without it the CSV goes to standard output.</source>
+      <translation>El archivo CSV que se escribe; sin él, el CSV va a la salida estándar.</translation>
+    </message>
+    <message id="cli.export.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Último día del periodo (aaaa-MM-dd), incluido.</translation>
+    </message>
+    <message id="cli.export.usage">
+      <source>Usage: morvane export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Uso: morvane export entries|invoices --from DÍA --to DÍA [--out ARCHIVO]</translation>
+    </message>
+    <message id="cli.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>No se pudo escribir %1: %2</translation>
+    </message>
+    <message id="cli.export.written">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 guardado (filas: %2).</translation>
     </message>
     <message id="cli.invoice.ambiguous">
       <source>Several invoices match %1; give more of the id or the number.</source>
@@ -1762,6 +1798,70 @@
     <message id="ui.entries.total">
       <source>Total %1</source>
       <translation>Total: %1</translation>
+    </message>
+    <message id="ui.export.action">
+      <source>Export for the accountant…</source>
+      <translation>Exportar para el gestor…</translation>
+    </message>
+    <message id="ui.export.badPeriod">
+      <source>Enter both days as YYYY-MM-DD, the first not after the last.</source>
+      <translation>Escribe los dos días como AAAA-MM-DD, el primero no posterior al último.</translation>
+    </message>
+    <message id="ui.export.body">
+      <source>A CSV file that spreadsheets and bookkeeping programs read: one row per time entry or invoice of the period.</source>
+      <translation>Un archivo CSV que leen las hojas de cálculo y los programas de contabilidad: una fila por registro de tiempo o factura del periodo.</translation>
+    </message>
+    <message id="ui.export.close">
+      <source>Close</source>
+      <translation>Cerrar</translation>
+    </message>
+    <message id="ui.export.csvFilter">
+      <source>CSV files (*.csv)</source>
+      <translation>Archivos CSV (*.csv)</translation>
+    </message>
+    <message id="ui.export.entries">
+      <source>Time entries</source>
+      <translation>Registros de tiempo</translation>
+    </message>
+    <message id="ui.export.fileTitle">
+      <source>Save the CSV file</source>
+      <translation>Guardar el archivo CSV</translation>
+    </message>
+    <message id="ui.export.from">
+      <source>From</source>
+      <translation>Desde</translation>
+    </message>
+    <message id="ui.export.invoices">
+      <source>Invoices</source>
+      <translation>Facturas</translation>
+    </message>
+    <message id="ui.export.notReady">
+      <source>Choose a period and a file first.</source>
+      <translation>Elige primero un periodo y un archivo.</translation>
+    </message>
+    <message id="ui.export.save">
+      <source>Save…</source>
+      <translation>Guardar…</translation>
+    </message>
+    <message id="ui.export.saved">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 guardado (filas: %2).</translation>
+    </message>
+    <message id="ui.export.saving">
+      <source>Saving…</source>
+      <translation>Guardando…</translation>
+    </message>
+    <message id="ui.export.title">
+      <source>Export for the accountant</source>
+      <translation>Exportar para el gestor</translation>
+    </message>
+    <message id="ui.export.to">
+      <source>To</source>
+      <translation>Hasta</translation>
+    </message>
+    <message id="ui.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>No se pudo escribir %1: %2</translation>
     </message>
     <message id="ui.floating.hide">
       <source>Hide the floating timer</source>

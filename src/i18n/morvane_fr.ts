@@ -271,6 +271,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Lister, modifier ou supprimer des entrées de temps : entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.export">
+      <source>Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Temps saisis ou factures d’une période en CSV pour le comptable : export entries|invoices --from JOUR --to JOUR [--out FICHIER]</translation>
+    </message>
     <message id="cli.command.invoice">
       <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
       <translation>Factures : invoice draft|create|list|show|status|void|rm|pdf</translation>
@@ -382,6 +386,38 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Commande inconnue : %1. Lancez morvane --help pour la liste des commandes.</translation>
+    </message>
+    <message id="cli.export.argument.kind">
+      <source>What to export: entries or invoices.</source>
+      <translation>Ce qui est exporté : entries (temps saisis) ou invoices (factures).</translation>
+    </message>
+    <message id="cli.export.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Premier jour de la période (aaaa-MM-jj).</translation>
+    </message>
+    <message id="cli.export.option.help">
+      <source>Show this help.</source>
+      <translation>Afficher cette aide.</translation>
+    </message>
+    <message id="cli.export.option.out">
+      <source>The CSV file to write; without it the CSV goes to standard output.</source>
+      <translation>Le fichier CSV à écrire ; sans lui, le CSV part sur la sortie standard.</translation>
+    </message>
+    <message id="cli.export.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Dernier jour de la période (aaaa-MM-jj), inclus.</translation>
+    </message>
+    <message id="cli.export.usage">
+      <source>Usage: morvane export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Utilisation : morvane export entries|invoices --from JOUR --to JOUR [--out FICHIER]</translation>
+    </message>
+    <message id="cli.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Impossible d’écrire %1 : %2</translation>
+    </message>
+    <message id="cli.export.written">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 enregistré (lignes : %2).</translation>
     </message>
     <message id="cli.invoice.ambiguous">
       <source>Several invoices match %1; give more of the id or the number.</source>
@@ -1762,6 +1798,70 @@
     <message id="ui.entries.total">
       <source>Total %1</source>
       <translation>Total : %1</translation>
+    </message>
+    <message id="ui.export.action">
+      <source>Export for the accountant…</source>
+      <translation>Exporter pour le comptable…</translation>
+    </message>
+    <message id="ui.export.badPeriod">
+      <source>Enter both days as YYYY-MM-DD, the first not after the last.</source>
+      <translation>Saisissez les deux jours au format AAAA-MM-JJ, le premier au plus tard le dernier.</translation>
+    </message>
+    <message id="ui.export.body">
+      <source>A CSV file that spreadsheets and bookkeeping programs read: one row per time entry or invoice of the period.</source>
+      <translation>Un fichier CSV que lisent les tableurs et les logiciels de comptabilité : une ligne par temps saisi ou par facture de la période.</translation>
+    </message>
+    <message id="ui.export.close">
+      <source>Close</source>
+      <translation>Fermer</translation>
+    </message>
+    <message id="ui.export.csvFilter">
+      <source>CSV files (*.csv)</source>
+      <translation>Fichiers CSV (*.csv)</translation>
+    </message>
+    <message id="ui.export.entries">
+      <source>Time entries</source>
+      <translation>Temps saisis</translation>
+    </message>
+    <message id="ui.export.fileTitle">
+      <source>Save the CSV file</source>
+      <translation>Enregistrer le fichier CSV</translation>
+    </message>
+    <message id="ui.export.from">
+      <source>From</source>
+      <translation>Du</translation>
+    </message>
+    <message id="ui.export.invoices">
+      <source>Invoices</source>
+      <translation>Factures</translation>
+    </message>
+    <message id="ui.export.notReady">
+      <source>Choose a period and a file first.</source>
+      <translation>Choisissez d’abord une période et un fichier.</translation>
+    </message>
+    <message id="ui.export.save">
+      <source>Save…</source>
+      <translation>Enregistrer…</translation>
+    </message>
+    <message id="ui.export.saved">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 enregistré (lignes : %2).</translation>
+    </message>
+    <message id="ui.export.saving">
+      <source>Saving…</source>
+      <translation>Enregistrement…</translation>
+    </message>
+    <message id="ui.export.title">
+      <source>Export for the accountant</source>
+      <translation>Exporter pour le comptable</translation>
+    </message>
+    <message id="ui.export.to">
+      <source>To</source>
+      <translation>Au</translation>
+    </message>
+    <message id="ui.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Impossible d’écrire %1 : %2</translation>
     </message>
     <message id="ui.floating.hide">
       <source>Hide the floating timer</source>

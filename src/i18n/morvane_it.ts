@@ -271,6 +271,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>Elencare, modificare o eliminare voci di tempo: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.export">
+      <source>Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Registrazioni di tempo o fatture di un periodo in CSV per il commercialista: export entries|invoices --from GIORNO --to GIORNO [--out FILE]</translation>
+    </message>
     <message id="cli.command.invoice">
       <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
       <translation>Fatture: invoice draft|create|list|show|status|void|rm|pdf</translation>
@@ -382,6 +386,38 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>Comando sconosciuto: %1. Esegui morvane --help per l’elenco dei comandi.</translation>
+    </message>
+    <message id="cli.export.argument.kind">
+      <source>What to export: entries or invoices.</source>
+      <translation>Cosa esportare: entries (registrazioni di tempo) o invoices (fatture).</translation>
+    </message>
+    <message id="cli.export.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>Primo giorno del periodo (aaaa-MM-gg).</translation>
+    </message>
+    <message id="cli.export.option.help">
+      <source>Show this help.</source>
+      <translation>Mostra questa guida.</translation>
+    </message>
+    <message id="cli.export.option.out">
+      <source>The CSV file to write; without it the CSV goes to standard output.</source>
+      <translation>Il file CSV da scrivere; senza, il CSV va sullo standard output.</translation>
+    </message>
+    <message id="cli.export.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Ultimo giorno del periodo (aaaa-MM-gg), incluso.</translation>
+    </message>
+    <message id="cli.export.usage">
+      <source>Usage: morvane export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>Uso: morvane export entries|invoices --from GIORNO --to GIORNO [--out FILE]</translation>
+    </message>
+    <message id="cli.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Impossibile scrivere %1: %2</translation>
+    </message>
+    <message id="cli.export.written">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 salvato (righe: %2).</translation>
     </message>
     <message id="cli.invoice.ambiguous">
       <source>Several invoices match %1; give more of the id or the number.</source>
@@ -1762,6 +1798,70 @@
     <message id="ui.entries.total">
       <source>Total %1</source>
       <translation>Totale: %1</translation>
+    </message>
+    <message id="ui.export.action">
+      <source>Export for the accountant…</source>
+      <translation>Esporta per il commercialista…</translation>
+    </message>
+    <message id="ui.export.badPeriod">
+      <source>Enter both days as YYYY-MM-DD, the first not after the last.</source>
+      <translation>Inserisci entrambi i giorni come AAAA-MM-GG, il primo non dopo l’ultimo.</translation>
+    </message>
+    <message id="ui.export.body">
+      <source>A CSV file that spreadsheets and bookkeeping programs read: one row per time entry or invoice of the period.</source>
+      <translation>Un file CSV che fogli di calcolo e programmi di contabilità sanno leggere: una riga per registrazione di tempo o fattura del periodo.</translation>
+    </message>
+    <message id="ui.export.close">
+      <source>Close</source>
+      <translation>Chiudi</translation>
+    </message>
+    <message id="ui.export.csvFilter">
+      <source>CSV files (*.csv)</source>
+      <translation>File CSV (*.csv)</translation>
+    </message>
+    <message id="ui.export.entries">
+      <source>Time entries</source>
+      <translation>Registrazioni di tempo</translation>
+    </message>
+    <message id="ui.export.fileTitle">
+      <source>Save the CSV file</source>
+      <translation>Salva il file CSV</translation>
+    </message>
+    <message id="ui.export.from">
+      <source>From</source>
+      <translation>Dal</translation>
+    </message>
+    <message id="ui.export.invoices">
+      <source>Invoices</source>
+      <translation>Fatture</translation>
+    </message>
+    <message id="ui.export.notReady">
+      <source>Choose a period and a file first.</source>
+      <translation>Scegli prima un periodo e un file.</translation>
+    </message>
+    <message id="ui.export.save">
+      <source>Save…</source>
+      <translation>Salva…</translation>
+    </message>
+    <message id="ui.export.saved">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 salvato (righe: %2).</translation>
+    </message>
+    <message id="ui.export.saving">
+      <source>Saving…</source>
+      <translation>Salvataggio…</translation>
+    </message>
+    <message id="ui.export.title">
+      <source>Export for the accountant</source>
+      <translation>Esporta per il commercialista</translation>
+    </message>
+    <message id="ui.export.to">
+      <source>To</source>
+      <translation>Al</translation>
+    </message>
+    <message id="ui.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Impossibile scrivere %1: %2</translation>
     </message>
     <message id="ui.floating.hide">
       <source>Hide the floating timer</source>

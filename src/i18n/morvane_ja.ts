@@ -271,6 +271,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>時間エントリーの一覧・編集・削除: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.export">
+      <source>Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>期間の作業時間または請求書を会計士向けの CSV に書き出す: export entries|invoices --from 日付 --to 日付 [--out ファイル]</translation>
+    </message>
     <message id="cli.command.invoice">
       <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
       <translation>請求書: invoice draft|create|list|show|status|void|rm|pdf</translation>
@@ -382,6 +386,38 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>不明なコマンドです: %1。コマンド一覧は morvane --help で表示できます。</translation>
+    </message>
+    <message id="cli.export.argument.kind">
+      <source>What to export: entries or invoices.</source>
+      <translation>書き出す内容: entries (作業時間) または invoices (請求書)。</translation>
+    </message>
+    <message id="cli.export.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>期間の初日 (yyyy-MM-dd)。</translation>
+    </message>
+    <message id="cli.export.option.help">
+      <source>Show this help.</source>
+      <translation>このヘルプを表示します。</translation>
+    </message>
+    <message id="cli.export.option.out">
+      <source>The CSV file to write; without it the CSV goes to standard output.</source>
+      <translation>書き込む CSV ファイル。指定しない場合は標準出力に出力します。</translation>
+    </message>
+    <message id="cli.export.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>期間の最終日 (yyyy-MM-dd、この日を含む)。</translation>
+    </message>
+    <message id="cli.export.usage">
+      <source>Usage: morvane export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>使い方: morvane export entries|invoices --from 日付 --to 日付 [--out ファイル]</translation>
+    </message>
+    <message id="cli.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>%1 を書き込めませんでした: %2</translation>
+    </message>
+    <message id="cli.export.written">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 を保存しました (%2 行)。</translation>
     </message>
     <message id="cli.invoice.ambiguous">
       <source>Several invoices match %1; give more of the id or the number.</source>
@@ -1762,6 +1798,70 @@
     <message id="ui.entries.total">
       <source>Total %1</source>
       <translation>合計 %1</translation>
+    </message>
+    <message id="ui.export.action">
+      <source>Export for the accountant…</source>
+      <translation>会計士向けに書き出す…</translation>
+    </message>
+    <message id="ui.export.badPeriod">
+      <source>Enter both days as YYYY-MM-DD, the first not after the last.</source>
+      <translation>両方の日付を YYYY-MM-DD の形式で入力してください。開始日は終了日より後にできません。</translation>
+    </message>
+    <message id="ui.export.body">
+      <source>A CSV file that spreadsheets and bookkeeping programs read: one row per time entry or invoice of the period.</source>
+      <translation>表計算ソフトや会計ソフトで読める CSV ファイルです。期間内の作業時間または請求書が 1 件につき 1 行になります。</translation>
+    </message>
+    <message id="ui.export.close">
+      <source>Close</source>
+      <translation>閉じる</translation>
+    </message>
+    <message id="ui.export.csvFilter">
+      <source>CSV files (*.csv)</source>
+      <translation>CSV ファイル (*.csv)</translation>
+    </message>
+    <message id="ui.export.entries">
+      <source>Time entries</source>
+      <translation>作業時間</translation>
+    </message>
+    <message id="ui.export.fileTitle">
+      <source>Save the CSV file</source>
+      <translation>CSV ファイルを保存</translation>
+    </message>
+    <message id="ui.export.from">
+      <source>From</source>
+      <translation>開始日</translation>
+    </message>
+    <message id="ui.export.invoices">
+      <source>Invoices</source>
+      <translation>請求書</translation>
+    </message>
+    <message id="ui.export.notReady">
+      <source>Choose a period and a file first.</source>
+      <translation>先に期間とファイルを選んでください。</translation>
+    </message>
+    <message id="ui.export.save">
+      <source>Save…</source>
+      <translation>保存…</translation>
+    </message>
+    <message id="ui.export.saved">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>%1 を保存しました (%2 行)。</translation>
+    </message>
+    <message id="ui.export.saving">
+      <source>Saving…</source>
+      <translation>保存しています…</translation>
+    </message>
+    <message id="ui.export.title">
+      <source>Export for the accountant</source>
+      <translation>会計士向けに書き出す</translation>
+    </message>
+    <message id="ui.export.to">
+      <source>To</source>
+      <translation>終了日</translation>
+    </message>
+    <message id="ui.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>%1 を書き込めませんでした: %2</translation>
     </message>
     <message id="ui.floating.hide">
       <source>Hide the floating timer</source>

@@ -271,6 +271,10 @@
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
       <translation>แสดง แก้ไข หรือลบรายการเวลา: entries [--task T] | edit | rm</translation>
     </message>
+    <message id="cli.command.export">
+      <source>Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>ส่งออกรายการเวลาหรือใบแจ้งหนี้ของช่วงเวลาเป็น CSV สำหรับนักบัญชี: export entries|invoices --from วัน --to วัน [--out ไฟล์]</translation>
+    </message>
     <message id="cli.command.invoice">
       <source>Invoices: invoice draft|create|list|show|status|void|rm|pdf</source>
       <translation>ใบแจ้งหนี้: invoice draft|create|list|show|status|void|rm|pdf</translation>
@@ -382,6 +386,38 @@
     <message id="cli.err.unknownCommand">
       <source>Unknown command: %1. Run morvane --help for the list of commands.</source>
       <translation>ไม่รู้จักคำสั่ง: %1 เรียกใช้ morvane --help เพื่อดูรายการคำสั่ง</translation>
+    </message>
+    <message id="cli.export.argument.kind">
+      <source>What to export: entries or invoices.</source>
+      <translation>สิ่งที่จะส่งออก: entries (รายการเวลา) หรือ invoices (ใบแจ้งหนี้)</translation>
+    </message>
+    <message id="cli.export.option.from">
+      <source>First day of the period (yyyy-MM-dd).</source>
+      <translation>วันแรกของช่วงเวลา (yyyy-MM-dd)</translation>
+    </message>
+    <message id="cli.export.option.help">
+      <source>Show this help.</source>
+      <translation>แสดงความช่วยเหลือนี้</translation>
+    </message>
+    <message id="cli.export.option.out">
+      <source>The CSV file to write; without it the CSV goes to standard output.</source>
+      <translation>ไฟล์ CSV ที่จะเขียน ถ้าไม่ระบุ CSV จะออกทางเอาต์พุตมาตรฐาน</translation>
+    </message>
+    <message id="cli.export.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>วันสุดท้ายของช่วงเวลา (yyyy-MM-dd) รวมวันนั้นด้วย</translation>
+    </message>
+    <message id="cli.export.usage">
+      <source>Usage: morvane export entries|invoices --from DAY --to DAY [--out FILE]</source>
+      <translation>วิธีใช้: morvane export entries|invoices --from วัน --to วัน [--out ไฟล์]</translation>
+    </message>
+    <message id="cli.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>เขียน %1 ไม่ได้: %2</translation>
+    </message>
+    <message id="cli.export.written">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>บันทึก %1 แล้ว (%2 แถว)</translation>
     </message>
     <message id="cli.invoice.ambiguous">
       <source>Several invoices match %1; give more of the id or the number.</source>
@@ -1762,6 +1798,70 @@
     <message id="ui.entries.total">
       <source>Total %1</source>
       <translation>รวม %1</translation>
+    </message>
+    <message id="ui.export.action">
+      <source>Export for the accountant…</source>
+      <translation>ส่งออกสำหรับนักบัญชี…</translation>
+    </message>
+    <message id="ui.export.badPeriod">
+      <source>Enter both days as YYYY-MM-DD, the first not after the last.</source>
+      <translation>กรอกทั้งสองวันในรูปแบบ YYYY-MM-DD โดยวันแรกต้องไม่อยู่หลังวันสุดท้าย</translation>
+    </message>
+    <message id="ui.export.body">
+      <source>A CSV file that spreadsheets and bookkeeping programs read: one row per time entry or invoice of the period.</source>
+      <translation>ไฟล์ CSV ที่โปรแกรมตารางคำนวณและโปรแกรมบัญชีอ่านได้ หนึ่งแถวต่อหนึ่งรายการเวลาหรือใบแจ้งหนี้ในช่วงเวลานั้น</translation>
+    </message>
+    <message id="ui.export.close">
+      <source>Close</source>
+      <translation>ปิด</translation>
+    </message>
+    <message id="ui.export.csvFilter">
+      <source>CSV files (*.csv)</source>
+      <translation>ไฟล์ CSV (*.csv)</translation>
+    </message>
+    <message id="ui.export.entries">
+      <source>Time entries</source>
+      <translation>รายการเวลา</translation>
+    </message>
+    <message id="ui.export.fileTitle">
+      <source>Save the CSV file</source>
+      <translation>บันทึกไฟล์ CSV</translation>
+    </message>
+    <message id="ui.export.from">
+      <source>From</source>
+      <translation>ตั้งแต่</translation>
+    </message>
+    <message id="ui.export.invoices">
+      <source>Invoices</source>
+      <translation>ใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.export.notReady">
+      <source>Choose a period and a file first.</source>
+      <translation>เลือกช่วงเวลาและไฟล์ก่อน</translation>
+    </message>
+    <message id="ui.export.save">
+      <source>Save…</source>
+      <translation>บันทึก…</translation>
+    </message>
+    <message id="ui.export.saved">
+      <source>Saved %1 (rows: %2).</source>
+      <translation>บันทึก %1 แล้ว (%2 แถว)</translation>
+    </message>
+    <message id="ui.export.saving">
+      <source>Saving…</source>
+      <translation>กำลังบันทึก…</translation>
+    </message>
+    <message id="ui.export.title">
+      <source>Export for the accountant</source>
+      <translation>ส่งออกสำหรับนักบัญชี</translation>
+    </message>
+    <message id="ui.export.to">
+      <source>To</source>
+      <translation>ถึง</translation>
+    </message>
+    <message id="ui.export.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>เขียน %1 ไม่ได้: %2</translation>
     </message>
     <message id="ui.floating.hide">
       <source>Hide the floating timer</source>

@@ -282,6 +282,9 @@ public:
     QCoro::Task<bool> logManualMinutes(QString taskId, double minutes);
     // Loads every entry of one task, older ones than the recent window included.
     QCoro::Task<bool> fetchEntries(QString taskId);
+    // Every readable entry that started in [start, end), however old, answered and not kept;
+    // none when the read failed (`lastError` says why).
+    QCoro::Task<std::optional<QList<TimeEntry>>> readEntriesBetween(QDateTime start, QDateTime end);
     QCoro::Task<bool> updateEntry(QString entryId, TimeEntryPatch patch);
     QCoro::Task<bool> deleteEntry(QString entryId);
     // Sets the task's total to the sum of its entries' durations as the backend has them.
@@ -334,6 +337,8 @@ public:
     [[nodiscard]] bool priorBillingReady() const { return m_priorBillingReady; }
     [[nodiscard]] bool priorBillingError() const { return m_priorBillingError; }
     QCoro::Task<bool> reloadBilledEntrySet();
+    // Which invoice holds which entry, void invoices' links included; answered and not kept.
+    QCoro::Task<std::optional<QList<InvoiceEntryLink>>> readEntryLinks();
     QCoro::Task<std::optional<QList<InvoiceLine>>> loadInvoiceLines(QString invoiceId);
     // Draft, sent or paid; a void invoice stays void.
     QCoro::Task<bool> updateInvoiceStatus(QString invoiceId, InvoiceStatus status);

@@ -61,6 +61,7 @@ ApplicationWindow {
     }
 
     FloatingTimer { id: floating }
+    ExportDialog { id: exportDialog }
 
     IdleDialog {
         id: idleDialog
@@ -89,6 +90,7 @@ ApplicationWindow {
         else if (name === "floatingTimer") floating.visible = !floating.visible
         else if (name === "toggleTheme") Shell.colorScheme = Shell.dark ? "light" : "dark"
         else if (name === "signOut") Shell.signOut()
+        else if (name === "accountantExport") exportDialog.open()
         else if (page.item && page.item.runAction) page.item.runAction(name)
     }
 

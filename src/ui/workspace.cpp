@@ -74,6 +74,8 @@ const PaletteAction paletteActions[] = {
     {"settings", [] { return qtTrId("ui.action.settings"); }},
     //% "Switch between light and dark"
     {"toggleTheme", [] { return qtTrId("ui.action.toggleTheme"); }},
+    //% "Export for the accountant…"
+    {"accountantExport", [] { return qtTrId("ui.export.action"); }},
     //% "Sign out"
     {"signOut", [] { return qtTrId("ui.action.signOut"); }},
 };
