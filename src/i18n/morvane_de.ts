@@ -1703,6 +1703,66 @@
       <source>None</source>
       <translation>Keine</translation>
     </message>
+    <message id="ui.clients.address">
+      <source>Address</source>
+      <translation>Adresse</translation>
+    </message>
+    <message id="ui.clients.deleteBody">
+      <source>It leaves your list of clients. Invoices you already wrote for this client keep it.</source>
+      <translation>Der Kunde verschwindet aus deiner Kundenliste. Rechnungen, die du schon für ihn geschrieben hast, behalten ihn.</translation>
+    </message>
+    <message id="ui.clients.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>%1 löschen?</translation>
+    </message>
+    <message id="ui.clients.edit">
+      <source>Edit client</source>
+      <translation>Kunde bearbeiten</translation>
+    </message>
+    <message id="ui.clients.email">
+      <source>E-mail</source>
+      <translation>E-Mail</translation>
+    </message>
+    <message id="ui.clients.emptyHint">
+      <source>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</source>
+      <translation>Lege die Personen und Firmen an, denen du Rechnungen stellst, und wähle sie beim Schreiben einer Rechnung. Drücke Strg+N oder „Neuer Kunde“, um den ersten anzulegen.</translation>
+    </message>
+    <message id="ui.clients.emptyTitle">
+      <source>No clients yet</source>
+      <translation>Noch keine Kunden</translation>
+    </message>
+    <message id="ui.clients.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Handelsregisternummer</translation>
+    </message>
+    <message id="ui.clients.name">
+      <source>Name</source>
+      <translation>Name</translation>
+    </message>
+    <message id="ui.clients.namePlaceholder">
+      <source>Company or person</source>
+      <translation>Firma oder Person</translation>
+    </message>
+    <message id="ui.clients.new">
+      <source>New client</source>
+      <translation>Neuer Kunde</translation>
+    </message>
+    <message id="ui.clients.noMatch">
+      <source>No client matches “%1”</source>
+      <translation>Kein Kunde passt zu „%1“</translation>
+    </message>
+    <message id="ui.clients.search">
+      <source>Search clients</source>
+      <translation>Kunden suchen</translation>
+    </message>
+    <message id="ui.clients.title">
+      <source>Clients</source>
+      <translation>Kunden</translation>
+    </message>
+    <message id="ui.clients.vatId">
+      <source>VAT number</source>
+      <translation>USt-IdNr.</translation>
+    </message>
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Abbrechen</translation>

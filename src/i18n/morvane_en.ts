@@ -1703,6 +1703,66 @@
       <source>None</source>
       <translation>None</translation>
     </message>
+    <message id="ui.clients.address">
+      <source>Address</source>
+      <translation>Address</translation>
+    </message>
+    <message id="ui.clients.deleteBody">
+      <source>It leaves your list of clients. Invoices you already wrote for this client keep it.</source>
+      <translation>It leaves your list of clients. Invoices you already wrote for this client keep it.</translation>
+    </message>
+    <message id="ui.clients.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>Delete %1?</translation>
+    </message>
+    <message id="ui.clients.edit">
+      <source>Edit client</source>
+      <translation>Edit client</translation>
+    </message>
+    <message id="ui.clients.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.clients.emptyHint">
+      <source>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</source>
+      <translation>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</translation>
+    </message>
+    <message id="ui.clients.emptyTitle">
+      <source>No clients yet</source>
+      <translation>No clients yet</translation>
+    </message>
+    <message id="ui.clients.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Chamber of commerce number</translation>
+    </message>
+    <message id="ui.clients.name">
+      <source>Name</source>
+      <translation>Name</translation>
+    </message>
+    <message id="ui.clients.namePlaceholder">
+      <source>Company or person</source>
+      <translation>Company or person</translation>
+    </message>
+    <message id="ui.clients.new">
+      <source>New client</source>
+      <translation>New client</translation>
+    </message>
+    <message id="ui.clients.noMatch">
+      <source>No client matches “%1”</source>
+      <translation>No client matches “%1”</translation>
+    </message>
+    <message id="ui.clients.search">
+      <source>Search clients</source>
+      <translation>Search clients</translation>
+    </message>
+    <message id="ui.clients.title">
+      <source>Clients</source>
+      <translation>Clients</translation>
+    </message>
+    <message id="ui.clients.vatId">
+      <source>VAT number</source>
+      <translation>VAT number</translation>
+    </message>
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Cancel</translation>

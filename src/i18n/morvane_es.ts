@@ -1703,6 +1703,66 @@
       <source>None</source>
       <translation>Ninguna</translation>
     </message>
+    <message id="ui.clients.address">
+      <source>Address</source>
+      <translation>Dirección</translation>
+    </message>
+    <message id="ui.clients.deleteBody">
+      <source>It leaves your list of clients. Invoices you already wrote for this client keep it.</source>
+      <translation>Desaparece de tu lista de clientes. Las facturas que ya hiciste para este cliente lo conservan.</translation>
+    </message>
+    <message id="ui.clients.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>¿Eliminar %1?</translation>
+    </message>
+    <message id="ui.clients.edit">
+      <source>Edit client</source>
+      <translation>Editar cliente</translation>
+    </message>
+    <message id="ui.clients.email">
+      <source>E-mail</source>
+      <translation>Correo electrónico</translation>
+    </message>
+    <message id="ui.clients.emptyHint">
+      <source>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</source>
+      <translation>Añade las personas y empresas a las que facturas y elígelas al hacer una factura. Pulsa Ctrl+N o «Nuevo cliente» para añadir el primero.</translation>
+    </message>
+    <message id="ui.clients.emptyTitle">
+      <source>No clients yet</source>
+      <translation>Todavía no hay clientes</translation>
+    </message>
+    <message id="ui.clients.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Número de registro mercantil</translation>
+    </message>
+    <message id="ui.clients.name">
+      <source>Name</source>
+      <translation>Nombre</translation>
+    </message>
+    <message id="ui.clients.namePlaceholder">
+      <source>Company or person</source>
+      <translation>Empresa o persona</translation>
+    </message>
+    <message id="ui.clients.new">
+      <source>New client</source>
+      <translation>Nuevo cliente</translation>
+    </message>
+    <message id="ui.clients.noMatch">
+      <source>No client matches “%1”</source>
+      <translation>Ningún cliente coincide con «%1»</translation>
+    </message>
+    <message id="ui.clients.search">
+      <source>Search clients</source>
+      <translation>Buscar clientes</translation>
+    </message>
+    <message id="ui.clients.title">
+      <source>Clients</source>
+      <translation>Clientes</translation>
+    </message>
+    <message id="ui.clients.vatId">
+      <source>VAT number</source>
+      <translation>NIF-IVA</translation>
+    </message>
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Cancelar</translation>

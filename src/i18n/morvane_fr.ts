@@ -1703,6 +1703,66 @@
       <source>None</source>
       <translation>Aucune</translation>
     </message>
+    <message id="ui.clients.address">
+      <source>Address</source>
+      <translation>Adresse</translation>
+    </message>
+    <message id="ui.clients.deleteBody">
+      <source>It leaves your list of clients. Invoices you already wrote for this client keep it.</source>
+      <translation>Il disparaît de votre liste de clients. Les factures déjà établies pour ce client le conservent.</translation>
+    </message>
+    <message id="ui.clients.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>Supprimer %1 ?</translation>
+    </message>
+    <message id="ui.clients.edit">
+      <source>Edit client</source>
+      <translation>Modifier le client</translation>
+    </message>
+    <message id="ui.clients.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.clients.emptyHint">
+      <source>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</source>
+      <translation>Ajoutez les personnes et entreprises que vous facturez, puis choisissez-les en rédigeant une facture. Appuyez sur Ctrl+N ou « Nouveau client » pour ajouter le premier.</translation>
+    </message>
+    <message id="ui.clients.emptyTitle">
+      <source>No clients yet</source>
+      <translation>Aucun client pour l'instant</translation>
+    </message>
+    <message id="ui.clients.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Numéro SIREN</translation>
+    </message>
+    <message id="ui.clients.name">
+      <source>Name</source>
+      <translation>Nom</translation>
+    </message>
+    <message id="ui.clients.namePlaceholder">
+      <source>Company or person</source>
+      <translation>Entreprise ou personne</translation>
+    </message>
+    <message id="ui.clients.new">
+      <source>New client</source>
+      <translation>Nouveau client</translation>
+    </message>
+    <message id="ui.clients.noMatch">
+      <source>No client matches “%1”</source>
+      <translation>Aucun client ne correspond à « %1 »</translation>
+    </message>
+    <message id="ui.clients.search">
+      <source>Search clients</source>
+      <translation>Rechercher des clients</translation>
+    </message>
+    <message id="ui.clients.title">
+      <source>Clients</source>
+      <translation>Clients</translation>
+    </message>
+    <message id="ui.clients.vatId">
+      <source>VAT number</source>
+      <translation>Numéro de TVA</translation>
+    </message>
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Annuler</translation>

@@ -1703,6 +1703,66 @@
       <source>None</source>
       <translation>Nessuna</translation>
     </message>
+    <message id="ui.clients.address">
+      <source>Address</source>
+      <translation>Indirizzo</translation>
+    </message>
+    <message id="ui.clients.deleteBody">
+      <source>It leaves your list of clients. Invoices you already wrote for this client keep it.</source>
+      <translation>Scompare dall'elenco dei clienti. Le fatture già emesse per questo cliente lo mantengono.</translation>
+    </message>
+    <message id="ui.clients.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>Eliminare %1?</translation>
+    </message>
+    <message id="ui.clients.edit">
+      <source>Edit client</source>
+      <translation>Modifica cliente</translation>
+    </message>
+    <message id="ui.clients.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.clients.emptyHint">
+      <source>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</source>
+      <translation>Aggiungi le persone e le aziende a cui fatturi, poi sceglile quando scrivi una fattura. Premi Ctrl+N o «Nuovo cliente» per aggiungere il primo.</translation>
+    </message>
+    <message id="ui.clients.emptyTitle">
+      <source>No clients yet</source>
+      <translation>Ancora nessun cliente</translation>
+    </message>
+    <message id="ui.clients.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Numero REA</translation>
+    </message>
+    <message id="ui.clients.name">
+      <source>Name</source>
+      <translation>Nome</translation>
+    </message>
+    <message id="ui.clients.namePlaceholder">
+      <source>Company or person</source>
+      <translation>Azienda o persona</translation>
+    </message>
+    <message id="ui.clients.new">
+      <source>New client</source>
+      <translation>Nuovo cliente</translation>
+    </message>
+    <message id="ui.clients.noMatch">
+      <source>No client matches “%1”</source>
+      <translation>Nessun cliente corrisponde a «%1»</translation>
+    </message>
+    <message id="ui.clients.search">
+      <source>Search clients</source>
+      <translation>Cerca clienti</translation>
+    </message>
+    <message id="ui.clients.title">
+      <source>Clients</source>
+      <translation>Clienti</translation>
+    </message>
+    <message id="ui.clients.vatId">
+      <source>VAT number</source>
+      <translation>Partita IVA</translation>
+    </message>
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Annulla</translation>

@@ -1703,6 +1703,66 @@
       <source>None</source>
       <translation>なし</translation>
     </message>
+    <message id="ui.clients.address">
+      <source>Address</source>
+      <translation>住所</translation>
+    </message>
+    <message id="ui.clients.deleteBody">
+      <source>It leaves your list of clients. Invoices you already wrote for this client keep it.</source>
+      <translation>クライアント一覧から消えます。このクライアント宛てに作成済みの請求書はそのまま残ります。</translation>
+    </message>
+    <message id="ui.clients.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>%1 を削除しますか？</translation>
+    </message>
+    <message id="ui.clients.edit">
+      <source>Edit client</source>
+      <translation>クライアントを編集</translation>
+    </message>
+    <message id="ui.clients.email">
+      <source>E-mail</source>
+      <translation>メールアドレス</translation>
+    </message>
+    <message id="ui.clients.emptyHint">
+      <source>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</source>
+      <translation>請求先の個人や会社を登録しておくと、請求書を作るときに選べます。Ctrl+N か「新しいクライアント」で追加できます。</translation>
+    </message>
+    <message id="ui.clients.emptyTitle">
+      <source>No clients yet</source>
+      <translation>クライアントはまだありません</translation>
+    </message>
+    <message id="ui.clients.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>商業登記番号</translation>
+    </message>
+    <message id="ui.clients.name">
+      <source>Name</source>
+      <translation>名前</translation>
+    </message>
+    <message id="ui.clients.namePlaceholder">
+      <source>Company or person</source>
+      <translation>会社名または個人名</translation>
+    </message>
+    <message id="ui.clients.new">
+      <source>New client</source>
+      <translation>新しいクライアント</translation>
+    </message>
+    <message id="ui.clients.noMatch">
+      <source>No client matches “%1”</source>
+      <translation>「%1」に一致するクライアントはありません</translation>
+    </message>
+    <message id="ui.clients.search">
+      <source>Search clients</source>
+      <translation>クライアントを検索</translation>
+    </message>
+    <message id="ui.clients.title">
+      <source>Clients</source>
+      <translation>クライアント</translation>
+    </message>
+    <message id="ui.clients.vatId">
+      <source>VAT number</source>
+      <translation>VAT番号</translation>
+    </message>
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>キャンセル</translation>

@@ -1703,6 +1703,66 @@
       <source>None</source>
       <translation>Geen</translation>
     </message>
+    <message id="ui.clients.address">
+      <source>Address</source>
+      <translation>Adres</translation>
+    </message>
+    <message id="ui.clients.deleteBody">
+      <source>It leaves your list of clients. Invoices you already wrote for this client keep it.</source>
+      <translation>De klant verdwijnt uit je klantenlijst. Facturen die je al voor deze klant hebt gemaakt, houden hem.</translation>
+    </message>
+    <message id="ui.clients.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>%1 verwijderen?</translation>
+    </message>
+    <message id="ui.clients.edit">
+      <source>Edit client</source>
+      <translation>Klant bewerken</translation>
+    </message>
+    <message id="ui.clients.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.clients.emptyHint">
+      <source>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</source>
+      <translation>Voeg de mensen en bedrijven toe die je factureert en kies ze als je een factuur maakt. Druk op Ctrl+N of “Nieuwe klant” om de eerste toe te voegen.</translation>
+    </message>
+    <message id="ui.clients.emptyTitle">
+      <source>No clients yet</source>
+      <translation>Nog geen klanten</translation>
+    </message>
+    <message id="ui.clients.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>KvK-nummer</translation>
+    </message>
+    <message id="ui.clients.name">
+      <source>Name</source>
+      <translation>Naam</translation>
+    </message>
+    <message id="ui.clients.namePlaceholder">
+      <source>Company or person</source>
+      <translation>Bedrijf of persoon</translation>
+    </message>
+    <message id="ui.clients.new">
+      <source>New client</source>
+      <translation>Nieuwe klant</translation>
+    </message>
+    <message id="ui.clients.noMatch">
+      <source>No client matches “%1”</source>
+      <translation>Geen klant past bij “%1”</translation>
+    </message>
+    <message id="ui.clients.search">
+      <source>Search clients</source>
+      <translation>Klanten zoeken</translation>
+    </message>
+    <message id="ui.clients.title">
+      <source>Clients</source>
+      <translation>Klanten</translation>
+    </message>
+    <message id="ui.clients.vatId">
+      <source>VAT number</source>
+      <translation>Btw-nummer</translation>
+    </message>
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Annuleren</translation>

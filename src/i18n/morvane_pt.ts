@@ -1703,6 +1703,66 @@
       <source>None</source>
       <translation>Nenhuma</translation>
     </message>
+    <message id="ui.clients.address">
+      <source>Address</source>
+      <translation>Morada</translation>
+    </message>
+    <message id="ui.clients.deleteBody">
+      <source>It leaves your list of clients. Invoices you already wrote for this client keep it.</source>
+      <translation>Sai da sua lista de clientes. As faturas que já emitiu para este cliente mantêm-no.</translation>
+    </message>
+    <message id="ui.clients.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>Eliminar %1?</translation>
+    </message>
+    <message id="ui.clients.edit">
+      <source>Edit client</source>
+      <translation>Editar cliente</translation>
+    </message>
+    <message id="ui.clients.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.clients.emptyHint">
+      <source>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</source>
+      <translation>Adicione as pessoas e empresas a quem fatura e escolha-as ao emitir uma fatura. Prima Ctrl+N ou «Novo cliente» para adicionar o primeiro.</translation>
+    </message>
+    <message id="ui.clients.emptyTitle">
+      <source>No clients yet</source>
+      <translation>Ainda não há clientes</translation>
+    </message>
+    <message id="ui.clients.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Número de registo comercial</translation>
+    </message>
+    <message id="ui.clients.name">
+      <source>Name</source>
+      <translation>Nome</translation>
+    </message>
+    <message id="ui.clients.namePlaceholder">
+      <source>Company or person</source>
+      <translation>Empresa ou pessoa</translation>
+    </message>
+    <message id="ui.clients.new">
+      <source>New client</source>
+      <translation>Novo cliente</translation>
+    </message>
+    <message id="ui.clients.noMatch">
+      <source>No client matches “%1”</source>
+      <translation>Nenhum cliente corresponde a «%1»</translation>
+    </message>
+    <message id="ui.clients.search">
+      <source>Search clients</source>
+      <translation>Procurar clientes</translation>
+    </message>
+    <message id="ui.clients.title">
+      <source>Clients</source>
+      <translation>Clientes</translation>
+    </message>
+    <message id="ui.clients.vatId">
+      <source>VAT number</source>
+      <translation>Número de IVA</translation>
+    </message>
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>Cancelar</translation>

@@ -1703,6 +1703,66 @@
       <source>None</source>
       <translation>ไม่มี</translation>
     </message>
+    <message id="ui.clients.address">
+      <source>Address</source>
+      <translation>ที่อยู่</translation>
+    </message>
+    <message id="ui.clients.deleteBody">
+      <source>It leaves your list of clients. Invoices you already wrote for this client keep it.</source>
+      <translation>ลูกค้ารายนี้จะหายไปจากรายชื่อลูกค้า ใบแจ้งหนี้ที่ออกให้ลูกค้ารายนี้แล้วยังคงเก็บข้อมูลไว้</translation>
+    </message>
+    <message id="ui.clients.deleteTitle">
+      <source>Delete %1?</source>
+      <translation>ลบ %1 ไหม</translation>
+    </message>
+    <message id="ui.clients.edit">
+      <source>Edit client</source>
+      <translation>แก้ไขลูกค้า</translation>
+    </message>
+    <message id="ui.clients.email">
+      <source>E-mail</source>
+      <translation>อีเมล</translation>
+    </message>
+    <message id="ui.clients.emptyHint">
+      <source>Add the people and companies you invoice, then choose them when you write an invoice. Press Ctrl+N or “New client” to add the first.</source>
+      <translation>เพิ่มบุคคลและบริษัทที่คุณออกใบแจ้งหนี้ให้ แล้วเลือกได้เมื่อเขียนใบแจ้งหนี้ กด Ctrl+N หรือ “ลูกค้าใหม่” เพื่อเพิ่มรายแรก</translation>
+    </message>
+    <message id="ui.clients.emptyTitle">
+      <source>No clients yet</source>
+      <translation>ยังไม่มีลูกค้า</translation>
+    </message>
+    <message id="ui.clients.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>เลขทะเบียนนิติบุคคล</translation>
+    </message>
+    <message id="ui.clients.name">
+      <source>Name</source>
+      <translation>ชื่อ</translation>
+    </message>
+    <message id="ui.clients.namePlaceholder">
+      <source>Company or person</source>
+      <translation>บริษัทหรือบุคคล</translation>
+    </message>
+    <message id="ui.clients.new">
+      <source>New client</source>
+      <translation>ลูกค้าใหม่</translation>
+    </message>
+    <message id="ui.clients.noMatch">
+      <source>No client matches “%1”</source>
+      <translation>ไม่มีลูกค้าที่ตรงกับ “%1”</translation>
+    </message>
+    <message id="ui.clients.search">
+      <source>Search clients</source>
+      <translation>ค้นหาลูกค้า</translation>
+    </message>
+    <message id="ui.clients.title">
+      <source>Clients</source>
+      <translation>ลูกค้า</translation>
+    </message>
+    <message id="ui.clients.vatId">
+      <source>VAT number</source>
+      <translation>เลขประจำตัวผู้เสียภาษี</translation>
+    </message>
     <message id="ui.common.cancel">
       <source>Cancel</source>
       <translation>ยกเลิก</translation>

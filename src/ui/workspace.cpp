@@ -94,6 +94,7 @@ Workspace::Workspace(QObject *parent)
                             this))
     , m_palette(new RowsModel({u"kind"_s, u"id"_s, u"title"_s, u"subtitle"_s, u"projectId"_s}, this))
     , m_inspector(new TaskInspector(this))
+    , m_clients(new ClientList(this))
 {
     m_rebuild.setSingleShot(true);
     m_rebuild.setInterval(0);
@@ -117,6 +118,7 @@ void Workspace::setStore(AppStore *store)
     m_store = store;
     m_rowCache.clear();
     m_inspector->setStore(store);
+    m_clients->setStore(store);
     if (store) {
         for (auto signal : {&AppStore::projectsChanged, &AppStore::tasksChanged, &AppStore::teamsChanged,
                             &AppStore::savingTaskIdsChanged, &AppStore::selectedTaskIdsChanged,

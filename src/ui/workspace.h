@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/appstore.h"
+#include "ui/clientlist.h"
 #include "ui/rowsmodel.h"
 #include "ui/taskinspector.h"
 
@@ -24,6 +25,7 @@ class Workspace : public QObject
     Q_PROPERTY(RowsModel *tasks READ tasks CONSTANT)
     Q_PROPERTY(RowsModel *palette READ palette CONSTANT)
     Q_PROPERTY(TaskInspector *inspector READ inspector CONSTANT)
+    Q_PROPERTY(ClientList *clients READ clients CONSTANT)
     Q_PROPERTY(bool hasStore READ hasStore NOTIFY storeChanged)
     Q_PROPERTY(QString selectedProjectId READ selectedProjectId WRITE selectProject NOTIFY selectionChanged)
     Q_PROPERTY(QString selectedTaskId READ selectedTaskId WRITE selectTask NOTIFY selectionChanged)
@@ -62,6 +64,7 @@ public:
     [[nodiscard]] RowsModel *tasks() const { return m_tasks; }
     [[nodiscard]] RowsModel *palette() const { return m_palette; }
     [[nodiscard]] TaskInspector *inspector() const { return m_inspector; }
+    [[nodiscard]] ClientList *clients() const { return m_clients; }
 
     [[nodiscard]] QString selectedProjectId() const;
     void selectProject(const QString &projectId);
@@ -168,6 +171,7 @@ private:
     RowsModel *m_tasks;
     RowsModel *m_palette;
     TaskInspector *m_inspector;
+    ClientList *m_clients;
     QString m_message;
     QString m_lastRunningTaskId;
     // Many store signals arrive together after a refresh; the rows are rebuilt once.

@@ -12,6 +12,8 @@ Popup {
     objectName: "exportDialog"
     property string kind: "entries"
     readonly property bool periodOk: exporter.isPeriod(fromField.text, toField.text)
+    // An outcome belongs to the choice it was made for.
+    onKindChanged: exporter.clear()
     modal: true
     focus: true
     anchors.centerIn: Overlay.overlay
@@ -112,6 +114,7 @@ Popup {
                 Accessible.name: qsTrId("ui.export.from")
                 invalid: text !== "" && !dialog.periodOk
                 inputMethodHints: Qt.ImhDate
+                onTextChanged: exporter.clear()
                 Keys.onReturnPressed: if (dialog.periodOk) dialog.chooseFile()
             }
             Field {
@@ -122,6 +125,7 @@ Popup {
                 Accessible.name: qsTrId("ui.export.to")
                 invalid: text !== "" && !dialog.periodOk
                 inputMethodHints: Qt.ImhDate
+                onTextChanged: exporter.clear()
                 Keys.onReturnPressed: if (dialog.periodOk) dialog.chooseFile()
             }
         }

@@ -18,6 +18,7 @@ Rectangle {
     property string page: ""
     // The screens reached from the sidebar's links, in the order it lists them: { id, title, source }.
     readonly property var pageLinks: [
+        { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
     ]
     property alias sidebarWidth: sidebar.preferredWidth
     property alias inspectorWidth: inspectorPane.preferredWidth
