@@ -101,8 +101,8 @@ QList<PricedEntry> price(const Sources &sources)
     for (Dated &item : dated) {
         PricedEntry &priced = item.priced;
         const TaskItem *task = tasks.value(priced.entry.taskId);
-        priced.projectId = !priced.entry.projectId.isEmpty() ? priced.entry.projectId
-                                                               : (task ? task->projectId : QString());
+        priced.projectId =
+            !priced.entry.projectId.isEmpty() ? priced.entry.projectId : (task ? task->projectId : QString());
         const Project *project = projects.value(priced.projectId);
         const double legacy = Earnings::legacyRate(task, project, sources.defaultHourlyRate);
         Billing billing;

@@ -1803,6 +1803,94 @@
       <source>Saving</source>
       <translation>Wird gespeichert</translation>
     </message>
+    <message id="ui.earnings.barName">
+      <source>%1: earned %2, billed %3, unbilled %4</source>
+      <translation>%1: verdient %2, abgerechnet %3, offen %4</translation>
+    </message>
+    <message id="ui.earnings.billed">
+      <source>Billed</source>
+      <translation>Abgerechnet</translation>
+    </message>
+    <message id="ui.earnings.billedChip">
+      <source>billed</source>
+      <translation>abgerechnet</translation>
+    </message>
+    <message id="ui.earnings.byMonth">
+      <source>Month</source>
+      <translation>Monat</translation>
+    </message>
+    <message id="ui.earnings.byProject">
+      <source>Project</source>
+      <translation>Projekt</translation>
+    </message>
+    <message id="ui.earnings.byWeek">
+      <source>Week</source>
+      <translation>Woche</translation>
+    </message>
+    <message id="ui.earnings.coverage">
+      <source>%1 to %2</source>
+      <translation>%1 bis %2</translation>
+    </message>
+    <message id="ui.earnings.dateFormat">
+      <source>d MMM yyyy</source>
+      <translation>d. MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.dayFormat">
+      <source>d MMM</source>
+      <translation>d. MMM</translation>
+    </message>
+    <message id="ui.earnings.earned">
+      <source>Earned</source>
+      <translation>Verdient</translation>
+    </message>
+    <message id="ui.earnings.emptyHint">
+      <source>Start the timer on a task with Space, or log time in its inspector. What you earn shows up here by week, month and project.</source>
+      <translation>Starte den Timer für eine Aufgabe mit der Leertaste oder trage Zeit in ihren Details ein. Was du verdienst, erscheint hier nach Woche, Monat und Projekt.</translation>
+    </message>
+    <message id="ui.earnings.emptyTitle">
+      <source>Nothing tracked in these months</source>
+      <translation>In diesen Monaten wurde nichts erfasst</translation>
+    </message>
+    <message id="ui.earnings.entries">
+      <source>Entries</source>
+      <translation>Einträge</translation>
+    </message>
+    <message id="ui.earnings.entriesOf">
+      <source>Entries of %1</source>
+      <translation>Einträge von %1</translation>
+    </message>
+    <message id="ui.earnings.hours">
+      <source>Hours</source>
+      <translation>Stunden</translation>
+    </message>
+    <message id="ui.earnings.monthFormat">
+      <source>MMM yyyy</source>
+      <translation>MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.noProject">
+      <source>No project</source>
+      <translation>Kein Projekt</translation>
+    </message>
+    <message id="ui.earnings.oneOffNote">
+      <source>includes %1 charged once</source>
+      <translation>inkl. %1 einmalig</translation>
+    </message>
+    <message id="ui.earnings.pickBar">
+      <source>Click a bar to see the entries behind it.</source>
+      <translation>Klicke auf einen Balken, um die Einträge dahinter zu sehen.</translation>
+    </message>
+    <message id="ui.earnings.rate">
+      <source>Per hour</source>
+      <translation>Pro Stunde</translation>
+    </message>
+    <message id="ui.earnings.title">
+      <source>Earnings</source>
+      <translation>Einnahmen</translation>
+    </message>
+    <message id="ui.earnings.unbilled">
+      <source>Unbilled</source>
+      <translation>Offen</translation>
+    </message>
     <message id="ui.entries.billed">
       <source>Billed</source>
       <translation>Abgerechnet</translation>

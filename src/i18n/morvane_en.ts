@@ -1803,6 +1803,94 @@
       <source>Saving</source>
       <translation>Saving</translation>
     </message>
+    <message id="ui.earnings.barName">
+      <source>%1: earned %2, billed %3, unbilled %4</source>
+      <translation>%1: earned %2, billed %3, unbilled %4</translation>
+    </message>
+    <message id="ui.earnings.billed">
+      <source>Billed</source>
+      <translation>Billed</translation>
+    </message>
+    <message id="ui.earnings.billedChip">
+      <source>billed</source>
+      <translation>billed</translation>
+    </message>
+    <message id="ui.earnings.byMonth">
+      <source>Month</source>
+      <translation>Month</translation>
+    </message>
+    <message id="ui.earnings.byProject">
+      <source>Project</source>
+      <translation>Project</translation>
+    </message>
+    <message id="ui.earnings.byWeek">
+      <source>Week</source>
+      <translation>Week</translation>
+    </message>
+    <message id="ui.earnings.coverage">
+      <source>%1 to %2</source>
+      <translation>%1 to %2</translation>
+    </message>
+    <message id="ui.earnings.dateFormat">
+      <source>d MMM yyyy</source>
+      <translation>d MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.dayFormat">
+      <source>d MMM</source>
+      <translation>d MMM</translation>
+    </message>
+    <message id="ui.earnings.earned">
+      <source>Earned</source>
+      <translation>Earned</translation>
+    </message>
+    <message id="ui.earnings.emptyHint">
+      <source>Start the timer on a task with Space, or log time in its inspector. What you earn shows up here by week, month and project.</source>
+      <translation>Start the timer on a task with Space, or log time in its inspector. What you earn shows up here by week, month and project.</translation>
+    </message>
+    <message id="ui.earnings.emptyTitle">
+      <source>Nothing tracked in these months</source>
+      <translation>Nothing tracked in these months</translation>
+    </message>
+    <message id="ui.earnings.entries">
+      <source>Entries</source>
+      <translation>Entries</translation>
+    </message>
+    <message id="ui.earnings.entriesOf">
+      <source>Entries of %1</source>
+      <translation>Entries of %1</translation>
+    </message>
+    <message id="ui.earnings.hours">
+      <source>Hours</source>
+      <translation>Hours</translation>
+    </message>
+    <message id="ui.earnings.monthFormat">
+      <source>MMM yyyy</source>
+      <translation>MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.noProject">
+      <source>No project</source>
+      <translation>No project</translation>
+    </message>
+    <message id="ui.earnings.oneOffNote">
+      <source>includes %1 charged once</source>
+      <translation>includes %1 charged once</translation>
+    </message>
+    <message id="ui.earnings.pickBar">
+      <source>Click a bar to see the entries behind it.</source>
+      <translation>Click a bar to see the entries behind it.</translation>
+    </message>
+    <message id="ui.earnings.rate">
+      <source>Per hour</source>
+      <translation>Per hour</translation>
+    </message>
+    <message id="ui.earnings.title">
+      <source>Earnings</source>
+      <translation>Earnings</translation>
+    </message>
+    <message id="ui.earnings.unbilled">
+      <source>Unbilled</source>
+      <translation>Unbilled</translation>
+    </message>
     <message id="ui.entries.billed">
       <source>Billed</source>
       <translation>Billed</translation>

@@ -1803,6 +1803,94 @@
       <source>Saving</source>
       <translation>Guardando</translation>
     </message>
+    <message id="ui.earnings.barName">
+      <source>%1: earned %2, billed %3, unbilled %4</source>
+      <translation>%1: ganado %2, facturado %3, sin facturar %4</translation>
+    </message>
+    <message id="ui.earnings.billed">
+      <source>Billed</source>
+      <translation>Facturado</translation>
+    </message>
+    <message id="ui.earnings.billedChip">
+      <source>billed</source>
+      <translation>facturado</translation>
+    </message>
+    <message id="ui.earnings.byMonth">
+      <source>Month</source>
+      <translation>Mes</translation>
+    </message>
+    <message id="ui.earnings.byProject">
+      <source>Project</source>
+      <translation>Proyecto</translation>
+    </message>
+    <message id="ui.earnings.byWeek">
+      <source>Week</source>
+      <translation>Semana</translation>
+    </message>
+    <message id="ui.earnings.coverage">
+      <source>%1 to %2</source>
+      <translation>del %1 al %2</translation>
+    </message>
+    <message id="ui.earnings.dateFormat">
+      <source>d MMM yyyy</source>
+      <translation>d MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.dayFormat">
+      <source>d MMM</source>
+      <translation>d MMM</translation>
+    </message>
+    <message id="ui.earnings.earned">
+      <source>Earned</source>
+      <translation>Ganado</translation>
+    </message>
+    <message id="ui.earnings.emptyHint">
+      <source>Start the timer on a task with Space, or log time in its inspector. What you earn shows up here by week, month and project.</source>
+      <translation>Inicia el temporizador en una tarea con Espacio o registra tiempo en su inspector. Lo que ganas aparece aquí por semana, mes y proyecto.</translation>
+    </message>
+    <message id="ui.earnings.emptyTitle">
+      <source>Nothing tracked in these months</source>
+      <translation>No hay tiempo registrado en estos meses</translation>
+    </message>
+    <message id="ui.earnings.entries">
+      <source>Entries</source>
+      <translation>Registros</translation>
+    </message>
+    <message id="ui.earnings.entriesOf">
+      <source>Entries of %1</source>
+      <translation>Registros de %1</translation>
+    </message>
+    <message id="ui.earnings.hours">
+      <source>Hours</source>
+      <translation>Horas</translation>
+    </message>
+    <message id="ui.earnings.monthFormat">
+      <source>MMM yyyy</source>
+      <translation>MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.noProject">
+      <source>No project</source>
+      <translation>Sin proyecto</translation>
+    </message>
+    <message id="ui.earnings.oneOffNote">
+      <source>includes %1 charged once</source>
+      <translation>incluye %1 cobrado una vez</translation>
+    </message>
+    <message id="ui.earnings.pickBar">
+      <source>Click a bar to see the entries behind it.</source>
+      <translation>Haz clic en una barra para ver los registros que la forman.</translation>
+    </message>
+    <message id="ui.earnings.rate">
+      <source>Per hour</source>
+      <translation>Por hora</translation>
+    </message>
+    <message id="ui.earnings.title">
+      <source>Earnings</source>
+      <translation>Ingresos</translation>
+    </message>
+    <message id="ui.earnings.unbilled">
+      <source>Unbilled</source>
+      <translation>Sin facturar</translation>
+    </message>
     <message id="ui.entries.billed">
       <source>Billed</source>
       <translation>Facturada</translation>

@@ -1803,6 +1803,94 @@
       <source>Saving</source>
       <translation>Enregistrement</translation>
     </message>
+    <message id="ui.earnings.barName">
+      <source>%1: earned %2, billed %3, unbilled %4</source>
+      <translation>%1 : gagné %2, facturé %3, non facturé %4</translation>
+    </message>
+    <message id="ui.earnings.billed">
+      <source>Billed</source>
+      <translation>Facturé</translation>
+    </message>
+    <message id="ui.earnings.billedChip">
+      <source>billed</source>
+      <translation>facturé</translation>
+    </message>
+    <message id="ui.earnings.byMonth">
+      <source>Month</source>
+      <translation>Mois</translation>
+    </message>
+    <message id="ui.earnings.byProject">
+      <source>Project</source>
+      <translation>Projet</translation>
+    </message>
+    <message id="ui.earnings.byWeek">
+      <source>Week</source>
+      <translation>Semaine</translation>
+    </message>
+    <message id="ui.earnings.coverage">
+      <source>%1 to %2</source>
+      <translation>du %1 au %2</translation>
+    </message>
+    <message id="ui.earnings.dateFormat">
+      <source>d MMM yyyy</source>
+      <translation>d MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.dayFormat">
+      <source>d MMM</source>
+      <translation>d MMM</translation>
+    </message>
+    <message id="ui.earnings.earned">
+      <source>Earned</source>
+      <translation>Gagné</translation>
+    </message>
+    <message id="ui.earnings.emptyHint">
+      <source>Start the timer on a task with Space, or log time in its inspector. What you earn shows up here by week, month and project.</source>
+      <translation>Lancez le minuteur sur une tâche avec Espace, ou saisissez du temps dans son inspecteur. Vos revenus apparaissent ici par semaine, mois et projet.</translation>
+    </message>
+    <message id="ui.earnings.emptyTitle">
+      <source>Nothing tracked in these months</source>
+      <translation>Aucun temps suivi ces derniers mois</translation>
+    </message>
+    <message id="ui.earnings.entries">
+      <source>Entries</source>
+      <translation>Entrées</translation>
+    </message>
+    <message id="ui.earnings.entriesOf">
+      <source>Entries of %1</source>
+      <translation>Entrées : %1</translation>
+    </message>
+    <message id="ui.earnings.hours">
+      <source>Hours</source>
+      <translation>Heures</translation>
+    </message>
+    <message id="ui.earnings.monthFormat">
+      <source>MMM yyyy</source>
+      <translation>MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.noProject">
+      <source>No project</source>
+      <translation>Sans projet</translation>
+    </message>
+    <message id="ui.earnings.oneOffNote">
+      <source>includes %1 charged once</source>
+      <translation>dont %1 facturé une fois</translation>
+    </message>
+    <message id="ui.earnings.pickBar">
+      <source>Click a bar to see the entries behind it.</source>
+      <translation>Cliquez sur une barre pour voir les entrées qui la composent.</translation>
+    </message>
+    <message id="ui.earnings.rate">
+      <source>Per hour</source>
+      <translation>Par heure</translation>
+    </message>
+    <message id="ui.earnings.title">
+      <source>Earnings</source>
+      <translation>Revenus</translation>
+    </message>
+    <message id="ui.earnings.unbilled">
+      <source>Unbilled</source>
+      <translation>Non facturé</translation>
+    </message>
     <message id="ui.entries.billed">
       <source>Billed</source>
       <translation>Facturée</translation>

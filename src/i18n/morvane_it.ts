@@ -1803,6 +1803,94 @@
       <source>Saving</source>
       <translation>Salvataggio</translation>
     </message>
+    <message id="ui.earnings.barName">
+      <source>%1: earned %2, billed %3, unbilled %4</source>
+      <translation>%1: guadagnato %2, fatturato %3, da fatturare %4</translation>
+    </message>
+    <message id="ui.earnings.billed">
+      <source>Billed</source>
+      <translation>Fatturato</translation>
+    </message>
+    <message id="ui.earnings.billedChip">
+      <source>billed</source>
+      <translation>fatturato</translation>
+    </message>
+    <message id="ui.earnings.byMonth">
+      <source>Month</source>
+      <translation>Mese</translation>
+    </message>
+    <message id="ui.earnings.byProject">
+      <source>Project</source>
+      <translation>Progetto</translation>
+    </message>
+    <message id="ui.earnings.byWeek">
+      <source>Week</source>
+      <translation>Settimana</translation>
+    </message>
+    <message id="ui.earnings.coverage">
+      <source>%1 to %2</source>
+      <translation>dal %1 al %2</translation>
+    </message>
+    <message id="ui.earnings.dateFormat">
+      <source>d MMM yyyy</source>
+      <translation>d MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.dayFormat">
+      <source>d MMM</source>
+      <translation>d MMM</translation>
+    </message>
+    <message id="ui.earnings.earned">
+      <source>Earned</source>
+      <translation>Guadagnato</translation>
+    </message>
+    <message id="ui.earnings.emptyHint">
+      <source>Start the timer on a task with Space, or log time in its inspector. What you earn shows up here by week, month and project.</source>
+      <translation>Avvia il timer su un'attività con Spazio o registra il tempo nel suo pannello. Ciò che guadagni appare qui per settimana, mese e progetto.</translation>
+    </message>
+    <message id="ui.earnings.emptyTitle">
+      <source>Nothing tracked in these months</source>
+      <translation>Nessun tempo registrato in questi mesi</translation>
+    </message>
+    <message id="ui.earnings.entries">
+      <source>Entries</source>
+      <translation>Registrazioni</translation>
+    </message>
+    <message id="ui.earnings.entriesOf">
+      <source>Entries of %1</source>
+      <translation>Registrazioni di %1</translation>
+    </message>
+    <message id="ui.earnings.hours">
+      <source>Hours</source>
+      <translation>Ore</translation>
+    </message>
+    <message id="ui.earnings.monthFormat">
+      <source>MMM yyyy</source>
+      <translation>MMM yyyy</translation>
+    </message>
+    <message id="ui.earnings.noProject">
+      <source>No project</source>
+      <translation>Nessun progetto</translation>
+    </message>
+    <message id="ui.earnings.oneOffNote">
+      <source>includes %1 charged once</source>
+      <translation>include %1 addebitato una volta</translation>
+    </message>
+    <message id="ui.earnings.pickBar">
+      <source>Click a bar to see the entries behind it.</source>
+      <translation>Fai clic su una barra per vedere le registrazioni che la compongono.</translation>
+    </message>
+    <message id="ui.earnings.rate">
+      <source>Per hour</source>
+      <translation>All'ora</translation>
+    </message>
+    <message id="ui.earnings.title">
+      <source>Earnings</source>
+      <translation>Guadagni</translation>
+    </message>
+    <message id="ui.earnings.unbilled">
+      <source>Unbilled</source>
+      <translation>Da fatturare</translation>
+    </message>
     <message id="ui.entries.billed">
       <source>Billed</source>
       <translation>Fatturata</translation>

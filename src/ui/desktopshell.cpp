@@ -81,6 +81,7 @@ DesktopShell::DesktopShell(Options options, QObject *parent)
         watchDesktopScheme();
     }
     m_idle = createTimeDecisions(*this, m_options.clock);
+    m_earnings = new EarningsModel(m_options.clock, this);
 }
 
 DesktopShell::~DesktopShell()
@@ -91,6 +92,7 @@ DesktopShell::~DesktopShell()
     // The views' models hold the store; they let go of it first, then the sequence that follows
     // the auth store's signals.
     m_workspace->setStore(nullptr);
+    m_earnings->setStores(nullptr, nullptr);
     m_sequence.reset();
     if (m_store) {
         m_store->stopSync();
@@ -152,6 +154,7 @@ void DesktopShell::restart()
 {
     if (m_auth) {
         m_workspace->setStore(nullptr);
+        m_earnings->setStores(nullptr, nullptr);
         m_sequence.reset();
         m_store->stopSync();
         disconnect(m_auth.get(), nullptr, this, nullptr);
@@ -209,6 +212,7 @@ void DesktopShell::buildStores(const Config &config, std::shared_ptr<SecretStore
         followSession();
     });
     m_workspace->setStore(m_store.get());
+    m_earnings->setStores(m_store.get(), m_auth.get());
     emit storesChanged();
 }
 
@@ -393,6 +397,7 @@ void DesktopShell::setLanguage(const QString &code)
         m_engine->retranslate();
     }
     m_workspace->retranslate();
+    m_earnings->retranslate();
     emit languageChanged();
 }
 

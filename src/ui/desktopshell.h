@@ -3,6 +3,7 @@
 #include "backend/config.h"
 #include "model/clock.h"
 #include "ui/preferences.h"
+#include "ui/earningsmodel.h"
 #include "ui/workspace.h"
 
 #include <QDBusVariant>
@@ -39,6 +40,7 @@ class DesktopShell : public QObject
     Q_PROPERTY(QObject *store READ storeObject NOTIFY storesChanged)
     Q_PROPERTY(QObject *timer READ timerObject NOTIFY storesChanged)
     Q_PROPERTY(Workspace *workspace READ workspace CONSTANT)
+    Q_PROPERTY(EarningsModel *earnings READ earnings CONSTANT)
     // Time that needs a decision: the idle question, the timer limits and reminders (an IdleWatcher).
     Q_PROPERTY(QObject *idle READ idleWatcher CONSTANT)
     Q_PROPERTY(Preferences *preferences READ preferences CONSTANT)
@@ -91,6 +93,7 @@ public:
     [[nodiscard]] QObject *storeObject() const;
     [[nodiscard]] QObject *timerObject() const;
     [[nodiscard]] Workspace *workspace() const { return m_workspace; }
+    [[nodiscard]] EarningsModel *earnings() const { return m_earnings; }
     [[nodiscard]] QObject *idleWatcher() const { return m_idle; }
     [[nodiscard]] Preferences *preferences() const { return m_preferences; }
     [[nodiscard]] QStringList providers() const { return m_providers; }
@@ -166,6 +169,7 @@ private:
     std::unique_ptr<AppStore> m_store;
     std::unique_ptr<SessionSequence> m_sequence;
     Workspace *m_workspace = nullptr;
+    EarningsModel *m_earnings = nullptr;
     QObject *m_idle = nullptr;
     Preferences *m_preferences = nullptr;
     // Stores of a backend left behind: operations may still run on them, so they stay until the

@@ -50,8 +50,11 @@ EarningsReport::Sources knownWeek(const QString &zone)
     EarningsReport::Sources sources;
     sources.projects = {projectWith(u"web"_s, std::nullopt, hourly(80)), projectWith(u"brand"_s, 60),
                         projectWith(u"shop"_s, std::nullopt, fixedPrice(1200))};
-    sources.tasks = {taskIn(u"design"_s, u"web"_s), taskIn(u"build"_s, u"web"_s, daily(600, 8)),
-                     taskIn(u"logo"_s, u"brand"_s), taskIn(u"cart"_s, u"shop"_s), taskIn(u"pay"_s, u"shop"_s),
+    sources.tasks = {taskIn(u"design"_s, u"web"_s),
+                     taskIn(u"build"_s, u"web"_s, daily(600, 8)),
+                     taskIn(u"logo"_s, u"brand"_s),
+                     taskIn(u"cart"_s, u"shop"_s),
+                     taskIn(u"pay"_s, u"shop"_s),
                      taskIn(u"audit"_s, u"web"_s, withExtras(fixedPrice(500), std::nullopt, 50, std::nullopt))};
     sources.entries = {
         entry(u"e1"_s, u"design"_s, u"web"_s, u"2025-03-24T09:00:00Z"_s, 2 * hour),     // 160
@@ -60,9 +63,9 @@ EarningsReport::Sources knownWeek(const QString &zone)
         entry(u"e4"_s, u"logo"_s, u"brand"_s, u"2025-03-27T10:00:00Z"_s, hour),         // 60
         entry(u"e5"_s, u"cart"_s, u"shop"_s, u"2025-03-28T10:00:00Z"_s, 3 * hour),      // 0
         // Shop's latest entry carries its price; Sunday in UTC, Monday 01:00 in Auckland.
-        entry(u"e6"_s, u"pay"_s, u"shop"_s, u"2025-03-30T12:00:00Z"_s, hour),            // 1200
-        entry(u"e7"_s, u"audit"_s, u"web"_s, u"2025-03-31T09:00:00Z"_s, 2 * hour),       // 500 + 50
-        entry(u"e8"_s, u"design"_s, u"web"_s, u"2025-04-01T09:00:00Z"_s, hour / 2),      // 40
+        entry(u"e6"_s, u"pay"_s, u"shop"_s, u"2025-03-30T12:00:00Z"_s, hour),       // 1200
+        entry(u"e7"_s, u"audit"_s, u"web"_s, u"2025-03-31T09:00:00Z"_s, 2 * hour),  // 500 + 50
+        entry(u"e8"_s, u"design"_s, u"web"_s, u"2025-04-01T09:00:00Z"_s, hour / 2), // 40
     };
     sources.billedEntryIds = {u"e1"_s, u"e5"_s};
     sources.defaultHourlyRate = 50;
@@ -173,8 +176,7 @@ private slots:
         QTest::newRow("an absolute discount is taken once")
             << discounted(hourly(100), 30) << halfHours << QList<QString>{} << QList<double>{50, 20} << 0.0;
         QTest::newRow("per-unit price once, however many entries")
-            << perUnit(40, 3) << QList<qint64>{hour, hour, hour} << QList<QString>{} << QList<double>{0, 0, 120}
-            << 0.0;
+            << perUnit(40, 3) << QList<qint64>{hour, hour, hour} << QList<QString>{} << QList<double>{0, 0, 120} << 0.0;
         QTest::newRow("a fixed price billed with the first entry stays billed after new time")
             << fixedPrice(900) << halfHours << QList<QString>{u"x0"_s} << QList<double>{0, 900} << 900.0;
         QTest::newRow("hourly time is billed entry by entry")
@@ -197,8 +199,8 @@ private slots:
         sources.billedEntryIds = QSet<QString>(billed.begin(), billed.end());
         // Handed in newest first: the latest entry is found by time, not by position.
         for (qsizetype i = durations.size() - 1; i >= 0; --i) {
-            const QString start = QDateTime(QDate(2025, 6, 2), QTime(int(8 + i), 0), QTimeZone::utc())
-                                      .toString(Qt::ISODate);
+            const QString start =
+                QDateTime(QDate(2025, 6, 2), QTime(int(8 + i), 0), QTimeZone::utc()).toString(Qt::ISODate);
             sources.entries << entry(u"x"_s + QString::number(i), u"t"_s, u"p"_s, start, durations[i]);
         }
         const QList<EarningsReport::PricedEntry> priced = EarningsReport::price(sources);

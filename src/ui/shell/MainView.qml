@@ -19,6 +19,7 @@ Rectangle {
     // The screens reached from the sidebar's links, in the order it lists them: { id, title, source }.
     readonly property var pageLinks: [
         { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
+        { id: "earnings", title: qsTrId("ui.earnings.title"), source: "qrc:/Morvane/Ui/earnings/EarningsView.qml" },
     ]
     property alias sidebarWidth: sidebar.preferredWidth
     property alias inspectorWidth: inspectorPane.preferredWidth
