@@ -2155,6 +2155,18 @@
       <source>Task</source>
       <translation>Aufgabe</translation>
     </message>
+    <message id="ui.prices.edit">
+      <source>Change the price…</source>
+      <translation>Preis ändern…</translation>
+    </message>
+    <message id="ui.prices.invalid">
+      <source>A field in red cannot be read as a number. Correct it to save.</source>
+      <translation>Ein rotes Feld lässt sich nicht als Zahl lesen. Korrigiere es, um zu speichern.</translation>
+    </message>
+    <message id="ui.prices.project">
+      <source>Price…</source>
+      <translation>Preis…</translation>
+    </message>
     <message id="ui.priority.high">
       <source>High</source>
       <translation>Hoch</translation>

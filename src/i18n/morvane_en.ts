@@ -2155,6 +2155,18 @@
       <source>Task</source>
       <translation>Task</translation>
     </message>
+    <message id="ui.prices.edit">
+      <source>Change the price…</source>
+      <translation>Change the price…</translation>
+    </message>
+    <message id="ui.prices.invalid">
+      <source>A field in red cannot be read as a number. Correct it to save.</source>
+      <translation>A field in red cannot be read as a number. Correct it to save.</translation>
+    </message>
+    <message id="ui.prices.project">
+      <source>Price…</source>
+      <translation>Price…</translation>
+    </message>
     <message id="ui.priority.high">
       <source>High</source>
       <translation>High</translation>

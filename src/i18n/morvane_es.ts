@@ -2155,6 +2155,18 @@
       <source>Task</source>
       <translation>Tarea</translation>
     </message>
+    <message id="ui.prices.edit">
+      <source>Change the price…</source>
+      <translation>Cambiar el precio…</translation>
+    </message>
+    <message id="ui.prices.invalid">
+      <source>A field in red cannot be read as a number. Correct it to save.</source>
+      <translation>Un campo en rojo no se puede leer como número. Corrígelo para guardar.</translation>
+    </message>
+    <message id="ui.prices.project">
+      <source>Price…</source>
+      <translation>Precio…</translation>
+    </message>
     <message id="ui.priority.high">
       <source>High</source>
       <translation>Alta</translation>

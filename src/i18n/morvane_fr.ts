@@ -2155,6 +2155,18 @@
       <source>Task</source>
       <translation>Tâche</translation>
     </message>
+    <message id="ui.prices.edit">
+      <source>Change the price…</source>
+      <translation>Modifier le prix…</translation>
+    </message>
+    <message id="ui.prices.invalid">
+      <source>A field in red cannot be read as a number. Correct it to save.</source>
+      <translation>Un champ en rouge ne se lit pas comme un nombre. Corrigez-le pour enregistrer.</translation>
+    </message>
+    <message id="ui.prices.project">
+      <source>Price…</source>
+      <translation>Prix…</translation>
+    </message>
     <message id="ui.priority.high">
       <source>High</source>
       <translation>Haute</translation>

@@ -2155,6 +2155,18 @@
       <source>Task</source>
       <translation>Attività</translation>
     </message>
+    <message id="ui.prices.edit">
+      <source>Change the price…</source>
+      <translation>Cambia il prezzo…</translation>
+    </message>
+    <message id="ui.prices.invalid">
+      <source>A field in red cannot be read as a number. Correct it to save.</source>
+      <translation>Un campo in rosso non si legge come numero. Correggilo per salvare.</translation>
+    </message>
+    <message id="ui.prices.project">
+      <source>Price…</source>
+      <translation>Prezzo…</translation>
+    </message>
     <message id="ui.priority.high">
       <source>High</source>
       <translation>Alta</translation>

@@ -2155,6 +2155,18 @@
       <source>Task</source>
       <translation>タスク</translation>
     </message>
+    <message id="ui.prices.edit">
+      <source>Change the price…</source>
+      <translation>料金を変更…</translation>
+    </message>
+    <message id="ui.prices.invalid">
+      <source>A field in red cannot be read as a number. Correct it to save.</source>
+      <translation>赤い欄は数値として読み取れません。修正すると保存できます。</translation>
+    </message>
+    <message id="ui.prices.project">
+      <source>Price…</source>
+      <translation>料金…</translation>
+    </message>
     <message id="ui.priority.high">
       <source>High</source>
       <translation>高</translation>

@@ -2155,6 +2155,18 @@
       <source>Task</source>
       <translation>Taak</translation>
     </message>
+    <message id="ui.prices.edit">
+      <source>Change the price…</source>
+      <translation>Prijs wijzigen…</translation>
+    </message>
+    <message id="ui.prices.invalid">
+      <source>A field in red cannot be read as a number. Correct it to save.</source>
+      <translation>Een rood veld is geen getal dat te lezen is. Verbeter het om op te slaan.</translation>
+    </message>
+    <message id="ui.prices.project">
+      <source>Price…</source>
+      <translation>Prijs…</translation>
+    </message>
     <message id="ui.priority.high">
       <source>High</source>
       <translation>Hoog</translation>

@@ -2155,6 +2155,18 @@
       <source>Task</source>
       <translation>Tarefa</translation>
     </message>
+    <message id="ui.prices.edit">
+      <source>Change the price…</source>
+      <translation>Alterar o preço…</translation>
+    </message>
+    <message id="ui.prices.invalid">
+      <source>A field in red cannot be read as a number. Correct it to save.</source>
+      <translation>Um campo em vermelho não pode ser lido como número. Corrija-o para salvar.</translation>
+    </message>
+    <message id="ui.prices.project">
+      <source>Price…</source>
+      <translation>Preço…</translation>
+    </message>
     <message id="ui.priority.high">
       <source>High</source>
       <translation>Alta</translation>

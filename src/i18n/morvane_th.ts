@@ -2155,6 +2155,18 @@
       <source>Task</source>
       <translation>งาน</translation>
     </message>
+    <message id="ui.prices.edit">
+      <source>Change the price…</source>
+      <translation>เปลี่ยนราคา…</translation>
+    </message>
+    <message id="ui.prices.invalid">
+      <source>A field in red cannot be read as a number. Correct it to save.</source>
+      <translation>ช่องสีแดงอ่านเป็นตัวเลขไม่ได้ แก้ไขก่อนจึงจะบันทึกได้</translation>
+    </message>
+    <message id="ui.prices.project">
+      <source>Price…</source>
+      <translation>ราคา…</translation>
+    </message>
     <message id="ui.priority.high">
       <source>High</source>
       <translation>สูง</translation>

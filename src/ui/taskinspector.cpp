@@ -3,6 +3,7 @@
 #include "billing/earnings.h"
 #include "billing/moneyinput.h"
 #include "model/isodate.h"
+#include "i18n/language.h"
 #include "store/appstore.h"
 
 #include <QLocale>
@@ -38,6 +39,7 @@ QString utcText(const QDateTime &time)
 
 TaskInspector::TaskInspector(QObject *parent)
     : QObject(parent)
+    , m_priceEditor(new BillingEditor(this))
 {
 }
 
@@ -462,6 +464,28 @@ bool TaskInspector::editEntryDuration(const QString &entryId, const QString &min
     }
     const qint64 seconds = qRound64(*value * 60);
     m_store->updateEntry(entryId, TimeEntryPatch{utcText(*start), utcText(start->addSecs(seconds)), seconds});
+    return true;
+}
+
+void TaskInspector::editPrice()
+{
+    const auto t = task();
+    if (!t) {
+        return;
+    }
+    const auto project = m_store->project(t->projectId);
+    m_priceEditor->setCurrency(m_store->currency());
+    m_priceEditor->setLanguage(Language::current());
+    m_priceEditor->loadTask(*t, project ? &*project : nullptr, m_store->defaultHourlyRate());
+}
+
+bool TaskInspector::savePrice()
+{
+    const auto t = task();
+    if (!t || !m_priceEditor->canSave()) {
+        return false;
+    }
+    m_store->updateTaskPrice(t->id, m_priceEditor->taskPrice());
     return true;
 }
 

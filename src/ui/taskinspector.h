@@ -1,5 +1,6 @@
 #pragma once
 
+#include "billing/billingeditor.h"
 #include "store/appstore.h"
 
 #include <QObject>
@@ -37,6 +38,7 @@ class TaskInspector : public QObject
     Q_PROPERTY(QVariantList assignees READ assignees NOTIFY changed)
     Q_PROPERTY(QVariantList members READ members NOTIFY changed)
     Q_PROPERTY(QVariantList entries READ entries NOTIFY entriesChanged)
+    Q_PROPERTY(BillingEditor *priceEditor READ priceEditor CONSTANT)
 
 public:
     explicit TaskInspector(QObject *parent = nullptr);
@@ -64,6 +66,7 @@ public:
     [[nodiscard]] QVariantList assignees() const;
     [[nodiscard]] QVariantList members() const;
     [[nodiscard]] QVariantList entries() const;
+    [[nodiscard]] BillingEditor *priceEditor() const { return m_priceEditor; }
 
     Q_INVOKABLE void setTitle(const QString &title);
     Q_INVOKABLE void setDescription(const QString &description);
@@ -86,6 +89,10 @@ public:
     // A new length in minutes: the entry keeps its start and ends that much later.
     Q_INVOKABLE bool editEntryDuration(const QString &entryId, const QString &minutes);
     Q_INVOKABLE void deleteEntry(const QString &entryId);
+    // The price editor starts from the task's price as it is now (its own, or its project's).
+    Q_INVOKABLE void editPrice();
+    // Writes what the editor holds; nothing when a field cannot be read.
+    Q_INVOKABLE bool savePrice();
 
 signals:
     void changed();
@@ -99,4 +106,5 @@ private:
 
     QPointer<AppStore> m_store;
     QString m_taskId;
+    BillingEditor *m_priceEditor;
 };

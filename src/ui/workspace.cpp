@@ -4,6 +4,7 @@
 #include "billing/earnings.h"
 #include "model/fuzzymatch.h"
 #include "model/isodate.h"
+#include "i18n/language.h"
 #include "store/appstore.h"
 #include "store/taskorder.h"
 #include "ui/taskinspector.h"
@@ -95,6 +96,7 @@ Workspace::Workspace(QObject *parent)
     , m_palette(new RowsModel({u"kind"_s, u"id"_s, u"title"_s, u"subtitle"_s, u"projectId"_s}, this))
     , m_inspector(new TaskInspector(this))
     , m_clients(new ClientList(this))
+    , m_projectPrice(new BillingEditor(this))
 {
     m_rebuild.setSingleShot(true);
     m_rebuild.setInterval(0);
@@ -174,6 +176,10 @@ void Workspace::setStore(AppStore *store)
 
 void Workspace::retranslate()
 {
+    for (BillingEditor *editor : {m_projectPrice, m_inspector->priceEditor()}) {
+        editor->setLanguage(Language::current());
+        editor->retranslate();
+    }
     m_rowCache.clear();
     rebuildSidebar();
     rebuildTasks();
@@ -522,6 +528,29 @@ void Workspace::shareProject(const QString &projectId, const QString &teamId)
     if (m_store) {
         m_store->assignProjectToTeam(projectId, teamId.isEmpty() ? std::nullopt : std::optional(teamId));
     }
+}
+
+void Workspace::editProjectPrice()
+{
+    const std::optional<Project> project = m_store ? m_store->project(m_store->selectedProjectId()) : std::nullopt;
+    if (!project) {
+        return;
+    }
+    m_projectPrice->setCurrency(m_store->currency());
+    m_projectPrice->setLanguage(Language::current());
+    m_projectPrice->loadProject(*project, m_store->defaultHourlyRate());
+}
+
+bool Workspace::saveProjectPrice()
+{
+    const QString projectId = m_store ? m_store->selectedProjectId() : QString();
+    if (projectId.isEmpty() || !m_projectPrice->canSave()) {
+        return false;
+    }
+    if (const std::optional<Earnings::ProjectBillingWrite> write = m_projectPrice->projectWrite()) {
+        m_store->updateProjectBilling(projectId, *write);
+    }
+    return true;
 }
 
 void Workspace::createTeam(const QString &name)

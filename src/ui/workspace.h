@@ -26,6 +26,7 @@ class Workspace : public QObject
     Q_PROPERTY(RowsModel *palette READ palette CONSTANT)
     Q_PROPERTY(TaskInspector *inspector READ inspector CONSTANT)
     Q_PROPERTY(ClientList *clients READ clients CONSTANT)
+    Q_PROPERTY(BillingEditor *projectPriceEditor READ projectPriceEditor CONSTANT)
     Q_PROPERTY(bool hasStore READ hasStore NOTIFY storeChanged)
     Q_PROPERTY(QString selectedProjectId READ selectedProjectId WRITE selectProject NOTIFY selectionChanged)
     Q_PROPERTY(QString selectedTaskId READ selectedTaskId WRITE selectTask NOTIFY selectionChanged)
@@ -65,6 +66,7 @@ public:
     [[nodiscard]] RowsModel *palette() const { return m_palette; }
     [[nodiscard]] TaskInspector *inspector() const { return m_inspector; }
     [[nodiscard]] ClientList *clients() const { return m_clients; }
+    [[nodiscard]] BillingEditor *projectPriceEditor() const { return m_projectPrice; }
 
     [[nodiscard]] QString selectedProjectId() const;
     void selectProject(const QString &projectId);
@@ -112,6 +114,9 @@ public:
     Q_INVOKABLE void setProjectStatus(const QString &projectId, const QString &status);
     Q_INVOKABLE void deleteProject(const QString &projectId);
     Q_INVOKABLE void shareProject(const QString &projectId, const QString &teamId);
+    // The chosen project's price in the editor, and its save (nothing when unchanged or unreadable).
+    Q_INVOKABLE void editProjectPrice();
+    Q_INVOKABLE bool saveProjectPrice();
 
     // Tasks.
     Q_INVOKABLE void createTask(const QString &title);
@@ -172,6 +177,7 @@ private:
     RowsModel *m_palette;
     TaskInspector *m_inspector;
     ClientList *m_clients;
+    BillingEditor *m_projectPrice;
     QString m_message;
     QString m_lastRunningTaskId;
     // Many store signals arrive together after a refresh; the rows are rebuilt once.

@@ -127,6 +127,10 @@ private:
     // earlier function has not.
     void signUpOnce()
     {
+        QTRY_VERIFY_WITH_TIMEOUT(m_shell->phase() != DesktopShell::StartingBackend, patience);
+        if (m_shell->phase() == DesktopShell::BackendFailed) {
+            m_shell->start();
+        }
         QTRY_VERIFY_WITH_TIMEOUT(m_shell->phase() == DesktopShell::SignedOut || m_shell->phase() == DesktopShell::Ready,
                                  patience);
         if (m_shell->phase() == DesktopShell::SignedOut) {
@@ -399,6 +403,36 @@ private slots:
         }
         workspace()->stopTimer();
         QTRY_VERIFY_WITH_TIMEOUT(!workspace()->timerRunning(), patience);
+    }
+
+    void pricingAProjectAndATask()
+    {
+        website();
+        workspace()->editProjectPrice();
+        BillingEditor *project = workspace()->projectPriceEditor();
+        project->setModelName(u"hourly"_s);
+        project->unitPrice()->setText(u"120"_s);
+        QVERIFY(workspace()->saveProjectPrice());
+        QTRY_VERIFY_WITH_TIMEOUT(column(workspace()->tasks(), u"price"_s).first().contains(u"120"_s), patience);
+
+        const QString taskId = workspace()->tasks()->rows().last().value(u"id"_s).toString();
+        workspace()->selectTask(taskId);
+        QTRY_COMPARE(workspace()->inspector()->taskId(), taskId);
+        QMetaObject::invokeMethod(item("editPriceButton"), "clicked");
+        BillingEditor *task = workspace()->inspector()->priceEditor();
+        QVERIFY(task->isInheriting());
+        task->clearInheritance();
+        task->setModelName(u"fixed"_s);
+        task->amount()->setText(u"fifteen"_s);
+        QVERIFY(!task->canSave() && !workspace()->inspector()->savePrice());
+        task->amount()->setText(u"1.500,50"_s);
+        QCOMPARE(task->net(), 1500.5);
+        shoot(u"price-editor"_s);
+        QVERIFY(workspace()->inspector()->savePrice());
+        QTRY_VERIFY_WITH_TIMEOUT(store()->task(taskId)->billing.has_value(), patience);
+        QCOMPARE(store()->task(taskId)->billing->amount, 1500.5);
+        QTRY_VERIFY(column(workspace()->tasks(), u"price"_s).last().contains(u"500.50"_s));
+        QTest::keyClick(m_window, Qt::Key_Escape);
     }
 
     void thePaletteRanksTheObviousHitFirst()

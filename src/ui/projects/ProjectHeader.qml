@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Controls
 import QtQuick.Layouts
 import Morvane.Ui
 
@@ -61,6 +62,11 @@ Rectangle {
                 Menu {
                     id: menu
                     y: menuButton.height
+                    MenuItem {
+                        //% "Price…"
+                        text: qsTrId("ui.prices.project")
+                        onTriggered: { header.workspace.editProjectPrice(); projectPrice.open() }
+                    }
                     MenuItem {
                         //% "Mark as active"
                         text: qsTrId("ui.projects.markActive")
@@ -130,6 +136,14 @@ Rectangle {
         return status === "completed" ? qsTrId("ui.projects.status.completed")
              : status === "archived" ? qsTrId("ui.projects.status.archived")
              : qsTrId("ui.projects.status.active")
+    }
+
+    PriceEditor {
+        id: projectPrice
+        parent: Overlay.overlay
+        editor: header.workspace.projectPriceEditor
+        heading: header.isProject ? header.project.name : ""
+        onSaveRequested: header.workspace.saveProjectPrice()
     }
 
     ConfirmDialog {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Controls
 import QtQuick.Layouts
 import Morvane.Ui
 
@@ -15,6 +16,14 @@ Rectangle {
             titleField.forceActiveFocus()
             titleField.selectAll()
         }
+    }
+
+    PriceEditor {
+        id: taskPrice
+        parent: Overlay.overlay
+        editor: root.task.priceEditor
+        heading: root.task.title
+        onSaveRequested: root.task.savePrice()
     }
 
     EmptyState {
@@ -205,6 +214,14 @@ Rectangle {
                 font.family: Theme.monoFamily
                 font.pixelSize: Theme.fontBody
                 wrapMode: Text.Wrap
+            }
+            FlatButton {
+                objectName: "editPriceButton"
+                compact: true
+                visible: root.editable
+                //% "Change the price…"
+                text: qsTrId("ui.prices.edit")
+                onClicked: { root.task.editPrice(); taskPrice.open() }
             }
             Text {
                 textFormat: Text.PlainText
