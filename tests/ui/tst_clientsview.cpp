@@ -3,7 +3,7 @@
 #include "pg/pgconnection.h"
 #include "store/storedevice.h"
 #include "support/testbackend.h"
-#include "ui/desktopapp.h"
+#include "support/desktopwindow.h"
 #include "ui/desktopshell.h"
 
 #include <QAbstractItemModelTester>
@@ -15,8 +15,6 @@
 #include <QQuickWindow>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
-
-Q_IMPORT_QML_PLUGIN(Morvane_UiPlugin)
 
 using namespace Qt::StringLiterals;
 
@@ -32,9 +30,8 @@ class TestClientsView : public QObject
 
 private:
     TestBackend m_backend;
-    QTemporaryDir m_dir;
-    std::unique_ptr<DesktopShell> m_shell;
-    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    std::unique_ptr<DesktopWindow> m_desktop;
+    DesktopShell *m_shell = nullptr;
     QQuickWindow *m_window = nullptr;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
 
@@ -52,51 +49,18 @@ private:
     void type(const char *field, const QString &text) { QVERIFY(item(field)->setProperty("text", text)); }
     void click(const char *button) { QVERIFY(QMetaObject::invokeMethod(item(button), "clicked")); }
 
-    void shoot(const QString &name)
-    {
-        const QString folder = QCoreApplication::applicationDirPath() + u"/screenshots"_s;
-        QDir().mkpath(folder);
-        for (const QString &code : {u"en"_s, u"ja"_s}) {
-            m_shell->setLanguage(code);
-            for (const QString &scheme : {u"light"_s, u"dark"_s}) {
-                m_shell->setColorScheme(scheme);
-                QTest::qWait(50);
-                const QImage image = m_window->grabWindow();
-                QVERIFY(image.save(folder + u'/' + name + u'-' + code + u'-' + scheme + u".png"_s));
-            }
-        }
-        m_shell->setLanguage(u"en"_s);
-        m_shell->setColorScheme(u"light"_s);
-    }
+    void shoot(const QString &name) { QVERIFY(m_desktop->shoot(name)); }
 
 private slots:
     void initTestCase()
     {
         QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
-        DesktopShell::Options options;
-        const Config config{m_backend.url(), QString::fromLatin1(m_backend.anonKey())};
-        options.backend = [config]() -> QCoro::Task<Config> { co_return config; };
-        const QString secrets = m_dir.filePath(u"secrets.json"_s);
-        options.secrets = [secrets]() -> QCoro::Task<std::shared_ptr<SecretStore>> {
-            co_return SecretStore::file(secrets);
-        };
-        options.settings = std::make_shared<QSettings>(m_dir.filePath(u"morvane.conf"_s), QSettings::IniFormat);
-        options.followDesktopScheme = false;
-        m_shell = std::make_unique<DesktopShell>(options);
-        m_shell->setColorScheme(u"light"_s);
-        DesktopShell::setInstance(m_shell.get());
-        QQuickStyle::setStyle(u"Basic"_s);
-        m_engine = std::make_unique<QQmlApplicationEngine>();
-        DesktopApp::prepareEngine(*m_engine);
-        m_shell->setEngine(m_engine.get());
-        m_engine->load(QUrl(u"qrc:/Morvane/Ui/Main.qml"_s));
-        QCOMPARE(m_engine->rootObjects().size(), 1);
-        m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
-        QVERIFY(m_window);
-        m_window->resize(1280, 800);
+        m_desktop = std::make_unique<DesktopWindow>(m_backend);
+        m_shell = &m_desktop->shell();
         m_tester = std::make_unique<QAbstractItemModelTester>(clients()->rows(),
                                                               QAbstractItemModelTester::FailureReportingMode::QtTest);
-        m_shell->start();
+        QVERIFY(m_desktop->open());
+        m_window = m_desktop->window();
         QTRY_COMPARE_WITH_TIMEOUT(m_shell->phase(), DesktopShell::SignedOut, patience);
         m_shell->signUp(u"ada@example.com"_s, QString::fromLatin1(StoreDevice::password), u"Ada Lovelace"_s, u"en"_s,
                         u"EUR"_s, u"90"_s, u"Europe/Amsterdam"_s);
@@ -107,8 +71,7 @@ private slots:
     void cleanupTestCase()
     {
         m_tester.reset();
-        m_engine.reset();
-        m_shell.reset();
+        m_desktop.reset();
     }
 
     void addEditAndDeleteAClient()
@@ -183,19 +146,6 @@ private slots:
     }
 };
 
-int main(int argc, char *argv[])
-{
-    qputenv("QT_QUICK_BACKEND", "software");
-    QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-    QApplication app(argc, argv);
-    QApplication::setOrganizationName(u"morvane"_s);
-    QApplication::setApplicationName(u"morvane"_s);
-    QApplication::setFont(QFont(u"Inter"_s, 10));
-    Language::apply(u"en"_s);
-    TestClientsView test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+MORVANE_DESKTOP_TEST_MAIN(TestClientsView)
 
 #include "tst_clientsview.moc"

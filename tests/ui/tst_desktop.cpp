@@ -5,7 +5,7 @@
 #include "i18n/language.h"
 #include "store/storedevice.h"
 #include "support/testbackend.h"
-#include "ui/desktopapp.h"
+#include "support/desktopwindow.h"
 #include "ui/desktopshell.h"
 
 #include <QAbstractItemModelTester>
@@ -19,7 +19,6 @@
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
-Q_IMPORT_QML_PLUGIN(Morvane_UiPlugin)
 
 using namespace Qt::StringLiterals;
 
@@ -47,9 +46,8 @@ class TestDesktop : public QObject
 
 private:
     TestBackend m_backend;
-    QTemporaryDir m_dir;
-    std::unique_ptr<DesktopShell> m_shell;
-    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    std::unique_ptr<DesktopWindow> m_desktop;
+    DesktopShell *m_shell = nullptr;
     QQuickWindow *m_window = nullptr;
     std::vector<std::unique_ptr<QAbstractItemModelTester>> m_testers;
     qint64 m_clockOffset = 0;
@@ -57,32 +55,10 @@ private:
     Workspace *workspace() const { return m_shell->workspace(); }
     AppStore *store() const { return m_shell->store(); }
 
-    template<typename T = QQuickItem>
-    T *item(const char *name) const
-    {
-        return m_window->findChild<T *>(QString::fromLatin1(name));
-    }
+    QQuickItem *item(const char *name) const { return m_desktop->item(QString::fromLatin1(name)); }
 
     // Every screen in both languages and both schemes, saved beside the test for a person to look at.
-    void shoot(const QString &name, QQuickWindow *window = nullptr)
-    {
-        window = window ? window : m_window;
-        const QString folder = QCoreApplication::applicationDirPath() + u"/screenshots"_s;
-        QDir().mkpath(folder);
-        const QString language = m_shell->language();
-        for (const QString &code : {u"en"_s, u"ja"_s}) {
-            m_shell->setLanguage(code);
-            for (const QString &scheme : {u"light"_s, u"dark"_s}) {
-                m_shell->setColorScheme(scheme);
-                QTest::qWait(50);
-                const QImage image = window->grabWindow();
-                QVERIFY(!image.isNull());
-                QVERIFY(image.save(folder + u'/' + name + u'-' + code + u'-' + scheme + u".png"_s));
-            }
-        }
-        m_shell->setLanguage(language);
-        m_shell->setColorScheme(u"light"_s);
-    }
+    void shoot(const QString &name, QQuickWindow *window = nullptr) { QVERIFY(m_desktop->shoot(name, window)); }
 
     // Everything reachable with Tab on the screen as it is now says what it is.
     void checkControlsHaveNames()
@@ -164,48 +140,33 @@ private slots:
     void initTestCase()
     {
         QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
-        DesktopShell::Options options;
-        const Config config{m_backend.url(), QString::fromLatin1(m_backend.anonKey())};
-        // The first start fails as a local backend that cannot start does; "Try again" works.
-        options.backend = [config, attempts = std::make_shared<int>(0)]() -> QCoro::Task<Config> {
-            if ((*attempts)++ == 0) {
-                throw LocalServerError(LocalServerError::Kind::ExitedEarly, u"/home/ada/.local/share/morvane/server"_s,
-                                       u"morvane-server: cannot listen on 127.0.0.1:54321"_s);
-            }
-            co_return config;
-        };
-        const QString secrets = m_dir.filePath(u"secrets.json"_s);
-        options.secrets = [secrets]() -> QCoro::Task<std::shared_ptr<SecretStore>> {
-            co_return SecretStore::file(secrets);
-        };
-        options.settings = std::make_shared<QSettings>(m_dir.filePath(u"morvane.conf"_s), QSettings::IniFormat);
-        options.followDesktopScheme = false;
-        // Real time, moved on by the tests that need a later moment.
-        options.clock = [this] { return QDateTime::currentDateTimeUtc().addSecs(m_clockOffset); };
-        m_shell = std::make_unique<DesktopShell>(options);
-        m_shell->setColorScheme(u"light"_s);
-        DesktopShell::setInstance(m_shell.get());
-
-        QQuickStyle::setStyle(u"Basic"_s);
-        m_engine = std::make_unique<QQmlApplicationEngine>();
-        DesktopApp::prepareEngine(*m_engine);
-        m_shell->setEngine(m_engine.get());
-        m_engine->load(QUrl(u"qrc:/Morvane/Ui/Main.qml"_s));
-        QCOMPARE(m_engine->rootObjects().size(), 1);
-        m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
-        QVERIFY(m_window);
+        m_desktop = std::make_unique<DesktopWindow>(m_backend, [this](DesktopShell::Options &options) {
+            // The first start fails as a local backend that cannot start does; "Try again" works.
+            options.backend = [config = Config{m_backend.url(), QString::fromLatin1(m_backend.anonKey())},
+                               attempts = std::make_shared<int>(0)]() -> QCoro::Task<Config> {
+                if ((*attempts)++ == 0) {
+                    throw LocalServerError(LocalServerError::Kind::ExitedEarly,
+                                           u"/home/ada/.local/share/morvane/server"_s,
+                                           u"morvane-server: cannot listen on 127.0.0.1:54321"_s);
+                }
+                co_return config;
+            };
+            // Real time, moved on by the tests that need a later moment.
+            options.clock = [this] { return QDateTime::currentDateTimeUtc().addSecs(m_clockOffset); };
+        });
+        m_shell = &m_desktop->shell();
         for (RowsModel *model : {workspace()->sidebar(), workspace()->tasks(), workspace()->palette()}) {
             m_testers.push_back(std::make_unique<QAbstractItemModelTester>(
                 model, QAbstractItemModelTester::FailureReportingMode::QtTest));
         }
-        m_shell->start();
+        QVERIFY(m_desktop->open());
+        m_window = m_desktop->window();
     }
 
     void cleanupTestCase()
     {
         m_testers.clear();
-        m_engine.reset();
-        m_shell.reset();
+        m_desktop.reset();
     }
 
     void firstStartSignsUpWithTheOnboardingAnswers()
@@ -508,20 +469,6 @@ private slots:
 
 };
 
-int main(int argc, char *argv[])
-{
-    qputenv("QT_QUICK_BACKEND", "software");
-    // The window keeps its sizes and choices in the user's settings; the test's go with it.
-    QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-    QApplication app(argc, argv);
-    QApplication::setOrganizationName(u"morvane"_s);
-    QApplication::setApplicationName(u"morvane"_s);
-    QApplication::setFont(QFont(u"Inter"_s, 10));
-    Language::apply(u"en"_s);
-    TestDesktop test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+MORVANE_DESKTOP_TEST_MAIN(TestDesktop)
 
 #include "tst_desktop.moc"

@@ -3,7 +3,7 @@
 #include "i18n/language.h"
 #include "pg/pgconnection.h"
 #include "support/testbackend.h"
-#include "ui/desktopapp.h"
+#include "support/desktopwindow.h"
 #include "ui/desktopshell.h"
 
 #include <QApplication>
@@ -15,8 +15,6 @@
 #include <QTest>
 
 #include <QtQml/qqmlextensionplugin.h>
-
-Q_IMPORT_QML_PLUGIN(Morvane_UiPlugin)
 
 using namespace Qt::StringLiterals;
 
@@ -54,9 +52,8 @@ class TestEarningsView : public QObject
 
 private:
     TestBackend m_backend;
-    QTemporaryDir m_dir;
-    std::unique_ptr<DesktopShell> m_shell;
-    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    std::unique_ptr<DesktopWindow> m_desktop;
+    DesktopShell *m_shell = nullptr;
     QQuickWindow *m_window = nullptr;
     QByteArray m_user;
 
@@ -66,23 +63,7 @@ private:
         return db().exec(query, parameters).value(0, 0);
     }
 
-    void shoot(const QString &name)
-    {
-        const QString folder = QCoreApplication::applicationDirPath() + u"/screenshots"_s;
-        QDir().mkpath(folder);
-        for (const QString &code : {u"en"_s, u"ja"_s}) {
-            m_shell->setLanguage(code);
-            for (const QString &scheme : {u"light"_s, u"dark"_s}) {
-                m_shell->setColorScheme(scheme);
-                QTest::qWait(50);
-                const QImage image = m_window->grabWindow();
-                QVERIFY(!image.isNull());
-                QVERIFY(image.save(folder + u'/' + name + u'-' + code + u'-' + scheme + u".png"_s));
-            }
-        }
-        m_shell->setLanguage(u"en"_s);
-        m_shell->setColorScheme(u"light"_s);
-    }
+    void shoot(const QString &name) { QVERIFY(m_desktop->shoot(name)); }
 
     // Returns the entry's id. `start` is local time on `day`.
     QByteArray addEntry(const QByteArray &task, const QByteArray &project, QDate day, QTime start, int seconds)
@@ -126,28 +107,10 @@ private slots:
     void initTestCase()
     {
         QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
-        DesktopShell::Options options;
-        const Config config{m_backend.url(), QString::fromLatin1(m_backend.anonKey())};
-        options.backend = [config]() -> QCoro::Task<Config> { co_return config; };
-        const QString secrets = m_dir.filePath(u"secrets.json"_s);
-        options.secrets = [secrets]() -> QCoro::Task<std::shared_ptr<SecretStore>> {
-            co_return SecretStore::file(secrets);
-        };
-        options.settings = std::make_shared<QSettings>(m_dir.filePath(u"morvane.conf"_s), QSettings::IniFormat);
-        options.followDesktopScheme = false;
-        m_shell = std::make_unique<DesktopShell>(options);
-        m_shell->setColorScheme(u"light"_s);
-        DesktopShell::setInstance(m_shell.get());
-        QQuickStyle::setStyle(u"Basic"_s);
-        m_engine = std::make_unique<QQmlApplicationEngine>();
-        DesktopApp::prepareEngine(*m_engine);
-        m_shell->setEngine(m_engine.get());
-        m_engine->load(QUrl(u"qrc:/Morvane/Ui/Main.qml"_s));
-        QCOMPARE(m_engine->rootObjects().size(), 1);
-        m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
-        QVERIFY(m_window);
-        m_window->resize(1280, 800);
-        m_shell->start();
+        m_desktop = std::make_unique<DesktopWindow>(m_backend);
+        m_shell = &m_desktop->shell();
+        QVERIFY(m_desktop->open());
+        m_window = m_desktop->window();
         QTRY_COMPARE_WITH_TIMEOUT(m_shell->phase(), DesktopShell::SignedOut, patience);
         m_shell->signUp(u"eve@example.com"_s, u"correct horse battery staple"_s, u"Eve"_s, u"en"_s, u"EUR"_s, u"50"_s,
                         u"UTC"_s);
@@ -157,8 +120,7 @@ private slots:
 
     void cleanupTestCase()
     {
-        m_engine.reset();
-        m_shell.reset();
+        m_desktop.reset();
     }
 
     void aKnownWeekMatchesItsFiguresAndABarListsItsEntries()
@@ -254,18 +216,6 @@ private slots:
     }
 };
 
-int main(int argc, char *argv[])
-{
-    qputenv("QT_QUICK_BACKEND", "software");
-    QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-    QApplication app(argc, argv);
-    QApplication::setOrganizationName(u"morvane"_s);
-    QApplication::setApplicationName(u"morvane"_s);
-    QApplication::setFont(QFont(u"Inter"_s, 10));
-    Language::apply(u"en"_s);
-    TestEarningsView test;
-    return QTest::qExec(&test, argc, argv);
-}
+MORVANE_DESKTOP_TEST_MAIN(TestEarningsView)
 
 #include "tst_earningsview.moc"
