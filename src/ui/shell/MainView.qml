@@ -81,7 +81,7 @@ Rectangle {
                 Layout.preferredWidth: main.compactSidebar ? Theme.sidebarCompactWidth : preferredWidth
                 compact: main.compactSidebar
                 links: main.pageLinks
-                currentPage: main.settingsOpen ? "" : main.page
+                currentPage: main.settingsOpen ? "settings" : main.page
                 onTeamChosen: (id) => { main.teamId = id; main.settingsOpen = false; main.page = "" }
                 onProjectChosen: { main.teamId = ""; main.settingsOpen = false; main.page = "" }
                 onSettingsChosen: main.settingsOpen = true

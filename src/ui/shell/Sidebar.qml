@@ -46,7 +46,8 @@ Rectangle {
                 required property int count
                 required property bool running
                 required property bool shared
-                readonly property bool isCurrent: kind === "team" ? sidebar.chosenTeam === id
+                readonly property bool isCurrent: sidebar.currentPage !== "" ? false
+                                                : kind === "team" ? sidebar.chosenTeam === id
                                                 : kind === "overview" ? sidebar.chosenTeam === ""
                                                                         && sidebar.workspace.selectedProjectId === ""
                                                 : kind === "project" && sidebar.chosenTeam === ""
