@@ -2111,6 +2111,174 @@
       <source>Task title</source>
       <translation>Aufgabentitel</translation>
     </message>
+    <message id="ui.invoices.allStatuses">
+      <source>Every status</source>
+      <translation>Jeder Status</translation>
+    </message>
+    <message id="ui.invoices.allYears">
+      <source>Every year</source>
+      <translation>Jedes Jahr</translation>
+    </message>
+    <message id="ui.invoices.client">
+      <source>Client</source>
+      <translation>Kunde</translation>
+    </message>
+    <message id="ui.invoices.deleteBody">
+      <source>The invoice and its PDF leave your list for good, and its hours become unbilled again. To keep a record, void it instead.</source>
+      <translation>Die Rechnung und ihr PDF verschwinden endgültig aus deiner Liste, und ihre Stunden werden wieder unberechnet. Um sie aufzubewahren, storniere sie stattdessen.</translation>
+    </message>
+    <message id="ui.invoices.deleteTitle">
+      <source>Delete invoice %1?</source>
+      <translation>Rechnung %1 löschen?</translation>
+    </message>
+    <message id="ui.invoices.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Rechnung %1 gelöscht; ihre Stunden sind wieder unberechnet.</translation>
+    </message>
+    <message id="ui.invoices.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>Das PDF konnte nicht heruntergeladen werden: %1</translation>
+    </message>
+    <message id="ui.invoices.due">
+      <source>Due</source>
+      <translation>Fällig</translation>
+    </message>
+    <message id="ui.invoices.emptyHint">
+      <source>Invoices you write from your tracked time appear here, with what is still open and what is overdue.</source>
+      <translation>Rechnungen, die du aus deiner erfassten Zeit schreibst, erscheinen hier – mit dem, was noch offen und was überfällig ist.</translation>
+    </message>
+    <message id="ui.invoices.emptyTitle">
+      <source>No invoices yet</source>
+      <translation>Noch keine Rechnungen</translation>
+    </message>
+    <message id="ui.invoices.fileTitle">
+      <source>Save the invoice PDF</source>
+      <translation>Rechnungs-PDF speichern</translation>
+    </message>
+    <message id="ui.invoices.foreignLink">
+      <source>The link to the PDF does not lead to your server, so it was not opened.</source>
+      <translation>Der Link zum PDF führt nicht zu deinem Server und wurde deshalb nicht geöffnet.</translation>
+    </message>
+    <message id="ui.invoices.issued">
+      <source>Issued</source>
+      <translation>Ausgestellt</translation>
+    </message>
+    <message id="ui.invoices.net">
+      <source>Net</source>
+      <translation>Netto</translation>
+    </message>
+    <message id="ui.invoices.noMatch">
+      <source>No invoice matches these filters</source>
+      <translation>Keine Rechnung passt zu diesen Filtern</translation>
+    </message>
+    <message id="ui.invoices.noMatchHint">
+      <source>Choose another status or year.</source>
+      <translation>Wähle einen anderen Status oder ein anderes Jahr.</translation>
+    </message>
+    <message id="ui.invoices.noViewer">
+      <source>No program to show PDF files was found. Save the PDF and open it from there.</source>
+      <translation>Es wurde kein Programm zum Anzeigen von PDF-Dateien gefunden. Speichere das PDF und öffne es von dort.</translation>
+    </message>
+    <message id="ui.invoices.number">
+      <source>Number</source>
+      <translation>Nummer</translation>
+    </message>
+    <message id="ui.invoices.open">
+      <source>Still open</source>
+      <translation>Noch offen</translation>
+    </message>
+    <message id="ui.invoices.openPdf">
+      <source>Open PDF</source>
+      <translation>PDF öffnen</translation>
+    </message>
+    <message id="ui.invoices.overdue">
+      <source>Overdue</source>
+      <translation>Überfällig</translation>
+    </message>
+    <message id="ui.invoices.pdfFilter">
+      <source>PDF files (*.pdf)</source>
+      <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message id="ui.invoices.savePdf">
+      <source>Save PDF…</source>
+      <translation>PDF speichern…</translation>
+    </message>
+    <message id="ui.invoices.saved">
+      <source>Saved to %1</source>
+      <translation>Gespeichert unter %1</translation>
+    </message>
+    <message id="ui.invoices.status">
+      <source>Status</source>
+      <translation>Status</translation>
+    </message>
+    <message id="ui.invoices.status.draft">
+      <source>Draft</source>
+      <translation>Entwurf</translation>
+    </message>
+    <message id="ui.invoices.status.paid">
+      <source>Paid</source>
+      <translation>Bezahlt</translation>
+    </message>
+    <message id="ui.invoices.status.sent">
+      <source>Sent</source>
+      <translation>Versendet</translation>
+    </message>
+    <message id="ui.invoices.status.void">
+      <source>Void</source>
+      <translation>Storniert</translation>
+    </message>
+    <message id="ui.invoices.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>Rechnung %1 ist jetzt %2.</translation>
+    </message>
+    <message id="ui.invoices.statusFilter">
+      <source>Status</source>
+      <translation>Status</translation>
+    </message>
+    <message id="ui.invoices.title">
+      <source>Invoices</source>
+      <translation>Rechnungen</translation>
+    </message>
+    <message id="ui.invoices.total">
+      <source>Total</source>
+      <translation>Gesamt</translation>
+    </message>
+    <message id="ui.invoices.vat">
+      <source>VAT</source>
+      <translation>USt.</translation>
+    </message>
+    <message id="ui.invoices.void">
+      <source>Void…</source>
+      <translation>Stornieren…</translation>
+    </message>
+    <message id="ui.invoices.voidBody">
+      <source>A void invoice stays void: it can never be sent, paid or changed again. Its hours become unbilled, so you can invoice them anew.</source>
+      <translation>Eine stornierte Rechnung bleibt storniert: Sie kann nie wieder versendet, bezahlt oder geändert werden. Ihre Stunden werden wieder unberechnet, sodass du sie neu abrechnen kannst.</translation>
+    </message>
+    <message id="ui.invoices.voidConfirm">
+      <source>Void</source>
+      <translation>Stornieren</translation>
+    </message>
+    <message id="ui.invoices.voidFinal">
+      <source>Void — final, it cannot be changed again</source>
+      <translation>Storniert — endgültig, nicht mehr änderbar</translation>
+    </message>
+    <message id="ui.invoices.voidTitle">
+      <source>Void invoice %1?</source>
+      <translation>Rechnung %1 stornieren?</translation>
+    </message>
+    <message id="ui.invoices.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>Rechnung %1 ist storniert; ihre Stunden sind wieder unberechnet.</translation>
+    </message>
+    <message id="ui.invoices.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>%1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message id="ui.invoices.yearFilter">
+      <source>Year</source>
+      <translation>Jahr</translation>
+    </message>
     <message id="ui.onboarding.currency">
       <source>Currency</source>
       <translation>Währung</translation>

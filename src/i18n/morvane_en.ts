@@ -2111,6 +2111,174 @@
       <source>Task title</source>
       <translation>Task title</translation>
     </message>
+    <message id="ui.invoices.allStatuses">
+      <source>Every status</source>
+      <translation>Every status</translation>
+    </message>
+    <message id="ui.invoices.allYears">
+      <source>Every year</source>
+      <translation>Every year</translation>
+    </message>
+    <message id="ui.invoices.client">
+      <source>Client</source>
+      <translation>Client</translation>
+    </message>
+    <message id="ui.invoices.deleteBody">
+      <source>The invoice and its PDF leave your list for good, and its hours become unbilled again. To keep a record, void it instead.</source>
+      <translation>The invoice and its PDF leave your list for good, and its hours become unbilled again. To keep a record, void it instead.</translation>
+    </message>
+    <message id="ui.invoices.deleteTitle">
+      <source>Delete invoice %1?</source>
+      <translation>Delete invoice %1?</translation>
+    </message>
+    <message id="ui.invoices.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Invoice %1 deleted; its hours are unbilled again.</translation>
+    </message>
+    <message id="ui.invoices.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>The PDF could not be downloaded: %1</translation>
+    </message>
+    <message id="ui.invoices.due">
+      <source>Due</source>
+      <translation>Due</translation>
+    </message>
+    <message id="ui.invoices.emptyHint">
+      <source>Invoices you write from your tracked time appear here, with what is still open and what is overdue.</source>
+      <translation>Invoices you write from your tracked time appear here, with what is still open and what is overdue.</translation>
+    </message>
+    <message id="ui.invoices.emptyTitle">
+      <source>No invoices yet</source>
+      <translation>No invoices yet</translation>
+    </message>
+    <message id="ui.invoices.fileTitle">
+      <source>Save the invoice PDF</source>
+      <translation>Save the invoice PDF</translation>
+    </message>
+    <message id="ui.invoices.foreignLink">
+      <source>The link to the PDF does not lead to your server, so it was not opened.</source>
+      <translation>The link to the PDF does not lead to your server, so it was not opened.</translation>
+    </message>
+    <message id="ui.invoices.issued">
+      <source>Issued</source>
+      <translation>Issued</translation>
+    </message>
+    <message id="ui.invoices.net">
+      <source>Net</source>
+      <translation>Net</translation>
+    </message>
+    <message id="ui.invoices.noMatch">
+      <source>No invoice matches these filters</source>
+      <translation>No invoice matches these filters</translation>
+    </message>
+    <message id="ui.invoices.noMatchHint">
+      <source>Choose another status or year.</source>
+      <translation>Choose another status or year.</translation>
+    </message>
+    <message id="ui.invoices.noViewer">
+      <source>No program to show PDF files was found. Save the PDF and open it from there.</source>
+      <translation>No program to show PDF files was found. Save the PDF and open it from there.</translation>
+    </message>
+    <message id="ui.invoices.number">
+      <source>Number</source>
+      <translation>Number</translation>
+    </message>
+    <message id="ui.invoices.open">
+      <source>Still open</source>
+      <translation>Still open</translation>
+    </message>
+    <message id="ui.invoices.openPdf">
+      <source>Open PDF</source>
+      <translation>Open PDF</translation>
+    </message>
+    <message id="ui.invoices.overdue">
+      <source>Overdue</source>
+      <translation>Overdue</translation>
+    </message>
+    <message id="ui.invoices.pdfFilter">
+      <source>PDF files (*.pdf)</source>
+      <translation>PDF files (*.pdf)</translation>
+    </message>
+    <message id="ui.invoices.savePdf">
+      <source>Save PDF…</source>
+      <translation>Save PDF…</translation>
+    </message>
+    <message id="ui.invoices.saved">
+      <source>Saved to %1</source>
+      <translation>Saved to %1</translation>
+    </message>
+    <message id="ui.invoices.status">
+      <source>Status</source>
+      <translation>Status</translation>
+    </message>
+    <message id="ui.invoices.status.draft">
+      <source>Draft</source>
+      <translation>Draft</translation>
+    </message>
+    <message id="ui.invoices.status.paid">
+      <source>Paid</source>
+      <translation>Paid</translation>
+    </message>
+    <message id="ui.invoices.status.sent">
+      <source>Sent</source>
+      <translation>Sent</translation>
+    </message>
+    <message id="ui.invoices.status.void">
+      <source>Void</source>
+      <translation>Void</translation>
+    </message>
+    <message id="ui.invoices.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>Invoice %1 is now %2.</translation>
+    </message>
+    <message id="ui.invoices.statusFilter">
+      <source>Status</source>
+      <translation>Status</translation>
+    </message>
+    <message id="ui.invoices.title">
+      <source>Invoices</source>
+      <translation>Invoices</translation>
+    </message>
+    <message id="ui.invoices.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="ui.invoices.vat">
+      <source>VAT</source>
+      <translation>VAT</translation>
+    </message>
+    <message id="ui.invoices.void">
+      <source>Void…</source>
+      <translation>Void…</translation>
+    </message>
+    <message id="ui.invoices.voidBody">
+      <source>A void invoice stays void: it can never be sent, paid or changed again. Its hours become unbilled, so you can invoice them anew.</source>
+      <translation>A void invoice stays void: it can never be sent, paid or changed again. Its hours become unbilled, so you can invoice them anew.</translation>
+    </message>
+    <message id="ui.invoices.voidConfirm">
+      <source>Void</source>
+      <translation>Void</translation>
+    </message>
+    <message id="ui.invoices.voidFinal">
+      <source>Void — final, it cannot be changed again</source>
+      <translation>Void — final, it cannot be changed again</translation>
+    </message>
+    <message id="ui.invoices.voidTitle">
+      <source>Void invoice %1?</source>
+      <translation>Void invoice %1?</translation>
+    </message>
+    <message id="ui.invoices.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>Invoice %1 is void; its hours are unbilled again.</translation>
+    </message>
+    <message id="ui.invoices.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Could not write %1: %2</translation>
+    </message>
+    <message id="ui.invoices.yearFilter">
+      <source>Year</source>
+      <translation>Year</translation>
+    </message>
     <message id="ui.onboarding.currency">
       <source>Currency</source>
       <translation>Currency</translation>

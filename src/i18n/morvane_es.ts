@@ -2111,6 +2111,174 @@
       <source>Task title</source>
       <translation>Título de la tarea</translation>
     </message>
+    <message id="ui.invoices.allStatuses">
+      <source>Every status</source>
+      <translation>Todos los estados</translation>
+    </message>
+    <message id="ui.invoices.allYears">
+      <source>Every year</source>
+      <translation>Todos los años</translation>
+    </message>
+    <message id="ui.invoices.client">
+      <source>Client</source>
+      <translation>Cliente</translation>
+    </message>
+    <message id="ui.invoices.deleteBody">
+      <source>The invoice and its PDF leave your list for good, and its hours become unbilled again. To keep a record, void it instead.</source>
+      <translation>La factura y su PDF desaparecen de tu lista para siempre y sus horas vuelven a estar sin facturar. Para conservar un registro, anúlala en su lugar.</translation>
+    </message>
+    <message id="ui.invoices.deleteTitle">
+      <source>Delete invoice %1?</source>
+      <translation>¿Eliminar la factura %1?</translation>
+    </message>
+    <message id="ui.invoices.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Factura %1 eliminada; sus horas vuelven a estar sin facturar.</translation>
+    </message>
+    <message id="ui.invoices.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>No se ha podido descargar el PDF: %1</translation>
+    </message>
+    <message id="ui.invoices.due">
+      <source>Due</source>
+      <translation>Vence</translation>
+    </message>
+    <message id="ui.invoices.emptyHint">
+      <source>Invoices you write from your tracked time appear here, with what is still open and what is overdue.</source>
+      <translation>Aquí aparecen las facturas que hagas con tu tiempo registrado, junto con lo que queda pendiente y lo que está vencido.</translation>
+    </message>
+    <message id="ui.invoices.emptyTitle">
+      <source>No invoices yet</source>
+      <translation>Todavía no hay facturas</translation>
+    </message>
+    <message id="ui.invoices.fileTitle">
+      <source>Save the invoice PDF</source>
+      <translation>Guardar el PDF de la factura</translation>
+    </message>
+    <message id="ui.invoices.foreignLink">
+      <source>The link to the PDF does not lead to your server, so it was not opened.</source>
+      <translation>El enlace al PDF no lleva a tu servidor, así que no se ha abierto.</translation>
+    </message>
+    <message id="ui.invoices.issued">
+      <source>Issued</source>
+      <translation>Emitida</translation>
+    </message>
+    <message id="ui.invoices.net">
+      <source>Net</source>
+      <translation>Base</translation>
+    </message>
+    <message id="ui.invoices.noMatch">
+      <source>No invoice matches these filters</source>
+      <translation>Ninguna factura coincide con estos filtros</translation>
+    </message>
+    <message id="ui.invoices.noMatchHint">
+      <source>Choose another status or year.</source>
+      <translation>Elige otro estado u otro año.</translation>
+    </message>
+    <message id="ui.invoices.noViewer">
+      <source>No program to show PDF files was found. Save the PDF and open it from there.</source>
+      <translation>No se ha encontrado ningún programa para ver archivos PDF. Guarda el PDF y ábrelo desde allí.</translation>
+    </message>
+    <message id="ui.invoices.number">
+      <source>Number</source>
+      <translation>Número</translation>
+    </message>
+    <message id="ui.invoices.open">
+      <source>Still open</source>
+      <translation>Pendiente de cobro</translation>
+    </message>
+    <message id="ui.invoices.openPdf">
+      <source>Open PDF</source>
+      <translation>Abrir PDF</translation>
+    </message>
+    <message id="ui.invoices.overdue">
+      <source>Overdue</source>
+      <translation>Vencido</translation>
+    </message>
+    <message id="ui.invoices.pdfFilter">
+      <source>PDF files (*.pdf)</source>
+      <translation>Archivos PDF (*.pdf)</translation>
+    </message>
+    <message id="ui.invoices.savePdf">
+      <source>Save PDF…</source>
+      <translation>Guardar PDF…</translation>
+    </message>
+    <message id="ui.invoices.saved">
+      <source>Saved to %1</source>
+      <translation>Guardado en %1</translation>
+    </message>
+    <message id="ui.invoices.status">
+      <source>Status</source>
+      <translation>Estado</translation>
+    </message>
+    <message id="ui.invoices.status.draft">
+      <source>Draft</source>
+      <translation>Borrador</translation>
+    </message>
+    <message id="ui.invoices.status.paid">
+      <source>Paid</source>
+      <translation>Pagada</translation>
+    </message>
+    <message id="ui.invoices.status.sent">
+      <source>Sent</source>
+      <translation>Enviada</translation>
+    </message>
+    <message id="ui.invoices.status.void">
+      <source>Void</source>
+      <translation>Anulada</translation>
+    </message>
+    <message id="ui.invoices.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>La factura %1 ahora está: %2.</translation>
+    </message>
+    <message id="ui.invoices.statusFilter">
+      <source>Status</source>
+      <translation>Estado</translation>
+    </message>
+    <message id="ui.invoices.title">
+      <source>Invoices</source>
+      <translation>Facturas</translation>
+    </message>
+    <message id="ui.invoices.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="ui.invoices.vat">
+      <source>VAT</source>
+      <translation>IVA</translation>
+    </message>
+    <message id="ui.invoices.void">
+      <source>Void…</source>
+      <translation>Anular…</translation>
+    </message>
+    <message id="ui.invoices.voidBody">
+      <source>A void invoice stays void: it can never be sent, paid or changed again. Its hours become unbilled, so you can invoice them anew.</source>
+      <translation>Una factura anulada sigue anulada: ya no se podrá enviar, cobrar ni cambiar. Sus horas vuelven a estar sin facturar para que puedas facturarlas de nuevo.</translation>
+    </message>
+    <message id="ui.invoices.voidConfirm">
+      <source>Void</source>
+      <translation>Anular</translation>
+    </message>
+    <message id="ui.invoices.voidFinal">
+      <source>Void — final, it cannot be changed again</source>
+      <translation>Anulada — es definitivo, ya no se puede cambiar</translation>
+    </message>
+    <message id="ui.invoices.voidTitle">
+      <source>Void invoice %1?</source>
+      <translation>¿Anular la factura %1?</translation>
+    </message>
+    <message id="ui.invoices.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>La factura %1 está anulada; sus horas vuelven a estar sin facturar.</translation>
+    </message>
+    <message id="ui.invoices.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>No se ha podido escribir %1: %2</translation>
+    </message>
+    <message id="ui.invoices.yearFilter">
+      <source>Year</source>
+      <translation>Año</translation>
+    </message>
     <message id="ui.onboarding.currency">
       <source>Currency</source>
       <translation>Moneda</translation>

@@ -2111,6 +2111,174 @@
       <source>Task title</source>
       <translation>Titre de la tâche</translation>
     </message>
+    <message id="ui.invoices.allStatuses">
+      <source>Every status</source>
+      <translation>Tous les statuts</translation>
+    </message>
+    <message id="ui.invoices.allYears">
+      <source>Every year</source>
+      <translation>Toutes les années</translation>
+    </message>
+    <message id="ui.invoices.client">
+      <source>Client</source>
+      <translation>Client</translation>
+    </message>
+    <message id="ui.invoices.deleteBody">
+      <source>The invoice and its PDF leave your list for good, and its hours become unbilled again. To keep a record, void it instead.</source>
+      <translation>La facture et son PDF quittent définitivement votre liste, et ses heures redeviennent non facturées. Pour en garder une trace, annulez-la plutôt.</translation>
+    </message>
+    <message id="ui.invoices.deleteTitle">
+      <source>Delete invoice %1?</source>
+      <translation>Supprimer la facture %1 ?</translation>
+    </message>
+    <message id="ui.invoices.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Facture %1 supprimée ; ses heures redeviennent non facturées.</translation>
+    </message>
+    <message id="ui.invoices.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>Le PDF n’a pas pu être téléchargé : %1</translation>
+    </message>
+    <message id="ui.invoices.due">
+      <source>Due</source>
+      <translation>Échéance</translation>
+    </message>
+    <message id="ui.invoices.emptyHint">
+      <source>Invoices you write from your tracked time appear here, with what is still open and what is overdue.</source>
+      <translation>Les factures que vous établissez à partir de votre temps suivi apparaissent ici, avec ce qui reste dû et ce qui est en retard.</translation>
+    </message>
+    <message id="ui.invoices.emptyTitle">
+      <source>No invoices yet</source>
+      <translation>Aucune facture pour l’instant</translation>
+    </message>
+    <message id="ui.invoices.fileTitle">
+      <source>Save the invoice PDF</source>
+      <translation>Enregistrer le PDF de la facture</translation>
+    </message>
+    <message id="ui.invoices.foreignLink">
+      <source>The link to the PDF does not lead to your server, so it was not opened.</source>
+      <translation>Le lien vers le PDF ne mène pas à votre serveur ; il n’a donc pas été ouvert.</translation>
+    </message>
+    <message id="ui.invoices.issued">
+      <source>Issued</source>
+      <translation>Émise le</translation>
+    </message>
+    <message id="ui.invoices.net">
+      <source>Net</source>
+      <translation>HT</translation>
+    </message>
+    <message id="ui.invoices.noMatch">
+      <source>No invoice matches these filters</source>
+      <translation>Aucune facture ne correspond à ces filtres</translation>
+    </message>
+    <message id="ui.invoices.noMatchHint">
+      <source>Choose another status or year.</source>
+      <translation>Choisissez un autre statut ou une autre année.</translation>
+    </message>
+    <message id="ui.invoices.noViewer">
+      <source>No program to show PDF files was found. Save the PDF and open it from there.</source>
+      <translation>Aucun programme pour afficher les fichiers PDF n’a été trouvé. Enregistrez le PDF et ouvrez-le depuis cet emplacement.</translation>
+    </message>
+    <message id="ui.invoices.number">
+      <source>Number</source>
+      <translation>Numéro</translation>
+    </message>
+    <message id="ui.invoices.open">
+      <source>Still open</source>
+      <translation>Encore dû</translation>
+    </message>
+    <message id="ui.invoices.openPdf">
+      <source>Open PDF</source>
+      <translation>Ouvrir le PDF</translation>
+    </message>
+    <message id="ui.invoices.overdue">
+      <source>Overdue</source>
+      <translation>En retard</translation>
+    </message>
+    <message id="ui.invoices.pdfFilter">
+      <source>PDF files (*.pdf)</source>
+      <translation>Fichiers PDF (*.pdf)</translation>
+    </message>
+    <message id="ui.invoices.savePdf">
+      <source>Save PDF…</source>
+      <translation>Enregistrer le PDF…</translation>
+    </message>
+    <message id="ui.invoices.saved">
+      <source>Saved to %1</source>
+      <translation>Enregistré dans %1</translation>
+    </message>
+    <message id="ui.invoices.status">
+      <source>Status</source>
+      <translation>Statut</translation>
+    </message>
+    <message id="ui.invoices.status.draft">
+      <source>Draft</source>
+      <translation>Brouillon</translation>
+    </message>
+    <message id="ui.invoices.status.paid">
+      <source>Paid</source>
+      <translation>Payée</translation>
+    </message>
+    <message id="ui.invoices.status.sent">
+      <source>Sent</source>
+      <translation>Envoyée</translation>
+    </message>
+    <message id="ui.invoices.status.void">
+      <source>Void</source>
+      <translation>Annulée</translation>
+    </message>
+    <message id="ui.invoices.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>La facture %1 est maintenant : %2.</translation>
+    </message>
+    <message id="ui.invoices.statusFilter">
+      <source>Status</source>
+      <translation>Statut</translation>
+    </message>
+    <message id="ui.invoices.title">
+      <source>Invoices</source>
+      <translation>Factures</translation>
+    </message>
+    <message id="ui.invoices.total">
+      <source>Total</source>
+      <translation>TTC</translation>
+    </message>
+    <message id="ui.invoices.vat">
+      <source>VAT</source>
+      <translation>TVA</translation>
+    </message>
+    <message id="ui.invoices.void">
+      <source>Void…</source>
+      <translation>Annuler…</translation>
+    </message>
+    <message id="ui.invoices.voidBody">
+      <source>A void invoice stays void: it can never be sent, paid or changed again. Its hours become unbilled, so you can invoice them anew.</source>
+      <translation>Une facture annulée le reste : elle ne pourra plus jamais être envoyée, payée ni modifiée. Ses heures redeviennent non facturées pour que vous puissiez les facturer à nouveau.</translation>
+    </message>
+    <message id="ui.invoices.voidConfirm">
+      <source>Void</source>
+      <translation>Annuler la facture</translation>
+    </message>
+    <message id="ui.invoices.voidFinal">
+      <source>Void — final, it cannot be changed again</source>
+      <translation>Annulée — définitif, elle ne peut plus être modifiée</translation>
+    </message>
+    <message id="ui.invoices.voidTitle">
+      <source>Void invoice %1?</source>
+      <translation>Annuler la facture %1 ?</translation>
+    </message>
+    <message id="ui.invoices.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>La facture %1 est annulée ; ses heures redeviennent non facturées.</translation>
+    </message>
+    <message id="ui.invoices.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Impossible d’écrire %1 : %2</translation>
+    </message>
+    <message id="ui.invoices.yearFilter">
+      <source>Year</source>
+      <translation>Année</translation>
+    </message>
     <message id="ui.onboarding.currency">
       <source>Currency</source>
       <translation>Devise</translation>

@@ -2111,6 +2111,174 @@
       <source>Task title</source>
       <translation>Titolo dell’attività</translation>
     </message>
+    <message id="ui.invoices.allStatuses">
+      <source>Every status</source>
+      <translation>Tutti gli stati</translation>
+    </message>
+    <message id="ui.invoices.allYears">
+      <source>Every year</source>
+      <translation>Tutti gli anni</translation>
+    </message>
+    <message id="ui.invoices.client">
+      <source>Client</source>
+      <translation>Cliente</translation>
+    </message>
+    <message id="ui.invoices.deleteBody">
+      <source>The invoice and its PDF leave your list for good, and its hours become unbilled again. To keep a record, void it instead.</source>
+      <translation>La fattura e il suo PDF escono per sempre dal tuo elenco e le sue ore tornano da fatturare. Per conservarne traccia, annullala invece.</translation>
+    </message>
+    <message id="ui.invoices.deleteTitle">
+      <source>Delete invoice %1?</source>
+      <translation>Eliminare la fattura %1?</translation>
+    </message>
+    <message id="ui.invoices.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>Fattura %1 eliminata; le sue ore tornano da fatturare.</translation>
+    </message>
+    <message id="ui.invoices.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>Impossibile scaricare il PDF: %1</translation>
+    </message>
+    <message id="ui.invoices.due">
+      <source>Due</source>
+      <translation>Scadenza</translation>
+    </message>
+    <message id="ui.invoices.emptyHint">
+      <source>Invoices you write from your tracked time appear here, with what is still open and what is overdue.</source>
+      <translation>Qui compaiono le fatture che emetti dal tempo registrato, con quanto resta da incassare e quanto è scaduto.</translation>
+    </message>
+    <message id="ui.invoices.emptyTitle">
+      <source>No invoices yet</source>
+      <translation>Ancora nessuna fattura</translation>
+    </message>
+    <message id="ui.invoices.fileTitle">
+      <source>Save the invoice PDF</source>
+      <translation>Salva il PDF della fattura</translation>
+    </message>
+    <message id="ui.invoices.foreignLink">
+      <source>The link to the PDF does not lead to your server, so it was not opened.</source>
+      <translation>Il link al PDF non porta al tuo server, quindi non è stato aperto.</translation>
+    </message>
+    <message id="ui.invoices.issued">
+      <source>Issued</source>
+      <translation>Emessa</translation>
+    </message>
+    <message id="ui.invoices.net">
+      <source>Net</source>
+      <translation>Imponibile</translation>
+    </message>
+    <message id="ui.invoices.noMatch">
+      <source>No invoice matches these filters</source>
+      <translation>Nessuna fattura corrisponde a questi filtri</translation>
+    </message>
+    <message id="ui.invoices.noMatchHint">
+      <source>Choose another status or year.</source>
+      <translation>Scegli un altro stato o un altro anno.</translation>
+    </message>
+    <message id="ui.invoices.noViewer">
+      <source>No program to show PDF files was found. Save the PDF and open it from there.</source>
+      <translation>Non è stato trovato alcun programma per visualizzare i PDF. Salva il PDF e aprilo da lì.</translation>
+    </message>
+    <message id="ui.invoices.number">
+      <source>Number</source>
+      <translation>Numero</translation>
+    </message>
+    <message id="ui.invoices.open">
+      <source>Still open</source>
+      <translation>Ancora da incassare</translation>
+    </message>
+    <message id="ui.invoices.openPdf">
+      <source>Open PDF</source>
+      <translation>Apri PDF</translation>
+    </message>
+    <message id="ui.invoices.overdue">
+      <source>Overdue</source>
+      <translation>Scaduto</translation>
+    </message>
+    <message id="ui.invoices.pdfFilter">
+      <source>PDF files (*.pdf)</source>
+      <translation>File PDF (*.pdf)</translation>
+    </message>
+    <message id="ui.invoices.savePdf">
+      <source>Save PDF…</source>
+      <translation>Salva PDF…</translation>
+    </message>
+    <message id="ui.invoices.saved">
+      <source>Saved to %1</source>
+      <translation>Salvato in %1</translation>
+    </message>
+    <message id="ui.invoices.status">
+      <source>Status</source>
+      <translation>Stato</translation>
+    </message>
+    <message id="ui.invoices.status.draft">
+      <source>Draft</source>
+      <translation>Bozza</translation>
+    </message>
+    <message id="ui.invoices.status.paid">
+      <source>Paid</source>
+      <translation>Pagata</translation>
+    </message>
+    <message id="ui.invoices.status.sent">
+      <source>Sent</source>
+      <translation>Inviata</translation>
+    </message>
+    <message id="ui.invoices.status.void">
+      <source>Void</source>
+      <translation>Annullata</translation>
+    </message>
+    <message id="ui.invoices.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>La fattura %1 ora è: %2.</translation>
+    </message>
+    <message id="ui.invoices.statusFilter">
+      <source>Status</source>
+      <translation>Stato</translation>
+    </message>
+    <message id="ui.invoices.title">
+      <source>Invoices</source>
+      <translation>Fatture</translation>
+    </message>
+    <message id="ui.invoices.total">
+      <source>Total</source>
+      <translation>Totale</translation>
+    </message>
+    <message id="ui.invoices.vat">
+      <source>VAT</source>
+      <translation>IVA</translation>
+    </message>
+    <message id="ui.invoices.void">
+      <source>Void…</source>
+      <translation>Annulla…</translation>
+    </message>
+    <message id="ui.invoices.voidBody">
+      <source>A void invoice stays void: it can never be sent, paid or changed again. Its hours become unbilled, so you can invoice them anew.</source>
+      <translation>Una fattura annullata resta annullata: non potrà più essere inviata, pagata o modificata. Le sue ore tornano da fatturare, così puoi fatturarle di nuovo.</translation>
+    </message>
+    <message id="ui.invoices.voidConfirm">
+      <source>Void</source>
+      <translation>Annulla fattura</translation>
+    </message>
+    <message id="ui.invoices.voidFinal">
+      <source>Void — final, it cannot be changed again</source>
+      <translation>Annullata — definitivo, non si può più modificare</translation>
+    </message>
+    <message id="ui.invoices.voidTitle">
+      <source>Void invoice %1?</source>
+      <translation>Annullare la fattura %1?</translation>
+    </message>
+    <message id="ui.invoices.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>La fattura %1 è annullata; le sue ore tornano da fatturare.</translation>
+    </message>
+    <message id="ui.invoices.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>Impossibile scrivere %1: %2</translation>
+    </message>
+    <message id="ui.invoices.yearFilter">
+      <source>Year</source>
+      <translation>Anno</translation>
+    </message>
     <message id="ui.onboarding.currency">
       <source>Currency</source>
       <translation>Valuta</translation>

@@ -2111,6 +2111,174 @@
       <source>Task title</source>
       <translation>ชื่องาน</translation>
     </message>
+    <message id="ui.invoices.allStatuses">
+      <source>Every status</source>
+      <translation>ทุกสถานะ</translation>
+    </message>
+    <message id="ui.invoices.allYears">
+      <source>Every year</source>
+      <translation>ทุกปี</translation>
+    </message>
+    <message id="ui.invoices.client">
+      <source>Client</source>
+      <translation>ลูกค้า</translation>
+    </message>
+    <message id="ui.invoices.deleteBody">
+      <source>The invoice and its PDF leave your list for good, and its hours become unbilled again. To keep a record, void it instead.</source>
+      <translation>ใบแจ้งหนี้และ PDF จะถูกลบออกจากรายการถาวร และชั่วโมงงานจะกลับเป็นยังไม่เรียกเก็บ หากต้องการเก็บบันทึกไว้ ให้ยกเลิกแทน</translation>
+    </message>
+    <message id="ui.invoices.deleteTitle">
+      <source>Delete invoice %1?</source>
+      <translation>ลบใบแจ้งหนี้ %1 หรือไม่</translation>
+    </message>
+    <message id="ui.invoices.deleted">
+      <source>Invoice %1 deleted; its hours are unbilled again.</source>
+      <translation>ลบใบแจ้งหนี้ %1 แล้ว ชั่วโมงงานกลับเป็นยังไม่เรียกเก็บ</translation>
+    </message>
+    <message id="ui.invoices.downloadFailed">
+      <source>The PDF could not be downloaded: %1</source>
+      <translation>ดาวน์โหลด PDF ไม่ได้: %1</translation>
+    </message>
+    <message id="ui.invoices.due">
+      <source>Due</source>
+      <translation>ครบกำหนด</translation>
+    </message>
+    <message id="ui.invoices.emptyHint">
+      <source>Invoices you write from your tracked time appear here, with what is still open and what is overdue.</source>
+      <translation>ใบแจ้งหนี้ที่คุณสร้างจากเวลาที่บันทึกไว้จะแสดงที่นี่ พร้อมยอดที่ยังค้างชำระและยอดที่เกินกำหนด</translation>
+    </message>
+    <message id="ui.invoices.emptyTitle">
+      <source>No invoices yet</source>
+      <translation>ยังไม่มีใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.invoices.fileTitle">
+      <source>Save the invoice PDF</source>
+      <translation>บันทึก PDF ของใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.invoices.foreignLink">
+      <source>The link to the PDF does not lead to your server, so it was not opened.</source>
+      <translation>ลิงก์ไปยัง PDF ไม่ได้ชี้ไปที่เซิร์ฟเวอร์ของคุณ จึงไม่ได้เปิด</translation>
+    </message>
+    <message id="ui.invoices.issued">
+      <source>Issued</source>
+      <translation>วันที่ออก</translation>
+    </message>
+    <message id="ui.invoices.net">
+      <source>Net</source>
+      <translation>ก่อนภาษี</translation>
+    </message>
+    <message id="ui.invoices.noMatch">
+      <source>No invoice matches these filters</source>
+      <translation>ไม่มีใบแจ้งหนี้ที่ตรงกับตัวกรองนี้</translation>
+    </message>
+    <message id="ui.invoices.noMatchHint">
+      <source>Choose another status or year.</source>
+      <translation>เลือกสถานะหรือปีอื่น</translation>
+    </message>
+    <message id="ui.invoices.noViewer">
+      <source>No program to show PDF files was found. Save the PDF and open it from there.</source>
+      <translation>ไม่พบโปรแกรมสำหรับเปิดไฟล์ PDF บันทึก PDF แล้วเปิดจากที่นั่น</translation>
+    </message>
+    <message id="ui.invoices.number">
+      <source>Number</source>
+      <translation>เลขที่</translation>
+    </message>
+    <message id="ui.invoices.open">
+      <source>Still open</source>
+      <translation>ยังค้างชำระ</translation>
+    </message>
+    <message id="ui.invoices.openPdf">
+      <source>Open PDF</source>
+      <translation>เปิด PDF</translation>
+    </message>
+    <message id="ui.invoices.overdue">
+      <source>Overdue</source>
+      <translation>เกินกำหนด</translation>
+    </message>
+    <message id="ui.invoices.pdfFilter">
+      <source>PDF files (*.pdf)</source>
+      <translation>ไฟล์ PDF (*.pdf)</translation>
+    </message>
+    <message id="ui.invoices.savePdf">
+      <source>Save PDF…</source>
+      <translation>บันทึก PDF…</translation>
+    </message>
+    <message id="ui.invoices.saved">
+      <source>Saved to %1</source>
+      <translation>บันทึกไว้ที่ %1 แล้ว</translation>
+    </message>
+    <message id="ui.invoices.status">
+      <source>Status</source>
+      <translation>สถานะ</translation>
+    </message>
+    <message id="ui.invoices.status.draft">
+      <source>Draft</source>
+      <translation>ฉบับร่าง</translation>
+    </message>
+    <message id="ui.invoices.status.paid">
+      <source>Paid</source>
+      <translation>ชำระแล้ว</translation>
+    </message>
+    <message id="ui.invoices.status.sent">
+      <source>Sent</source>
+      <translation>ส่งแล้ว</translation>
+    </message>
+    <message id="ui.invoices.status.void">
+      <source>Void</source>
+      <translation>ยกเลิกแล้ว</translation>
+    </message>
+    <message id="ui.invoices.statusChanged">
+      <source>Invoice %1 is now %2.</source>
+      <translation>ใบแจ้งหนี้ %1 เปลี่ยนเป็น %2 แล้ว</translation>
+    </message>
+    <message id="ui.invoices.statusFilter">
+      <source>Status</source>
+      <translation>สถานะ</translation>
+    </message>
+    <message id="ui.invoices.title">
+      <source>Invoices</source>
+      <translation>ใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.invoices.total">
+      <source>Total</source>
+      <translation>รวม</translation>
+    </message>
+    <message id="ui.invoices.vat">
+      <source>VAT</source>
+      <translation>VAT</translation>
+    </message>
+    <message id="ui.invoices.void">
+      <source>Void…</source>
+      <translation>ยกเลิก…</translation>
+    </message>
+    <message id="ui.invoices.voidBody">
+      <source>A void invoice stays void: it can never be sent, paid or changed again. Its hours become unbilled, so you can invoice them anew.</source>
+      <translation>ใบแจ้งหนี้ที่ยกเลิกแล้วจะถูกยกเลิกถาวร ส่ง ชำระ หรือแก้ไขไม่ได้อีก ชั่วโมงงานจะกลับเป็นยังไม่เรียกเก็บ คุณจึงออกใบแจ้งหนี้ใหม่ได้</translation>
+    </message>
+    <message id="ui.invoices.voidConfirm">
+      <source>Void</source>
+      <translation>ยกเลิกใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.invoices.voidFinal">
+      <source>Void — final, it cannot be changed again</source>
+      <translation>ยกเลิกแล้ว — ถาวร แก้ไขอีกไม่ได้</translation>
+    </message>
+    <message id="ui.invoices.voidTitle">
+      <source>Void invoice %1?</source>
+      <translation>ยกเลิกใบแจ้งหนี้ %1 หรือไม่</translation>
+    </message>
+    <message id="ui.invoices.voided">
+      <source>Invoice %1 is void; its hours are unbilled again.</source>
+      <translation>ใบแจ้งหนี้ %1 ถูกยกเลิกแล้ว ชั่วโมงงานกลับเป็นยังไม่เรียกเก็บ</translation>
+    </message>
+    <message id="ui.invoices.writeFailed">
+      <source>Could not write %1: %2</source>
+      <translation>เขียน %1 ไม่ได้: %2</translation>
+    </message>
+    <message id="ui.invoices.yearFilter">
+      <source>Year</source>
+      <translation>ปี</translation>
+    </message>
     <message id="ui.onboarding.currency">
       <source>Currency</source>
       <translation>สกุลเงิน</translation>

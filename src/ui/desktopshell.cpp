@@ -212,6 +212,7 @@ void DesktopShell::buildStores(const Config &config, std::shared_ptr<SecretStore
         followSession();
     });
     m_workspace->setStore(m_store.get());
+    m_workspace->invoices()->setBackend(m_auth->client().baseUrl());
     m_earnings->setStores(m_store.get(), m_auth.get());
     emit storesChanged();
 }

@@ -96,6 +96,7 @@ Workspace::Workspace(QObject *parent)
     , m_palette(new RowsModel({u"kind"_s, u"id"_s, u"title"_s, u"subtitle"_s, u"projectId"_s}, this))
     , m_inspector(new TaskInspector(this))
     , m_clients(new ClientList(this))
+    , m_invoices(new InvoiceList(this))
     , m_projectPrice(new BillingEditor(this))
 {
     m_rebuild.setSingleShot(true);
@@ -121,6 +122,7 @@ void Workspace::setStore(AppStore *store)
     m_rowCache.clear();
     m_inspector->setStore(store);
     m_clients->setStore(store);
+    m_invoices->setStore(store);
     if (store) {
         for (auto signal : {&AppStore::projectsChanged, &AppStore::tasksChanged, &AppStore::teamsChanged,
                             &AppStore::savingTaskIdsChanged, &AppStore::selectedTaskIdsChanged,

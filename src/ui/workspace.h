@@ -2,6 +2,7 @@
 
 #include "store/appstore.h"
 #include "ui/clientlist.h"
+#include "ui/invoicelist.h"
 #include "ui/rowsmodel.h"
 #include "ui/taskinspector.h"
 
@@ -26,6 +27,7 @@ class Workspace : public QObject
     Q_PROPERTY(RowsModel *palette READ palette CONSTANT)
     Q_PROPERTY(TaskInspector *inspector READ inspector CONSTANT)
     Q_PROPERTY(ClientList *clients READ clients CONSTANT)
+    Q_PROPERTY(InvoiceList *invoices READ invoices CONSTANT)
     Q_PROPERTY(BillingEditor *projectPriceEditor READ projectPriceEditor CONSTANT)
     Q_PROPERTY(bool hasStore READ hasStore NOTIFY storeChanged)
     Q_PROPERTY(QString selectedProjectId READ selectedProjectId WRITE selectProject NOTIFY selectionChanged)
@@ -66,6 +68,7 @@ public:
     [[nodiscard]] RowsModel *palette() const { return m_palette; }
     [[nodiscard]] TaskInspector *inspector() const { return m_inspector; }
     [[nodiscard]] ClientList *clients() const { return m_clients; }
+    [[nodiscard]] InvoiceList *invoices() const { return m_invoices; }
     [[nodiscard]] BillingEditor *projectPriceEditor() const { return m_projectPrice; }
 
     [[nodiscard]] QString selectedProjectId() const;
@@ -177,6 +180,7 @@ private:
     RowsModel *m_palette;
     TaskInspector *m_inspector;
     ClientList *m_clients;
+    InvoiceList *m_invoices;
     BillingEditor *m_projectPrice;
     QString m_message;
     QString m_lastRunningTaskId;

@@ -20,6 +20,7 @@ Rectangle {
     readonly property var pageLinks: [
         { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
         { id: "earnings", title: qsTrId("ui.earnings.title"), source: "qrc:/Morvane/Ui/earnings/EarningsView.qml" },
+        { id: "invoices", title: qsTrId("ui.invoices.title"), source: "qrc:/Morvane/Ui/invoices/InvoicesView.qml" },
     ]
     property alias sidebarWidth: sidebar.preferredWidth
     property alias inspectorWidth: inspectorPane.preferredWidth
