@@ -41,6 +41,8 @@ public:
     void setBackend(const QUrl &baseUrl);
     // The desktop's viewer by default; tests look at the link instead.
     void setUrlOpener(UrlOpener opener) { m_opener = std::move(opener); }
+    // Status names, dates and money are written in the interface language.
+    void retranslate() { rebuild(); }
 
     [[nodiscard]] RowsModel *rows() const { return m_rows; }
     // "" for every status, else draft, sent, paid or void.

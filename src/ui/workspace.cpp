@@ -183,6 +183,7 @@ void Workspace::retranslate()
         editor->retranslate();
     }
     m_rowCache.clear();
+    m_invoices->retranslate();
     rebuildSidebar();
     rebuildTasks();
     emit m_inspector->changed();
