@@ -18,9 +18,9 @@ Rectangle {
     property string page: ""
     // The screens reached from the sidebar's links, in the order it lists them: { id, title, source }.
     readonly property var pageLinks: [
-        { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
-        { id: "earnings", title: qsTrId("ui.earnings.title"), source: "qrc:/Morvane/Ui/earnings/EarningsView.qml" },
         { id: "invoices", title: qsTrId("ui.invoices.title"), source: "qrc:/Morvane/Ui/invoices/InvoicesView.qml" },
+        { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
+        { id: "earnings", title: qsTrId("ui.earnings.title"), source: "qrc:/Morvane/Ui/earnings/EarningsView.qml" }
     ]
     property alias sidebarWidth: sidebar.preferredWidth
     property alias inspectorWidth: inspectorPane.preferredWidth
