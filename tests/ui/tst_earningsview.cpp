@@ -90,19 +90,6 @@ private:
                    {m_user, project, title, billing});
     }
 
-    // Delegates belong to their model, not to the window: look through the drawn items.
-    QQuickItem *shown(const QString &name) const
-    {
-        QList<QQuickItem *> items{m_window->contentItem()};
-        for (qsizetype i = 0; i < items.size(); ++i) {
-            if (items.at(i)->objectName() == name) {
-                return items.at(i);
-            }
-            items << items.at(i)->childItems();
-        }
-        return nullptr;
-    }
-
 private slots:
     void initTestCase()
     {
@@ -111,10 +98,7 @@ private slots:
         m_shell = &m_desktop->shell();
         QVERIFY(m_desktop->open());
         m_window = m_desktop->window();
-        QTRY_COMPARE_WITH_TIMEOUT(m_shell->phase(), DesktopShell::SignedOut, patience);
-        m_shell->signUp(u"eve@example.com"_s, u"correct horse battery staple"_s, u"Eve"_s, u"en"_s, u"EUR"_s, u"50"_s,
-                        u"UTC"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(m_shell->phase(), DesktopShell::Ready, patience);
+        QVERIFY(m_desktop->signUp(u"eve@example.com"_s, u"Eve"_s, u"EUR"_s, u"50"_s, u"UTC"_s));
         m_user = sql("SELECT id FROM auth.users WHERE email = 'eve@example.com'");
     }
 
@@ -125,9 +109,7 @@ private slots:
 
     void aKnownWeekMatchesItsFiguresAndABarListsItsEntries()
     {
-        auto *main = m_window->findChild<QObject *>(u"mainView"_s);
-        QVERIFY(main);
-        main->setProperty("page", u"earnings"_s);
+        m_desktop->showPage(u"earnings"_s);
         EarningsModel *earnings = m_shell->earnings();
         QTRY_VERIFY_WITH_TIMEOUT(!earnings->isLoading(), patience);
         QVERIFY(earnings->isEmpty());
@@ -183,13 +165,13 @@ private slots:
         QCOMPARE(earnings->rows().size(), 12);
 
         // The bar of the week, clicked, lists its six entries, Shop's price on its last one.
-        QQuickItem *bar = shown(u"earningsBar_"_s + week);
+        QQuickItem *bar = m_desktop->item(u"earningsBar_"_s + week);
         QVERIFY(bar);
         QTRY_VERIFY(bar->isVisible() && bar->width() > 0);
         QTest::mouseClick(m_window, Qt::LeftButton, {},
                           bar->mapToScene(QPointF(bar->width() / 2, bar->height() / 2)).toPoint());
         QTRY_COMPARE(earnings->selectedKey(), week);
-        QQuickItem *list = shown(u"earningsEntries"_s);
+        QQuickItem *list = m_desktop->item(u"earningsEntries"_s);
         QVERIFY(list);
         QTRY_COMPARE(list->property("count").toInt(), 6);
         const QVariantMap newest = earnings->selectedEntries().first().toMap();

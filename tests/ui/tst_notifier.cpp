@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-// A notification service as the desktop notifications specification describes it: it answers
+// A notification service as the freedesktop.org notification protocol has it: it answers
 // GetCapabilities, numbers what it shows, and announces a chosen action by signal.
 class NotificationService : public QObject
 {
