@@ -8,6 +8,7 @@
 #include "billing/moneyinput.h"
 #include "model/isodate.h"
 #include "store/invoicecomposer.h"
+#include "store/invoicedocuments.h"
 
 #include <QApplication>
 #include <QFile>
@@ -156,86 +157,29 @@ QString lineKindName(Earnings::BuiltLine::Kind kind)
     return {};
 }
 
-struct ComposedDraft
+// The window's composer over one project's unbilled time in [from, to], so that the command line
+// bills exactly what the window would. `--vat` stands for the house style's rate.
+void openComposer(InvoiceComposer &composer, const Project &project, std::optional<QDate> from,
+                  std::optional<QDate> to, std::optional<double> vatPercent)
 {
-    Earnings::BuildResult built;
-    Earnings::VatResult vat;
-    QStringList entryIds;
-    QString from;
-    QString to;
-    QString currency;
-};
-
-// What a save of the project's unbilled time in [from, to] would write: the store's unbilled
-// entries grouped per task, built into lines with what was billed before, VAT per rate.
-ComposedDraft composeDraft(AppStore &store, const Project &project, std::optional<QDate> from, std::optional<QDate> to,
-                           std::optional<double> vatPercent)
-{
-    QHash<QString, Earnings::ComposerTask> byTask;
-    QStringList order;
-    std::optional<QDate> first;
-    std::optional<QDate> last;
-    for (const TimeEntry &entry : store.unbilledEntries()) {
-        if (entry.projectId != project.id) {
-            continue;
-        }
-        const std::optional<QDateTime> started = isoDate(entry.startedAt);
-        const QDate day = started ? started->toLocalTime().date() : QDate();
-        if ((from && day < *from) || (to && day > *to)) {
-            continue;
-        }
-        const std::optional<TaskItem> task = store.task(entry.taskId);
-        if (!task) {
-            continue;
-        }
-        if (!byTask.contains(task->id)) {
-            order << task->id;
-            byTask.insert(task->id, Earnings::ComposerTask{*task, project, 0, {}});
-        }
-        Earnings::ComposerTask &composed = byTask[task->id];
-        composed.seconds += entry.durationSeconds;
-        composed.entryIds << entry.id;
-        first = first ? std::min(*first, day) : day;
-        last = last ? std::max(*last, day) : day;
+    InvoiceContext context;
+    context.projectIds = {project.id};
+    context.from = from;
+    context.to = to;
+    composer.open(context);
+    if (vatPercent) {
+        composer.setDefaultVatPercent(*vatPercent);
     }
-    // The project's own task order, so that the same period always gives the same invoice.
-    QStringList ordered;
-    for (const TaskItem &task : store.tasks(project.id)) {
-        if (order.contains(task.id)) {
-            ordered << task.id;
-        }
-    }
-    for (const QString &taskId : std::as_const(order)) {
-        if (!ordered.contains(taskId)) {
-            ordered << taskId;
-        }
-    }
-    QList<Earnings::ComposerTask> tasks;
-    QStringList entryIds;
-    for (const QString &taskId : std::as_const(ordered)) {
-        tasks << byTask.value(taskId);
-        entryIds << byTask.value(taskId).entryIds;
-    }
-    const double defaultRate = store.defaultHourlyRate();
-    const QString currency = store.currency();
-    const Earnings::BuildResult built = Earnings::buildInvoiceLines(
-        tasks, defaultRate, store.priorBilling().tasks, store.priorBilling().poolProjects, {}, Earnings::lineLabels());
-    const Earnings::VatResult vat = Earnings::computeVat(built.lines, built.subtotal, std::nullopt, vatPercent.value_or(0));
-    const QString fromText = (from ? from : first) ? (from ? *from : *first).toString(Qt::ISODate) : QString();
-    const QString toText = (to ? to : last) ? (to ? *to : *last).toString(Qt::ISODate) : QString();
-    return {built, vat, entryIds, fromText, toText, currency};
 }
 
-int showDraft(AppStore &store, const Project &project, std::optional<QDate> from, std::optional<QDate> to,
-              std::optional<double> vatPercent, bool json, QTextStream &out)
+int showDraft(const Project &project, const InvoiceComposer &composer, bool json, QTextStream &out)
 {
-    const ComposedDraft composed = composeDraft(store, project, from, to, vatPercent);
-    const Earnings::BuildResult &built = composed.built;
-    const Earnings::VatResult &vat = composed.vat;
-    const QString &fromText = composed.from;
-    const QString &toText = composed.to;
-    const QString &currency = composed.currency;
-    const QStringList &entryIds = composed.entryIds;
+    const Earnings::BuildResult &built = composer.built();
+    const Earnings::VatResult &vat = composer.vat();
+    const QString fromText = composer.from().toString(Qt::ISODate);
+    const QString toText = composer.to().toString(Qt::ISODate);
+    const QString currency = composer.currency();
+    const QStringList entryIds = composer.coveredEntryIds();
     if (json) {
         QJsonArray lines;
         for (const Earnings::BuiltLine &line : built.lines) {
@@ -306,17 +250,18 @@ int showDraft(AppStore &store, const Project &project, std::optional<QDate> from
     return 0;
 }
 
-// The PDF of an invoice in the default style and design, as the composer renders it.
-std::optional<QByteArray> renderPdf(const InvoiceDraft &draft, const InvoiceMetadata &metadata, QTextStream &err)
+// The PDF of an invoice in its style and design, as the composer renders it.
+std::optional<QByteArray> renderPdf(const InvoiceDocument &document, QTextStream &err)
 {
     if (!qobject_cast<QApplication *>(QCoreApplication::instance())) {
         err << qtTrId("cli.renderInvoice.err.noGui") << Qt::endl;
         return std::nullopt;
     }
-    const InvoiceStyle style;
+    const InvoiceStyle style = document.style.value_or(InvoiceStyle{});
     using namespace InvoiceHTMLRenderer;
-    const Template design = Template::LightMinimalAccent;
-    const QString html = buildHTML(draft, style, brandProfile(style, design), design, metadata);
+    const Template design = templateFromName(document.design.value_or(QString())).value_or(fallbackDesign);
+    const QString html = buildHTML(document.draft, style, brandProfile(style, design), design,
+                                   document.metadata.value_or(InvoiceMetadata{}));
     try {
         InvoicePdfRenderer renderer;
         return runBlocking(renderer.render(html)).pdf;
@@ -335,42 +280,7 @@ int replacePdf(AppStore &store, const Invoice &invoice, bool json, QTextStream &
         err << store.lastError() << Qt::endl;
         return 1;
     }
-    InvoiceDraft draft;
-    if (invoice.projectId) {
-        if (const std::optional<Project> project = store.project(*invoice.projectId)) {
-            draft.projectName = project->name;
-        }
-    }
-    draft.currency = invoice.currency;
-    for (const InvoiceLine &stored : *lines) {
-        DraftLine line;
-        line.taskId = stored.taskId;
-        line.title = stored.title;
-        line.hours = stored.quantity;
-        line.amount = stored.amount;
-        line.rate = stored.unitPrice;
-        line.unit = stored.unit.value_or(QString());
-        line.description = stored.description;
-        draft.lines << line;
-    }
-    InvoiceMetadata metadata;
-    metadata.number = invoice.number;
-    metadata.issued = invoice.issuedAt;
-    metadata.due = invoice.dueAt;
-    metadata.clientName = invoice.clientName;
-    metadata.clientEmail = invoice.clientEmail;
-    metadata.clientAddress = invoice.clientAddress;
-    metadata.notes = invoice.notes;
-    if (const std::optional<Profile> &profile = store.profile(); profile && profile->displayName) {
-        metadata.senderName = profile->displayName;
-    }
-    metadata.vatAmount = invoice.vatAmount;
-    // One rate is all a stored invoice tells; it is recovered from its totals.
-    if (const std::optional<double> percent = Earnings::inferVatPercent(invoice.subtotal, invoice.vatAmount)) {
-        metadata.vatRate = *percent;
-        metadata.vatGroups = {InvoiceVatGroup{*percent, invoice.subtotal, invoice.vatAmount}};
-    }
-    const std::optional<QByteArray> pdf = renderPdf(draft, metadata, err);
+    const std::optional<QByteArray> pdf = renderPdf(InvoiceDocuments::stored(store, invoice, *lines), err);
     if (!pdf) {
         return 1;
     }
@@ -388,10 +298,10 @@ int replacePdf(AppStore &store, const Invoice &invoice, bool json, QTextStream &
 }
 
 // Renders the composed invoice as the composer would and saves it with its PDF.
-int createInvoice(AppStore &store, const Project &project, const ComposedDraft &composed, const QString &status,
+int createInvoice(AppStore &store, const Project &project, InvoiceComposer &composer, const QString &status,
                   const std::optional<QString> &clientName, bool json, QTextStream &out, QTextStream &err)
 {
-    if (composed.built.lines.isEmpty()) {
+    if (composer.built().lines.isEmpty()) {
         err << qtTrId("cli.invoice.draftEmpty").arg(project.name) << Qt::endl;
         return 1;
     }
@@ -400,60 +310,20 @@ int createInvoice(AppStore &store, const Project &project, const ComposedDraft &
         err << store.lastError() << Qt::endl;
         return 1;
     }
+    composer.setClientName(clientName.value_or(QString()));
     const QDate issued = QDate::currentDate();
-    InvoiceDraft draft;
-    draft.projectName = project.name;
-    draft.from = composed.from;
-    draft.to = composed.to;
-    draft.currency = composed.currency;
-    draft.coveredEntryIds = composed.entryIds;
-    QList<InvoiceLineInsert> lines;
-    for (const Earnings::BuiltLine &built : composed.built.lines) {
-        DraftLine line;
-        line.taskId = built.taskId;
-        line.title = built.title;
-        line.hours = built.quantity;
-        line.amount = built.amount;
-        line.rate = built.unitPrice;
-        line.unit = built.unit.value_or(QString());
-        line.description = built.description;
-        draft.lines << line;
-        lines << InvoiceComposer::lineInsert(built);
+    const QDate due = issued.addDays(14);
+    std::optional<InvoiceSaveRequest> request = composer.saveRequest(*number, issued, due, status);
+    if (!request) {
+        err << composer.readinessError() << Qt::endl;
+        return 1;
     }
-    InvoiceMetadata metadata;
-    metadata.number = *number;
-    metadata.issued = issued.toString(Qt::ISODate);
-    metadata.due = issued.addDays(14).toString(Qt::ISODate);
-    metadata.clientName = clientName;
-    if (const std::optional<Profile> &profile = store.profile(); profile && profile->displayName) {
-        metadata.senderName = profile->displayName;
-    }
-    metadata.vatAmount = composed.vat.vat;
-    metadata.vatGroups = composed.vat.groups;
-    if (composed.vat.groups.size() == 1) {
-        metadata.vatRate = composed.vat.groups.first().percent;
-    }
-    const std::optional<QByteArray> pdf = renderPdf(draft, metadata, err);
+    const std::optional<QByteArray> pdf = renderPdf(InvoiceDocuments::composed(store, composer, *number, issued, due), err);
     if (!pdf) {
         return 1;
     }
-
-    InvoiceSaveRequest request;
-    request.invoice.projectId = project.id;
-    request.invoice.teamId = project.teamId;
-    request.invoice.number = *number;
-    request.invoice.issuedAt = metadata.issued;
-    request.invoice.dueAt = metadata.due;
-    request.invoice.currency = composed.currency;
-    request.invoice.subtotal = composed.built.subtotal;
-    request.invoice.vatAmount = composed.vat.vat;
-    request.invoice.total = composed.vat.total;
-    request.invoice.status = status;
-    request.invoice.clientName = clientName;
-    request.lines = lines;
-    request.coveredEntryIds = composed.entryIds;
-    request.pdf = *pdf;
-    const std::optional<Invoice> saved = runBlocking(store.saveInvoice(request));
+    request->pdf = *pdf;
+    const std::optional<Invoice> saved = runBlocking(store.saveInvoice(*request));
     if (!saved) {
         err << store.invoiceSaveMessage() << Qt::endl;
         return 1;
@@ -535,13 +405,14 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
         if (!runBlocking(store.reloadBilledEntrySet()) || !runBlocking(store.loadUnbilledEntries())) {
             return session.failed(err);
         }
+        InvoiceComposer composer(store);
+        openComposer(composer, *project, from, to, vatPercent);
         if (action == u"create") {
             const std::optional<QString> client =
                 parser.isSet(clientOption) ? std::optional<QString>(parser.value(clientOption)) : std::nullopt;
-            return createInvoice(store, *project, composeDraft(store, *project, from, to, vatPercent), newStatus, client,
-                                 json, out, err);
+            return createInvoice(store, *project, composer, newStatus, client, json, out, err);
         }
-        return showDraft(store, *project, from, to, vatPercent, json, out);
+        return showDraft(*project, composer, json, out);
     }
 
     if (action == u"list") {

@@ -1,7 +1,7 @@
 #include "renderinvoice.h"
 
 #include "backend/runblocking.h"
-#include "invoicing/invoicedocument.h"
+#include "model/invoicedocument.h"
 #include "invoicing/invoicefiles.h"
 #include "invoicing/invoicehtmlrenderer.h"
 #include "invoicing/pdf/invoicepdfrenderer.h"
