@@ -257,11 +257,7 @@ std::optional<QByteArray> renderPdf(const InvoiceDocument &document, QTextStream
         err << qtTrId("cli.renderInvoice.err.noGui") << Qt::endl;
         return std::nullopt;
     }
-    const InvoiceStyle style = document.style.value_or(InvoiceStyle{});
-    using namespace InvoiceHTMLRenderer;
-    const Template design = templateFromName(document.design.value_or(QString())).value_or(fallbackDesign);
-    const QString html = buildHTML(document.draft, style, brandProfile(style, design), design,
-                                   document.metadata.value_or(InvoiceMetadata{}));
+    const QString html = InvoiceHTMLRenderer::buildHTML(document);
     try {
         InvoicePdfRenderer renderer;
         return runBlocking(renderer.render(html)).pdf;

@@ -645,6 +645,14 @@ std::optional<QString> substituteCustom(const QString &templateHtml, const Invoi
     return html;
 }
 
+QString buildHTML(const InvoiceDocument &document)
+{
+    const InvoiceStyle style = document.style.value_or(InvoiceStyle{});
+    const Template design = templateFromName(document.design.value_or(QString())).value_or(fallbackDesign);
+    return buildHTML(document.draft, style, brandProfile(style, design), design,
+                     document.metadata.value_or(InvoiceMetadata{}));
+}
+
 QString buildHTML(const InvoiceDraft &draft, const InvoiceStyle &style, const BrandProfile &brand, Template design,
                   const InvoiceMetadata &metadata)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/invoicedocument.h"
 #include "model/invoicedraft.h"
 #include "model/invoicestyle.h"
 
@@ -73,6 +74,9 @@ BrandProfile brandProfile(const InvoiceStyle &style, Template design);
 // structural rules, the fallback design, so an invoice always renders.
 QString buildHTML(const InvoiceDraft &draft, const InvoiceStyle &style, const BrandProfile &brand, Template design,
                   const InvoiceMetadata &metadata);
+
+// The document in its own style and design; an unknown or missing design is the fallback design.
+QString buildHTML(const InvoiceDocument &document);
 
 // Fills a custom template. Nothing when it is empty or breaks a structural rule: no leading
 // "<!doctype html>", no header or footer element, or no body fixed at 794 × 1123 px.
