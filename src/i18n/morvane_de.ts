@@ -1319,6 +1319,66 @@
       <source>Invoice %1 saved</source>
       <translation>Rechnung %1 gespeichert</translation>
     </message>
+    <message id="inv.style.colour.invalid">
+      <source>“%1” is no colour: write it as #rgb or #rrggbb, for example #0f766e.</source>
+      <translation>„%1“ ist keine Farbe: Schreibe sie als #rgb oder #rrggbb, zum Beispiel #0f766e.</translation>
+    </message>
+    <message id="inv.style.file.unreadable">
+      <source>The file could not be opened.</source>
+      <translation>Die Datei konnte nicht geöffnet werden.</translation>
+    </message>
+    <message id="inv.style.font.invalid">
+      <source>A font name holds only letters, digits, blanks and hyphens.</source>
+      <translation>Ein Schriftname enthält nur Buchstaben, Ziffern, Leerzeichen und Bindestriche.</translation>
+    </message>
+    <message id="inv.style.logo.damaged">
+      <source>The image could not be read; the file may be damaged.</source>
+      <translation>Das Bild konnte nicht gelesen werden; die Datei ist womöglich beschädigt.</translation>
+    </message>
+    <message id="inv.style.logo.empty">
+      <source>The file is empty.</source>
+      <translation>Die Datei ist leer.</translation>
+    </message>
+    <message id="inv.style.logo.kind">
+      <source>The logo must be a PNG or JPEG image.</source>
+      <translation>Das Logo muss ein PNG- oder JPEG-Bild sein.</translation>
+    </message>
+    <message id="inv.style.logo.svg">
+      <source>SVG logos are not accepted, since a drawing can carry scripts and links. Pick a PNG or JPEG.</source>
+      <translation>SVG-Logos werden nicht angenommen, da eine Zeichnung Skripte und Links enthalten kann. Wähle eine PNG- oder JPEG-Datei.</translation>
+    </message>
+    <message id="inv.style.logo.tooLarge">
+      <source>The logo is larger than 1 MB. Pick a smaller PNG or JPEG.</source>
+      <translation>Das Logo ist größer als 1 MB. Wähle eine kleinere PNG- oder JPEG-Datei.</translation>
+    </message>
+    <message id="inv.style.template.empty">
+      <source>The template is empty.</source>
+      <translation>Die Vorlage ist leer.</translation>
+    </message>
+    <message id="inv.style.template.noDoctype">
+      <source>The template must start with &lt;!doctype html&gt;.</source>
+      <translation>Die Vorlage muss mit &lt;!doctype html&gt; beginnen.</translation>
+    </message>
+    <message id="inv.style.template.noFooter">
+      <source>The template has no &lt;footer&gt; element.</source>
+      <translation>Die Vorlage hat kein &lt;footer&gt;-Element.</translation>
+    </message>
+    <message id="inv.style.template.noHeader">
+      <source>The template has no &lt;header&gt; element.</source>
+      <translation>Die Vorlage hat kein &lt;header&gt;-Element.</translation>
+    </message>
+    <message id="inv.style.template.notText">
+      <source>The template is not a text file in UTF-8.</source>
+      <translation>Die Vorlage ist keine Textdatei in UTF-8.</translation>
+    </message>
+    <message id="inv.style.template.pageSize">
+      <source>The template must fix the page at 794 × 1123 px (A4), with both sizes in its style sheet.</source>
+      <translation>Die Vorlage muss die Seite auf 794 × 1123 px (A4) festlegen, mit beiden Maßen im Stylesheet.</translation>
+    </message>
+    <message id="inv.style.template.tooLarge">
+      <source>The template is larger than 512 KB.</source>
+      <translation>Die Vorlage ist größer als 512 KB.</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Zwischensumme</translation>

@@ -1319,6 +1319,66 @@
       <source>Invoice %1 saved</source>
       <translation>Invoice %1 saved</translation>
     </message>
+    <message id="inv.style.colour.invalid">
+      <source>“%1” is no colour: write it as #rgb or #rrggbb, for example #0f766e.</source>
+      <translation>“%1” is no colour: write it as #rgb or #rrggbb, for example #0f766e.</translation>
+    </message>
+    <message id="inv.style.file.unreadable">
+      <source>The file could not be opened.</source>
+      <translation>The file could not be opened.</translation>
+    </message>
+    <message id="inv.style.font.invalid">
+      <source>A font name holds only letters, digits, blanks and hyphens.</source>
+      <translation>A font name holds only letters, digits, blanks and hyphens.</translation>
+    </message>
+    <message id="inv.style.logo.damaged">
+      <source>The image could not be read; the file may be damaged.</source>
+      <translation>The image could not be read; the file may be damaged.</translation>
+    </message>
+    <message id="inv.style.logo.empty">
+      <source>The file is empty.</source>
+      <translation>The file is empty.</translation>
+    </message>
+    <message id="inv.style.logo.kind">
+      <source>The logo must be a PNG or JPEG image.</source>
+      <translation>The logo must be a PNG or JPEG image.</translation>
+    </message>
+    <message id="inv.style.logo.svg">
+      <source>SVG logos are not accepted, since a drawing can carry scripts and links. Pick a PNG or JPEG.</source>
+      <translation>SVG logos are not accepted, since a drawing can carry scripts and links. Pick a PNG or JPEG.</translation>
+    </message>
+    <message id="inv.style.logo.tooLarge">
+      <source>The logo is larger than 1 MB. Pick a smaller PNG or JPEG.</source>
+      <translation>The logo is larger than 1 MB. Pick a smaller PNG or JPEG.</translation>
+    </message>
+    <message id="inv.style.template.empty">
+      <source>The template is empty.</source>
+      <translation>The template is empty.</translation>
+    </message>
+    <message id="inv.style.template.noDoctype">
+      <source>The template must start with &lt;!doctype html&gt;.</source>
+      <translation>The template must start with &lt;!doctype html&gt;.</translation>
+    </message>
+    <message id="inv.style.template.noFooter">
+      <source>The template has no &lt;footer&gt; element.</source>
+      <translation>The template has no &lt;footer&gt; element.</translation>
+    </message>
+    <message id="inv.style.template.noHeader">
+      <source>The template has no &lt;header&gt; element.</source>
+      <translation>The template has no &lt;header&gt; element.</translation>
+    </message>
+    <message id="inv.style.template.notText">
+      <source>The template is not a text file in UTF-8.</source>
+      <translation>The template is not a text file in UTF-8.</translation>
+    </message>
+    <message id="inv.style.template.pageSize">
+      <source>The template must fix the page at 794 × 1123 px (A4), with both sizes in its style sheet.</source>
+      <translation>The template must fix the page at 794 × 1123 px (A4), with both sizes in its style sheet.</translation>
+    </message>
+    <message id="inv.style.template.tooLarge">
+      <source>The template is larger than 512 KB.</source>
+      <translation>The template is larger than 512 KB.</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Subtotal</translation>

@@ -1319,6 +1319,66 @@
       <source>Invoice %1 saved</source>
       <translation>Factura %1 guardada</translation>
     </message>
+    <message id="inv.style.colour.invalid">
+      <source>“%1” is no colour: write it as #rgb or #rrggbb, for example #0f766e.</source>
+      <translation>«%1» no es un color: escríbelo como #rgb o #rrggbb, por ejemplo #0f766e.</translation>
+    </message>
+    <message id="inv.style.file.unreadable">
+      <source>The file could not be opened.</source>
+      <translation>No se ha podido abrir el archivo.</translation>
+    </message>
+    <message id="inv.style.font.invalid">
+      <source>A font name holds only letters, digits, blanks and hyphens.</source>
+      <translation>Un nombre de fuente solo lleva letras, cifras, espacios y guiones.</translation>
+    </message>
+    <message id="inv.style.logo.damaged">
+      <source>The image could not be read; the file may be damaged.</source>
+      <translation>No se ha podido leer la imagen; puede que el archivo esté dañado.</translation>
+    </message>
+    <message id="inv.style.logo.empty">
+      <source>The file is empty.</source>
+      <translation>El archivo está vacío.</translation>
+    </message>
+    <message id="inv.style.logo.kind">
+      <source>The logo must be a PNG or JPEG image.</source>
+      <translation>El logotipo debe ser una imagen PNG o JPEG.</translation>
+    </message>
+    <message id="inv.style.logo.svg">
+      <source>SVG logos are not accepted, since a drawing can carry scripts and links. Pick a PNG or JPEG.</source>
+      <translation>No se aceptan logotipos SVG, porque un dibujo puede contener scripts y enlaces. Elige un PNG o JPEG.</translation>
+    </message>
+    <message id="inv.style.logo.tooLarge">
+      <source>The logo is larger than 1 MB. Pick a smaller PNG or JPEG.</source>
+      <translation>El logotipo supera 1 MB. Elige un PNG o JPEG más pequeño.</translation>
+    </message>
+    <message id="inv.style.template.empty">
+      <source>The template is empty.</source>
+      <translation>La plantilla está vacía.</translation>
+    </message>
+    <message id="inv.style.template.noDoctype">
+      <source>The template must start with &lt;!doctype html&gt;.</source>
+      <translation>La plantilla debe empezar por &lt;!doctype html&gt;.</translation>
+    </message>
+    <message id="inv.style.template.noFooter">
+      <source>The template has no &lt;footer&gt; element.</source>
+      <translation>La plantilla no tiene ningún elemento &lt;footer&gt;.</translation>
+    </message>
+    <message id="inv.style.template.noHeader">
+      <source>The template has no &lt;header&gt; element.</source>
+      <translation>La plantilla no tiene ningún elemento &lt;header&gt;.</translation>
+    </message>
+    <message id="inv.style.template.notText">
+      <source>The template is not a text file in UTF-8.</source>
+      <translation>La plantilla no es un archivo de texto en UTF-8.</translation>
+    </message>
+    <message id="inv.style.template.pageSize">
+      <source>The template must fix the page at 794 × 1123 px (A4), with both sizes in its style sheet.</source>
+      <translation>La plantilla debe fijar la página en 794 × 1123 px (A4), con ambas medidas en su hoja de estilos.</translation>
+    </message>
+    <message id="inv.style.template.tooLarge">
+      <source>The template is larger than 512 KB.</source>
+      <translation>La plantilla supera los 512 KB.</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Subtotal</translation>

@@ -1319,6 +1319,66 @@
       <source>Invoice %1 saved</source>
       <translation>Facture %1 enregistrée</translation>
     </message>
+    <message id="inv.style.colour.invalid">
+      <source>“%1” is no colour: write it as #rgb or #rrggbb, for example #0f766e.</source>
+      <translation>« %1 » n’est pas une couleur : écrivez-la sous la forme #rgb ou #rrggbb, par exemple #0f766e.</translation>
+    </message>
+    <message id="inv.style.file.unreadable">
+      <source>The file could not be opened.</source>
+      <translation>Impossible d’ouvrir le fichier.</translation>
+    </message>
+    <message id="inv.style.font.invalid">
+      <source>A font name holds only letters, digits, blanks and hyphens.</source>
+      <translation>Un nom de police ne contient que des lettres, des chiffres, des espaces et des tirets.</translation>
+    </message>
+    <message id="inv.style.logo.damaged">
+      <source>The image could not be read; the file may be damaged.</source>
+      <translation>Impossible de lire l’image ; le fichier est peut-être endommagé.</translation>
+    </message>
+    <message id="inv.style.logo.empty">
+      <source>The file is empty.</source>
+      <translation>Le fichier est vide.</translation>
+    </message>
+    <message id="inv.style.logo.kind">
+      <source>The logo must be a PNG or JPEG image.</source>
+      <translation>Le logo doit être une image PNG ou JPEG.</translation>
+    </message>
+    <message id="inv.style.logo.svg">
+      <source>SVG logos are not accepted, since a drawing can carry scripts and links. Pick a PNG or JPEG.</source>
+      <translation>Les logos SVG ne sont pas acceptés, car un dessin peut contenir des scripts et des liens. Choisissez un PNG ou un JPEG.</translation>
+    </message>
+    <message id="inv.style.logo.tooLarge">
+      <source>The logo is larger than 1 MB. Pick a smaller PNG or JPEG.</source>
+      <translation>Le logo dépasse 1 Mo. Choisissez un PNG ou un JPEG plus léger.</translation>
+    </message>
+    <message id="inv.style.template.empty">
+      <source>The template is empty.</source>
+      <translation>Le modèle est vide.</translation>
+    </message>
+    <message id="inv.style.template.noDoctype">
+      <source>The template must start with &lt;!doctype html&gt;.</source>
+      <translation>Le modèle doit commencer par &lt;!doctype html&gt;.</translation>
+    </message>
+    <message id="inv.style.template.noFooter">
+      <source>The template has no &lt;footer&gt; element.</source>
+      <translation>Le modèle n’a pas d’élément &lt;footer&gt;.</translation>
+    </message>
+    <message id="inv.style.template.noHeader">
+      <source>The template has no &lt;header&gt; element.</source>
+      <translation>Le modèle n’a pas d’élément &lt;header&gt;.</translation>
+    </message>
+    <message id="inv.style.template.notText">
+      <source>The template is not a text file in UTF-8.</source>
+      <translation>Le modèle n’est pas un fichier texte en UTF-8.</translation>
+    </message>
+    <message id="inv.style.template.pageSize">
+      <source>The template must fix the page at 794 × 1123 px (A4), with both sizes in its style sheet.</source>
+      <translation>Le modèle doit fixer la page à 794 × 1123 px (A4), avec les deux dimensions dans sa feuille de style.</translation>
+    </message>
+    <message id="inv.style.template.tooLarge">
+      <source>The template is larger than 512 KB.</source>
+      <translation>Le modèle dépasse 512 Ko.</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Sous-total</translation>

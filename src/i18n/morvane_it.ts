@@ -1319,6 +1319,66 @@
       <source>Invoice %1 saved</source>
       <translation>Fattura %1 salvata</translation>
     </message>
+    <message id="inv.style.colour.invalid">
+      <source>“%1” is no colour: write it as #rgb or #rrggbb, for example #0f766e.</source>
+      <translation>«%1» non è un colore: scrivilo come #rgb o #rrggbb, per esempio #0f766e.</translation>
+    </message>
+    <message id="inv.style.file.unreadable">
+      <source>The file could not be opened.</source>
+      <translation>Impossibile aprire il file.</translation>
+    </message>
+    <message id="inv.style.font.invalid">
+      <source>A font name holds only letters, digits, blanks and hyphens.</source>
+      <translation>Il nome di un carattere contiene solo lettere, cifre, spazi e trattini.</translation>
+    </message>
+    <message id="inv.style.logo.damaged">
+      <source>The image could not be read; the file may be damaged.</source>
+      <translation>Impossibile leggere l’immagine; il file potrebbe essere danneggiato.</translation>
+    </message>
+    <message id="inv.style.logo.empty">
+      <source>The file is empty.</source>
+      <translation>Il file è vuoto.</translation>
+    </message>
+    <message id="inv.style.logo.kind">
+      <source>The logo must be a PNG or JPEG image.</source>
+      <translation>Il logo deve essere un’immagine PNG o JPEG.</translation>
+    </message>
+    <message id="inv.style.logo.svg">
+      <source>SVG logos are not accepted, since a drawing can carry scripts and links. Pick a PNG or JPEG.</source>
+      <translation>I loghi SVG non sono accettati, perché un disegno può contenere script e link. Scegli un PNG o JPEG.</translation>
+    </message>
+    <message id="inv.style.logo.tooLarge">
+      <source>The logo is larger than 1 MB. Pick a smaller PNG or JPEG.</source>
+      <translation>Il logo supera 1 MB. Scegli un PNG o JPEG più piccolo.</translation>
+    </message>
+    <message id="inv.style.template.empty">
+      <source>The template is empty.</source>
+      <translation>Il modello è vuoto.</translation>
+    </message>
+    <message id="inv.style.template.noDoctype">
+      <source>The template must start with &lt;!doctype html&gt;.</source>
+      <translation>Il modello deve iniziare con &lt;!doctype html&gt;.</translation>
+    </message>
+    <message id="inv.style.template.noFooter">
+      <source>The template has no &lt;footer&gt; element.</source>
+      <translation>Il modello non ha un elemento &lt;footer&gt;.</translation>
+    </message>
+    <message id="inv.style.template.noHeader">
+      <source>The template has no &lt;header&gt; element.</source>
+      <translation>Il modello non ha un elemento &lt;header&gt;.</translation>
+    </message>
+    <message id="inv.style.template.notText">
+      <source>The template is not a text file in UTF-8.</source>
+      <translation>Il modello non è un file di testo in UTF-8.</translation>
+    </message>
+    <message id="inv.style.template.pageSize">
+      <source>The template must fix the page at 794 × 1123 px (A4), with both sizes in its style sheet.</source>
+      <translation>Il modello deve fissare la pagina a 794 × 1123 px (A4), con entrambe le misure nel foglio di stile.</translation>
+    </message>
+    <message id="inv.style.template.tooLarge">
+      <source>The template is larger than 512 KB.</source>
+      <translation>Il modello supera i 512 KB.</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Imponibile</translation>

@@ -1319,6 +1319,66 @@
       <source>Invoice %1 saved</source>
       <translation>請求書 %1 を保存しました</translation>
     </message>
+    <message id="inv.style.colour.invalid">
+      <source>“%1” is no colour: write it as #rgb or #rrggbb, for example #0f766e.</source>
+      <translation>「%1」は色ではありません。#rgb または #rrggbb の形で書いてください（例: #0f766e）。</translation>
+    </message>
+    <message id="inv.style.file.unreadable">
+      <source>The file could not be opened.</source>
+      <translation>ファイルを開けませんでした。</translation>
+    </message>
+    <message id="inv.style.font.invalid">
+      <source>A font name holds only letters, digits, blanks and hyphens.</source>
+      <translation>フォント名に使えるのは文字、数字、空白、ハイフンだけです。</translation>
+    </message>
+    <message id="inv.style.logo.damaged">
+      <source>The image could not be read; the file may be damaged.</source>
+      <translation>画像を読み込めませんでした。ファイルが壊れている可能性があります。</translation>
+    </message>
+    <message id="inv.style.logo.empty">
+      <source>The file is empty.</source>
+      <translation>ファイルが空です。</translation>
+    </message>
+    <message id="inv.style.logo.kind">
+      <source>The logo must be a PNG or JPEG image.</source>
+      <translation>ロゴは PNG か JPEG の画像にしてください。</translation>
+    </message>
+    <message id="inv.style.logo.svg">
+      <source>SVG logos are not accepted, since a drawing can carry scripts and links. Pick a PNG or JPEG.</source>
+      <translation>SVG のロゴは受け付けません。図形にスクリプトやリンクが含まれることがあるためです。PNG か JPEG を選んでください。</translation>
+    </message>
+    <message id="inv.style.logo.tooLarge">
+      <source>The logo is larger than 1 MB. Pick a smaller PNG or JPEG.</source>
+      <translation>ロゴが 1 MB を超えています。もっと小さい PNG か JPEG を選んでください。</translation>
+    </message>
+    <message id="inv.style.template.empty">
+      <source>The template is empty.</source>
+      <translation>テンプレートが空です。</translation>
+    </message>
+    <message id="inv.style.template.noDoctype">
+      <source>The template must start with &lt;!doctype html&gt;.</source>
+      <translation>テンプレートは &lt;!doctype html&gt; で始まる必要があります。</translation>
+    </message>
+    <message id="inv.style.template.noFooter">
+      <source>The template has no &lt;footer&gt; element.</source>
+      <translation>テンプレートに &lt;footer&gt; 要素がありません。</translation>
+    </message>
+    <message id="inv.style.template.noHeader">
+      <source>The template has no &lt;header&gt; element.</source>
+      <translation>テンプレートに &lt;header&gt; 要素がありません。</translation>
+    </message>
+    <message id="inv.style.template.notText">
+      <source>The template is not a text file in UTF-8.</source>
+      <translation>テンプレートが UTF-8 のテキストファイルではありません。</translation>
+    </message>
+    <message id="inv.style.template.pageSize">
+      <source>The template must fix the page at 794 × 1123 px (A4), with both sizes in its style sheet.</source>
+      <translation>テンプレートはスタイルシートでページを 794 × 1123 px（A4）に固定する必要があります。</translation>
+    </message>
+    <message id="inv.style.template.tooLarge">
+      <source>The template is larger than 512 KB.</source>
+      <translation>テンプレートが 512 KB を超えています。</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>小計</translation>

@@ -1319,6 +1319,66 @@
       <source>Invoice %1 saved</source>
       <translation>Factuur %1 opgeslagen</translation>
     </message>
+    <message id="inv.style.colour.invalid">
+      <source>“%1” is no colour: write it as #rgb or #rrggbb, for example #0f766e.</source>
+      <translation>‘%1’ is geen kleur: schrijf die als #rgb of #rrggbb, bijvoorbeeld #0f766e.</translation>
+    </message>
+    <message id="inv.style.file.unreadable">
+      <source>The file could not be opened.</source>
+      <translation>Het bestand kon niet worden geopend.</translation>
+    </message>
+    <message id="inv.style.font.invalid">
+      <source>A font name holds only letters, digits, blanks and hyphens.</source>
+      <translation>Een lettertypenaam bevat alleen letters, cijfers, spaties en koppeltekens.</translation>
+    </message>
+    <message id="inv.style.logo.damaged">
+      <source>The image could not be read; the file may be damaged.</source>
+      <translation>De afbeelding kon niet worden gelezen; het bestand is mogelijk beschadigd.</translation>
+    </message>
+    <message id="inv.style.logo.empty">
+      <source>The file is empty.</source>
+      <translation>Het bestand is leeg.</translation>
+    </message>
+    <message id="inv.style.logo.kind">
+      <source>The logo must be a PNG or JPEG image.</source>
+      <translation>Het logo moet een PNG- of JPEG-afbeelding zijn.</translation>
+    </message>
+    <message id="inv.style.logo.svg">
+      <source>SVG logos are not accepted, since a drawing can carry scripts and links. Pick a PNG or JPEG.</source>
+      <translation>SVG-logo’s worden niet geaccepteerd, omdat een tekening scripts en links kan bevatten. Kies een PNG of JPEG.</translation>
+    </message>
+    <message id="inv.style.logo.tooLarge">
+      <source>The logo is larger than 1 MB. Pick a smaller PNG or JPEG.</source>
+      <translation>Het logo is groter dan 1 MB. Kies een kleinere PNG of JPEG.</translation>
+    </message>
+    <message id="inv.style.template.empty">
+      <source>The template is empty.</source>
+      <translation>Het sjabloon is leeg.</translation>
+    </message>
+    <message id="inv.style.template.noDoctype">
+      <source>The template must start with &lt;!doctype html&gt;.</source>
+      <translation>Het sjabloon moet beginnen met &lt;!doctype html&gt;.</translation>
+    </message>
+    <message id="inv.style.template.noFooter">
+      <source>The template has no &lt;footer&gt; element.</source>
+      <translation>Het sjabloon heeft geen &lt;footer&gt;-element.</translation>
+    </message>
+    <message id="inv.style.template.noHeader">
+      <source>The template has no &lt;header&gt; element.</source>
+      <translation>Het sjabloon heeft geen &lt;header&gt;-element.</translation>
+    </message>
+    <message id="inv.style.template.notText">
+      <source>The template is not a text file in UTF-8.</source>
+      <translation>Het sjabloon is geen tekstbestand in UTF-8.</translation>
+    </message>
+    <message id="inv.style.template.pageSize">
+      <source>The template must fix the page at 794 × 1123 px (A4), with both sizes in its style sheet.</source>
+      <translation>Het sjabloon moet de pagina vastzetten op 794 × 1123 px (A4), met beide maten in het stijlblad.</translation>
+    </message>
+    <message id="inv.style.template.tooLarge">
+      <source>The template is larger than 512 KB.</source>
+      <translation>Het sjabloon is groter dan 512 KB.</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>Subtotaal</translation>

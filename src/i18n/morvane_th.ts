@@ -1319,6 +1319,66 @@
       <source>Invoice %1 saved</source>
       <translation>บันทึกใบแจ้งหนี้ %1 แล้ว</translation>
     </message>
+    <message id="inv.style.colour.invalid">
+      <source>“%1” is no colour: write it as #rgb or #rrggbb, for example #0f766e.</source>
+      <translation>“%1” ไม่ใช่สี โปรดเขียนในรูปแบบ #rgb หรือ #rrggbb เช่น #0f766e</translation>
+    </message>
+    <message id="inv.style.file.unreadable">
+      <source>The file could not be opened.</source>
+      <translation>เปิดไฟล์ไม่ได้</translation>
+    </message>
+    <message id="inv.style.font.invalid">
+      <source>A font name holds only letters, digits, blanks and hyphens.</source>
+      <translation>ชื่อฟอนต์มีได้เฉพาะตัวอักษร ตัวเลข ช่องว่าง และยัติภังค์</translation>
+    </message>
+    <message id="inv.style.logo.damaged">
+      <source>The image could not be read; the file may be damaged.</source>
+      <translation>อ่านรูปภาพไม่ได้ ไฟล์อาจเสียหาย</translation>
+    </message>
+    <message id="inv.style.logo.empty">
+      <source>The file is empty.</source>
+      <translation>ไฟล์ว่างเปล่า</translation>
+    </message>
+    <message id="inv.style.logo.kind">
+      <source>The logo must be a PNG or JPEG image.</source>
+      <translation>โลโก้ต้องเป็นรูปภาพ PNG หรือ JPEG</translation>
+    </message>
+    <message id="inv.style.logo.svg">
+      <source>SVG logos are not accepted, since a drawing can carry scripts and links. Pick a PNG or JPEG.</source>
+      <translation>ไม่รับโลโก้แบบ SVG เพราะภาพวาดอาจมีสคริปต์และลิงก์แฝงอยู่ โปรดเลือกไฟล์ PNG หรือ JPEG</translation>
+    </message>
+    <message id="inv.style.logo.tooLarge">
+      <source>The logo is larger than 1 MB. Pick a smaller PNG or JPEG.</source>
+      <translation>โลโก้มีขนาดเกิน 1 MB โปรดเลือกไฟล์ PNG หรือ JPEG ที่เล็กกว่านี้</translation>
+    </message>
+    <message id="inv.style.template.empty">
+      <source>The template is empty.</source>
+      <translation>เทมเพลตว่างเปล่า</translation>
+    </message>
+    <message id="inv.style.template.noDoctype">
+      <source>The template must start with &lt;!doctype html&gt;.</source>
+      <translation>เทมเพลตต้องขึ้นต้นด้วย &lt;!doctype html&gt;</translation>
+    </message>
+    <message id="inv.style.template.noFooter">
+      <source>The template has no &lt;footer&gt; element.</source>
+      <translation>เทมเพลตไม่มีองค์ประกอบ &lt;footer&gt;</translation>
+    </message>
+    <message id="inv.style.template.noHeader">
+      <source>The template has no &lt;header&gt; element.</source>
+      <translation>เทมเพลตไม่มีองค์ประกอบ &lt;header&gt;</translation>
+    </message>
+    <message id="inv.style.template.notText">
+      <source>The template is not a text file in UTF-8.</source>
+      <translation>เทมเพลตไม่ใช่ไฟล์ข้อความแบบ UTF-8</translation>
+    </message>
+    <message id="inv.style.template.pageSize">
+      <source>The template must fix the page at 794 × 1123 px (A4), with both sizes in its style sheet.</source>
+      <translation>เทมเพลตต้องกำหนดหน้าไว้ที่ 794 × 1123 px (A4) โดยระบุทั้งสองขนาดในสไตล์ชีต</translation>
+    </message>
+    <message id="inv.style.template.tooLarge">
+      <source>The template is larger than 512 KB.</source>
+      <translation>เทมเพลตมีขนาดเกิน 512 KB</translation>
+    </message>
     <message id="inv.subtotal">
       <source>Subtotal</source>
       <translation>ยอดรวมก่อนภาษี</translation>

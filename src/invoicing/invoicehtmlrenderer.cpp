@@ -581,26 +581,45 @@ QString fillPlaceholders(const QString &text, const QHash<QString, QString> &val
     return out;
 }
 
-QString structuralProblem(const QString &templateHtml)
+TemplateFault templateFault(const QString &templateHtml)
 {
     const QString text = templateHtml.trimmed();
     if (text.isEmpty()) {
-        return u"the template is empty"_s;
+        return TemplateFault::Empty;
     }
     if (!text.startsWith(u"<!doctype html>"_s, Qt::CaseInsensitive)) {
-        return u"the template does not start with <!doctype html>"_s;
+        return TemplateFault::NoDoctype;
     }
     static const QRegularExpression header(u"<header[\\s>/]"_s, QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression footer(u"<footer[\\s>/]"_s, QRegularExpression::CaseInsensitiveOption);
     if (!header.match(text).hasMatch()) {
-        return u"the template has no header element"_s;
+        return TemplateFault::NoHeader;
     }
     if (!footer.match(text).hasMatch()) {
-        return u"the template has no footer element"_s;
+        return TemplateFault::NoFooter;
     }
     static const QRegularExpression width(u"\\b794(?:\\.0+)?px"_s);
     static const QRegularExpression height(u"\\b1123(?:\\.0+)?px"_s);
     if (!width.match(text).hasMatch() || !height.match(text).hasMatch()) {
+        return TemplateFault::PageNotFixed;
+    }
+    return TemplateFault::None;
+}
+
+QString structuralProblem(const QString &templateHtml)
+{
+    switch (templateFault(templateHtml)) {
+    case TemplateFault::None:
+        return {};
+    case TemplateFault::Empty:
+        return u"the template is empty"_s;
+    case TemplateFault::NoDoctype:
+        return u"the template does not start with <!doctype html>"_s;
+    case TemplateFault::NoHeader:
+        return u"the template has no header element"_s;
+    case TemplateFault::NoFooter:
+        return u"the template has no footer element"_s;
+    case TemplateFault::PageNotFixed:
         return u"the template does not fix the page at 794 × 1123 px"_s;
     }
     return {};
@@ -610,7 +629,7 @@ std::optional<QString> substituteCustom(const QString &templateHtml, const Invoi
                                         const InvoiceStyle &style, const BrandProfile &brand,
                                         const InvoiceMetadata &metadata)
 {
-    if (!structuralProblem(templateHtml).isEmpty()) {
+    if (templateFault(templateHtml) != TemplateFault::None) {
         return std::nullopt;
     }
     const QHash<QString, QString> values = placeholderValues(draft, style, brand, metadata);

@@ -84,7 +84,11 @@ std::optional<QString> substituteCustom(const QString &templateHtml, const Invoi
                                         const InvoiceStyle &style, const BrandProfile &brand,
                                         const InvoiceMetadata &metadata);
 
-// Why a custom template cannot be used; empty when it can.
+// The first structural rule a custom template breaks, in the order they are checked.
+enum class TemplateFault { None, Empty, NoDoctype, NoHeader, NoFooter, PageNotFixed };
+TemplateFault templateFault(const QString &templateHtml);
+
+// Why a custom template cannot be used, in English for logs; empty when it can.
 QString structuralProblem(const QString &templateHtml);
 
 // Every placeholder's value (names without braces); "_html" values are markup, the rest text
