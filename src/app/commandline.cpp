@@ -119,6 +119,10 @@ QList<Command> commands()
         {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
         //% "Invoices: invoice draft|create|list|show|status|void|rm|pdf"
         {u"invoice"_s, [] { return qtTrId("cli.command.invoice"); }, runInvoiceCommand},
+        //% "The clients you invoice: clients list|add|edit|rm"
+        {u"clients"_s, [] { return qtTrId("cli.command.clients"); }, runClientsCommand},
+        //% "Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]"
+        {u"earnings"_s, [] { return qtTrId("cli.command.earnings"); }, runEarningsCommand},
         //% "Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]"
         {u"export"_s, [] { return qtTrId("cli.command.export"); }, runExportCommand},
     };

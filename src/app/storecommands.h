@@ -14,3 +14,5 @@ int runLogCommand(const QStringList &arguments, QTextStream &out, QTextStream &e
 int runEntriesCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
 int runPriceCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
 int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
+int runClientsCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);
+int runEarningsCommand(const QStringList &arguments, QTextStream &out, QTextStream &err);

@@ -259,13 +259,89 @@
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Aufruf: morvane auth signup|signin &lt;E-Mail&gt; | signin --provider NAME | signout | status | switch &lt;E-Mail&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.clients.added">
+      <source>Added client %1 (%2).</source>
+      <translation>Kunde %1 hinzugefügt (%2).</translation>
+    </message>
+    <message id="cli.clients.coc">
+      <source>CoC %1</source>
+      <translation>HR %1</translation>
+    </message>
+    <message id="cli.clients.confirmDelete">
+      <source>Delete the client %1? Invoices that name it keep it. [y/N] </source>
+      <translation>Kunde %1 löschen? Rechnungen, die ihn nennen, behalten ihn. [y/N] </translation>
+    </message>
+    <message id="cli.clients.deleted">
+      <source>Deleted client %1.</source>
+      <translation>Kunde %1 gelöscht.</translation>
+    </message>
+    <message id="cli.clients.kept">
+      <source>Nothing deleted.</source>
+      <translation>Nichts gelöscht.</translation>
+    </message>
+    <message id="cli.clients.noMatch">
+      <source>No client matches "%1". See them with: morvane clients list</source>
+      <translation>Kein Kunde passt zu „%1“. Zeige sie an mit: morvane clients list</translation>
+    </message>
+    <message id="cli.clients.none">
+      <source>No clients yet. Add one with: morvane clients add &lt;name&gt;</source>
+      <translation>Noch keine Kunden. Lege einen an mit: morvane clients add &lt;name&gt;</translation>
+    </message>
+    <message id="cli.clients.option.address">
+      <source>The client's postal address; it may span several lines.</source>
+      <translation>Die Postanschrift des Kunden; sie darf mehrere Zeilen umfassen.</translation>
+    </message>
+    <message id="cli.clients.option.coc">
+      <source>The client's chamber-of-commerce number.</source>
+      <translation>Die Handelsregisternummer des Kunden.</translation>
+    </message>
+    <message id="cli.clients.option.email">
+      <source>The client's e-mail address.</source>
+      <translation>Die E-Mail-Adresse des Kunden.</translation>
+    </message>
+    <message id="cli.clients.option.name">
+      <source>A new name (edit only).</source>
+      <translation>Ein neuer Name (nur bei edit).</translation>
+    </message>
+    <message id="cli.clients.option.vat">
+      <source>The client's VAT number.</source>
+      <translation>Die USt-IdNr. des Kunden.</translation>
+    </message>
+    <message id="cli.clients.option.yes">
+      <source>Delete without asking first.</source>
+      <translation>Ohne Rückfrage löschen.</translation>
+    </message>
+    <message id="cli.clients.saved">
+      <source>Saved client %1.</source>
+      <translation>Kunde %1 gespeichert.</translation>
+    </message>
+    <message id="cli.clients.usage">
+      <source>Usage: morvane clients list | add &lt;name&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;client&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;client&gt; [--yes] [--json]</source>
+      <translation>Aufruf: morvane clients list | add &lt;name&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;kunde&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;kunde&gt; [--yes] [--json]</translation>
+    </message>
+    <message id="cli.clients.vat">
+      <source>VAT %1</source>
+      <translation>USt-IdNr. %1</translation>
+    </message>
+    <message id="cli.clients.yesAnswers">
+      <source>y|yes</source>
+      <translation>j|ja</translation>
+    </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Registrieren, an- und abmelden, zwischen Konten wechseln</translation>
     </message>
+    <message id="cli.command.clients">
+      <source>The clients you invoice: clients list|add|edit|rm</source>
+      <translation>Die Kunden, denen du Rechnungen stellst: clients list|add|edit|rm</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Zeigt, welches Backend Morvane nutzt und woher jede Einstellung stammt</translation>
+    </message>
+    <message id="cli.command.earnings">
+      <source>Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]</source>
+      <translation>Verdientes, abgerechnetes und noch nicht abgerechnetes Geld nach Woche, Monat oder Projekt: earnings [--from TAG --to TAG] [--by week|month|project]</translation>
     </message>
     <message id="cli.command.entries">
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
@@ -334,6 +410,82 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane erfasst Arbeitszeit für Projekte und Aufgaben und macht daraus Rechnungen.</translation>
+    </message>
+    <message id="cli.earnings.backwards">
+      <source>The period ends before it begins.</source>
+      <translation>Der Zeitraum endet, bevor er beginnt.</translation>
+    </message>
+    <message id="cli.earnings.badBy">
+      <source>--by takes week, month or project, not "%1".</source>
+      <translation>--by erwartet week, month oder project, nicht „%1“.</translation>
+    </message>
+    <message id="cli.earnings.badDay">
+      <source>"%1" is not a day; write it as yyyy-MM-dd, for example 2026-01-31.</source>
+      <translation>„%1“ ist kein Tag; schreibe ihn als JJJJ-MM-TT, zum Beispiel 2026-01-31.</translation>
+    </message>
+    <message id="cli.earnings.column.billed">
+      <source>Billed</source>
+      <translation>Abgerechnet</translation>
+    </message>
+    <message id="cli.earnings.column.earned">
+      <source>Earned</source>
+      <translation>Verdient</translation>
+    </message>
+    <message id="cli.earnings.column.hours">
+      <source>Hours</source>
+      <translation>Stunden</translation>
+    </message>
+    <message id="cli.earnings.column.period">
+      <source>Period</source>
+      <translation>Zeitraum</translation>
+    </message>
+    <message id="cli.earnings.column.project">
+      <source>Project</source>
+      <translation>Projekt</translation>
+    </message>
+    <message id="cli.earnings.column.rate">
+      <source>Per hour</source>
+      <translation>Pro Stunde</translation>
+    </message>
+    <message id="cli.earnings.column.unbilled">
+      <source>Unbilled</source>
+      <translation>Offen</translation>
+    </message>
+    <message id="cli.earnings.halfPeriod">
+      <source>Give both --from and --to, or neither for the current month.</source>
+      <translation>Gib --from und --to zusammen an, oder keines von beiden für den laufenden Monat.</translation>
+    </message>
+    <message id="cli.earnings.heading">
+      <source>Earnings from %1 to %2</source>
+      <translation>Einnahmen vom %1 bis %2</translation>
+    </message>
+    <message id="cli.earnings.noProject">
+      <source>No project</source>
+      <translation>Kein Projekt</translation>
+    </message>
+    <message id="cli.earnings.none">
+      <source>No time tracked in this period.</source>
+      <translation>In diesem Zeitraum wurde keine Zeit erfasst.</translation>
+    </message>
+    <message id="cli.earnings.option.by">
+      <source>Rows by week, month (the default) or project.</source>
+      <translation>Zeilen nach Woche, Monat (Standard) oder Projekt.</translation>
+    </message>
+    <message id="cli.earnings.option.from">
+      <source>First day of the period (yyyy-MM-dd); with --to. Without both, the current month.</source>
+      <translation>Erster Tag des Zeitraums (JJJJ-MM-TT); zusammen mit --to. Ohne beide: der laufende Monat.</translation>
+    </message>
+    <message id="cli.earnings.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Letzter Tag des Zeitraums (JJJJ-MM-TT), eingeschlossen.</translation>
+    </message>
+    <message id="cli.earnings.total">
+      <source>Total</source>
+      <translation>Summe</translation>
+    </message>
+    <message id="cli.earnings.usage">
+      <source>Usage: morvane earnings [--from DAY --to DAY] [--by week|month|project] [--json]</source>
+      <translation>Aufruf: morvane earnings [--from TAG --to TAG] [--by week|month|project] [--json]</translation>
     </message>
     <message id="cli.entries.badRange">
       <source>An entry must end after it starts.</source>

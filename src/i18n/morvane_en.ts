@@ -259,13 +259,89 @@
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.clients.added">
+      <source>Added client %1 (%2).</source>
+      <translation>Added client %1 (%2).</translation>
+    </message>
+    <message id="cli.clients.coc">
+      <source>CoC %1</source>
+      <translation>CoC %1</translation>
+    </message>
+    <message id="cli.clients.confirmDelete">
+      <source>Delete the client %1? Invoices that name it keep it. [y/N] </source>
+      <translation>Delete the client %1? Invoices that name it keep it. [y/N] </translation>
+    </message>
+    <message id="cli.clients.deleted">
+      <source>Deleted client %1.</source>
+      <translation>Deleted client %1.</translation>
+    </message>
+    <message id="cli.clients.kept">
+      <source>Nothing deleted.</source>
+      <translation>Nothing deleted.</translation>
+    </message>
+    <message id="cli.clients.noMatch">
+      <source>No client matches "%1". See them with: morvane clients list</source>
+      <translation>No client matches "%1". See them with: morvane clients list</translation>
+    </message>
+    <message id="cli.clients.none">
+      <source>No clients yet. Add one with: morvane clients add &lt;name&gt;</source>
+      <translation>No clients yet. Add one with: morvane clients add &lt;name&gt;</translation>
+    </message>
+    <message id="cli.clients.option.address">
+      <source>The client's postal address; it may span several lines.</source>
+      <translation>The client's postal address; it may span several lines.</translation>
+    </message>
+    <message id="cli.clients.option.coc">
+      <source>The client's chamber-of-commerce number.</source>
+      <translation>The client's chamber-of-commerce number.</translation>
+    </message>
+    <message id="cli.clients.option.email">
+      <source>The client's e-mail address.</source>
+      <translation>The client's e-mail address.</translation>
+    </message>
+    <message id="cli.clients.option.name">
+      <source>A new name (edit only).</source>
+      <translation>A new name (edit only).</translation>
+    </message>
+    <message id="cli.clients.option.vat">
+      <source>The client's VAT number.</source>
+      <translation>The client's VAT number.</translation>
+    </message>
+    <message id="cli.clients.option.yes">
+      <source>Delete without asking first.</source>
+      <translation>Delete without asking first.</translation>
+    </message>
+    <message id="cli.clients.saved">
+      <source>Saved client %1.</source>
+      <translation>Saved client %1.</translation>
+    </message>
+    <message id="cli.clients.usage">
+      <source>Usage: morvane clients list | add &lt;name&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;client&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;client&gt; [--yes] [--json]</source>
+      <translation>Usage: morvane clients list | add &lt;name&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;client&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;client&gt; [--yes] [--json]</translation>
+    </message>
+    <message id="cli.clients.vat">
+      <source>VAT %1</source>
+      <translation>VAT %1</translation>
+    </message>
+    <message id="cli.clients.yesAnswers">
+      <source>y|yes</source>
+      <translation>y|yes</translation>
+    </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Sign up, sign in and out, switch between accounts</translation>
     </message>
+    <message id="cli.command.clients">
+      <source>The clients you invoice: clients list|add|edit|rm</source>
+      <translation>The clients you invoice: clients list|add|edit|rm</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Show which backend Morvane uses and where each setting comes from</translation>
+    </message>
+    <message id="cli.command.earnings">
+      <source>Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]</source>
+      <translation>Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]</translation>
     </message>
     <message id="cli.command.entries">
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
@@ -334,6 +410,82 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane tracks working time on projects and tasks and turns it into invoices.</translation>
+    </message>
+    <message id="cli.earnings.backwards">
+      <source>The period ends before it begins.</source>
+      <translation>The period ends before it begins.</translation>
+    </message>
+    <message id="cli.earnings.badBy">
+      <source>--by takes week, month or project, not "%1".</source>
+      <translation>--by takes week, month or project, not "%1".</translation>
+    </message>
+    <message id="cli.earnings.badDay">
+      <source>"%1" is not a day; write it as yyyy-MM-dd, for example 2026-01-31.</source>
+      <translation>"%1" is not a day; write it as yyyy-MM-dd, for example 2026-01-31.</translation>
+    </message>
+    <message id="cli.earnings.column.billed">
+      <source>Billed</source>
+      <translation>Billed</translation>
+    </message>
+    <message id="cli.earnings.column.earned">
+      <source>Earned</source>
+      <translation>Earned</translation>
+    </message>
+    <message id="cli.earnings.column.hours">
+      <source>Hours</source>
+      <translation>Hours</translation>
+    </message>
+    <message id="cli.earnings.column.period">
+      <source>Period</source>
+      <translation>Period</translation>
+    </message>
+    <message id="cli.earnings.column.project">
+      <source>Project</source>
+      <translation>Project</translation>
+    </message>
+    <message id="cli.earnings.column.rate">
+      <source>Per hour</source>
+      <translation>Per hour</translation>
+    </message>
+    <message id="cli.earnings.column.unbilled">
+      <source>Unbilled</source>
+      <translation>Unbilled</translation>
+    </message>
+    <message id="cli.earnings.halfPeriod">
+      <source>Give both --from and --to, or neither for the current month.</source>
+      <translation>Give both --from and --to, or neither for the current month.</translation>
+    </message>
+    <message id="cli.earnings.heading">
+      <source>Earnings from %1 to %2</source>
+      <translation>Earnings from %1 to %2</translation>
+    </message>
+    <message id="cli.earnings.noProject">
+      <source>No project</source>
+      <translation>No project</translation>
+    </message>
+    <message id="cli.earnings.none">
+      <source>No time tracked in this period.</source>
+      <translation>No time tracked in this period.</translation>
+    </message>
+    <message id="cli.earnings.option.by">
+      <source>Rows by week, month (the default) or project.</source>
+      <translation>Rows by week, month (the default) or project.</translation>
+    </message>
+    <message id="cli.earnings.option.from">
+      <source>First day of the period (yyyy-MM-dd); with --to. Without both, the current month.</source>
+      <translation>First day of the period (yyyy-MM-dd); with --to. Without both, the current month.</translation>
+    </message>
+    <message id="cli.earnings.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Last day of the period (yyyy-MM-dd), included.</translation>
+    </message>
+    <message id="cli.earnings.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="cli.earnings.usage">
+      <source>Usage: morvane earnings [--from DAY --to DAY] [--by week|month|project] [--json]</source>
+      <translation>Usage: morvane earnings [--from DAY --to DAY] [--by week|month|project] [--json]</translation>
     </message>
     <message id="cli.entries.badRange">
       <source>An entry must end after it starts.</source>

@@ -259,13 +259,89 @@
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Uso: morvane auth signup|signin &lt;correo&gt; | signin --provider NAME | signout | status | switch &lt;correo&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.clients.added">
+      <source>Added client %1 (%2).</source>
+      <translation>Cliente %1 añadido (%2).</translation>
+    </message>
+    <message id="cli.clients.coc">
+      <source>CoC %1</source>
+      <translation>RM %1</translation>
+    </message>
+    <message id="cli.clients.confirmDelete">
+      <source>Delete the client %1? Invoices that name it keep it. [y/N] </source>
+      <translation>¿Eliminar el cliente %1? Las facturas que lo mencionan lo conservan. [y/N] </translation>
+    </message>
+    <message id="cli.clients.deleted">
+      <source>Deleted client %1.</source>
+      <translation>Cliente %1 eliminado.</translation>
+    </message>
+    <message id="cli.clients.kept">
+      <source>Nothing deleted.</source>
+      <translation>No se ha eliminado nada.</translation>
+    </message>
+    <message id="cli.clients.noMatch">
+      <source>No client matches "%1". See them with: morvane clients list</source>
+      <translation>Ningún cliente coincide con «%1». Consúltalos con: morvane clients list</translation>
+    </message>
+    <message id="cli.clients.none">
+      <source>No clients yet. Add one with: morvane clients add &lt;name&gt;</source>
+      <translation>Aún no hay clientes. Añade uno con: morvane clients add &lt;nombre&gt;</translation>
+    </message>
+    <message id="cli.clients.option.address">
+      <source>The client's postal address; it may span several lines.</source>
+      <translation>La dirección postal del cliente; puede ocupar varias líneas.</translation>
+    </message>
+    <message id="cli.clients.option.coc">
+      <source>The client's chamber-of-commerce number.</source>
+      <translation>El número de registro mercantil del cliente.</translation>
+    </message>
+    <message id="cli.clients.option.email">
+      <source>The client's e-mail address.</source>
+      <translation>La dirección de correo electrónico del cliente.</translation>
+    </message>
+    <message id="cli.clients.option.name">
+      <source>A new name (edit only).</source>
+      <translation>Un nombre nuevo (solo con edit).</translation>
+    </message>
+    <message id="cli.clients.option.vat">
+      <source>The client's VAT number.</source>
+      <translation>El NIF-IVA del cliente.</translation>
+    </message>
+    <message id="cli.clients.option.yes">
+      <source>Delete without asking first.</source>
+      <translation>Eliminar sin preguntar antes.</translation>
+    </message>
+    <message id="cli.clients.saved">
+      <source>Saved client %1.</source>
+      <translation>Cliente %1 guardado.</translation>
+    </message>
+    <message id="cli.clients.usage">
+      <source>Usage: morvane clients list | add &lt;name&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;client&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;client&gt; [--yes] [--json]</source>
+      <translation>Uso: morvane clients list | add &lt;nombre&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;cliente&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;cliente&gt; [--yes] [--json]</translation>
+    </message>
+    <message id="cli.clients.vat">
+      <source>VAT %1</source>
+      <translation>NIF-IVA %1</translation>
+    </message>
+    <message id="cli.clients.yesAnswers">
+      <source>y|yes</source>
+      <translation>s|sí|si</translation>
+    </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Registrarse, iniciar y cerrar sesión, cambiar de cuenta</translation>
     </message>
+    <message id="cli.command.clients">
+      <source>The clients you invoice: clients list|add|edit|rm</source>
+      <translation>Los clientes a los que facturas: clients list|add|edit|rm</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostrar qué servidor usa Morvane y de dónde viene cada ajuste</translation>
+    </message>
+    <message id="cli.command.earnings">
+      <source>Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]</source>
+      <translation>Dinero ganado, facturado y sin facturar por semana, mes o proyecto: earnings [--from DÍA --to DÍA] [--by week|month|project]</translation>
     </message>
     <message id="cli.command.entries">
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
@@ -334,6 +410,82 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane registra el tiempo de trabajo en proyectos y tareas y lo convierte en facturas.</translation>
+    </message>
+    <message id="cli.earnings.backwards">
+      <source>The period ends before it begins.</source>
+      <translation>El periodo termina antes de empezar.</translation>
+    </message>
+    <message id="cli.earnings.badBy">
+      <source>--by takes week, month or project, not "%1".</source>
+      <translation>--by admite week, month o project, no «%1».</translation>
+    </message>
+    <message id="cli.earnings.badDay">
+      <source>"%1" is not a day; write it as yyyy-MM-dd, for example 2026-01-31.</source>
+      <translation>«%1» no es un día; escríbelo como aaaa-MM-dd, por ejemplo 2026-01-31.</translation>
+    </message>
+    <message id="cli.earnings.column.billed">
+      <source>Billed</source>
+      <translation>Facturado</translation>
+    </message>
+    <message id="cli.earnings.column.earned">
+      <source>Earned</source>
+      <translation>Ganado</translation>
+    </message>
+    <message id="cli.earnings.column.hours">
+      <source>Hours</source>
+      <translation>Horas</translation>
+    </message>
+    <message id="cli.earnings.column.period">
+      <source>Period</source>
+      <translation>Periodo</translation>
+    </message>
+    <message id="cli.earnings.column.project">
+      <source>Project</source>
+      <translation>Proyecto</translation>
+    </message>
+    <message id="cli.earnings.column.rate">
+      <source>Per hour</source>
+      <translation>Por hora</translation>
+    </message>
+    <message id="cli.earnings.column.unbilled">
+      <source>Unbilled</source>
+      <translation>Sin facturar</translation>
+    </message>
+    <message id="cli.earnings.halfPeriod">
+      <source>Give both --from and --to, or neither for the current month.</source>
+      <translation>Indica --from y --to a la vez, o ninguno para el mes actual.</translation>
+    </message>
+    <message id="cli.earnings.heading">
+      <source>Earnings from %1 to %2</source>
+      <translation>Ingresos del %1 al %2</translation>
+    </message>
+    <message id="cli.earnings.noProject">
+      <source>No project</source>
+      <translation>Sin proyecto</translation>
+    </message>
+    <message id="cli.earnings.none">
+      <source>No time tracked in this period.</source>
+      <translation>No hay tiempo registrado en este periodo.</translation>
+    </message>
+    <message id="cli.earnings.option.by">
+      <source>Rows by week, month (the default) or project.</source>
+      <translation>Filas por semana, mes (por defecto) o proyecto.</translation>
+    </message>
+    <message id="cli.earnings.option.from">
+      <source>First day of the period (yyyy-MM-dd); with --to. Without both, the current month.</source>
+      <translation>Primer día del periodo (aaaa-MM-dd); junto con --to. Sin ambos: el mes actual.</translation>
+    </message>
+    <message id="cli.earnings.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Último día del periodo (aaaa-MM-dd), incluido.</translation>
+    </message>
+    <message id="cli.earnings.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="cli.earnings.usage">
+      <source>Usage: morvane earnings [--from DAY --to DAY] [--by week|month|project] [--json]</source>
+      <translation>Uso: morvane earnings [--from DÍA --to DÍA] [--by week|month|project] [--json]</translation>
     </message>
     <message id="cli.entries.badRange">
       <source>An entry must end after it starts.</source>

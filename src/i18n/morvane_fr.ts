@@ -259,13 +259,89 @@
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Utilisation : morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.clients.added">
+      <source>Added client %1 (%2).</source>
+      <translation>Client %1 ajouté (%2).</translation>
+    </message>
+    <message id="cli.clients.coc">
+      <source>CoC %1</source>
+      <translation>RCS %1</translation>
+    </message>
+    <message id="cli.clients.confirmDelete">
+      <source>Delete the client %1? Invoices that name it keep it. [y/N] </source>
+      <translation>Supprimer le client %1 ? Les factures qui le mentionnent le conservent. [y/N] </translation>
+    </message>
+    <message id="cli.clients.deleted">
+      <source>Deleted client %1.</source>
+      <translation>Client %1 supprimé.</translation>
+    </message>
+    <message id="cli.clients.kept">
+      <source>Nothing deleted.</source>
+      <translation>Rien n'a été supprimé.</translation>
+    </message>
+    <message id="cli.clients.noMatch">
+      <source>No client matches "%1". See them with: morvane clients list</source>
+      <translation>Aucun client ne correspond à « %1 ». Affichez-les avec : morvane clients list</translation>
+    </message>
+    <message id="cli.clients.none">
+      <source>No clients yet. Add one with: morvane clients add &lt;name&gt;</source>
+      <translation>Aucun client pour l'instant. Ajoutez-en un avec : morvane clients add &lt;nom&gt;</translation>
+    </message>
+    <message id="cli.clients.option.address">
+      <source>The client's postal address; it may span several lines.</source>
+      <translation>L'adresse postale du client ; elle peut tenir sur plusieurs lignes.</translation>
+    </message>
+    <message id="cli.clients.option.coc">
+      <source>The client's chamber-of-commerce number.</source>
+      <translation>Le numéro RCS du client.</translation>
+    </message>
+    <message id="cli.clients.option.email">
+      <source>The client's e-mail address.</source>
+      <translation>L'adresse e-mail du client.</translation>
+    </message>
+    <message id="cli.clients.option.name">
+      <source>A new name (edit only).</source>
+      <translation>Un nouveau nom (edit uniquement).</translation>
+    </message>
+    <message id="cli.clients.option.vat">
+      <source>The client's VAT number.</source>
+      <translation>Le numéro de TVA du client.</translation>
+    </message>
+    <message id="cli.clients.option.yes">
+      <source>Delete without asking first.</source>
+      <translation>Supprimer sans demander confirmation.</translation>
+    </message>
+    <message id="cli.clients.saved">
+      <source>Saved client %1.</source>
+      <translation>Client %1 enregistré.</translation>
+    </message>
+    <message id="cli.clients.usage">
+      <source>Usage: morvane clients list | add &lt;name&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;client&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;client&gt; [--yes] [--json]</source>
+      <translation>Utilisation : morvane clients list | add &lt;nom&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;client&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;client&gt; [--yes] [--json]</translation>
+    </message>
+    <message id="cli.clients.vat">
+      <source>VAT %1</source>
+      <translation>TVA %1</translation>
+    </message>
+    <message id="cli.clients.yesAnswers">
+      <source>y|yes</source>
+      <translation>o|oui</translation>
+    </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Créer un compte, se connecter et se déconnecter, changer de compte</translation>
     </message>
+    <message id="cli.command.clients">
+      <source>The clients you invoice: clients list|add|edit|rm</source>
+      <translation>Les clients que vous facturez : clients list|add|edit|rm</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Afficher le serveur utilisé par Morvane et l’origine de chaque réglage</translation>
+    </message>
+    <message id="cli.command.earnings">
+      <source>Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]</source>
+      <translation>Montants gagnés, facturés et non facturés par semaine, mois ou projet : earnings [--from JOUR --to JOUR] [--by week|month|project]</translation>
     </message>
     <message id="cli.command.entries">
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
@@ -334,6 +410,82 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane suit le temps de travail sur les projets et les tâches et le transforme en factures.</translation>
+    </message>
+    <message id="cli.earnings.backwards">
+      <source>The period ends before it begins.</source>
+      <translation>La période se termine avant de commencer.</translation>
+    </message>
+    <message id="cli.earnings.badBy">
+      <source>--by takes week, month or project, not "%1".</source>
+      <translation>--by accepte week, month ou project, pas « %1 ».</translation>
+    </message>
+    <message id="cli.earnings.badDay">
+      <source>"%1" is not a day; write it as yyyy-MM-dd, for example 2026-01-31.</source>
+      <translation>« %1 » n'est pas un jour ; écrivez-le sous la forme aaaa-MM-jj, par exemple 2026-01-31.</translation>
+    </message>
+    <message id="cli.earnings.column.billed">
+      <source>Billed</source>
+      <translation>Facturé</translation>
+    </message>
+    <message id="cli.earnings.column.earned">
+      <source>Earned</source>
+      <translation>Gagné</translation>
+    </message>
+    <message id="cli.earnings.column.hours">
+      <source>Hours</source>
+      <translation>Heures</translation>
+    </message>
+    <message id="cli.earnings.column.period">
+      <source>Period</source>
+      <translation>Période</translation>
+    </message>
+    <message id="cli.earnings.column.project">
+      <source>Project</source>
+      <translation>Projet</translation>
+    </message>
+    <message id="cli.earnings.column.rate">
+      <source>Per hour</source>
+      <translation>Par heure</translation>
+    </message>
+    <message id="cli.earnings.column.unbilled">
+      <source>Unbilled</source>
+      <translation>Non facturé</translation>
+    </message>
+    <message id="cli.earnings.halfPeriod">
+      <source>Give both --from and --to, or neither for the current month.</source>
+      <translation>Indiquez --from et --to ensemble, ou aucun des deux pour le mois en cours.</translation>
+    </message>
+    <message id="cli.earnings.heading">
+      <source>Earnings from %1 to %2</source>
+      <translation>Revenus du %1 au %2</translation>
+    </message>
+    <message id="cli.earnings.noProject">
+      <source>No project</source>
+      <translation>Sans projet</translation>
+    </message>
+    <message id="cli.earnings.none">
+      <source>No time tracked in this period.</source>
+      <translation>Aucun temps enregistré sur cette période.</translation>
+    </message>
+    <message id="cli.earnings.option.by">
+      <source>Rows by week, month (the default) or project.</source>
+      <translation>Lignes par semaine, mois (par défaut) ou projet.</translation>
+    </message>
+    <message id="cli.earnings.option.from">
+      <source>First day of the period (yyyy-MM-dd); with --to. Without both, the current month.</source>
+      <translation>Premier jour de la période (aaaa-MM-jj) ; avec --to. Sans les deux : le mois en cours.</translation>
+    </message>
+    <message id="cli.earnings.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Dernier jour de la période (aaaa-MM-jj), inclus.</translation>
+    </message>
+    <message id="cli.earnings.total">
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message id="cli.earnings.usage">
+      <source>Usage: morvane earnings [--from DAY --to DAY] [--by week|month|project] [--json]</source>
+      <translation>Utilisation : morvane earnings [--from JOUR --to JOUR] [--by week|month|project] [--json]</translation>
     </message>
     <message id="cli.entries.badRange">
       <source>An entry must end after it starts.</source>

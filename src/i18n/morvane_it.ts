@@ -259,13 +259,89 @@
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Uso: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.clients.added">
+      <source>Added client %1 (%2).</source>
+      <translation>Cliente %1 aggiunto (%2).</translation>
+    </message>
+    <message id="cli.clients.coc">
+      <source>CoC %1</source>
+      <translation>REA %1</translation>
+    </message>
+    <message id="cli.clients.confirmDelete">
+      <source>Delete the client %1? Invoices that name it keep it. [y/N] </source>
+      <translation>Eliminare il cliente %1? Le fatture che lo riportano lo mantengono. [y/N] </translation>
+    </message>
+    <message id="cli.clients.deleted">
+      <source>Deleted client %1.</source>
+      <translation>Cliente %1 eliminato.</translation>
+    </message>
+    <message id="cli.clients.kept">
+      <source>Nothing deleted.</source>
+      <translation>Non è stato eliminato nulla.</translation>
+    </message>
+    <message id="cli.clients.noMatch">
+      <source>No client matches "%1". See them with: morvane clients list</source>
+      <translation>Nessun cliente corrisponde a «%1». Visualizzali con: morvane clients list</translation>
+    </message>
+    <message id="cli.clients.none">
+      <source>No clients yet. Add one with: morvane clients add &lt;name&gt;</source>
+      <translation>Nessun cliente per ora. Aggiungine uno con: morvane clients add &lt;nome&gt;</translation>
+    </message>
+    <message id="cli.clients.option.address">
+      <source>The client's postal address; it may span several lines.</source>
+      <translation>L'indirizzo postale del cliente; può occupare più righe.</translation>
+    </message>
+    <message id="cli.clients.option.coc">
+      <source>The client's chamber-of-commerce number.</source>
+      <translation>Il numero REA del cliente.</translation>
+    </message>
+    <message id="cli.clients.option.email">
+      <source>The client's e-mail address.</source>
+      <translation>L'indirizzo e-mail del cliente.</translation>
+    </message>
+    <message id="cli.clients.option.name">
+      <source>A new name (edit only).</source>
+      <translation>Un nuovo nome (solo con edit).</translation>
+    </message>
+    <message id="cli.clients.option.vat">
+      <source>The client's VAT number.</source>
+      <translation>La partita IVA del cliente.</translation>
+    </message>
+    <message id="cli.clients.option.yes">
+      <source>Delete without asking first.</source>
+      <translation>Elimina senza chiedere conferma.</translation>
+    </message>
+    <message id="cli.clients.saved">
+      <source>Saved client %1.</source>
+      <translation>Cliente %1 salvato.</translation>
+    </message>
+    <message id="cli.clients.usage">
+      <source>Usage: morvane clients list | add &lt;name&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;client&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;client&gt; [--yes] [--json]</source>
+      <translation>Uso: morvane clients list | add &lt;nome&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;cliente&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;cliente&gt; [--yes] [--json]</translation>
+    </message>
+    <message id="cli.clients.vat">
+      <source>VAT %1</source>
+      <translation>P.IVA %1</translation>
+    </message>
+    <message id="cli.clients.yesAnswers">
+      <source>y|yes</source>
+      <translation>s|sì|si</translation>
+    </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Registrarsi, accedere e uscire, passare da un account all’altro</translation>
     </message>
+    <message id="cli.command.clients">
+      <source>The clients you invoice: clients list|add|edit|rm</source>
+      <translation>I clienti a cui emetti fattura: clients list|add|edit|rm</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostra quale server usa Morvane e da dove proviene ogni impostazione</translation>
+    </message>
+    <message id="cli.command.earnings">
+      <source>Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]</source>
+      <translation>Importi guadagnati, fatturati e non ancora fatturati per settimana, mese o progetto: earnings [--from GIORNO --to GIORNO] [--by week|month|project]</translation>
     </message>
     <message id="cli.command.entries">
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
@@ -334,6 +410,82 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane registra il tempo di lavoro su progetti e attività e lo trasforma in fatture.</translation>
+    </message>
+    <message id="cli.earnings.backwards">
+      <source>The period ends before it begins.</source>
+      <translation>Il periodo finisce prima di iniziare.</translation>
+    </message>
+    <message id="cli.earnings.badBy">
+      <source>--by takes week, month or project, not "%1".</source>
+      <translation>--by accetta week, month o project, non «%1».</translation>
+    </message>
+    <message id="cli.earnings.badDay">
+      <source>"%1" is not a day; write it as yyyy-MM-dd, for example 2026-01-31.</source>
+      <translation>«%1» non è un giorno; scrivilo come aaaa-MM-gg, ad esempio 2026-01-31.</translation>
+    </message>
+    <message id="cli.earnings.column.billed">
+      <source>Billed</source>
+      <translation>Fatturato</translation>
+    </message>
+    <message id="cli.earnings.column.earned">
+      <source>Earned</source>
+      <translation>Guadagnato</translation>
+    </message>
+    <message id="cli.earnings.column.hours">
+      <source>Hours</source>
+      <translation>Ore</translation>
+    </message>
+    <message id="cli.earnings.column.period">
+      <source>Period</source>
+      <translation>Periodo</translation>
+    </message>
+    <message id="cli.earnings.column.project">
+      <source>Project</source>
+      <translation>Progetto</translation>
+    </message>
+    <message id="cli.earnings.column.rate">
+      <source>Per hour</source>
+      <translation>All'ora</translation>
+    </message>
+    <message id="cli.earnings.column.unbilled">
+      <source>Unbilled</source>
+      <translation>Da fatturare</translation>
+    </message>
+    <message id="cli.earnings.halfPeriod">
+      <source>Give both --from and --to, or neither for the current month.</source>
+      <translation>Indica sia --from sia --to, oppure nessuno dei due per il mese corrente.</translation>
+    </message>
+    <message id="cli.earnings.heading">
+      <source>Earnings from %1 to %2</source>
+      <translation>Guadagni dal %1 al %2</translation>
+    </message>
+    <message id="cli.earnings.noProject">
+      <source>No project</source>
+      <translation>Nessun progetto</translation>
+    </message>
+    <message id="cli.earnings.none">
+      <source>No time tracked in this period.</source>
+      <translation>Nessun tempo registrato in questo periodo.</translation>
+    </message>
+    <message id="cli.earnings.option.by">
+      <source>Rows by week, month (the default) or project.</source>
+      <translation>Righe per settimana, mese (predefinito) o progetto.</translation>
+    </message>
+    <message id="cli.earnings.option.from">
+      <source>First day of the period (yyyy-MM-dd); with --to. Without both, the current month.</source>
+      <translation>Primo giorno del periodo (aaaa-MM-gg); insieme a --to. Senza entrambi: il mese corrente.</translation>
+    </message>
+    <message id="cli.earnings.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>Ultimo giorno del periodo (aaaa-MM-gg), incluso.</translation>
+    </message>
+    <message id="cli.earnings.total">
+      <source>Total</source>
+      <translation>Totale</translation>
+    </message>
+    <message id="cli.earnings.usage">
+      <source>Usage: morvane earnings [--from DAY --to DAY] [--by week|month|project] [--json]</source>
+      <translation>Uso: morvane earnings [--from GIORNO --to GIORNO] [--by week|month|project] [--json]</translation>
     </message>
     <message id="cli.entries.badRange">
       <source>An entry must end after it starts.</source>

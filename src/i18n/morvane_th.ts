@@ -259,13 +259,89 @@
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>วิธีใช้: morvane auth signup|signin &lt;อีเมล&gt; | signin --provider NAME | signout | status | switch &lt;อีเมล&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.clients.added">
+      <source>Added client %1 (%2).</source>
+      <translation>เพิ่มลูกค้า %1 แล้ว (%2)</translation>
+    </message>
+    <message id="cli.clients.coc">
+      <source>CoC %1</source>
+      <translation>ทะเบียนพาณิชย์ %1</translation>
+    </message>
+    <message id="cli.clients.confirmDelete">
+      <source>Delete the client %1? Invoices that name it keep it. [y/N] </source>
+      <translation>ลบลูกค้า %1 หรือไม่ ใบแจ้งหนี้ที่ระบุลูกค้านี้จะยังคงอยู่ [y/N] </translation>
+    </message>
+    <message id="cli.clients.deleted">
+      <source>Deleted client %1.</source>
+      <translation>ลบลูกค้า %1 แล้ว</translation>
+    </message>
+    <message id="cli.clients.kept">
+      <source>Nothing deleted.</source>
+      <translation>ไม่ได้ลบสิ่งใด</translation>
+    </message>
+    <message id="cli.clients.noMatch">
+      <source>No client matches "%1". See them with: morvane clients list</source>
+      <translation>ไม่มีลูกค้าที่ตรงกับ "%1" ดูรายชื่อได้ด้วย: morvane clients list</translation>
+    </message>
+    <message id="cli.clients.none">
+      <source>No clients yet. Add one with: morvane clients add &lt;name&gt;</source>
+      <translation>ยังไม่มีลูกค้า เพิ่มได้ด้วย: morvane clients add &lt;ชื่อ&gt;</translation>
+    </message>
+    <message id="cli.clients.option.address">
+      <source>The client's postal address; it may span several lines.</source>
+      <translation>ที่อยู่ทางไปรษณีย์ของลูกค้า เขียนได้หลายบรรทัด</translation>
+    </message>
+    <message id="cli.clients.option.coc">
+      <source>The client's chamber-of-commerce number.</source>
+      <translation>เลขทะเบียนพาณิชย์ของลูกค้า</translation>
+    </message>
+    <message id="cli.clients.option.email">
+      <source>The client's e-mail address.</source>
+      <translation>อีเมลของลูกค้า</translation>
+    </message>
+    <message id="cli.clients.option.name">
+      <source>A new name (edit only).</source>
+      <translation>ชื่อใหม่ (ใช้กับ edit เท่านั้น)</translation>
+    </message>
+    <message id="cli.clients.option.vat">
+      <source>The client's VAT number.</source>
+      <translation>เลขประจำตัวผู้เสียภาษีของลูกค้า</translation>
+    </message>
+    <message id="cli.clients.option.yes">
+      <source>Delete without asking first.</source>
+      <translation>ลบโดยไม่ถามก่อน</translation>
+    </message>
+    <message id="cli.clients.saved">
+      <source>Saved client %1.</source>
+      <translation>บันทึกลูกค้า %1 แล้ว</translation>
+    </message>
+    <message id="cli.clients.usage">
+      <source>Usage: morvane clients list | add &lt;name&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;client&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;client&gt; [--yes] [--json]</source>
+      <translation>วิธีใช้: morvane clients list | add &lt;ชื่อ&gt; [--email E] [--address A] [--vat-number V] [--coc-number C] | edit &lt;ลูกค้า&gt; [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm &lt;ลูกค้า&gt; [--yes] [--json]</translation>
+    </message>
+    <message id="cli.clients.vat">
+      <source>VAT %1</source>
+      <translation>เลขภาษี %1</translation>
+    </message>
+    <message id="cli.clients.yesAnswers">
+      <source>y|yes</source>
+      <translation>ใช่</translation>
+    </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>สมัคร ลงชื่อเข้าและออก สลับบัญชี</translation>
     </message>
+    <message id="cli.command.clients">
+      <source>The clients you invoice: clients list|add|edit|rm</source>
+      <translation>ลูกค้าที่คุณออกใบแจ้งหนี้ให้: clients list|add|edit|rm</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>แสดงแบ็กเอนด์ที่ Morvane ใช้และที่มาของการตั้งค่าแต่ละรายการ</translation>
+    </message>
+    <message id="cli.command.earnings">
+      <source>Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]</source>
+      <translation>รายได้ ยอดที่เรียกเก็บแล้ว และยอดที่ยังไม่เรียกเก็บ แยกตามสัปดาห์ เดือน หรือโปรเจกต์: earnings [--from วัน --to วัน] [--by week|month|project]</translation>
     </message>
     <message id="cli.command.entries">
       <source>List, edit or delete time entries: entries [--task T] | edit | rm</source>
@@ -334,6 +410,82 @@
     <message id="cli.description">
       <source>Morvane tracks working time on projects and tasks and turns it into invoices.</source>
       <translation>Morvane บันทึกเวลาทำงานของโปรเจกต์และงาน แล้วเปลี่ยนเป็นใบแจ้งหนี้</translation>
+    </message>
+    <message id="cli.earnings.backwards">
+      <source>The period ends before it begins.</source>
+      <translation>ช่วงเวลาสิ้นสุดก่อนวันเริ่มต้น</translation>
+    </message>
+    <message id="cli.earnings.badBy">
+      <source>--by takes week, month or project, not "%1".</source>
+      <translation>--by ใช้ได้เฉพาะ week, month หรือ project ไม่ใช่ "%1"</translation>
+    </message>
+    <message id="cli.earnings.badDay">
+      <source>"%1" is not a day; write it as yyyy-MM-dd, for example 2026-01-31.</source>
+      <translation>"%1" ไม่ใช่วันที่ เขียนในรูปแบบ yyyy-MM-dd เช่น 2026-01-31</translation>
+    </message>
+    <message id="cli.earnings.column.billed">
+      <source>Billed</source>
+      <translation>เรียกเก็บแล้ว</translation>
+    </message>
+    <message id="cli.earnings.column.earned">
+      <source>Earned</source>
+      <translation>รายได้</translation>
+    </message>
+    <message id="cli.earnings.column.hours">
+      <source>Hours</source>
+      <translation>ชั่วโมง</translation>
+    </message>
+    <message id="cli.earnings.column.period">
+      <source>Period</source>
+      <translation>ช่วงเวลา</translation>
+    </message>
+    <message id="cli.earnings.column.project">
+      <source>Project</source>
+      <translation>โปรเจกต์</translation>
+    </message>
+    <message id="cli.earnings.column.rate">
+      <source>Per hour</source>
+      <translation>ต่อชั่วโมง</translation>
+    </message>
+    <message id="cli.earnings.column.unbilled">
+      <source>Unbilled</source>
+      <translation>ยังไม่เรียกเก็บ</translation>
+    </message>
+    <message id="cli.earnings.halfPeriod">
+      <source>Give both --from and --to, or neither for the current month.</source>
+      <translation>ระบุทั้ง --from และ --to หรือไม่ระบุทั้งสองเพื่อใช้เดือนปัจจุบัน</translation>
+    </message>
+    <message id="cli.earnings.heading">
+      <source>Earnings from %1 to %2</source>
+      <translation>รายได้ตั้งแต่ %1 ถึง %2</translation>
+    </message>
+    <message id="cli.earnings.noProject">
+      <source>No project</source>
+      <translation>ไม่มีโปรเจกต์</translation>
+    </message>
+    <message id="cli.earnings.none">
+      <source>No time tracked in this period.</source>
+      <translation>ไม่มีเวลาที่บันทึกไว้ในช่วงนี้</translation>
+    </message>
+    <message id="cli.earnings.option.by">
+      <source>Rows by week, month (the default) or project.</source>
+      <translation>แถวตามสัปดาห์ เดือน (ค่าเริ่มต้น) หรือโปรเจกต์</translation>
+    </message>
+    <message id="cli.earnings.option.from">
+      <source>First day of the period (yyyy-MM-dd); with --to. Without both, the current month.</source>
+      <translation>วันแรกของช่วงเวลา (yyyy-MM-dd) ใช้คู่กับ --to หากไม่ระบุทั้งสองจะใช้เดือนปัจจุบัน</translation>
+    </message>
+    <message id="cli.earnings.option.to">
+      <source>Last day of the period (yyyy-MM-dd), included.</source>
+      <translation>วันสุดท้ายของช่วงเวลา (yyyy-MM-dd) รวมวันนั้นด้วย</translation>
+    </message>
+    <message id="cli.earnings.total">
+      <source>Total</source>
+      <translation>รวม</translation>
+    </message>
+    <message id="cli.earnings.usage">
+      <source>Usage: morvane earnings [--from DAY --to DAY] [--by week|month|project] [--json]</source>
+      <translation>วิธีใช้: morvane earnings [--from วัน --to วัน] [--by week|month|project] [--json]</translation>
     </message>
     <message id="cli.entries.badRange">
       <source>An entry must end after it starts.</source>
