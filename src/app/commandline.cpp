@@ -1,6 +1,7 @@
 #include "commandline.h"
 
 #include "app/authcommands.h"
+#include "app/companycommand.h"
 #include "app/exportcommand.h"
 #include "app/renderinvoice.h"
 #include "app/servercommand.h"
@@ -119,6 +120,8 @@ QList<Command> commands()
         {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
         //% "Invoices: invoice draft|create|list|show|status|void|rm|pdf"
         {u"invoice"_s, [] { return qtTrId("cli.command.invoice"); }, runInvoiceCommand},
+        //% "Your sender details and invoice style: company show|set"
+        {u"company"_s, [] { return qtTrId("cli.command.company"); }, runCompanyCommand},
         //% "The clients you invoice: clients list|add|edit|rm"
         {u"clients"_s, [] { return qtTrId("cli.command.clients"); }, runClientsCommand},
         //% "Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]"

@@ -1,4 +1,5 @@
 #include "app/clisession.h"
+#include "app/companycommand.h"
 #include "app/storecommands.h"
 #include "backend/runblocking.h"
 #include "billing/invoicelines.h"
@@ -295,7 +296,8 @@ int replacePdf(AppStore &store, const Invoice &invoice, bool json, QTextStream &
 
 // Renders the composed invoice as the composer would and saves it with its PDF.
 int createInvoice(AppStore &store, const Project &project, InvoiceComposer &composer, const QString &status,
-                  const std::optional<QString> &clientName, bool json, QTextStream &out, QTextStream &err)
+                  const std::optional<QString> &clientName, const std::optional<QString> &design, bool json,
+                  QTextStream &out, QTextStream &err)
 {
     if (composer.built().lines.isEmpty()) {
         err << qtTrId("cli.invoice.draftEmpty").arg(project.name) << Qt::endl;
@@ -314,7 +316,11 @@ int createInvoice(AppStore &store, const Project &project, InvoiceComposer &comp
         err << composer.readinessError() << Qt::endl;
         return 1;
     }
-    const std::optional<QByteArray> pdf = renderPdf(InvoiceDocuments::composed(store, composer, *number, issued, due), err);
+    InvoiceDocument document = InvoiceDocuments::composed(store, composer, *number, issued, due);
+    if (design) {
+        document.design = design;
+    }
+    const std::optional<QByteArray> pdf = renderPdf(document, err);
     if (!pdf) {
         return 1;
     }
@@ -349,7 +355,9 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     const QCommandLineOption statusOption(u"status"_s, qtTrId("cli.invoice.option.status"), u"status"_s, u"draft"_s);
     //% "Bill-to name on the new invoice."
     const QCommandLineOption clientOption(u"client"_s, qtTrId("cli.invoice.option.client"), u"name"_s);
-    parser.addOptions({outOption, fromOption, toOption, vatOption, statusOption, clientOption});
+    //% "The design of the new invoice, instead of the one in your invoice style."
+    const QCommandLineOption designOption(u"design"_s, qtTrId("cli.invoice.option.design"), u"name"_s);
+    parser.addOptions({outOption, fromOption, toOption, vatOption, statusOption, clientOption, designOption});
     parser.addPositionalArgument(u"action"_s, qtTrId("cli.command.invoice"));
     if (!Cli::parse(parser, arguments, err)) {
         return 2;
@@ -357,7 +365,7 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
     const qsizetype count = positional.size();
-    //% "Usage: morvane invoice draft|create <project> [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show <invoice> | status <invoice> draft|sent|paid|void | void <invoice> | rm <invoice> | pdf <invoice> --out FILE [--json]"
+    //% "Usage: morvane invoice draft|create <project> [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show <invoice> | status <invoice> draft|sent|paid|void | void <invoice> | rm <invoice> | pdf <invoice> --out FILE [--json]"
     const QString usageText = qtTrId("cli.invoice.usage");
     const std::optional<InvoiceStatus> status =
         action == u"status" && count == 3 ? Wire::enumFromName<InvoiceStatus>(positional.at(2)) : std::nullopt;
@@ -378,8 +386,11 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
                        (action == u"status" && count == 3 && status) || (action == u"void" && count == 2) ||
                        (action == u"rm" && count == 2) || (action == u"pdf" && count == 2 && parser.isSet(outOption)) ||
                        (action == u"replace-pdf" && count == 2);
-    if (!known) {
+    if (!known || (parser.isSet(designOption) && action != u"create")) {
         return Cli::usage(err, usageText);
+    }
+    if (parser.isSet(designOption) && !Cli::knownDesign(parser.value(designOption), err)) {
+        return 2;
     }
 
     CliSession session;
@@ -406,7 +417,9 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
         if (action == u"create") {
             const std::optional<QString> client =
                 parser.isSet(clientOption) ? std::optional<QString>(parser.value(clientOption)) : std::nullopt;
-            return createInvoice(store, *project, composer, newStatus, client, json, out, err);
+            const std::optional<QString> design =
+                parser.isSet(designOption) ? std::optional<QString>(parser.value(designOption)) : std::nullopt;
+            return createInvoice(store, *project, composer, newStatus, client, design, json, out, err);
         }
         return showDraft(*project, composer, json, out);
     }

@@ -335,6 +335,10 @@
       <source>The clients you invoice: clients list|add|edit|rm</source>
       <translation>Die Kunden, denen du Rechnungen stellst: clients list|add|edit|rm</translation>
     </message>
+    <message id="cli.command.company">
+      <source>Your sender details and invoice style: company show|set</source>
+      <translation>Deine Absenderangaben und dein Rechnungsstil: company show|set</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Zeigt, welches Backend Morvane nutzt und woher jede Einstellung stammt</translation>
@@ -390,6 +394,166 @@
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Befehle:</translation>
+    </message>
+    <message id="cli.company.accent">
+      <source>Accent colour</source>
+      <translation>Akzentfarbe</translation>
+    </message>
+    <message id="cli.company.address">
+      <source>Address</source>
+      <translation>Adresse</translation>
+    </message>
+    <message id="cli.company.argument.action">
+      <source>show or set</source>
+      <translation>show oder set</translation>
+    </message>
+    <message id="cli.company.bank">
+      <source>Bank</source>
+      <translation>Bank</translation>
+    </message>
+    <message id="cli.company.cocNumber">
+      <source>Chamber of commerce number</source>
+      <translation>Handelsregisternummer</translation>
+    </message>
+    <message id="cli.company.company">
+      <source>Company</source>
+      <translation>Firma</translation>
+    </message>
+    <message id="cli.company.days">
+      <source>%1 days</source>
+      <translation>%1 Tage</translation>
+    </message>
+    <message id="cli.company.design">
+      <source>Design</source>
+      <translation>Design</translation>
+    </message>
+    <message id="cli.company.email">
+      <source>E-mail</source>
+      <translation>E-Mail</translation>
+    </message>
+    <message id="cli.company.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>Das Zahlungsziel ist eine ganze Zahl von Tagen zwischen 0 und 365.</translation>
+    </message>
+    <message id="cli.company.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>Der USt-Satz ist ein Prozentsatz zwischen 0 und 100.</translation>
+    </message>
+    <message id="cli.company.fileProblem">
+      <source>%1: %2</source>
+      <translation>%1: %2</translation>
+    </message>
+    <message id="cli.company.fontBody">
+      <source>Body font</source>
+      <translation>Textschrift</translation>
+    </message>
+    <message id="cli.company.fontDisplay">
+      <source>Display font</source>
+      <translation>Überschriftenschrift</translation>
+    </message>
+    <message id="cli.company.footer">
+      <source>Footer</source>
+      <translation>Fußzeile</translation>
+    </message>
+    <message id="cli.company.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Bankkonto (IBAN)</translation>
+    </message>
+    <message id="cli.company.ink">
+      <source>Ink colour</source>
+      <translation>Schriftfarbe</translation>
+    </message>
+    <message id="cli.company.logo">
+      <source>Logo</source>
+      <translation>Logo</translation>
+    </message>
+    <message id="cli.company.logoSize">
+      <source>%1 × %2 px</source>
+      <translation>%1 × %2 px</translation>
+    </message>
+    <message id="cli.company.logoUnreadable">
+      <source>set, but not readable</source>
+      <translation>gesetzt, aber nicht lesbar</translation>
+    </message>
+    <message id="cli.company.none">
+      <source>No sender details yet. Set them with: morvane company set --company NAME --address TEXT ...</source>
+      <translation>Noch keine Absenderangaben. Lege sie fest mit: morvane company set --company NAME --address TEXT ...</translation>
+    </message>
+    <message id="cli.company.option.design">
+      <source>The design new invoices are drawn in.</source>
+      <translation>Das Design neuer Rechnungen.</translation>
+    </message>
+    <message id="cli.company.option.field">
+      <source>Sets: %1. An empty value clears it.</source>
+      <translation>Setzt: %1. Ein leerer Wert löscht es.</translation>
+    </message>
+    <message id="cli.company.option.help">
+      <source>Show this help.</source>
+      <translation>Diese Hilfe anzeigen.</translation>
+    </message>
+    <message id="cli.company.option.logo">
+      <source>A PNG or JPEG of at most 1 MB; an empty value removes the logo.</source>
+      <translation>Eine PNG- oder JPEG-Datei bis 1 MB; ein leerer Wert entfernt das Logo.</translation>
+    </message>
+    <message id="cli.company.option.paymentDays">
+      <source>Days the client has to pay.</source>
+      <translation>Tage, die der Kunde zum Zahlen hat.</translation>
+    </message>
+    <message id="cli.company.option.template">
+      <source>Your own HTML template; new invoices use it unless --design says otherwise.</source>
+      <translation>Deine eigene HTML-Vorlage; neue Rechnungen nutzen sie, sofern --design nichts anderes sagt.</translation>
+    </message>
+    <message id="cli.company.option.vatRate">
+      <source>VAT percentage of lines whose price has none.</source>
+      <translation>USt-Satz für Posten ohne eigenen Satz.</translation>
+    </message>
+    <message id="cli.company.paymentDays">
+      <source>Payment terms</source>
+      <translation>Zahlungsziel</translation>
+    </message>
+    <message id="cli.company.phone">
+      <source>Phone</source>
+      <translation>Telefon</translation>
+    </message>
+    <message id="cli.company.saved">
+      <source>Sender details and invoice style saved.</source>
+      <translation>Absenderangaben und Rechnungsstil gespeichert.</translation>
+    </message>
+    <message id="cli.company.template">
+      <source>Custom template</source>
+      <translation>Eigene Vorlage</translation>
+    </message>
+    <message id="cli.company.templateFallsBack">
+      <source>not used, invoices fall back to %1: %2</source>
+      <translation>nicht verwendet, Rechnungen nutzen stattdessen %1: %2</translation>
+    </message>
+    <message id="cli.company.templateStatus">
+      <source>Custom template: %1</source>
+      <translation>Eigene Vorlage: %1</translation>
+    </message>
+    <message id="cli.company.templateUsed">
+      <source>used</source>
+      <translation>verwendet</translation>
+    </message>
+    <message id="cli.company.unknownDesign">
+      <source>Unknown design: %1. The designs are: %2 (aiCustom is your own template).</source>
+      <translation>Unbekanntes Design: %1. Die Designs sind: %2 (aiCustom ist deine eigene Vorlage).</translation>
+    </message>
+    <message id="cli.company.usage">
+      <source>Usage: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</source>
+      <translation>Aufruf: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</translation>
+    </message>
+    <message id="cli.company.vatNumber">
+      <source>VAT number</source>
+      <translation>USt-IdNr.</translation>
+    </message>
+    <message id="cli.company.vatRate">
+      <source>Default VAT rate</source>
+      <translation>Standard-USt-Satz</translation>
+    </message>
+    <message id="cli.company.website">
+      <source>Website</source>
+      <translation>Website</translation>
     </message>
     <message id="cli.config.json">
       <source>Print the setting as JSON.</source>
@@ -607,6 +771,10 @@
       <source>Bill-to name on the new invoice.</source>
       <translation>Name des Rechnungsempfängers auf der neuen Rechnung.</translation>
     </message>
+    <message id="cli.invoice.option.design">
+      <source>The design of the new invoice, instead of the one in your invoice style.</source>
+      <translation>Das Design der neuen Rechnung statt dessen aus deinem Rechnungsstil.</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>Erster Tag des Zeitraums (JJJJ-MM-TT).</translation>
@@ -664,8 +832,8 @@
       <translation>Gesamt</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
-      <translation>Aufruf: morvane invoice draft|create &lt;Projekt&gt; [--from TAG] [--to TAG] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;Rechnung&gt; | status &lt;Rechnung&gt; draft|sent|paid|void | void &lt;Rechnung&gt; | rm &lt;Rechnung&gt; | pdf &lt;Rechnung&gt; --out DATEI | replace-pdf &lt;Rechnung&gt; [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>Aufruf: morvane invoice draft|create &lt;Projekt&gt; [--from TAG] [--to TAG] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;Rechnung&gt; | status &lt;Rechnung&gt; draft|sent|paid|void | void &lt;Rechnung&gt; | rm &lt;Rechnung&gt; | pdf &lt;Rechnung&gt; --out DATEI | replace-pdf &lt;Rechnung&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>
@@ -1698,6 +1866,14 @@
     <message id="store.err.writeFailed">
       <source>The change could not be saved. Check the connection and try again.</source>
       <translation>Die Änderung konnte nicht gespeichert werden. Prüfe die Verbindung und versuche es erneut.</translation>
+    </message>
+    <message id="store.style.err.notLoaded">
+      <source>Your invoice style could not be loaded.</source>
+      <translation>Dein Rechnungsstil konnte nicht geladen werden.</translation>
+    </message>
+    <message id="store.style.err.notSaved">
+      <source>The invoice style was not saved: you may not change this template, or it no longer exists.</source>
+      <translation>Der Rechnungsstil wurde nicht gespeichert: Du darfst diese Vorlage nicht ändern, oder sie existiert nicht mehr.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>

@@ -335,6 +335,10 @@
       <source>The clients you invoice: clients list|add|edit|rm</source>
       <translation>The clients you invoice: clients list|add|edit|rm</translation>
     </message>
+    <message id="cli.command.company">
+      <source>Your sender details and invoice style: company show|set</source>
+      <translation>Your sender details and invoice style: company show|set</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Show which backend Morvane uses and where each setting comes from</translation>
@@ -390,6 +394,166 @@
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Commands:</translation>
+    </message>
+    <message id="cli.company.accent">
+      <source>Accent colour</source>
+      <translation>Accent colour</translation>
+    </message>
+    <message id="cli.company.address">
+      <source>Address</source>
+      <translation>Address</translation>
+    </message>
+    <message id="cli.company.argument.action">
+      <source>show or set</source>
+      <translation>show or set</translation>
+    </message>
+    <message id="cli.company.bank">
+      <source>Bank</source>
+      <translation>Bank</translation>
+    </message>
+    <message id="cli.company.cocNumber">
+      <source>Chamber of commerce number</source>
+      <translation>Chamber of commerce number</translation>
+    </message>
+    <message id="cli.company.company">
+      <source>Company</source>
+      <translation>Company</translation>
+    </message>
+    <message id="cli.company.days">
+      <source>%1 days</source>
+      <translation>%1 days</translation>
+    </message>
+    <message id="cli.company.design">
+      <source>Design</source>
+      <translation>Design</translation>
+    </message>
+    <message id="cli.company.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="cli.company.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>Payment terms are a whole number of days from 0 to 365.</translation>
+    </message>
+    <message id="cli.company.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>The VAT rate is a percentage from 0 to 100.</translation>
+    </message>
+    <message id="cli.company.fileProblem">
+      <source>%1: %2</source>
+      <translation>%1: %2</translation>
+    </message>
+    <message id="cli.company.fontBody">
+      <source>Body font</source>
+      <translation>Body font</translation>
+    </message>
+    <message id="cli.company.fontDisplay">
+      <source>Display font</source>
+      <translation>Display font</translation>
+    </message>
+    <message id="cli.company.footer">
+      <source>Footer</source>
+      <translation>Footer</translation>
+    </message>
+    <message id="cli.company.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Bank account (IBAN)</translation>
+    </message>
+    <message id="cli.company.ink">
+      <source>Ink colour</source>
+      <translation>Ink colour</translation>
+    </message>
+    <message id="cli.company.logo">
+      <source>Logo</source>
+      <translation>Logo</translation>
+    </message>
+    <message id="cli.company.logoSize">
+      <source>%1 × %2 px</source>
+      <translation>%1 × %2 px</translation>
+    </message>
+    <message id="cli.company.logoUnreadable">
+      <source>set, but not readable</source>
+      <translation>set, but not readable</translation>
+    </message>
+    <message id="cli.company.none">
+      <source>No sender details yet. Set them with: morvane company set --company NAME --address TEXT ...</source>
+      <translation>No sender details yet. Set them with: morvane company set --company NAME --address TEXT ...</translation>
+    </message>
+    <message id="cli.company.option.design">
+      <source>The design new invoices are drawn in.</source>
+      <translation>The design new invoices are drawn in.</translation>
+    </message>
+    <message id="cli.company.option.field">
+      <source>Sets: %1. An empty value clears it.</source>
+      <translation>Sets: %1. An empty value clears it.</translation>
+    </message>
+    <message id="cli.company.option.help">
+      <source>Show this help.</source>
+      <translation>Show this help.</translation>
+    </message>
+    <message id="cli.company.option.logo">
+      <source>A PNG or JPEG of at most 1 MB; an empty value removes the logo.</source>
+      <translation>A PNG or JPEG of at most 1 MB; an empty value removes the logo.</translation>
+    </message>
+    <message id="cli.company.option.paymentDays">
+      <source>Days the client has to pay.</source>
+      <translation>Days the client has to pay.</translation>
+    </message>
+    <message id="cli.company.option.template">
+      <source>Your own HTML template; new invoices use it unless --design says otherwise.</source>
+      <translation>Your own HTML template; new invoices use it unless --design says otherwise.</translation>
+    </message>
+    <message id="cli.company.option.vatRate">
+      <source>VAT percentage of lines whose price has none.</source>
+      <translation>VAT percentage of lines whose price has none.</translation>
+    </message>
+    <message id="cli.company.paymentDays">
+      <source>Payment terms</source>
+      <translation>Payment terms</translation>
+    </message>
+    <message id="cli.company.phone">
+      <source>Phone</source>
+      <translation>Phone</translation>
+    </message>
+    <message id="cli.company.saved">
+      <source>Sender details and invoice style saved.</source>
+      <translation>Sender details and invoice style saved.</translation>
+    </message>
+    <message id="cli.company.template">
+      <source>Custom template</source>
+      <translation>Custom template</translation>
+    </message>
+    <message id="cli.company.templateFallsBack">
+      <source>not used, invoices fall back to %1: %2</source>
+      <translation>not used, invoices fall back to %1: %2</translation>
+    </message>
+    <message id="cli.company.templateStatus">
+      <source>Custom template: %1</source>
+      <translation>Custom template: %1</translation>
+    </message>
+    <message id="cli.company.templateUsed">
+      <source>used</source>
+      <translation>used</translation>
+    </message>
+    <message id="cli.company.unknownDesign">
+      <source>Unknown design: %1. The designs are: %2 (aiCustom is your own template).</source>
+      <translation>Unknown design: %1. The designs are: %2 (aiCustom is your own template).</translation>
+    </message>
+    <message id="cli.company.usage">
+      <source>Usage: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</source>
+      <translation>Usage: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</translation>
+    </message>
+    <message id="cli.company.vatNumber">
+      <source>VAT number</source>
+      <translation>VAT number</translation>
+    </message>
+    <message id="cli.company.vatRate">
+      <source>Default VAT rate</source>
+      <translation>Default VAT rate</translation>
+    </message>
+    <message id="cli.company.website">
+      <source>Website</source>
+      <translation>Website</translation>
     </message>
     <message id="cli.config.json">
       <source>Print the setting as JSON.</source>
@@ -607,6 +771,10 @@
       <source>Bill-to name on the new invoice.</source>
       <translation>Bill-to name on the new invoice.</translation>
     </message>
+    <message id="cli.invoice.option.design">
+      <source>The design of the new invoice, instead of the one in your invoice style.</source>
+      <translation>The design of the new invoice, instead of the one in your invoice style.</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>First day of the period (yyyy-MM-dd).</translation>
@@ -664,8 +832,8 @@
       <translation>Total</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
-      <translation>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>
@@ -1698,6 +1866,14 @@
     <message id="store.err.writeFailed">
       <source>The change could not be saved. Check the connection and try again.</source>
       <translation>The change could not be saved. Check the connection and try again.</translation>
+    </message>
+    <message id="store.style.err.notLoaded">
+      <source>Your invoice style could not be loaded.</source>
+      <translation>Your invoice style could not be loaded.</translation>
+    </message>
+    <message id="store.style.err.notSaved">
+      <source>The invoice style was not saved: you may not change this template, or it no longer exists.</source>
+      <translation>The invoice style was not saved: you may not change this template, or it no longer exists.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>

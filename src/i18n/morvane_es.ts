@@ -335,6 +335,10 @@
       <source>The clients you invoice: clients list|add|edit|rm</source>
       <translation>Los clientes a los que facturas: clients list|add|edit|rm</translation>
     </message>
+    <message id="cli.command.company">
+      <source>Your sender details and invoice style: company show|set</source>
+      <translation>Tus datos de remitente y el estilo de tus facturas: company show|set</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostrar qué servidor usa Morvane y de dónde viene cada ajuste</translation>
@@ -390,6 +394,166 @@
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Comandos:</translation>
+    </message>
+    <message id="cli.company.accent">
+      <source>Accent colour</source>
+      <translation>Color de acento</translation>
+    </message>
+    <message id="cli.company.address">
+      <source>Address</source>
+      <translation>Dirección</translation>
+    </message>
+    <message id="cli.company.argument.action">
+      <source>show or set</source>
+      <translation>show o set</translation>
+    </message>
+    <message id="cli.company.bank">
+      <source>Bank</source>
+      <translation>Banco</translation>
+    </message>
+    <message id="cli.company.cocNumber">
+      <source>Chamber of commerce number</source>
+      <translation>Número de registro mercantil</translation>
+    </message>
+    <message id="cli.company.company">
+      <source>Company</source>
+      <translation>Empresa</translation>
+    </message>
+    <message id="cli.company.days">
+      <source>%1 days</source>
+      <translation>%1 días</translation>
+    </message>
+    <message id="cli.company.design">
+      <source>Design</source>
+      <translation>Diseño</translation>
+    </message>
+    <message id="cli.company.email">
+      <source>E-mail</source>
+      <translation>Correo electrónico</translation>
+    </message>
+    <message id="cli.company.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>El plazo de pago es un número entero de días entre 0 y 365.</translation>
+    </message>
+    <message id="cli.company.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>El tipo de IVA es un porcentaje entre 0 y 100.</translation>
+    </message>
+    <message id="cli.company.fileProblem">
+      <source>%1: %2</source>
+      <translation>%1: %2</translation>
+    </message>
+    <message id="cli.company.fontBody">
+      <source>Body font</source>
+      <translation>Fuente del texto</translation>
+    </message>
+    <message id="cli.company.fontDisplay">
+      <source>Display font</source>
+      <translation>Fuente de títulos</translation>
+    </message>
+    <message id="cli.company.footer">
+      <source>Footer</source>
+      <translation>Pie de página</translation>
+    </message>
+    <message id="cli.company.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Cuenta bancaria (IBAN)</translation>
+    </message>
+    <message id="cli.company.ink">
+      <source>Ink colour</source>
+      <translation>Color del texto</translation>
+    </message>
+    <message id="cli.company.logo">
+      <source>Logo</source>
+      <translation>Logotipo</translation>
+    </message>
+    <message id="cli.company.logoSize">
+      <source>%1 × %2 px</source>
+      <translation>%1 × %2 px</translation>
+    </message>
+    <message id="cli.company.logoUnreadable">
+      <source>set, but not readable</source>
+      <translation>definido, pero ilegible</translation>
+    </message>
+    <message id="cli.company.none">
+      <source>No sender details yet. Set them with: morvane company set --company NAME --address TEXT ...</source>
+      <translation>Aún no hay datos de remitente. Defínelos con: morvane company set --company NOMBRE --address TEXTO ...</translation>
+    </message>
+    <message id="cli.company.option.design">
+      <source>The design new invoices are drawn in.</source>
+      <translation>El diseño de las facturas nuevas.</translation>
+    </message>
+    <message id="cli.company.option.field">
+      <source>Sets: %1. An empty value clears it.</source>
+      <translation>Define: %1. Un valor vacío lo borra.</translation>
+    </message>
+    <message id="cli.company.option.help">
+      <source>Show this help.</source>
+      <translation>Mostrar esta ayuda.</translation>
+    </message>
+    <message id="cli.company.option.logo">
+      <source>A PNG or JPEG of at most 1 MB; an empty value removes the logo.</source>
+      <translation>Un PNG o JPEG de 1 MB como máximo; un valor vacío quita el logotipo.</translation>
+    </message>
+    <message id="cli.company.option.paymentDays">
+      <source>Days the client has to pay.</source>
+      <translation>Días que tiene el cliente para pagar.</translation>
+    </message>
+    <message id="cli.company.option.template">
+      <source>Your own HTML template; new invoices use it unless --design says otherwise.</source>
+      <translation>Tu propia plantilla HTML; las facturas nuevas la usan salvo que --design indique otra cosa.</translation>
+    </message>
+    <message id="cli.company.option.vatRate">
+      <source>VAT percentage of lines whose price has none.</source>
+      <translation>Porcentaje de IVA de las líneas que no tienen uno.</translation>
+    </message>
+    <message id="cli.company.paymentDays">
+      <source>Payment terms</source>
+      <translation>Plazo de pago</translation>
+    </message>
+    <message id="cli.company.phone">
+      <source>Phone</source>
+      <translation>Teléfono</translation>
+    </message>
+    <message id="cli.company.saved">
+      <source>Sender details and invoice style saved.</source>
+      <translation>Datos de remitente y estilo de factura guardados.</translation>
+    </message>
+    <message id="cli.company.template">
+      <source>Custom template</source>
+      <translation>Plantilla propia</translation>
+    </message>
+    <message id="cli.company.templateFallsBack">
+      <source>not used, invoices fall back to %1: %2</source>
+      <translation>no se usa, las facturas vuelven a %1: %2</translation>
+    </message>
+    <message id="cli.company.templateStatus">
+      <source>Custom template: %1</source>
+      <translation>Plantilla propia: %1</translation>
+    </message>
+    <message id="cli.company.templateUsed">
+      <source>used</source>
+      <translation>en uso</translation>
+    </message>
+    <message id="cli.company.unknownDesign">
+      <source>Unknown design: %1. The designs are: %2 (aiCustom is your own template).</source>
+      <translation>Diseño desconocido: %1. Los diseños son: %2 (aiCustom es tu propia plantilla).</translation>
+    </message>
+    <message id="cli.company.usage">
+      <source>Usage: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</source>
+      <translation>Uso: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</translation>
+    </message>
+    <message id="cli.company.vatNumber">
+      <source>VAT number</source>
+      <translation>NIF-IVA</translation>
+    </message>
+    <message id="cli.company.vatRate">
+      <source>Default VAT rate</source>
+      <translation>Tipo de IVA predeterminado</translation>
+    </message>
+    <message id="cli.company.website">
+      <source>Website</source>
+      <translation>Sitio web</translation>
     </message>
     <message id="cli.config.json">
       <source>Print the setting as JSON.</source>
@@ -607,6 +771,10 @@
       <source>Bill-to name on the new invoice.</source>
       <translation>Nombre del destinatario en la nueva factura.</translation>
     </message>
+    <message id="cli.invoice.option.design">
+      <source>The design of the new invoice, instead of the one in your invoice style.</source>
+      <translation>El diseño de la factura nueva, en lugar del de tu estilo de factura.</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>Primer día del periodo (aaaa-MM-dd).</translation>
@@ -664,8 +832,8 @@
       <translation>Total</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
-      <translation>Uso: morvane invoice draft|create &lt;proyecto&gt; [--from DÍA] [--to DÍA] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;factura&gt; | status &lt;factura&gt; draft|sent|paid|void | void &lt;factura&gt; | rm &lt;factura&gt; | pdf &lt;factura&gt; --out ARCHIVO | replace-pdf &lt;factura&gt; [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>Uso: morvane invoice draft|create &lt;proyecto&gt; [--from DÍA] [--to DÍA] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;factura&gt; | status &lt;factura&gt; draft|sent|paid|void | void &lt;factura&gt; | rm &lt;factura&gt; | pdf &lt;factura&gt; --out ARCHIVO | replace-pdf &lt;factura&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>
@@ -1698,6 +1866,14 @@
     <message id="store.err.writeFailed">
       <source>The change could not be saved. Check the connection and try again.</source>
       <translation>No se pudo guardar el cambio. Revisa la conexión y vuelve a intentarlo.</translation>
+    </message>
+    <message id="store.style.err.notLoaded">
+      <source>Your invoice style could not be loaded.</source>
+      <translation>No se ha podido cargar el estilo de tus facturas.</translation>
+    </message>
+    <message id="store.style.err.notSaved">
+      <source>The invoice style was not saved: you may not change this template, or it no longer exists.</source>
+      <translation>No se ha guardado el estilo de factura: no puedes cambiar esta plantilla o ya no existe.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>

@@ -335,6 +335,10 @@
       <source>The clients you invoice: clients list|add|edit|rm</source>
       <translation>Les clients que vous facturez : clients list|add|edit|rm</translation>
     </message>
+    <message id="cli.command.company">
+      <source>Your sender details and invoice style: company show|set</source>
+      <translation>Vos coordonnées d’expéditeur et le style de vos factures : company show|set</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Afficher le serveur utilisé par Morvane et l’origine de chaque réglage</translation>
@@ -390,6 +394,166 @@
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Commandes :</translation>
+    </message>
+    <message id="cli.company.accent">
+      <source>Accent colour</source>
+      <translation>Couleur d’accent</translation>
+    </message>
+    <message id="cli.company.address">
+      <source>Address</source>
+      <translation>Adresse</translation>
+    </message>
+    <message id="cli.company.argument.action">
+      <source>show or set</source>
+      <translation>show ou set</translation>
+    </message>
+    <message id="cli.company.bank">
+      <source>Bank</source>
+      <translation>Banque</translation>
+    </message>
+    <message id="cli.company.cocNumber">
+      <source>Chamber of commerce number</source>
+      <translation>Numéro SIREN</translation>
+    </message>
+    <message id="cli.company.company">
+      <source>Company</source>
+      <translation>Entreprise</translation>
+    </message>
+    <message id="cli.company.days">
+      <source>%1 days</source>
+      <translation>%1 jours</translation>
+    </message>
+    <message id="cli.company.design">
+      <source>Design</source>
+      <translation>Modèle</translation>
+    </message>
+    <message id="cli.company.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="cli.company.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>Le délai de paiement est un nombre entier de jours entre 0 et 365.</translation>
+    </message>
+    <message id="cli.company.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>Le taux de TVA est un pourcentage entre 0 et 100.</translation>
+    </message>
+    <message id="cli.company.fileProblem">
+      <source>%1: %2</source>
+      <translation>%1 : %2</translation>
+    </message>
+    <message id="cli.company.fontBody">
+      <source>Body font</source>
+      <translation>Police du texte</translation>
+    </message>
+    <message id="cli.company.fontDisplay">
+      <source>Display font</source>
+      <translation>Police des titres</translation>
+    </message>
+    <message id="cli.company.footer">
+      <source>Footer</source>
+      <translation>Pied de page</translation>
+    </message>
+    <message id="cli.company.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Compte bancaire (IBAN)</translation>
+    </message>
+    <message id="cli.company.ink">
+      <source>Ink colour</source>
+      <translation>Couleur du texte</translation>
+    </message>
+    <message id="cli.company.logo">
+      <source>Logo</source>
+      <translation>Logo</translation>
+    </message>
+    <message id="cli.company.logoSize">
+      <source>%1 × %2 px</source>
+      <translation>%1 × %2 px</translation>
+    </message>
+    <message id="cli.company.logoUnreadable">
+      <source>set, but not readable</source>
+      <translation>défini, mais illisible</translation>
+    </message>
+    <message id="cli.company.none">
+      <source>No sender details yet. Set them with: morvane company set --company NAME --address TEXT ...</source>
+      <translation>Aucune coordonnée d’expéditeur pour l’instant. Définissez-les avec : morvane company set --company NOM --address TEXTE ...</translation>
+    </message>
+    <message id="cli.company.option.design">
+      <source>The design new invoices are drawn in.</source>
+      <translation>Le modèle des nouvelles factures.</translation>
+    </message>
+    <message id="cli.company.option.field">
+      <source>Sets: %1. An empty value clears it.</source>
+      <translation>Définit : %1. Une valeur vide l’efface.</translation>
+    </message>
+    <message id="cli.company.option.help">
+      <source>Show this help.</source>
+      <translation>Afficher cette aide.</translation>
+    </message>
+    <message id="cli.company.option.logo">
+      <source>A PNG or JPEG of at most 1 MB; an empty value removes the logo.</source>
+      <translation>Un PNG ou JPEG de 1 Mo au plus ; une valeur vide retire le logo.</translation>
+    </message>
+    <message id="cli.company.option.paymentDays">
+      <source>Days the client has to pay.</source>
+      <translation>Jours dont le client dispose pour payer.</translation>
+    </message>
+    <message id="cli.company.option.template">
+      <source>Your own HTML template; new invoices use it unless --design says otherwise.</source>
+      <translation>Votre propre modèle HTML ; les nouvelles factures l’utilisent, sauf si --design en décide autrement.</translation>
+    </message>
+    <message id="cli.company.option.vatRate">
+      <source>VAT percentage of lines whose price has none.</source>
+      <translation>Taux de TVA des lignes qui n’en ont pas.</translation>
+    </message>
+    <message id="cli.company.paymentDays">
+      <source>Payment terms</source>
+      <translation>Délai de paiement</translation>
+    </message>
+    <message id="cli.company.phone">
+      <source>Phone</source>
+      <translation>Téléphone</translation>
+    </message>
+    <message id="cli.company.saved">
+      <source>Sender details and invoice style saved.</source>
+      <translation>Coordonnées d’expéditeur et style des factures enregistrés.</translation>
+    </message>
+    <message id="cli.company.template">
+      <source>Custom template</source>
+      <translation>Modèle personnalisé</translation>
+    </message>
+    <message id="cli.company.templateFallsBack">
+      <source>not used, invoices fall back to %1: %2</source>
+      <translation>non utilisé, les factures reprennent %1 : %2</translation>
+    </message>
+    <message id="cli.company.templateStatus">
+      <source>Custom template: %1</source>
+      <translation>Modèle personnalisé : %1</translation>
+    </message>
+    <message id="cli.company.templateUsed">
+      <source>used</source>
+      <translation>utilisé</translation>
+    </message>
+    <message id="cli.company.unknownDesign">
+      <source>Unknown design: %1. The designs are: %2 (aiCustom is your own template).</source>
+      <translation>Modèle inconnu : %1. Les modèles sont : %2 (aiCustom est votre propre modèle).</translation>
+    </message>
+    <message id="cli.company.usage">
+      <source>Usage: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</source>
+      <translation>Usage : morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</translation>
+    </message>
+    <message id="cli.company.vatNumber">
+      <source>VAT number</source>
+      <translation>Numéro de TVA</translation>
+    </message>
+    <message id="cli.company.vatRate">
+      <source>Default VAT rate</source>
+      <translation>Taux de TVA par défaut</translation>
+    </message>
+    <message id="cli.company.website">
+      <source>Website</source>
+      <translation>Site web</translation>
     </message>
     <message id="cli.config.json">
       <source>Print the setting as JSON.</source>
@@ -607,6 +771,10 @@
       <source>Bill-to name on the new invoice.</source>
       <translation>Nom du destinataire sur la nouvelle facture.</translation>
     </message>
+    <message id="cli.invoice.option.design">
+      <source>The design of the new invoice, instead of the one in your invoice style.</source>
+      <translation>Le modèle de la nouvelle facture, à la place de celui de votre style.</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>Premier jour de la période (aaaa-MM-jj).</translation>
@@ -664,8 +832,8 @@
       <translation>Total</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
-      <translation>Usage : morvane invoice draft|create &lt;projet&gt; [--from JOUR] [--to JOUR] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;facture&gt; | status &lt;facture&gt; draft|sent|paid|void | void &lt;facture&gt; | rm &lt;facture&gt; | pdf &lt;facture&gt; --out FICHIER | replace-pdf &lt;facture&gt; [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>Usage : morvane invoice draft|create &lt;projet&gt; [--from JOUR] [--to JOUR] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;facture&gt; | status &lt;facture&gt; draft|sent|paid|void | void &lt;facture&gt; | rm &lt;facture&gt; | pdf &lt;facture&gt; --out FICHIER | replace-pdf &lt;facture&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>
@@ -1698,6 +1866,14 @@
     <message id="store.err.writeFailed">
       <source>The change could not be saved. Check the connection and try again.</source>
       <translation>La modification n’a pas pu être enregistrée. Vérifiez la connexion et réessayez.</translation>
+    </message>
+    <message id="store.style.err.notLoaded">
+      <source>Your invoice style could not be loaded.</source>
+      <translation>Impossible de charger le style de vos factures.</translation>
+    </message>
+    <message id="store.style.err.notSaved">
+      <source>The invoice style was not saved: you may not change this template, or it no longer exists.</source>
+      <translation>Le style de facture n’a pas été enregistré : vous ne pouvez pas modifier ce modèle, ou il n’existe plus.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>

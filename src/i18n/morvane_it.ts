@@ -335,6 +335,10 @@
       <source>The clients you invoice: clients list|add|edit|rm</source>
       <translation>I clienti a cui emetti fattura: clients list|add|edit|rm</translation>
     </message>
+    <message id="cli.command.company">
+      <source>Your sender details and invoice style: company show|set</source>
+      <translation>I tuoi dati di mittente e lo stile delle fatture: company show|set</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>Mostra quale server usa Morvane e da dove proviene ogni impostazione</translation>
@@ -390,6 +394,166 @@
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Comandi:</translation>
+    </message>
+    <message id="cli.company.accent">
+      <source>Accent colour</source>
+      <translation>Colore d’accento</translation>
+    </message>
+    <message id="cli.company.address">
+      <source>Address</source>
+      <translation>Indirizzo</translation>
+    </message>
+    <message id="cli.company.argument.action">
+      <source>show or set</source>
+      <translation>show o set</translation>
+    </message>
+    <message id="cli.company.bank">
+      <source>Bank</source>
+      <translation>Banca</translation>
+    </message>
+    <message id="cli.company.cocNumber">
+      <source>Chamber of commerce number</source>
+      <translation>Numero REA</translation>
+    </message>
+    <message id="cli.company.company">
+      <source>Company</source>
+      <translation>Azienda</translation>
+    </message>
+    <message id="cli.company.days">
+      <source>%1 days</source>
+      <translation>%1 giorni</translation>
+    </message>
+    <message id="cli.company.design">
+      <source>Design</source>
+      <translation>Design</translation>
+    </message>
+    <message id="cli.company.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="cli.company.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>I termini di pagamento sono un numero intero di giorni da 0 a 365.</translation>
+    </message>
+    <message id="cli.company.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>L’aliquota IVA è una percentuale da 0 a 100.</translation>
+    </message>
+    <message id="cli.company.fileProblem">
+      <source>%1: %2</source>
+      <translation>%1: %2</translation>
+    </message>
+    <message id="cli.company.fontBody">
+      <source>Body font</source>
+      <translation>Carattere del testo</translation>
+    </message>
+    <message id="cli.company.fontDisplay">
+      <source>Display font</source>
+      <translation>Carattere dei titoli</translation>
+    </message>
+    <message id="cli.company.footer">
+      <source>Footer</source>
+      <translation>Piè di pagina</translation>
+    </message>
+    <message id="cli.company.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Conto bancario (IBAN)</translation>
+    </message>
+    <message id="cli.company.ink">
+      <source>Ink colour</source>
+      <translation>Colore del testo</translation>
+    </message>
+    <message id="cli.company.logo">
+      <source>Logo</source>
+      <translation>Logo</translation>
+    </message>
+    <message id="cli.company.logoSize">
+      <source>%1 × %2 px</source>
+      <translation>%1 × %2 px</translation>
+    </message>
+    <message id="cli.company.logoUnreadable">
+      <source>set, but not readable</source>
+      <translation>impostato, ma illeggibile</translation>
+    </message>
+    <message id="cli.company.none">
+      <source>No sender details yet. Set them with: morvane company set --company NAME --address TEXT ...</source>
+      <translation>Nessun dato del mittente per ora. Impostali con: morvane company set --company NOME --address TESTO ...</translation>
+    </message>
+    <message id="cli.company.option.design">
+      <source>The design new invoices are drawn in.</source>
+      <translation>Il design delle nuove fatture.</translation>
+    </message>
+    <message id="cli.company.option.field">
+      <source>Sets: %1. An empty value clears it.</source>
+      <translation>Imposta: %1. Un valore vuoto lo cancella.</translation>
+    </message>
+    <message id="cli.company.option.help">
+      <source>Show this help.</source>
+      <translation>Mostra questo aiuto.</translation>
+    </message>
+    <message id="cli.company.option.logo">
+      <source>A PNG or JPEG of at most 1 MB; an empty value removes the logo.</source>
+      <translation>Un PNG o JPEG di al massimo 1 MB; un valore vuoto rimuove il logo.</translation>
+    </message>
+    <message id="cli.company.option.paymentDays">
+      <source>Days the client has to pay.</source>
+      <translation>Giorni che il cliente ha per pagare.</translation>
+    </message>
+    <message id="cli.company.option.template">
+      <source>Your own HTML template; new invoices use it unless --design says otherwise.</source>
+      <translation>Il tuo modello HTML; le nuove fatture lo usano, salvo diversa indicazione di --design.</translation>
+    </message>
+    <message id="cli.company.option.vatRate">
+      <source>VAT percentage of lines whose price has none.</source>
+      <translation>Aliquota IVA delle righe che non ne hanno una.</translation>
+    </message>
+    <message id="cli.company.paymentDays">
+      <source>Payment terms</source>
+      <translation>Termini di pagamento</translation>
+    </message>
+    <message id="cli.company.phone">
+      <source>Phone</source>
+      <translation>Telefono</translation>
+    </message>
+    <message id="cli.company.saved">
+      <source>Sender details and invoice style saved.</source>
+      <translation>Dati del mittente e stile delle fatture salvati.</translation>
+    </message>
+    <message id="cli.company.template">
+      <source>Custom template</source>
+      <translation>Modello personalizzato</translation>
+    </message>
+    <message id="cli.company.templateFallsBack">
+      <source>not used, invoices fall back to %1: %2</source>
+      <translation>non usato, le fatture ripiegano su %1: %2</translation>
+    </message>
+    <message id="cli.company.templateStatus">
+      <source>Custom template: %1</source>
+      <translation>Modello personalizzato: %1</translation>
+    </message>
+    <message id="cli.company.templateUsed">
+      <source>used</source>
+      <translation>in uso</translation>
+    </message>
+    <message id="cli.company.unknownDesign">
+      <source>Unknown design: %1. The designs are: %2 (aiCustom is your own template).</source>
+      <translation>Design sconosciuto: %1. I design sono: %2 (aiCustom è il tuo modello).</translation>
+    </message>
+    <message id="cli.company.usage">
+      <source>Usage: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</source>
+      <translation>Uso: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</translation>
+    </message>
+    <message id="cli.company.vatNumber">
+      <source>VAT number</source>
+      <translation>Partita IVA</translation>
+    </message>
+    <message id="cli.company.vatRate">
+      <source>Default VAT rate</source>
+      <translation>Aliquota IVA predefinita</translation>
+    </message>
+    <message id="cli.company.website">
+      <source>Website</source>
+      <translation>Sito web</translation>
     </message>
     <message id="cli.config.json">
       <source>Print the setting as JSON.</source>
@@ -607,6 +771,10 @@
       <source>Bill-to name on the new invoice.</source>
       <translation>Nome del destinatario sulla nuova fattura.</translation>
     </message>
+    <message id="cli.invoice.option.design">
+      <source>The design of the new invoice, instead of the one in your invoice style.</source>
+      <translation>Il design della nuova fattura, al posto di quello del tuo stile.</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>Primo giorno del periodo (aaaa-MM-gg).</translation>
@@ -664,8 +832,8 @@
       <translation>Totale</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
-      <translation>Uso: morvane invoice draft|create &lt;progetto&gt; [--from GIORNO] [--to GIORNO] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;fattura&gt; | status &lt;fattura&gt; draft|sent|paid|void | void &lt;fattura&gt; | rm &lt;fattura&gt; | pdf &lt;fattura&gt; --out FILE | replace-pdf &lt;fattura&gt; [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>Uso: morvane invoice draft|create &lt;progetto&gt; [--from GIORNO] [--to GIORNO] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;fattura&gt; | status &lt;fattura&gt; draft|sent|paid|void | void &lt;fattura&gt; | rm &lt;fattura&gt; | pdf &lt;fattura&gt; --out FILE | replace-pdf &lt;fattura&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>
@@ -1698,6 +1866,14 @@
     <message id="store.err.writeFailed">
       <source>The change could not be saved. Check the connection and try again.</source>
       <translation>Non è stato possibile salvare la modifica. Controlla la connessione e riprova.</translation>
+    </message>
+    <message id="store.style.err.notLoaded">
+      <source>Your invoice style could not be loaded.</source>
+      <translation>Impossibile caricare lo stile delle tue fatture.</translation>
+    </message>
+    <message id="store.style.err.notSaved">
+      <source>The invoice style was not saved: you may not change this template, or it no longer exists.</source>
+      <translation>Lo stile della fattura non è stato salvato: non puoi modificare questo modello, oppure non esiste più.</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>

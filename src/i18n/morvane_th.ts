@@ -335,6 +335,10 @@
       <source>The clients you invoice: clients list|add|edit|rm</source>
       <translation>ลูกค้าที่คุณออกใบแจ้งหนี้ให้: clients list|add|edit|rm</translation>
     </message>
+    <message id="cli.command.company">
+      <source>Your sender details and invoice style: company show|set</source>
+      <translation>ข้อมูลผู้ส่งและรูปแบบใบแจ้งหนี้: company show|set</translation>
+    </message>
     <message id="cli.command.config">
       <source>Show which backend Morvane uses and where each setting comes from</source>
       <translation>แสดงแบ็กเอนด์ที่ Morvane ใช้และที่มาของการตั้งค่าแต่ละรายการ</translation>
@@ -390,6 +394,166 @@
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>คำสั่ง:</translation>
+    </message>
+    <message id="cli.company.accent">
+      <source>Accent colour</source>
+      <translation>สีเน้น</translation>
+    </message>
+    <message id="cli.company.address">
+      <source>Address</source>
+      <translation>ที่อยู่</translation>
+    </message>
+    <message id="cli.company.argument.action">
+      <source>show or set</source>
+      <translation>show หรือ set</translation>
+    </message>
+    <message id="cli.company.bank">
+      <source>Bank</source>
+      <translation>ธนาคาร</translation>
+    </message>
+    <message id="cli.company.cocNumber">
+      <source>Chamber of commerce number</source>
+      <translation>เลขทะเบียนพาณิชย์</translation>
+    </message>
+    <message id="cli.company.company">
+      <source>Company</source>
+      <translation>บริษัท</translation>
+    </message>
+    <message id="cli.company.days">
+      <source>%1 days</source>
+      <translation>%1 วัน</translation>
+    </message>
+    <message id="cli.company.design">
+      <source>Design</source>
+      <translation>ดีไซน์</translation>
+    </message>
+    <message id="cli.company.email">
+      <source>E-mail</source>
+      <translation>อีเมล</translation>
+    </message>
+    <message id="cli.company.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>ระยะเวลาชำระเงินต้องเป็นจำนวนวันเต็มตั้งแต่ 0 ถึง 365</translation>
+    </message>
+    <message id="cli.company.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>อัตราภาษีต้องเป็นเปอร์เซ็นต์ตั้งแต่ 0 ถึง 100</translation>
+    </message>
+    <message id="cli.company.fileProblem">
+      <source>%1: %2</source>
+      <translation>%1: %2</translation>
+    </message>
+    <message id="cli.company.fontBody">
+      <source>Body font</source>
+      <translation>ฟอนต์เนื้อหา</translation>
+    </message>
+    <message id="cli.company.fontDisplay">
+      <source>Display font</source>
+      <translation>ฟอนต์หัวเรื่อง</translation>
+    </message>
+    <message id="cli.company.footer">
+      <source>Footer</source>
+      <translation>ส่วนท้าย</translation>
+    </message>
+    <message id="cli.company.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>บัญชีธนาคาร (IBAN)</translation>
+    </message>
+    <message id="cli.company.ink">
+      <source>Ink colour</source>
+      <translation>สีตัวอักษร</translation>
+    </message>
+    <message id="cli.company.logo">
+      <source>Logo</source>
+      <translation>โลโก้</translation>
+    </message>
+    <message id="cli.company.logoSize">
+      <source>%1 × %2 px</source>
+      <translation>%1 × %2 px</translation>
+    </message>
+    <message id="cli.company.logoUnreadable">
+      <source>set, but not readable</source>
+      <translation>ตั้งค่าไว้แต่อ่านไม่ได้</translation>
+    </message>
+    <message id="cli.company.none">
+      <source>No sender details yet. Set them with: morvane company set --company NAME --address TEXT ...</source>
+      <translation>ยังไม่มีข้อมูลผู้ส่ง ตั้งค่าได้ด้วย: morvane company set --company ชื่อ --address ที่อยู่ ...</translation>
+    </message>
+    <message id="cli.company.option.design">
+      <source>The design new invoices are drawn in.</source>
+      <translation>ดีไซน์ของใบแจ้งหนี้ใหม่</translation>
+    </message>
+    <message id="cli.company.option.field">
+      <source>Sets: %1. An empty value clears it.</source>
+      <translation>ตั้งค่า: %1 ค่าว่างจะล้างค่านั้น</translation>
+    </message>
+    <message id="cli.company.option.help">
+      <source>Show this help.</source>
+      <translation>แสดงความช่วยเหลือนี้</translation>
+    </message>
+    <message id="cli.company.option.logo">
+      <source>A PNG or JPEG of at most 1 MB; an empty value removes the logo.</source>
+      <translation>ไฟล์ PNG หรือ JPEG ขนาดไม่เกิน 1 MB ค่าว่างจะลบโลโก้</translation>
+    </message>
+    <message id="cli.company.option.paymentDays">
+      <source>Days the client has to pay.</source>
+      <translation>จำนวนวันที่ลูกค้ามีเพื่อชำระเงิน</translation>
+    </message>
+    <message id="cli.company.option.template">
+      <source>Your own HTML template; new invoices use it unless --design says otherwise.</source>
+      <translation>เทมเพลต HTML ของคุณเอง ใบแจ้งหนี้ใหม่จะใช้เทมเพลตนี้ เว้นแต่ --design จะระบุเป็นอย่างอื่น</translation>
+    </message>
+    <message id="cli.company.option.vatRate">
+      <source>VAT percentage of lines whose price has none.</source>
+      <translation>อัตราภาษีของรายการที่ไม่มีอัตราของตัวเอง</translation>
+    </message>
+    <message id="cli.company.paymentDays">
+      <source>Payment terms</source>
+      <translation>ระยะเวลาชำระเงิน</translation>
+    </message>
+    <message id="cli.company.phone">
+      <source>Phone</source>
+      <translation>โทรศัพท์</translation>
+    </message>
+    <message id="cli.company.saved">
+      <source>Sender details and invoice style saved.</source>
+      <translation>บันทึกข้อมูลผู้ส่งและรูปแบบใบแจ้งหนี้แล้ว</translation>
+    </message>
+    <message id="cli.company.template">
+      <source>Custom template</source>
+      <translation>เทมเพลตของคุณเอง</translation>
+    </message>
+    <message id="cli.company.templateFallsBack">
+      <source>not used, invoices fall back to %1: %2</source>
+      <translation>ไม่ได้ใช้ ใบแจ้งหนี้จะใช้ %1 แทน: %2</translation>
+    </message>
+    <message id="cli.company.templateStatus">
+      <source>Custom template: %1</source>
+      <translation>เทมเพลตของคุณเอง: %1</translation>
+    </message>
+    <message id="cli.company.templateUsed">
+      <source>used</source>
+      <translation>ใช้งานอยู่</translation>
+    </message>
+    <message id="cli.company.unknownDesign">
+      <source>Unknown design: %1. The designs are: %2 (aiCustom is your own template).</source>
+      <translation>ไม่รู้จักดีไซน์: %1 ดีไซน์ที่มีคือ: %2 (aiCustom คือเทมเพลตของคุณเอง)</translation>
+    </message>
+    <message id="cli.company.usage">
+      <source>Usage: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</source>
+      <translation>วิธีใช้: morvane company show [--json] | set [--company C] [--address A] [--email E] [--website W] [--phone P] [--vat-number V] [--coc-number C] [--iban I] [--bank B] [--payment-days N] [--vat-rate P] [--footer F] [--accent #hex] [--ink #hex] [--font-display F] [--font-body F] [--design NAME] [--logo FILE] [--template FILE.html]</translation>
+    </message>
+    <message id="cli.company.vatNumber">
+      <source>VAT number</source>
+      <translation>เลขประจำตัวผู้เสียภาษี</translation>
+    </message>
+    <message id="cli.company.vatRate">
+      <source>Default VAT rate</source>
+      <translation>อัตราภาษีเริ่มต้น</translation>
+    </message>
+    <message id="cli.company.website">
+      <source>Website</source>
+      <translation>เว็บไซต์</translation>
     </message>
     <message id="cli.config.json">
       <source>Print the setting as JSON.</source>
@@ -607,6 +771,10 @@
       <source>Bill-to name on the new invoice.</source>
       <translation>ชื่อผู้รับใบแจ้งหนี้ในใบแจ้งหนี้ใหม่</translation>
     </message>
+    <message id="cli.invoice.option.design">
+      <source>The design of the new invoice, instead of the one in your invoice style.</source>
+      <translation>ดีไซน์ของใบแจ้งหนี้ใหม่ แทนดีไซน์ในรูปแบบใบแจ้งหนี้ของคุณ</translation>
+    </message>
     <message id="cli.invoice.option.from">
       <source>First day of the period (yyyy-MM-dd).</source>
       <translation>วันแรกของช่วง (yyyy-MM-dd)</translation>
@@ -664,8 +832,8 @@
       <translation>ยอดรวม</translation>
     </message>
     <message id="cli.invoice.usage">
-      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
-      <translation>วิธีใช้: morvane invoice draft|create &lt;โปรเจกต์&gt; [--from วัน] [--to วัน] [--vat P] [--status draft|sent] [--client NAME] | list | show &lt;ใบแจ้งหนี้&gt; | status &lt;ใบแจ้งหนี้&gt; draft|sent|paid|void | void &lt;ใบแจ้งหนี้&gt; | rm &lt;ใบแจ้งหนี้&gt; | pdf &lt;ใบแจ้งหนี้&gt; --out ไฟล์ | replace-pdf &lt;ใบแจ้งหนี้&gt; [--json]</translation>
+      <source>Usage: morvane invoice draft|create &lt;project&gt; [--from DAY] [--to DAY] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;invoice&gt; | status &lt;invoice&gt; draft|sent|paid|void | void &lt;invoice&gt; | rm &lt;invoice&gt; | pdf &lt;invoice&gt; --out FILE | replace-pdf &lt;invoice&gt; [--json]</source>
+      <translation>วิธีใช้: morvane invoice draft|create &lt;โปรเจกต์&gt; [--from วัน] [--to วัน] [--vat P] [--status draft|sent] [--client NAME] [--design NAME] | list | show &lt;ใบแจ้งหนี้&gt; | status &lt;ใบแจ้งหนี้&gt; draft|sent|paid|void | void &lt;ใบแจ้งหนี้&gt; | rm &lt;ใบแจ้งหนี้&gt; | pdf &lt;ใบแจ้งหนี้&gt; --out ไฟล์ | replace-pdf &lt;ใบแจ้งหนี้&gt; [--json]</translation>
     </message>
     <message id="cli.invoice.vat">
       <source>VAT</source>
@@ -1698,6 +1866,14 @@
     <message id="store.err.writeFailed">
       <source>The change could not be saved. Check the connection and try again.</source>
       <translation>บันทึกการเปลี่ยนแปลงไม่ได้ โปรดตรวจสอบการเชื่อมต่อแล้วลองอีกครั้ง</translation>
+    </message>
+    <message id="store.style.err.notLoaded">
+      <source>Your invoice style could not be loaded.</source>
+      <translation>โหลดรูปแบบใบแจ้งหนี้ของคุณไม่ได้</translation>
+    </message>
+    <message id="store.style.err.notSaved">
+      <source>The invoice style was not saved: you may not change this template, or it no longer exists.</source>
+      <translation>ไม่ได้บันทึกรูปแบบใบแจ้งหนี้ คุณอาจไม่มีสิทธิ์แก้ไขเทมเพลตนี้ หรือเทมเพลตนี้ไม่มีอยู่แล้ว</translation>
     </message>
     <message id="supabase.err.decoding">
       <source>Decode: %1</source>

@@ -376,6 +376,7 @@ void AppStore::clearCollections()
     setTeams({}, {});
     setInvitations({});
     setClients({});
+    setInvoiceTemplates({});
     clearInvoices();
     setProfile(std::nullopt);
     setSelectedProjectId({});
@@ -486,6 +487,7 @@ QCoro::Task<bool> AppStore::refreshAll()
     // The timer display follows runningTaskChanged, which groupTasks raised if the running task
     // changed; invoices join the refresh here once invoicing is built.
     co_await loadClients();
+    co_await loadInvoiceTemplates();
     if (!isCurrent(*session)) {
         co_return false;
     }

@@ -6,6 +6,7 @@
 #include "model/client.h"
 #include "model/clock.h"
 #include "model/invoice.h"
+#include "model/invoicestyle.h"
 #include "model/profile.h"
 #include "model/project.h"
 #include "model/taskitem.h"
@@ -320,6 +321,15 @@ public:
     // their link and show it, while `clients` (what the lists and the composer offer) drops it.
     QCoro::Task<bool> deleteClient(QString clientId);
 
+    // Invoice templates: named styles, the user's own and their teams'. The house style every new
+    // invoice is drawn in is the user's default template.
+    [[nodiscard]] const QList<InvoiceTemplate> &invoiceTemplates() const { return m_invoiceTemplates; }
+    // The user's own template marked default, else their newest; none before a style was saved.
+    [[nodiscard]] std::optional<InvoiceTemplate> defaultInvoiceTemplate() const;
+    QCoro::Task<bool> loadInvoiceTemplates();
+    // Puts `style` into the default template, or makes one named "Default" when there is none.
+    QCoro::Task<bool> saveHouseStyle(InvoiceStyle style);
+
     // Invoices. Each operation answers whether it succeeded and sets `lastError` otherwise.
     [[nodiscard]] const QList<Invoice> &invoices() const { return m_invoices; }
     [[nodiscard]] std::optional<Invoice> invoice(const QString &invoiceId) const;
@@ -373,6 +383,7 @@ signals:
     void teamsChanged();
     void invitationsChanged();
     void clientsChanged();
+    void invoiceTemplatesChanged();
     void profileChanged();
     void currentUserIdChanged();
     void selectedProjectIdChanged();
@@ -451,6 +462,7 @@ private:
     // Changes a member's role, or removes the member without one.
     QCoro::Task<bool> writeMember(QString teamId, QString userId, std::optional<TeamRole> role);
     void setClients(QList<Client> all);
+    void setInvoiceTemplates(QList<InvoiceTemplate> templates);
     void mergeClient(const Client &client);
     QCoro::Task<bool> patchClient(QString clientId, AnyEncodable body, const char *logPrefix);
     void setSelectedTaskIds(QSet<QString> ids);
@@ -480,6 +492,7 @@ private:
     QList<TimeEntry> m_recentEntries;
     QList<Client> m_clients;
     QList<Client> m_allClients;
+    QList<InvoiceTemplate> m_invoiceTemplates;
     std::optional<Profile> m_profile;
 
     QString m_currentUserId;

@@ -13,12 +13,21 @@ std::optional<QString> nonEmpty(const QString &text)
     return trimmed.isEmpty() ? std::nullopt : std::optional<QString>(trimmed);
 }
 
-// The sender's details and look. The profile's name stands for the sender until a house style names
-// the company.
+// The sender's details and look from the house style. The profile's name stands for the sender
+// until the style names the company.
 void applyHouseStyle(const AppStore &store, InvoiceDocument &document)
 {
     if (const std::optional<Profile> &profile = store.profile(); profile && profile->displayName) {
         document.metadata->senderName = profile->displayName;
+    }
+    const std::optional<InvoiceTemplate> house = store.defaultInvoiceTemplate();
+    if (!house) {
+        return;
+    }
+    document.style = house->style;
+    document.design = house->style.htmlTemplate;
+    if (const std::optional<QString> company = nonEmpty(house->style.company.value_or(QString()))) {
+        document.metadata->senderName = company;
     }
 }
 
