@@ -2191,6 +2191,186 @@
       <source>Saving</source>
       <translation>Wird gespeichert</translation>
     </message>
+    <message id="ui.composer.billTo">
+      <source>Bill to</source>
+      <translation>Rechnung an</translation>
+    </message>
+    <message id="ui.composer.cancel">
+      <source>Cancel</source>
+      <translation>Abbrechen</translation>
+    </message>
+    <message id="ui.composer.clientAddress">
+      <source>Client address</source>
+      <translation>Anschrift des Kunden</translation>
+    </message>
+    <message id="ui.composer.clientEmail">
+      <source>Client e-mail</source>
+      <translation>E-Mail des Kunden</translation>
+    </message>
+    <message id="ui.composer.clientName">
+      <source>Client name</source>
+      <translation>Name des Kunden</translation>
+    </message>
+    <message id="ui.composer.design">
+      <source>Design</source>
+      <translation>Gestaltung</translation>
+    </message>
+    <message id="ui.composer.drawing">
+      <source>Drawing the invoice</source>
+      <translation>Rechnung wird erstellt</translation>
+    </message>
+    <message id="ui.composer.due">
+      <source>Due</source>
+      <translation>Fällig am</translation>
+    </message>
+    <message id="ui.composer.err.day">
+      <source>Write days as year-month-day, for example 2026-11-01.</source>
+      <translation>Schreibe Tage als Jahr-Monat-Tag, zum Beispiel 2026-11-01.</translation>
+    </message>
+    <message id="ui.composer.err.due">
+      <source>Payment cannot be due before the invoice is issued.</source>
+      <translation>Die Zahlung kann nicht vor dem Rechnungsdatum fällig sein.</translation>
+    </message>
+    <message id="ui.composer.err.empty">
+      <source>Choose work with unbilled time first.</source>
+      <translation>Wähle zuerst Arbeit mit unberechneter Zeit.</translation>
+    </message>
+    <message id="ui.composer.err.noNumber">
+      <source>The invoice has no number yet. Check the connection and open the composer again.</source>
+      <translation>Die Rechnung hat noch keine Nummer. Prüfe die Verbindung und öffne die Rechnungserstellung erneut.</translation>
+    </message>
+    <message id="ui.composer.err.period">
+      <source>The period ends before it starts.</source>
+      <translation>Der Zeitraum endet, bevor er beginnt.</translation>
+    </message>
+    <message id="ui.composer.err.preview">
+      <source>The preview could not be drawn: %1</source>
+      <translation>Die Vorschau konnte nicht erstellt werden: %1</translation>
+    </message>
+    <message id="ui.composer.from">
+      <source>From (year-month-day)</source>
+      <translation>Von (Jahr-Monat-Tag)</translation>
+    </message>
+    <message id="ui.composer.hours">
+      <source>%1 h</source>
+      <translation>%1 Std.</translation>
+    </message>
+    <message id="ui.composer.houseDesign">
+      <source>As in the invoice style</source>
+      <translation>Wie im Rechnungsstil</translation>
+    </message>
+    <message id="ui.composer.invoice">
+      <source>Invoice</source>
+      <translation>Rechnung</translation>
+    </message>
+    <message id="ui.composer.issued">
+      <source>Issued</source>
+      <translation>Rechnungsdatum</translation>
+    </message>
+    <message id="ui.composer.lines">
+      <source>Lines</source>
+      <translation>Posten</translation>
+    </message>
+    <message id="ui.composer.noWork">
+      <source>No unbilled time in this period. Choose another period or project.</source>
+      <translation>Keine unberechnete Zeit in diesem Zeitraum. Wähle einen anderen Zeitraum oder ein anderes Projekt.</translation>
+    </message>
+    <message id="ui.composer.notes">
+      <source>Notes on the invoice</source>
+      <translation>Hinweise auf der Rechnung</translation>
+    </message>
+    <message id="ui.composer.number">
+      <source>No. %1</source>
+      <translation>Nr. %1</translation>
+    </message>
+    <message id="ui.composer.numberPending">
+      <source>Number follows</source>
+      <translation>Nummer folgt</translation>
+    </message>
+    <message id="ui.composer.period">
+      <source>Period</source>
+      <translation>Zeitraum</translation>
+    </message>
+    <message id="ui.composer.previewEmpty">
+      <source>The invoice appears here</source>
+      <translation>Hier erscheint die Rechnung</translation>
+    </message>
+    <message id="ui.composer.previewHint">
+      <source>Choose a project with unbilled time and a period; the page follows every change.</source>
+      <translation>Wähle ein Projekt mit unberechneter Zeit und einen Zeitraum; die Seite folgt jeder Änderung.</translation>
+    </message>
+    <message id="ui.composer.projects">
+      <source>Projects</source>
+      <translation>Projekte</translation>
+    </message>
+    <message id="ui.composer.saveAsClient">
+      <source>Save as client</source>
+      <translation>Als Kunden speichern</translation>
+    </message>
+    <message id="ui.composer.saveDraft">
+      <source>Save as draft</source>
+      <translation>Als Entwurf speichern</translation>
+    </message>
+    <message id="ui.composer.saveSent">
+      <source>Save as sent</source>
+      <translation>Als versendet speichern</translation>
+    </message>
+    <message id="ui.composer.savedClients">
+      <source>Saved clients</source>
+      <translation>Gespeicherte Kunden</translation>
+    </message>
+    <message id="ui.composer.title">
+      <source>New invoice</source>
+      <translation>Neue Rechnung</translation>
+    </message>
+    <message id="ui.composer.to">
+      <source>To (year-month-day)</source>
+      <translation>Bis (Jahr-Monat-Tag)</translation>
+    </message>
+    <message id="ui.composer.vatPercent">
+      <source>VAT %</source>
+      <translation>USt. %</translation>
+    </message>
+    <message id="ui.composer.work">
+      <source>Work</source>
+      <translation>Arbeit</translation>
+    </message>
+    <message id="ui.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Kräftig dunkel</translation>
+    </message>
+    <message id="ui.design.custom">
+      <source>Your own template</source>
+      <translation>Eigene Vorlage</translation>
+    </message>
+    <message id="ui.design.editorial">
+      <source>Editorial</source>
+      <translation>Editorial</translation>
+    </message>
+    <message id="ui.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Editorial Mono</translation>
+    </message>
+    <message id="ui.design.lightMinimalAccent">
+      <source>Light, minimal accent</source>
+      <translation>Hell, dezenter Akzent</translation>
+    </message>
+    <message id="ui.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimalistisch Mono</translation>
+    </message>
+    <message id="ui.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Modernes Band</translation>
+    </message>
+    <message id="ui.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Modern Pastell</translation>
+    </message>
+    <message id="ui.design.signatureEditorial">
+      <source>Signature editorial</source>
+      <translation>Editorial mit Signatur</translation>
+    </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>
       <translation>%1: verdient %2, abgerechnet %3, offen %4</translation>
@@ -2587,6 +2767,30 @@
       <source>PDF files (*.pdf)</source>
       <translation>PDF-Dateien (*.pdf)</translation>
     </message>
+    <message id="ui.invoices.redraw">
+      <source>Draw again…</source>
+      <translation>Neu erstellen…</translation>
+    </message>
+    <message id="ui.invoices.redrawBody">
+      <source>This replaces the stored PDF of this invoice with a new one, built from the invoice lines and the current details of its template. Continue?</source>
+      <translation>Das gespeicherte PDF dieser Rechnung wird durch ein neues ersetzt, erstellt aus den Rechnungsposten und den aktuellen Angaben der Vorlage. Fortfahren?</translation>
+    </message>
+    <message id="ui.invoices.redrawConfirm">
+      <source>Replace PDF</source>
+      <translation>PDF ersetzen</translation>
+    </message>
+    <message id="ui.invoices.redrawFailed">
+      <source>The invoice could not be drawn: %1</source>
+      <translation>Die Rechnung konnte nicht erstellt werden: %1</translation>
+    </message>
+    <message id="ui.invoices.redrawTitle">
+      <source>Draw invoice %1 again?</source>
+      <translation>Rechnung %1 neu erstellen?</translation>
+    </message>
+    <message id="ui.invoices.redrawn">
+      <source>Invoice %1 was drawn again with your current details.</source>
+      <translation>Rechnung %1 wurde mit deinen aktuellen Angaben neu erstellt.</translation>
+    </message>
     <message id="ui.invoices.savePdf">
       <source>Save PDF…</source>
       <translation>PDF speichern…</translation>
@@ -2758,6 +2962,10 @@
     <message id="ui.projects.describe">
       <source>Add a description</source>
       <translation>Beschreibung hinzufügen</translation>
+    </message>
+    <message id="ui.projects.invoice">
+      <source>Create invoice…</source>
+      <translation>Rechnung erstellen…</translation>
     </message>
     <message id="ui.projects.markActive">
       <source>Mark as active</source>

@@ -2191,6 +2191,186 @@
       <source>Saving</source>
       <translation>Saving</translation>
     </message>
+    <message id="ui.composer.billTo">
+      <source>Bill to</source>
+      <translation>Bill to</translation>
+    </message>
+    <message id="ui.composer.cancel">
+      <source>Cancel</source>
+      <translation>Cancel</translation>
+    </message>
+    <message id="ui.composer.clientAddress">
+      <source>Client address</source>
+      <translation>Client address</translation>
+    </message>
+    <message id="ui.composer.clientEmail">
+      <source>Client e-mail</source>
+      <translation>Client e-mail</translation>
+    </message>
+    <message id="ui.composer.clientName">
+      <source>Client name</source>
+      <translation>Client name</translation>
+    </message>
+    <message id="ui.composer.design">
+      <source>Design</source>
+      <translation>Design</translation>
+    </message>
+    <message id="ui.composer.drawing">
+      <source>Drawing the invoice</source>
+      <translation>Drawing the invoice</translation>
+    </message>
+    <message id="ui.composer.due">
+      <source>Due</source>
+      <translation>Due</translation>
+    </message>
+    <message id="ui.composer.err.day">
+      <source>Write days as year-month-day, for example 2026-11-01.</source>
+      <translation>Write days as year-month-day, for example 2026-11-01.</translation>
+    </message>
+    <message id="ui.composer.err.due">
+      <source>Payment cannot be due before the invoice is issued.</source>
+      <translation>Payment cannot be due before the invoice is issued.</translation>
+    </message>
+    <message id="ui.composer.err.empty">
+      <source>Choose work with unbilled time first.</source>
+      <translation>Choose work with unbilled time first.</translation>
+    </message>
+    <message id="ui.composer.err.noNumber">
+      <source>The invoice has no number yet. Check the connection and open the composer again.</source>
+      <translation>The invoice has no number yet. Check the connection and open the composer again.</translation>
+    </message>
+    <message id="ui.composer.err.period">
+      <source>The period ends before it starts.</source>
+      <translation>The period ends before it starts.</translation>
+    </message>
+    <message id="ui.composer.err.preview">
+      <source>The preview could not be drawn: %1</source>
+      <translation>The preview could not be drawn: %1</translation>
+    </message>
+    <message id="ui.composer.from">
+      <source>From (year-month-day)</source>
+      <translation>From (year-month-day)</translation>
+    </message>
+    <message id="ui.composer.hours">
+      <source>%1 h</source>
+      <translation>%1 h</translation>
+    </message>
+    <message id="ui.composer.houseDesign">
+      <source>As in the invoice style</source>
+      <translation>As in the invoice style</translation>
+    </message>
+    <message id="ui.composer.invoice">
+      <source>Invoice</source>
+      <translation>Invoice</translation>
+    </message>
+    <message id="ui.composer.issued">
+      <source>Issued</source>
+      <translation>Issued</translation>
+    </message>
+    <message id="ui.composer.lines">
+      <source>Lines</source>
+      <translation>Lines</translation>
+    </message>
+    <message id="ui.composer.noWork">
+      <source>No unbilled time in this period. Choose another period or project.</source>
+      <translation>No unbilled time in this period. Choose another period or project.</translation>
+    </message>
+    <message id="ui.composer.notes">
+      <source>Notes on the invoice</source>
+      <translation>Notes on the invoice</translation>
+    </message>
+    <message id="ui.composer.number">
+      <source>No. %1</source>
+      <translation>No. %1</translation>
+    </message>
+    <message id="ui.composer.numberPending">
+      <source>Number follows</source>
+      <translation>Number follows</translation>
+    </message>
+    <message id="ui.composer.period">
+      <source>Period</source>
+      <translation>Period</translation>
+    </message>
+    <message id="ui.composer.previewEmpty">
+      <source>The invoice appears here</source>
+      <translation>The invoice appears here</translation>
+    </message>
+    <message id="ui.composer.previewHint">
+      <source>Choose a project with unbilled time and a period; the page follows every change.</source>
+      <translation>Choose a project with unbilled time and a period; the page follows every change.</translation>
+    </message>
+    <message id="ui.composer.projects">
+      <source>Projects</source>
+      <translation>Projects</translation>
+    </message>
+    <message id="ui.composer.saveAsClient">
+      <source>Save as client</source>
+      <translation>Save as client</translation>
+    </message>
+    <message id="ui.composer.saveDraft">
+      <source>Save as draft</source>
+      <translation>Save as draft</translation>
+    </message>
+    <message id="ui.composer.saveSent">
+      <source>Save as sent</source>
+      <translation>Save as sent</translation>
+    </message>
+    <message id="ui.composer.savedClients">
+      <source>Saved clients</source>
+      <translation>Saved clients</translation>
+    </message>
+    <message id="ui.composer.title">
+      <source>New invoice</source>
+      <translation>New invoice</translation>
+    </message>
+    <message id="ui.composer.to">
+      <source>To (year-month-day)</source>
+      <translation>To (year-month-day)</translation>
+    </message>
+    <message id="ui.composer.vatPercent">
+      <source>VAT %</source>
+      <translation>VAT %</translation>
+    </message>
+    <message id="ui.composer.work">
+      <source>Work</source>
+      <translation>Work</translation>
+    </message>
+    <message id="ui.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Bold dark</translation>
+    </message>
+    <message id="ui.design.custom">
+      <source>Your own template</source>
+      <translation>Your own template</translation>
+    </message>
+    <message id="ui.design.editorial">
+      <source>Editorial</source>
+      <translation>Editorial</translation>
+    </message>
+    <message id="ui.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Editorial mono</translation>
+    </message>
+    <message id="ui.design.lightMinimalAccent">
+      <source>Light, minimal accent</source>
+      <translation>Light, minimal accent</translation>
+    </message>
+    <message id="ui.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimalist mono</translation>
+    </message>
+    <message id="ui.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Modern ribbon</translation>
+    </message>
+    <message id="ui.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Pastel modern</translation>
+    </message>
+    <message id="ui.design.signatureEditorial">
+      <source>Signature editorial</source>
+      <translation>Signature editorial</translation>
+    </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>
       <translation>%1: earned %2, billed %3, unbilled %4</translation>
@@ -2587,6 +2767,30 @@
       <source>PDF files (*.pdf)</source>
       <translation>PDF files (*.pdf)</translation>
     </message>
+    <message id="ui.invoices.redraw">
+      <source>Draw again…</source>
+      <translation>Draw again…</translation>
+    </message>
+    <message id="ui.invoices.redrawBody">
+      <source>This replaces the stored PDF of this invoice with a new one, built from the invoice lines and the current details of its template. Continue?</source>
+      <translation>This replaces the stored PDF of this invoice with a new one, built from the invoice lines and the current details of its template. Continue?</translation>
+    </message>
+    <message id="ui.invoices.redrawConfirm">
+      <source>Replace PDF</source>
+      <translation>Replace PDF</translation>
+    </message>
+    <message id="ui.invoices.redrawFailed">
+      <source>The invoice could not be drawn: %1</source>
+      <translation>The invoice could not be drawn: %1</translation>
+    </message>
+    <message id="ui.invoices.redrawTitle">
+      <source>Draw invoice %1 again?</source>
+      <translation>Draw invoice %1 again?</translation>
+    </message>
+    <message id="ui.invoices.redrawn">
+      <source>Invoice %1 was drawn again with your current details.</source>
+      <translation>Invoice %1 was drawn again with your current details.</translation>
+    </message>
     <message id="ui.invoices.savePdf">
       <source>Save PDF…</source>
       <translation>Save PDF…</translation>
@@ -2758,6 +2962,10 @@
     <message id="ui.projects.describe">
       <source>Add a description</source>
       <translation>Add a description</translation>
+    </message>
+    <message id="ui.projects.invoice">
+      <source>Create invoice…</source>
+      <translation>Create invoice…</translation>
     </message>
     <message id="ui.projects.markActive">
       <source>Mark as active</source>

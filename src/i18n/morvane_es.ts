@@ -2191,6 +2191,186 @@
       <source>Saving</source>
       <translation>Guardando</translation>
     </message>
+    <message id="ui.composer.billTo">
+      <source>Bill to</source>
+      <translation>Facturar a</translation>
+    </message>
+    <message id="ui.composer.cancel">
+      <source>Cancel</source>
+      <translation>Cancelar</translation>
+    </message>
+    <message id="ui.composer.clientAddress">
+      <source>Client address</source>
+      <translation>Dirección del cliente</translation>
+    </message>
+    <message id="ui.composer.clientEmail">
+      <source>Client e-mail</source>
+      <translation>Correo del cliente</translation>
+    </message>
+    <message id="ui.composer.clientName">
+      <source>Client name</source>
+      <translation>Nombre del cliente</translation>
+    </message>
+    <message id="ui.composer.design">
+      <source>Design</source>
+      <translation>Diseño</translation>
+    </message>
+    <message id="ui.composer.drawing">
+      <source>Drawing the invoice</source>
+      <translation>Generando la factura</translation>
+    </message>
+    <message id="ui.composer.due">
+      <source>Due</source>
+      <translation>Vencimiento</translation>
+    </message>
+    <message id="ui.composer.err.day">
+      <source>Write days as year-month-day, for example 2026-11-01.</source>
+      <translation>Escribe las fechas como año-mes-día, por ejemplo 2026-11-01.</translation>
+    </message>
+    <message id="ui.composer.err.due">
+      <source>Payment cannot be due before the invoice is issued.</source>
+      <translation>El vencimiento no puede ser anterior a la fecha de emisión.</translation>
+    </message>
+    <message id="ui.composer.err.empty">
+      <source>Choose work with unbilled time first.</source>
+      <translation>Elige primero trabajo con tiempo sin facturar.</translation>
+    </message>
+    <message id="ui.composer.err.noNumber">
+      <source>The invoice has no number yet. Check the connection and open the composer again.</source>
+      <translation>La factura aún no tiene número. Comprueba la conexión y vuelve a abrir el editor de facturas.</translation>
+    </message>
+    <message id="ui.composer.err.period">
+      <source>The period ends before it starts.</source>
+      <translation>El periodo termina antes de empezar.</translation>
+    </message>
+    <message id="ui.composer.err.preview">
+      <source>The preview could not be drawn: %1</source>
+      <translation>No se pudo generar la vista previa: %1</translation>
+    </message>
+    <message id="ui.composer.from">
+      <source>From (year-month-day)</source>
+      <translation>Desde (año-mes-día)</translation>
+    </message>
+    <message id="ui.composer.hours">
+      <source>%1 h</source>
+      <translation>%1 h</translation>
+    </message>
+    <message id="ui.composer.houseDesign">
+      <source>As in the invoice style</source>
+      <translation>Como en el estilo de factura</translation>
+    </message>
+    <message id="ui.composer.invoice">
+      <source>Invoice</source>
+      <translation>Factura</translation>
+    </message>
+    <message id="ui.composer.issued">
+      <source>Issued</source>
+      <translation>Fecha de emisión</translation>
+    </message>
+    <message id="ui.composer.lines">
+      <source>Lines</source>
+      <translation>Líneas</translation>
+    </message>
+    <message id="ui.composer.noWork">
+      <source>No unbilled time in this period. Choose another period or project.</source>
+      <translation>No hay tiempo sin facturar en este periodo. Elige otro periodo u otro proyecto.</translation>
+    </message>
+    <message id="ui.composer.notes">
+      <source>Notes on the invoice</source>
+      <translation>Notas en la factura</translation>
+    </message>
+    <message id="ui.composer.number">
+      <source>No. %1</source>
+      <translation>N.º %1</translation>
+    </message>
+    <message id="ui.composer.numberPending">
+      <source>Number follows</source>
+      <translation>Número pendiente</translation>
+    </message>
+    <message id="ui.composer.period">
+      <source>Period</source>
+      <translation>Periodo</translation>
+    </message>
+    <message id="ui.composer.previewEmpty">
+      <source>The invoice appears here</source>
+      <translation>Aquí aparece la factura</translation>
+    </message>
+    <message id="ui.composer.previewHint">
+      <source>Choose a project with unbilled time and a period; the page follows every change.</source>
+      <translation>Elige un proyecto con tiempo sin facturar y un periodo; la página sigue cada cambio.</translation>
+    </message>
+    <message id="ui.composer.projects">
+      <source>Projects</source>
+      <translation>Proyectos</translation>
+    </message>
+    <message id="ui.composer.saveAsClient">
+      <source>Save as client</source>
+      <translation>Guardar como cliente</translation>
+    </message>
+    <message id="ui.composer.saveDraft">
+      <source>Save as draft</source>
+      <translation>Guardar como borrador</translation>
+    </message>
+    <message id="ui.composer.saveSent">
+      <source>Save as sent</source>
+      <translation>Guardar como enviada</translation>
+    </message>
+    <message id="ui.composer.savedClients">
+      <source>Saved clients</source>
+      <translation>Clientes guardados</translation>
+    </message>
+    <message id="ui.composer.title">
+      <source>New invoice</source>
+      <translation>Nueva factura</translation>
+    </message>
+    <message id="ui.composer.to">
+      <source>To (year-month-day)</source>
+      <translation>Hasta (año-mes-día)</translation>
+    </message>
+    <message id="ui.composer.vatPercent">
+      <source>VAT %</source>
+      <translation>IVA %</translation>
+    </message>
+    <message id="ui.composer.work">
+      <source>Work</source>
+      <translation>Trabajo</translation>
+    </message>
+    <message id="ui.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Oscuro intenso</translation>
+    </message>
+    <message id="ui.design.custom">
+      <source>Your own template</source>
+      <translation>Tu propia plantilla</translation>
+    </message>
+    <message id="ui.design.editorial">
+      <source>Editorial</source>
+      <translation>Editorial</translation>
+    </message>
+    <message id="ui.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Editorial mono</translation>
+    </message>
+    <message id="ui.design.lightMinimalAccent">
+      <source>Light, minimal accent</source>
+      <translation>Claro, acento discreto</translation>
+    </message>
+    <message id="ui.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimalista mono</translation>
+    </message>
+    <message id="ui.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Cinta moderna</translation>
+    </message>
+    <message id="ui.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Pastel moderno</translation>
+    </message>
+    <message id="ui.design.signatureEditorial">
+      <source>Signature editorial</source>
+      <translation>Editorial con firma</translation>
+    </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>
       <translation>%1: ganado %2, facturado %3, sin facturar %4</translation>
@@ -2587,6 +2767,30 @@
       <source>PDF files (*.pdf)</source>
       <translation>Archivos PDF (*.pdf)</translation>
     </message>
+    <message id="ui.invoices.redraw">
+      <source>Draw again…</source>
+      <translation>Volver a generar…</translation>
+    </message>
+    <message id="ui.invoices.redrawBody">
+      <source>This replaces the stored PDF of this invoice with a new one, built from the invoice lines and the current details of its template. Continue?</source>
+      <translation>Se sustituirá el PDF guardado de esta factura por uno nuevo, hecho con las líneas de la factura y los datos actuales de su plantilla. ¿Continuar?</translation>
+    </message>
+    <message id="ui.invoices.redrawConfirm">
+      <source>Replace PDF</source>
+      <translation>Sustituir PDF</translation>
+    </message>
+    <message id="ui.invoices.redrawFailed">
+      <source>The invoice could not be drawn: %1</source>
+      <translation>No se pudo generar la factura: %1</translation>
+    </message>
+    <message id="ui.invoices.redrawTitle">
+      <source>Draw invoice %1 again?</source>
+      <translation>¿Volver a generar la factura %1?</translation>
+    </message>
+    <message id="ui.invoices.redrawn">
+      <source>Invoice %1 was drawn again with your current details.</source>
+      <translation>La factura %1 se ha vuelto a generar con tus datos actuales.</translation>
+    </message>
     <message id="ui.invoices.savePdf">
       <source>Save PDF…</source>
       <translation>Guardar PDF…</translation>
@@ -2758,6 +2962,10 @@
     <message id="ui.projects.describe">
       <source>Add a description</source>
       <translation>Añadir una descripción</translation>
+    </message>
+    <message id="ui.projects.invoice">
+      <source>Create invoice…</source>
+      <translation>Crear factura…</translation>
     </message>
     <message id="ui.projects.markActive">
       <source>Mark as active</source>

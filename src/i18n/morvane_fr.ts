@@ -2191,6 +2191,186 @@
       <source>Saving</source>
       <translation>Enregistrement</translation>
     </message>
+    <message id="ui.composer.billTo">
+      <source>Bill to</source>
+      <translation>Facturer à</translation>
+    </message>
+    <message id="ui.composer.cancel">
+      <source>Cancel</source>
+      <translation>Annuler</translation>
+    </message>
+    <message id="ui.composer.clientAddress">
+      <source>Client address</source>
+      <translation>Adresse du client</translation>
+    </message>
+    <message id="ui.composer.clientEmail">
+      <source>Client e-mail</source>
+      <translation>E-mail du client</translation>
+    </message>
+    <message id="ui.composer.clientName">
+      <source>Client name</source>
+      <translation>Nom du client</translation>
+    </message>
+    <message id="ui.composer.design">
+      <source>Design</source>
+      <translation>Modèle</translation>
+    </message>
+    <message id="ui.composer.drawing">
+      <source>Drawing the invoice</source>
+      <translation>Mise en page de la facture</translation>
+    </message>
+    <message id="ui.composer.due">
+      <source>Due</source>
+      <translation>Échéance</translation>
+    </message>
+    <message id="ui.composer.err.day">
+      <source>Write days as year-month-day, for example 2026-11-01.</source>
+      <translation>Écrivez les dates sous la forme année-mois-jour, par exemple 2026-11-01.</translation>
+    </message>
+    <message id="ui.composer.err.due">
+      <source>Payment cannot be due before the invoice is issued.</source>
+      <translation>L’échéance ne peut pas précéder la date d’émission.</translation>
+    </message>
+    <message id="ui.composer.err.empty">
+      <source>Choose work with unbilled time first.</source>
+      <translation>Choisissez d’abord du travail avec du temps non facturé.</translation>
+    </message>
+    <message id="ui.composer.err.noNumber">
+      <source>The invoice has no number yet. Check the connection and open the composer again.</source>
+      <translation>La facture n’a pas encore de numéro. Vérifiez la connexion et rouvrez l’éditeur de facture.</translation>
+    </message>
+    <message id="ui.composer.err.period">
+      <source>The period ends before it starts.</source>
+      <translation>La période se termine avant de commencer.</translation>
+    </message>
+    <message id="ui.composer.err.preview">
+      <source>The preview could not be drawn: %1</source>
+      <translation>L’aperçu n’a pas pu être affiché : %1</translation>
+    </message>
+    <message id="ui.composer.from">
+      <source>From (year-month-day)</source>
+      <translation>Du (année-mois-jour)</translation>
+    </message>
+    <message id="ui.composer.hours">
+      <source>%1 h</source>
+      <translation>%1 h</translation>
+    </message>
+    <message id="ui.composer.houseDesign">
+      <source>As in the invoice style</source>
+      <translation>Comme dans le style de facture</translation>
+    </message>
+    <message id="ui.composer.invoice">
+      <source>Invoice</source>
+      <translation>Facture</translation>
+    </message>
+    <message id="ui.composer.issued">
+      <source>Issued</source>
+      <translation>Date d’émission</translation>
+    </message>
+    <message id="ui.composer.lines">
+      <source>Lines</source>
+      <translation>Lignes</translation>
+    </message>
+    <message id="ui.composer.noWork">
+      <source>No unbilled time in this period. Choose another period or project.</source>
+      <translation>Aucun temps non facturé sur cette période. Choisissez une autre période ou un autre projet.</translation>
+    </message>
+    <message id="ui.composer.notes">
+      <source>Notes on the invoice</source>
+      <translation>Notes sur la facture</translation>
+    </message>
+    <message id="ui.composer.number">
+      <source>No. %1</source>
+      <translation>N° %1</translation>
+    </message>
+    <message id="ui.composer.numberPending">
+      <source>Number follows</source>
+      <translation>Numéro à venir</translation>
+    </message>
+    <message id="ui.composer.period">
+      <source>Period</source>
+      <translation>Période</translation>
+    </message>
+    <message id="ui.composer.previewEmpty">
+      <source>The invoice appears here</source>
+      <translation>La facture s’affiche ici</translation>
+    </message>
+    <message id="ui.composer.previewHint">
+      <source>Choose a project with unbilled time and a period; the page follows every change.</source>
+      <translation>Choisissez un projet avec du temps non facturé et une période ; la page suit chaque modification.</translation>
+    </message>
+    <message id="ui.composer.projects">
+      <source>Projects</source>
+      <translation>Projets</translation>
+    </message>
+    <message id="ui.composer.saveAsClient">
+      <source>Save as client</source>
+      <translation>Enregistrer comme client</translation>
+    </message>
+    <message id="ui.composer.saveDraft">
+      <source>Save as draft</source>
+      <translation>Enregistrer comme brouillon</translation>
+    </message>
+    <message id="ui.composer.saveSent">
+      <source>Save as sent</source>
+      <translation>Enregistrer comme envoyée</translation>
+    </message>
+    <message id="ui.composer.savedClients">
+      <source>Saved clients</source>
+      <translation>Clients enregistrés</translation>
+    </message>
+    <message id="ui.composer.title">
+      <source>New invoice</source>
+      <translation>Nouvelle facture</translation>
+    </message>
+    <message id="ui.composer.to">
+      <source>To (year-month-day)</source>
+      <translation>Au (année-mois-jour)</translation>
+    </message>
+    <message id="ui.composer.vatPercent">
+      <source>VAT %</source>
+      <translation>TVA %</translation>
+    </message>
+    <message id="ui.composer.work">
+      <source>Work</source>
+      <translation>Travail</translation>
+    </message>
+    <message id="ui.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Sombre affirmé</translation>
+    </message>
+    <message id="ui.design.custom">
+      <source>Your own template</source>
+      <translation>Votre propre modèle</translation>
+    </message>
+    <message id="ui.design.editorial">
+      <source>Editorial</source>
+      <translation>Éditorial</translation>
+    </message>
+    <message id="ui.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Éditorial mono</translation>
+    </message>
+    <message id="ui.design.lightMinimalAccent">
+      <source>Light, minimal accent</source>
+      <translation>Clair, accent discret</translation>
+    </message>
+    <message id="ui.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimaliste mono</translation>
+    </message>
+    <message id="ui.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Ruban moderne</translation>
+    </message>
+    <message id="ui.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Pastel moderne</translation>
+    </message>
+    <message id="ui.design.signatureEditorial">
+      <source>Signature editorial</source>
+      <translation>Éditorial signature</translation>
+    </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>
       <translation>%1 : gagné %2, facturé %3, non facturé %4</translation>
@@ -2587,6 +2767,30 @@
       <source>PDF files (*.pdf)</source>
       <translation>Fichiers PDF (*.pdf)</translation>
     </message>
+    <message id="ui.invoices.redraw">
+      <source>Draw again…</source>
+      <translation>Refaire…</translation>
+    </message>
+    <message id="ui.invoices.redrawBody">
+      <source>This replaces the stored PDF of this invoice with a new one, built from the invoice lines and the current details of its template. Continue?</source>
+      <translation>Le PDF enregistré de cette facture sera remplacé par un nouveau, construit à partir des lignes de la facture et des coordonnées actuelles de son modèle. Continuer ?</translation>
+    </message>
+    <message id="ui.invoices.redrawConfirm">
+      <source>Replace PDF</source>
+      <translation>Remplacer le PDF</translation>
+    </message>
+    <message id="ui.invoices.redrawFailed">
+      <source>The invoice could not be drawn: %1</source>
+      <translation>La facture n’a pas pu être mise en page : %1</translation>
+    </message>
+    <message id="ui.invoices.redrawTitle">
+      <source>Draw invoice %1 again?</source>
+      <translation>Refaire la facture %1 ?</translation>
+    </message>
+    <message id="ui.invoices.redrawn">
+      <source>Invoice %1 was drawn again with your current details.</source>
+      <translation>La facture %1 a été refaite avec vos coordonnées actuelles.</translation>
+    </message>
     <message id="ui.invoices.savePdf">
       <source>Save PDF…</source>
       <translation>Enregistrer le PDF…</translation>
@@ -2758,6 +2962,10 @@
     <message id="ui.projects.describe">
       <source>Add a description</source>
       <translation>Ajouter une description</translation>
+    </message>
+    <message id="ui.projects.invoice">
+      <source>Create invoice…</source>
+      <translation>Créer une facture…</translation>
     </message>
     <message id="ui.projects.markActive">
       <source>Mark as active</source>

@@ -2191,6 +2191,186 @@
       <source>Saving</source>
       <translation>Salvataggio</translation>
     </message>
+    <message id="ui.composer.billTo">
+      <source>Bill to</source>
+      <translation>Intestata a</translation>
+    </message>
+    <message id="ui.composer.cancel">
+      <source>Cancel</source>
+      <translation>Annulla</translation>
+    </message>
+    <message id="ui.composer.clientAddress">
+      <source>Client address</source>
+      <translation>Indirizzo del cliente</translation>
+    </message>
+    <message id="ui.composer.clientEmail">
+      <source>Client e-mail</source>
+      <translation>E-mail del cliente</translation>
+    </message>
+    <message id="ui.composer.clientName">
+      <source>Client name</source>
+      <translation>Nome del cliente</translation>
+    </message>
+    <message id="ui.composer.design">
+      <source>Design</source>
+      <translation>Stile</translation>
+    </message>
+    <message id="ui.composer.drawing">
+      <source>Drawing the invoice</source>
+      <translation>Creazione della fattura</translation>
+    </message>
+    <message id="ui.composer.due">
+      <source>Due</source>
+      <translation>Scadenza</translation>
+    </message>
+    <message id="ui.composer.err.day">
+      <source>Write days as year-month-day, for example 2026-11-01.</source>
+      <translation>Scrivi le date come anno-mese-giorno, per esempio 2026-11-01.</translation>
+    </message>
+    <message id="ui.composer.err.due">
+      <source>Payment cannot be due before the invoice is issued.</source>
+      <translation>La scadenza non può precedere la data di emissione.</translation>
+    </message>
+    <message id="ui.composer.err.empty">
+      <source>Choose work with unbilled time first.</source>
+      <translation>Scegli prima del lavoro con tempo da fatturare.</translation>
+    </message>
+    <message id="ui.composer.err.noNumber">
+      <source>The invoice has no number yet. Check the connection and open the composer again.</source>
+      <translation>La fattura non ha ancora un numero. Controlla la connessione e riapri la composizione della fattura.</translation>
+    </message>
+    <message id="ui.composer.err.period">
+      <source>The period ends before it starts.</source>
+      <translation>Il periodo finisce prima di iniziare.</translation>
+    </message>
+    <message id="ui.composer.err.preview">
+      <source>The preview could not be drawn: %1</source>
+      <translation>Impossibile creare l’anteprima: %1</translation>
+    </message>
+    <message id="ui.composer.from">
+      <source>From (year-month-day)</source>
+      <translation>Dal (anno-mese-giorno)</translation>
+    </message>
+    <message id="ui.composer.hours">
+      <source>%1 h</source>
+      <translation>%1 h</translation>
+    </message>
+    <message id="ui.composer.houseDesign">
+      <source>As in the invoice style</source>
+      <translation>Come nello stile della fattura</translation>
+    </message>
+    <message id="ui.composer.invoice">
+      <source>Invoice</source>
+      <translation>Fattura</translation>
+    </message>
+    <message id="ui.composer.issued">
+      <source>Issued</source>
+      <translation>Data di emissione</translation>
+    </message>
+    <message id="ui.composer.lines">
+      <source>Lines</source>
+      <translation>Righe</translation>
+    </message>
+    <message id="ui.composer.noWork">
+      <source>No unbilled time in this period. Choose another period or project.</source>
+      <translation>Nessun tempo da fatturare in questo periodo. Scegli un altro periodo o progetto.</translation>
+    </message>
+    <message id="ui.composer.notes">
+      <source>Notes on the invoice</source>
+      <translation>Note sulla fattura</translation>
+    </message>
+    <message id="ui.composer.number">
+      <source>No. %1</source>
+      <translation>N. %1</translation>
+    </message>
+    <message id="ui.composer.numberPending">
+      <source>Number follows</source>
+      <translation>Numero in arrivo</translation>
+    </message>
+    <message id="ui.composer.period">
+      <source>Period</source>
+      <translation>Periodo</translation>
+    </message>
+    <message id="ui.composer.previewEmpty">
+      <source>The invoice appears here</source>
+      <translation>Qui compare la fattura</translation>
+    </message>
+    <message id="ui.composer.previewHint">
+      <source>Choose a project with unbilled time and a period; the page follows every change.</source>
+      <translation>Scegli un progetto con tempo da fatturare e un periodo; la pagina segue ogni modifica.</translation>
+    </message>
+    <message id="ui.composer.projects">
+      <source>Projects</source>
+      <translation>Progetti</translation>
+    </message>
+    <message id="ui.composer.saveAsClient">
+      <source>Save as client</source>
+      <translation>Salva come cliente</translation>
+    </message>
+    <message id="ui.composer.saveDraft">
+      <source>Save as draft</source>
+      <translation>Salva come bozza</translation>
+    </message>
+    <message id="ui.composer.saveSent">
+      <source>Save as sent</source>
+      <translation>Salva come inviata</translation>
+    </message>
+    <message id="ui.composer.savedClients">
+      <source>Saved clients</source>
+      <translation>Clienti salvati</translation>
+    </message>
+    <message id="ui.composer.title">
+      <source>New invoice</source>
+      <translation>Nuova fattura</translation>
+    </message>
+    <message id="ui.composer.to">
+      <source>To (year-month-day)</source>
+      <translation>Al (anno-mese-giorno)</translation>
+    </message>
+    <message id="ui.composer.vatPercent">
+      <source>VAT %</source>
+      <translation>IVA %</translation>
+    </message>
+    <message id="ui.composer.work">
+      <source>Work</source>
+      <translation>Lavoro</translation>
+    </message>
+    <message id="ui.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Scuro deciso</translation>
+    </message>
+    <message id="ui.design.custom">
+      <source>Your own template</source>
+      <translation>Il tuo modello</translation>
+    </message>
+    <message id="ui.design.editorial">
+      <source>Editorial</source>
+      <translation>Editoriale</translation>
+    </message>
+    <message id="ui.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Editoriale mono</translation>
+    </message>
+    <message id="ui.design.lightMinimalAccent">
+      <source>Light, minimal accent</source>
+      <translation>Chiaro, accento discreto</translation>
+    </message>
+    <message id="ui.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimalista mono</translation>
+    </message>
+    <message id="ui.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Nastro moderno</translation>
+    </message>
+    <message id="ui.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Pastello moderno</translation>
+    </message>
+    <message id="ui.design.signatureEditorial">
+      <source>Signature editorial</source>
+      <translation>Editoriale firma</translation>
+    </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>
       <translation>%1: guadagnato %2, fatturato %3, da fatturare %4</translation>
@@ -2587,6 +2767,30 @@
       <source>PDF files (*.pdf)</source>
       <translation>File PDF (*.pdf)</translation>
     </message>
+    <message id="ui.invoices.redraw">
+      <source>Draw again…</source>
+      <translation>Rigenera…</translation>
+    </message>
+    <message id="ui.invoices.redrawBody">
+      <source>This replaces the stored PDF of this invoice with a new one, built from the invoice lines and the current details of its template. Continue?</source>
+      <translation>Il PDF salvato di questa fattura verrà sostituito da uno nuovo, creato dalle righe della fattura e dai dati attuali del suo modello. Continuare?</translation>
+    </message>
+    <message id="ui.invoices.redrawConfirm">
+      <source>Replace PDF</source>
+      <translation>Sostituisci PDF</translation>
+    </message>
+    <message id="ui.invoices.redrawFailed">
+      <source>The invoice could not be drawn: %1</source>
+      <translation>Impossibile creare la fattura: %1</translation>
+    </message>
+    <message id="ui.invoices.redrawTitle">
+      <source>Draw invoice %1 again?</source>
+      <translation>Rigenerare la fattura %1?</translation>
+    </message>
+    <message id="ui.invoices.redrawn">
+      <source>Invoice %1 was drawn again with your current details.</source>
+      <translation>La fattura %1 è stata rigenerata con i tuoi dati attuali.</translation>
+    </message>
     <message id="ui.invoices.savePdf">
       <source>Save PDF…</source>
       <translation>Salva PDF…</translation>
@@ -2758,6 +2962,10 @@
     <message id="ui.projects.describe">
       <source>Add a description</source>
       <translation>Aggiungi una descrizione</translation>
+    </message>
+    <message id="ui.projects.invoice">
+      <source>Create invoice…</source>
+      <translation>Crea fattura…</translation>
     </message>
     <message id="ui.projects.markActive">
       <source>Mark as active</source>

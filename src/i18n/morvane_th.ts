@@ -2191,6 +2191,186 @@
       <source>Saving</source>
       <translation>กำลังบันทึก</translation>
     </message>
+    <message id="ui.composer.billTo">
+      <source>Bill to</source>
+      <translation>เรียกเก็บจาก</translation>
+    </message>
+    <message id="ui.composer.cancel">
+      <source>Cancel</source>
+      <translation>ยกเลิก</translation>
+    </message>
+    <message id="ui.composer.clientAddress">
+      <source>Client address</source>
+      <translation>ที่อยู่ลูกค้า</translation>
+    </message>
+    <message id="ui.composer.clientEmail">
+      <source>Client e-mail</source>
+      <translation>อีเมลลูกค้า</translation>
+    </message>
+    <message id="ui.composer.clientName">
+      <source>Client name</source>
+      <translation>ชื่อลูกค้า</translation>
+    </message>
+    <message id="ui.composer.design">
+      <source>Design</source>
+      <translation>รูปแบบ</translation>
+    </message>
+    <message id="ui.composer.drawing">
+      <source>Drawing the invoice</source>
+      <translation>กำลังสร้างใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.composer.due">
+      <source>Due</source>
+      <translation>ครบกำหนด</translation>
+    </message>
+    <message id="ui.composer.err.day">
+      <source>Write days as year-month-day, for example 2026-11-01.</source>
+      <translation>เขียนวันที่เป็น ปี-เดือน-วัน เช่น 2026-11-01</translation>
+    </message>
+    <message id="ui.composer.err.due">
+      <source>Payment cannot be due before the invoice is issued.</source>
+      <translation>วันครบกำหนดชำระต้องไม่อยู่ก่อนวันที่ออกใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.composer.err.empty">
+      <source>Choose work with unbilled time first.</source>
+      <translation>เลือกงานที่มีเวลายังไม่ได้เรียกเก็บก่อน</translation>
+    </message>
+    <message id="ui.composer.err.noNumber">
+      <source>The invoice has no number yet. Check the connection and open the composer again.</source>
+      <translation>ใบแจ้งหนี้ยังไม่มีเลขที่ ตรวจสอบการเชื่อมต่อแล้วเปิดหน้าสร้างใบแจ้งหนี้อีกครั้ง</translation>
+    </message>
+    <message id="ui.composer.err.period">
+      <source>The period ends before it starts.</source>
+      <translation>ช่วงเวลาสิ้นสุดก่อนที่จะเริ่ม</translation>
+    </message>
+    <message id="ui.composer.err.preview">
+      <source>The preview could not be drawn: %1</source>
+      <translation>สร้างตัวอย่างไม่ได้: %1</translation>
+    </message>
+    <message id="ui.composer.from">
+      <source>From (year-month-day)</source>
+      <translation>ตั้งแต่ (ปี-เดือน-วัน)</translation>
+    </message>
+    <message id="ui.composer.hours">
+      <source>%1 h</source>
+      <translation>%1 ชม.</translation>
+    </message>
+    <message id="ui.composer.houseDesign">
+      <source>As in the invoice style</source>
+      <translation>ตามรูปแบบใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.composer.invoice">
+      <source>Invoice</source>
+      <translation>ใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.composer.issued">
+      <source>Issued</source>
+      <translation>วันที่ออก</translation>
+    </message>
+    <message id="ui.composer.lines">
+      <source>Lines</source>
+      <translation>รายการ</translation>
+    </message>
+    <message id="ui.composer.noWork">
+      <source>No unbilled time in this period. Choose another period or project.</source>
+      <translation>ไม่มีเวลาที่ยังไม่ได้เรียกเก็บในช่วงนี้ เลือกช่วงเวลาหรือโปรเจกต์อื่น</translation>
+    </message>
+    <message id="ui.composer.notes">
+      <source>Notes on the invoice</source>
+      <translation>หมายเหตุในใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.composer.number">
+      <source>No. %1</source>
+      <translation>เลขที่ %1</translation>
+    </message>
+    <message id="ui.composer.numberPending">
+      <source>Number follows</source>
+      <translation>เลขที่จะตามมา</translation>
+    </message>
+    <message id="ui.composer.period">
+      <source>Period</source>
+      <translation>ช่วงเวลา</translation>
+    </message>
+    <message id="ui.composer.previewEmpty">
+      <source>The invoice appears here</source>
+      <translation>ใบแจ้งหนี้จะแสดงที่นี่</translation>
+    </message>
+    <message id="ui.composer.previewHint">
+      <source>Choose a project with unbilled time and a period; the page follows every change.</source>
+      <translation>เลือกโปรเจกต์ที่มีเวลายังไม่ได้เรียกเก็บและช่วงเวลา หน้านี้จะอัปเดตตามทุกการเปลี่ยนแปลง</translation>
+    </message>
+    <message id="ui.composer.projects">
+      <source>Projects</source>
+      <translation>โปรเจกต์</translation>
+    </message>
+    <message id="ui.composer.saveAsClient">
+      <source>Save as client</source>
+      <translation>บันทึกเป็นลูกค้า</translation>
+    </message>
+    <message id="ui.composer.saveDraft">
+      <source>Save as draft</source>
+      <translation>บันทึกเป็นฉบับร่าง</translation>
+    </message>
+    <message id="ui.composer.saveSent">
+      <source>Save as sent</source>
+      <translation>บันทึกว่าส่งแล้ว</translation>
+    </message>
+    <message id="ui.composer.savedClients">
+      <source>Saved clients</source>
+      <translation>ลูกค้าที่บันทึกไว้</translation>
+    </message>
+    <message id="ui.composer.title">
+      <source>New invoice</source>
+      <translation>ใบแจ้งหนี้ใหม่</translation>
+    </message>
+    <message id="ui.composer.to">
+      <source>To (year-month-day)</source>
+      <translation>ถึง (ปี-เดือน-วัน)</translation>
+    </message>
+    <message id="ui.composer.vatPercent">
+      <source>VAT %</source>
+      <translation>VAT %</translation>
+    </message>
+    <message id="ui.composer.work">
+      <source>Work</source>
+      <translation>งาน</translation>
+    </message>
+    <message id="ui.design.boldDark">
+      <source>Bold dark</source>
+      <translation>เข้มหนา</translation>
+    </message>
+    <message id="ui.design.custom">
+      <source>Your own template</source>
+      <translation>เทมเพลตของคุณเอง</translation>
+    </message>
+    <message id="ui.design.editorial">
+      <source>Editorial</source>
+      <translation>บรรณาธิการ</translation>
+    </message>
+    <message id="ui.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>บรรณาธิการ โมโน</translation>
+    </message>
+    <message id="ui.design.lightMinimalAccent">
+      <source>Light, minimal accent</source>
+      <translation>สว่าง เน้นสีเล็กน้อย</translation>
+    </message>
+    <message id="ui.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>มินิมอล โมโน</translation>
+    </message>
+    <message id="ui.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>ริบบิ้นโมเดิร์น</translation>
+    </message>
+    <message id="ui.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>พาสเทลโมเดิร์น</translation>
+    </message>
+    <message id="ui.design.signatureEditorial">
+      <source>Signature editorial</source>
+      <translation>บรรณาธิการ ซิกเนเจอร์</translation>
+    </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>
       <translation>%1: รายได้ %2 เรียกเก็บแล้ว %3 ยังไม่เรียกเก็บ %4</translation>
@@ -2587,6 +2767,30 @@
       <source>PDF files (*.pdf)</source>
       <translation>ไฟล์ PDF (*.pdf)</translation>
     </message>
+    <message id="ui.invoices.redraw">
+      <source>Draw again…</source>
+      <translation>สร้างใหม่…</translation>
+    </message>
+    <message id="ui.invoices.redrawBody">
+      <source>This replaces the stored PDF of this invoice with a new one, built from the invoice lines and the current details of its template. Continue?</source>
+      <translation>PDF ที่บันทึกไว้ของใบแจ้งหนี้นี้จะถูกแทนที่ด้วยฉบับใหม่ที่สร้างจากรายการในใบแจ้งหนี้และรายละเอียดปัจจุบันของเทมเพลต ดำเนินการต่อหรือไม่?</translation>
+    </message>
+    <message id="ui.invoices.redrawConfirm">
+      <source>Replace PDF</source>
+      <translation>แทนที่ PDF</translation>
+    </message>
+    <message id="ui.invoices.redrawFailed">
+      <source>The invoice could not be drawn: %1</source>
+      <translation>สร้างใบแจ้งหนี้ไม่ได้: %1</translation>
+    </message>
+    <message id="ui.invoices.redrawTitle">
+      <source>Draw invoice %1 again?</source>
+      <translation>สร้างใบแจ้งหนี้ %1 ใหม่หรือไม่?</translation>
+    </message>
+    <message id="ui.invoices.redrawn">
+      <source>Invoice %1 was drawn again with your current details.</source>
+      <translation>สร้างใบแจ้งหนี้ %1 ใหม่ด้วยรายละเอียดปัจจุบันของคุณแล้ว</translation>
+    </message>
     <message id="ui.invoices.savePdf">
       <source>Save PDF…</source>
       <translation>บันทึก PDF…</translation>
@@ -2758,6 +2962,10 @@
     <message id="ui.projects.describe">
       <source>Add a description</source>
       <translation>เพิ่มคำอธิบาย</translation>
+    </message>
+    <message id="ui.projects.invoice">
+      <source>Create invoice…</source>
+      <translation>สร้างใบแจ้งหนี้…</translation>
     </message>
     <message id="ui.projects.markActive">
       <source>Mark as active</source>

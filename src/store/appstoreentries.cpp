@@ -78,7 +78,10 @@ void AppStore::appendEntryLocally(const TimeEntry &entry)
     emit entriesChanged();
     // New or edited work is unbilled until an invoice takes it; the read of the unbilled view is
     // kept in step so that shares and totals do not count it as billed meanwhile.
-    if (m_unbilledReady && !m_billedEntryIds.contains(entry.id)) {
+    // The unbilled read may hold it already: it can arrive before the feed tells of it.
+    if (m_unbilledReady && !m_billedEntryIds.contains(entry.id) &&
+        std::none_of(m_unbilledEntries.cbegin(), m_unbilledEntries.cend(),
+                     [&](const TimeEntry &known) { return known.id == entry.id; })) {
         m_unbilledEntries.append(entry);
         emit unbilledEntriesChanged();
     }

@@ -307,10 +307,12 @@ void InvoiceComposer::recompute()
     }
     // The projects' own task order, so that the same choice always gives the same invoice.
     m_availableTaskIds.clear();
+    m_secondsByTask.clear();
     for (const QString &projectId : std::as_const(m_context.projectIds)) {
         for (const TaskItem &task : m_store.tasks(projectId)) {
             if (byTask.contains(task.id)) {
                 m_availableTaskIds << task.id;
+                m_secondsByTask.insert(task.id, byTask.value(task.id).seconds);
             }
         }
     }

@@ -61,6 +61,8 @@ public:
     // The tasks with unbilled time in the period, in their projects' order, and those selected.
     [[nodiscard]] QStringList availableTaskIds() const { return m_availableTaskIds; }
     [[nodiscard]] QStringList selectedTaskIds() const;
+    // A task's unbilled seconds in the period.
+    [[nodiscard]] qint64 taskSeconds(const QString &taskId) const { return m_secondsByTask.value(taskId); }
     Q_INVOKABLE void toggleTask(const QString &taskId);
 
     // "Bill again": a follow-up unit bills its one-off parts once more.
@@ -136,6 +138,7 @@ private:
     QString m_clientAddress;
     bool m_saveAsClient = false;
     QStringList m_availableTaskIds;
+    QHash<QString, qint64> m_secondsByTask;
     Earnings::BuildResult m_built;
     Earnings::VatResult m_vat;
     QStringList m_coveredEntryIds;

@@ -2,6 +2,7 @@
 
 #include "backend/urlscheme.h"
 #include "i18n/language.h"
+#include "invoicing/pdf/invoicepdfrenderer.h"
 #include "ui/desktopshell.h"
 #include "ui/globalshortcut.h"
 
@@ -58,6 +59,7 @@ bool wanted(int argc, char *argv[])
 
 int run(int argc, char *argv[])
 {
+    InvoicePdfRenderer::prepareEngine();
     QApplication app(argc, argv);
     QApplication::setOrganizationName(u"morvane"_s);
     QApplication::setApplicationName(u"morvane"_s);

@@ -107,6 +107,14 @@ DesktopShell *DesktopShell::create(QQmlEngine *, QJSEngine *)
     return s_instance;
 }
 
+void DesktopShell::setEngine(QQmlEngine *engine)
+{
+    m_engine = engine;
+    if (engine) {
+        engine->addImageProvider(QLatin1String(ComposerView::previewProviderId), m_workspace->composer()->makePreviewProvider());
+    }
+}
+
 void DesktopShell::setInstance(DesktopShell *shell)
 {
     s_instance = shell;

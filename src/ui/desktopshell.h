@@ -83,7 +83,8 @@ public:
     static DesktopShell *create(QQmlEngine *, QJSEngine *);
     static void setInstance(DesktopShell *shell);
 
-    void setEngine(QQmlEngine *engine) { m_engine = engine; }
+    // The engine of the window, retranslated on a change of language; it draws the composer's pages.
+    void setEngine(QQmlEngine *engine);
 
     [[nodiscard]] Phase phase() const { return m_phase; }
     [[nodiscard]] QString backendError() const { return m_backendError; }

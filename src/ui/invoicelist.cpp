@@ -1,5 +1,8 @@
 #include "invoicelist.h"
 
+#include "store/invoicedocuments.h"
+#include "ui/invoiceprinter.h"
+
 #include "billing/invoicefigures.h"
 #include "billing/money.h"
 
@@ -262,6 +265,45 @@ void InvoiceList::voidInvoice(const QString &invoiceId)
         }
         self->end();
     }(this, m_store, invoiceId);
+}
+
+void InvoiceList::redraw(const QString &invoiceId)
+{
+    if (!m_store || !m_printer) {
+        return;
+    }
+    begin();
+    [](QPointer<InvoiceList> self, QPointer<AppStore> store, QPointer<InvoicePrinter> printer,
+       QString invoiceId) -> QCoro::Task<> {
+        const std::optional<Invoice> invoice = store->invoice(invoiceId);
+        std::optional<QList<InvoiceLine>> lines;
+        if (invoice) {
+            lines = co_await store->loadInvoiceLines(invoiceId);
+        }
+        bool replaced = false;
+        QString problem;
+        if (lines && store && printer) {
+            try {
+                const RenderedPdf rendered = co_await printer->print(InvoiceDocuments::stored(*store, *invoice, *lines));
+                replaced = store && co_await store->replaceInvoicePDF(invoiceId, rendered.pdf);
+            } catch (const InvoicePdfError &error) {
+                problem = error.message();
+            }
+        }
+        if (!self) {
+            co_return;
+        }
+        if (replaced) {
+            //% "Invoice %1 was drawn again with your current details."
+            self->say(qtTrId("ui.invoices.redrawn").arg(invoice->number), false);
+        } else if (!problem.isEmpty()) {
+            //% "The invoice could not be drawn: %1"
+            self->say(qtTrId("ui.invoices.redrawFailed").arg(problem), true);
+        } else {
+            self->sayStoreError();
+        }
+        self->end();
+    }(this, m_store, m_printer, invoiceId);
 }
 
 void InvoiceList::remove(const QString &invoiceId)

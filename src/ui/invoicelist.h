@@ -14,6 +14,8 @@
 // The written invoices for the invoice list: the rows of the status and year filters, the money
 // still open and overdue among them, and the status changes, deletions and PDFs the list offers.
 // Every write goes through the store; a refusal (a void invoice stays void) comes back as `message`.
+class InvoicePrinter;
+
 class InvoiceList : public QObject
 {
     Q_OBJECT
@@ -39,6 +41,7 @@ public:
     void setStore(AppStore *store);
     // Where the backend lives: only links to its host are opened or downloaded.
     void setBackend(const QUrl &baseUrl);
+    void setPrinter(InvoicePrinter *printer) { m_printer = printer; }
     // The desktop's viewer by default; tests look at the link instead.
     void setUrlOpener(UrlOpener opener) { m_opener = std::move(opener); }
     // Status names, dates and money are written in the interface language.
@@ -68,6 +71,9 @@ public:
     Q_INVOKABLE void voidInvoice(const QString &invoiceId);
     Q_INVOKABLE void remove(const QString &invoiceId);
     Q_INVOKABLE void openPdf(const QString &invoiceId);
+    // Draws the invoice again from its stored lines and the sender's current details, and puts the
+    // new PDF in place of the stored one (the view confirms first).
+    Q_INVOKABLE void redraw(const QString &invoiceId);
     // `file` is the local file the person picked.
     Q_INVOKABLE void savePdf(const QString &invoiceId, const QUrl &file);
     // What a save dialog proposes: the invoice number as a file name among the documents.
@@ -90,6 +96,7 @@ private:
     void end();
 
     QPointer<AppStore> m_store;
+    QPointer<InvoicePrinter> m_printer;
     RowsModel *m_rows;
     QUrl m_backend;
     UrlOpener m_opener;

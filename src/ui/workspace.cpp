@@ -97,6 +97,8 @@ Workspace::Workspace(QObject *parent)
     , m_inspector(new TaskInspector(this))
     , m_clients(new ClientList(this))
     , m_invoices(new InvoiceList(this))
+    , m_printer(new InvoicePrinter(this))
+    , m_composer(new ComposerView(*m_printer, this))
     , m_projectPrice(new BillingEditor(this))
 {
     m_rebuild.setSingleShot(true);
@@ -123,6 +125,8 @@ void Workspace::setStore(AppStore *store)
     m_inspector->setStore(store);
     m_clients->setStore(store);
     m_invoices->setStore(store);
+    m_invoices->setPrinter(m_printer);
+    m_composer->setStore(store);
     if (store) {
         for (auto signal : {&AppStore::projectsChanged, &AppStore::tasksChanged, &AppStore::teamsChanged,
                             &AppStore::savingTaskIdsChanged, &AppStore::selectedTaskIdsChanged,
@@ -184,6 +188,7 @@ void Workspace::retranslate()
     }
     m_rowCache.clear();
     m_invoices->retranslate();
+    m_composer->retranslate();
     rebuildSidebar();
     rebuildTasks();
     emit m_inspector->changed();

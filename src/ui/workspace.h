@@ -2,7 +2,9 @@
 
 #include "store/appstore.h"
 #include "ui/clientlist.h"
+#include "ui/composerview.h"
 #include "ui/invoicelist.h"
+#include "ui/invoiceprinter.h"
 #include "ui/rowsmodel.h"
 #include "ui/taskinspector.h"
 
@@ -28,6 +30,7 @@ class Workspace : public QObject
     Q_PROPERTY(TaskInspector *inspector READ inspector CONSTANT)
     Q_PROPERTY(ClientList *clients READ clients CONSTANT)
     Q_PROPERTY(InvoiceList *invoices READ invoices CONSTANT)
+    Q_PROPERTY(ComposerView *composer READ composer CONSTANT)
     Q_PROPERTY(BillingEditor *projectPriceEditor READ projectPriceEditor CONSTANT)
     Q_PROPERTY(bool hasStore READ hasStore NOTIFY storeChanged)
     Q_PROPERTY(QString selectedProjectId READ selectedProjectId WRITE selectProject NOTIFY selectionChanged)
@@ -69,6 +72,7 @@ public:
     [[nodiscard]] TaskInspector *inspector() const { return m_inspector; }
     [[nodiscard]] ClientList *clients() const { return m_clients; }
     [[nodiscard]] InvoiceList *invoices() const { return m_invoices; }
+    [[nodiscard]] ComposerView *composer() const { return m_composer; }
     [[nodiscard]] BillingEditor *projectPriceEditor() const { return m_projectPrice; }
 
     [[nodiscard]] QString selectedProjectId() const;
@@ -181,6 +185,8 @@ private:
     TaskInspector *m_inspector;
     ClientList *m_clients;
     InvoiceList *m_invoices;
+    InvoicePrinter *m_printer;
+    ComposerView *m_composer;
     BillingEditor *m_projectPrice;
     QString m_message;
     QString m_lastRunningTaskId;

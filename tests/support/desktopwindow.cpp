@@ -2,6 +2,7 @@
 
 #include "backend/secretstore.h"
 #include "i18n/language.h"
+#include "invoicing/pdf/invoicepdfrenderer.h"
 #include "ui/desktopapp.h"
 
 #include <QApplication>
@@ -119,6 +120,7 @@ int runDesktopTest(int argc, char *argv[], const std::function<int(int, char **)
     // The window keeps its sizes and choices in the user's settings; the test's go with it.
     QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+    InvoicePdfRenderer::prepareEnvironment();
     QApplication app(argc, argv);
     QApplication::setOrganizationName(u"morvane"_s);
     QApplication::setApplicationName(u"morvane"_s);

@@ -445,6 +445,96 @@ private slots:
         QTRY_COMPARE(item("projectNameField")->property("text").toString(), u"All projects"_s);
     }
 
+    void anInvoiceOverTwoProjectsFromComposerToVoid()
+    {
+        signUpOnce();
+        // Two projects priced through the window's editor, each at its own VAT rate.
+        struct Priced { QString name; QString rate; QString vat; QString projectId; QString taskId; };
+        QList<Priced> projects{{u"Harbour"_s, u"100"_s, u"21"_s, {}, {}}, {u"Lighthouse"_s, u"80"_s, u"9"_s, {}, {}}};
+        for (Priced &priced : projects) {
+            workspace()->createProject(priced.name);
+            QTRY_VERIFY_WITH_TIMEOUT(workspace()->project().value(u"name"_s) == priced.name, patience);
+            priced.projectId = workspace()->selectedProjectId();
+            workspace()->createTask(u"Survey "_s + priced.name);
+            QTRY_COMPARE_WITH_TIMEOUT(workspace()->tasks()->rowCount(), 1, patience);
+            priced.taskId = workspace()->tasks()->rows().first().value(u"id"_s).toString();
+            workspace()->editProjectPrice();
+            BillingEditor *editor = workspace()->projectPriceEditor();
+            editor->setModelName(u"hourly"_s);
+            editor->unitPrice()->setText(priced.rate);
+            editor->vatPercent()->setText(priced.vat);
+            QVERIFY(workspace()->saveProjectPrice());
+            QTRY_VERIFY_WITH_TIMEOUT(store()->project(priced.projectId)->billing.has_value(), patience);
+        }
+        // Harbour: two hours today and one ten days ago; Lighthouse: an hour and a half today.
+        const QDateTime noon(QDate::currentDate(), QTime(12, 0));
+        for (const auto &[index, start, hours] : {std::tuple{0, noon.addDays(-10), 1.0}, std::tuple{0, noon.addSecs(-4 * 3600), 2.0},
+                                                 std::tuple{1, noon.addSecs(-2 * 3600), 1.5}}) {
+            const QDateTime end = start.addSecs(qint64(hours * 3600));
+            m_backend.database().exec("INSERT INTO time_entries (user_id, task_id, project_id, started_at, ended_at, "
+                                      "duration_seconds) VALUES ($1, $2, $3, $4, $5, $6)",
+                                      {store()->currentUserId().toUtf8(), projects[index].taskId.toUtf8(),
+                                       projects[index].projectId.toUtf8(), start.toUTC().toString(Qt::ISODate).toUtf8(),
+                                       end.toUTC().toString(Qt::ISODate).toUtf8(), QByteArray::number(qint64(hours * 3600))});
+        }
+
+        // From the first project's menu; the second joins and the period stays.
+        ComposerView *view = workspace()->composer();
+        view->open({projects[0].projectId});
+        QTRY_COMPARE(item("mainView")->property("page").toString(), u"composer"_s);
+        InvoiceComposer *composer = view->composer();
+        QTRY_VERIFY_WITH_TIMEOUT(!view->number().isEmpty() && composer->canSave(), patience);
+        QCOMPARE(composer->from(), QDate::currentDate().addDays(-10));
+        view->toggleProject(projects[1].projectId);
+        QTRY_COMPARE_WITH_TIMEOUT(composer->availableTaskIds().size(), 2, patience);
+        // By hand: 3 h × 100 at 21 % and 1.5 h × 80 at 9 %.
+        QCOMPARE(composer->subtotal(), 420.0);
+        QCOMPARE(composer->vat().groups, (QList<InvoiceVatGroup>{{9, 120, 10.8}, {21, 300, 63}}));
+        QCOMPARE(composer->total(), 493.8);
+        QCOMPARE(view->vatRows().size(), 2);
+        QTRY_VERIFY_WITH_TIMEOUT(!view->previewPages().isEmpty() && !view->previewBusy(), patience);
+        QCOMPARE(view->previewPages().size(), 1);
+        const QImage wider = view->previewImage(0);
+
+        // A later start leaves the old hour out, and the preview follows.
+        QVERIFY(!view->setPeriod(u"2026-13-01"_s, view->toText()));
+        QVERIFY(view->messageIsError());
+        QVERIFY(view->setPeriod(QDate::currentDate().addDays(-2).toString(Qt::ISODate), view->toText()));
+        QCOMPARE(composer->subtotal(), 320.0);
+        QCOMPARE(composer->total(), 372.8);
+        QTRY_VERIFY_WITH_TIMEOUT(!view->previewBusy() && view->previewImage(0) != wider, patience);
+        composer->setClientName(u"Hoekstra Design"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!view->previewBusy(), patience);
+        QTest::qWait(300);
+        shoot(u"invoice-composer"_s);
+
+        const QString number = view->number();
+        view->save(u"sent"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(item("mainView")->property("page").toString(), u"invoices"_s, patience);
+        const std::optional<Invoice> saved = store()->invoiceByNumber(number);
+        QVERIFY(saved);
+        QCOMPARE(saved->status, InvoiceStatus::Sent);
+        QCOMPARE(saved->total, 372.8);
+        QCOMPARE(saved->clientName, u"Hoekstra Design"_s);
+        QVERIFY(saved->pdfPath);
+        InvoiceList *list = workspace()->invoices();
+        QTRY_VERIFY(list->rows()->indexOf(saved->id) >= 0);
+        // The hour before the period is still there to bill.
+        QTRY_COMPARE_WITH_TIMEOUT(store()->unbilledEntries().size(), 1, patience);
+
+        list->redraw(saved->id);
+        QTRY_VERIFY2_WITH_TIMEOUT(!list->busy() && list->message().contains(number), qPrintable(list->message()),
+                                  patience);
+        QVERIFY(!list->messageIsError());
+
+        list->voidInvoice(saved->id);
+        QTRY_COMPARE_WITH_TIMEOUT(store()->invoice(saved->id)->status, InvoiceStatus::Void, patience);
+        QTRY_VERIFY(!list->busy());
+        list->changeStatus(saved->id, u"paid"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(list->messageIsError(), patience);
+        QCOMPARE(store()->invoice(saved->id)->status, InvoiceStatus::Void);
+    }
+
     void settingsSaveTheProfileAndMoveToAnotherBackend()
     {
         website();

@@ -82,6 +82,11 @@ void InvoicePdfRenderer::prepareEnvironment()
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    prepareEngine();
+}
+
+void InvoicePdfRenderer::prepareEngine()
+{
     if (qEnvironmentVariableIsEmpty("QTWEBENGINE_CHROMIUM_FLAGS")) {
         qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--disable-gpu");
     }

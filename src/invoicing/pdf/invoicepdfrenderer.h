@@ -53,6 +53,8 @@ public:
     // Before the QApplication exists: off screen unless a platform was chosen, no GPU, and no
     // sandbox for root (Chromium refuses to start as root with one).
     static void prepareEnvironment();
+    // The same for a process with a window of its own: everything but the off-screen platform.
+    static void prepareEngine();
 
     explicit InvoicePdfRenderer(QObject *parent = nullptr);
     ~InvoicePdfRenderer() override;

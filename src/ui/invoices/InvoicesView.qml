@@ -84,6 +84,18 @@ Rectangle {
         onConfirmed: root.list.voidInvoice(root.selectedId)
     }
     ConfirmDialog {
+        id: confirmRedraw
+        danger: false
+        objectName: "confirmRedrawInvoice"
+        //% "Draw invoice %1 again?"
+        title: qsTrId("ui.invoices.redrawTitle").arg(root.selected ? root.selected.number : "")
+        //% "This replaces the stored PDF of this invoice with a new one, built from the invoice lines and the current details of its template. Continue?"
+        body: qsTrId("ui.invoices.redrawBody")
+        //% "Replace PDF"
+        confirmText: qsTrId("ui.invoices.redrawConfirm")
+        onConfirmed: root.list.redraw(root.selectedId)
+    }
+    ConfirmDialog {
         id: confirmDelete
         objectName: "confirmDeleteInvoice"
         //% "Delete invoice %1?"
@@ -152,6 +164,13 @@ Rectangle {
                 ].concat(root.list.years.map(y => ({ value: String(y), label: String(y) })))
                 value: String(root.list.year)
                 onChosen: (value) => root.list.year = Number(value)
+            }
+            PrimaryButton {
+                objectName: "newInvoice"
+                //% "New invoice"
+                text: qsTrId("ui.composer.title")
+                onClicked: Shell.workspace.composer.open(Shell.workspace.selectedProjectId
+                                                         ? [Shell.workspace.selectedProjectId] : [])
             }
         }
 
@@ -385,6 +404,14 @@ Rectangle {
                         //% "Save PDF…"
                         text: qsTrId("ui.invoices.savePdf")
                         onClicked: root.chooseFile()
+                    }
+                    FlatButton {
+                        objectName: "redrawInvoice"
+                        visible: !parent.isVoid
+                        enabled: root.selected !== null && !root.list.busy
+                        //% "Draw again…"
+                        text: qsTrId("ui.invoices.redraw")
+                        onClicked: confirmRedraw.open()
                     }
                     FlatButton {
                         objectName: "deleteInvoice"

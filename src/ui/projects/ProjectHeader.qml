@@ -68,6 +68,11 @@ Rectangle {
                         onTriggered: { header.workspace.editProjectPrice(); projectPrice.open() }
                     }
                     MenuItem {
+                        //% "Create invoice…"
+                        text: qsTrId("ui.projects.invoice")
+                        onTriggered: header.workspace.composer.open([header.project.id])
+                    }
+                    MenuItem {
                         //% "Mark as active"
                         text: qsTrId("ui.projects.markActive")
                         visible: header.isProject && header.project.status !== "active"

@@ -22,6 +22,10 @@ Rectangle {
         { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
         { id: "earnings", title: qsTrId("ui.earnings.title"), source: "qrc:/Morvane/Ui/earnings/EarningsView.qml" }
     ]
+    // Screens reached from inside others, not listed in the sidebar.
+    readonly property var innerPages: [
+        { id: "composer", source: "qrc:/Morvane/Ui/composer/ComposerView.qml" }
+    ]
     property alias sidebarWidth: sidebar.preferredWidth
     property alias inspectorWidth: inspectorPane.preferredWidth
     signal paletteRequested()
@@ -35,6 +39,11 @@ Rectangle {
     }
     property string rememberedProject: ""
     Component.onCompleted: if (rememberedProject) workspace.selectedProjectId = rememberedProject
+    Connections {
+        target: main.workspace.composer
+        function onOpened() { main.settingsOpen = false; main.teamId = ""; main.page = "composer" }
+        function onSaved() { main.page = "invoices" }
+    }
     Connections {
         target: main.workspace
         function onSelectionChanged() { main.rememberedProject = main.workspace.selectedProjectId }
@@ -82,7 +91,7 @@ Rectangle {
                 Layout.preferredWidth: main.compactSidebar ? Theme.sidebarCompactWidth : preferredWidth
                 compact: main.compactSidebar
                 links: main.pageLinks
-                currentPage: main.settingsOpen ? "settings" : main.page
+                currentPage: main.settingsOpen ? "settings" : (main.page === "composer" ? "invoices" : main.page)
                 onTeamChosen: (id) => { main.teamId = id; main.settingsOpen = false; main.page = "" }
                 onProjectChosen: { main.teamId = ""; main.settingsOpen = false; main.page = "" }
                 onSettingsChosen: main.settingsOpen = true
@@ -120,7 +129,7 @@ Rectangle {
                 active: !main.settingsOpen && main.page !== ""
                 visible: active
                 source: {
-                    const link = main.pageLinks.find(l => l.id === main.page)
+                    const link = main.pageLinks.concat(main.innerPages).find(l => l.id === main.page)
                     return link ? link.source : ""
                 }
             }
