@@ -159,8 +159,8 @@ QString lineKindName(Earnings::BuiltLine::Kind kind)
 }
 
 // The window's composer over one project's unbilled time in [from, to], so that the command line
-// bills exactly what the window would. `--vat` stands for the house style's rate.
-void openComposer(InvoiceComposer &composer, const Project &project, std::optional<QDate> from,
+// bills exactly what the window would. `--vat` stands in for the house style's rate.
+void openComposer(const AppStore &store, InvoiceComposer &composer, const Project &project, std::optional<QDate> from,
                   std::optional<QDate> to, std::optional<double> vatPercent)
 {
     InvoiceContext context;
@@ -168,9 +168,7 @@ void openComposer(InvoiceComposer &composer, const Project &project, std::option
     context.from = from;
     context.to = to;
     composer.open(context);
-    if (vatPercent) {
-        composer.setDefaultVatPercent(*vatPercent);
-    }
+    composer.setDefaultVatPercent(vatPercent.value_or(InvoiceDocuments::houseTerms(store).vatPercent));
 }
 
 int showDraft(const Project &project, const InvoiceComposer &composer, bool json, QTextStream &out)
@@ -310,7 +308,7 @@ int createInvoice(AppStore &store, const Project &project, InvoiceComposer &comp
     }
     composer.setClientName(clientName.value_or(QString()));
     const QDate issued = QDate::currentDate();
-    const QDate due = issued.addDays(14);
+    const QDate due = issued.addDays(InvoiceDocuments::houseTerms(store).paymentDays);
     std::optional<InvoiceSaveRequest> request = composer.saveRequest(*number, issued, due, status);
     if (!request) {
         err << composer.readinessError() << Qt::endl;
@@ -413,7 +411,7 @@ int runInvoiceCommand(const QStringList &arguments, QTextStream &out, QTextStrea
             return session.failed(err);
         }
         InvoiceComposer composer(store);
-        openComposer(composer, *project, from, to, vatPercent);
+        openComposer(store, composer, *project, from, to, vatPercent);
         if (action == u"create") {
             const std::optional<QString> client =
                 parser.isSet(clientOption) ? std::optional<QString>(parser.value(clientOption)) : std::nullopt;

@@ -35,6 +35,15 @@ void applyHouseStyle(const AppStore &store, InvoiceDocument &document)
 
 namespace InvoiceDocuments {
 
+HouseTerms houseTerms(const AppStore &store)
+{
+    const InvoiceStyle house = store.defaultInvoiceTemplate().value_or(InvoiceTemplate{}).style;
+    HouseTerms terms;
+    terms.paymentDays = std::clamp(house.paymentTermsDays.value_or(terms.paymentDays), 0, 365);
+    terms.vatPercent = std::clamp(house.vatRate.value_or(0.0), 0.0, 100.0);
+    return terms;
+}
+
 DraftLine draftLine(const Earnings::BuiltLine &built)
 {
     DraftLine line;

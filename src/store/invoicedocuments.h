@@ -14,6 +14,15 @@ class InvoiceComposer;
 // so that what the composer previews is what the client receives.
 namespace InvoiceDocuments {
 
+// What a new invoice starts with from the house style: days until payment is due and the VAT
+// percentage of lines whose price names none. Both stay within sense when the style does not.
+struct HouseTerms
+{
+    int paymentDays = 14;
+    double vatPercent = 0;
+};
+[[nodiscard]] HouseTerms houseTerms(const AppStore &store);
+
 [[nodiscard]] DraftLine draftLine(const Earnings::BuiltLine &built);
 
 // The composer's current state with the number, days and notes the person chose.

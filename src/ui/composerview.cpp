@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Payment is due two weeks after the issue day unless the person sets another day.
-constexpr int defaultPaymentDays = 14;
 // Sharp at the preview pane's width on a screen of twice the density.
 constexpr int previewWidth = 1200;
 
@@ -206,9 +204,13 @@ void ComposerView::open(const QStringList &projectIds)
     m_composer->setClientEmail({});
     m_composer->setClientAddress({});
     m_composer->setSaveAsClient(false);
+    // The house style's terms and VAT rate, which the person may change for this invoice.
+    const InvoiceDocuments::HouseTerms terms = InvoiceDocuments::houseTerms(*m_store);
     m_issued = QDate::currentDate();
-    m_due = m_issued.addDays(defaultPaymentDays);
+    m_due = m_issued.addDays(terms.paymentDays);
     emit datesChanged();
+    m_composer->setManualVat(false);
+    m_composer->setDefaultVatPercent(terms.vatPercent);
     m_notes.clear();
     emit notesChanged();
     say({}, false);
