@@ -1,5 +1,6 @@
 #include "claudebridge.h"
 
+#include "sessions/captureprompt.h"
 #include "sessions/claudebridgeerror.h"
 
 #include <QDate>
@@ -319,65 +320,12 @@ QCoro::Task<QString> ClaudeBridge::parseWithWorkspace(QString prompt, QString wo
 QString ClaudeBridge::parseSystemPrompt(const QStringList &knownProjects, const QString &todayISO,
                                         const QTimeZone &zone)
 {
-    const QDate today = QDate::fromString(todayISO, Qt::ISODate);
-    const QLocale english(QLocale::English);
-    QString calendar;
-    for (int i = 0; i < 14 && today.isValid(); ++i) {
-        const QDate day = today.addDays(i);
-        calendar += u"\n  "_s + day.toString(Qt::ISODate) + u" "_s + english.dayName(day.dayOfWeek());
-    }
-    QString projects;
-    for (const QString &name : knownProjects) {
-        projects += u"\n  - "_s + name;
-    }
-    if (projects.isEmpty()) {
-        projects = u" (none)"_s;
-    }
-    return u"You are a strict JSON extractor for a time-tracking app called Morvane. Convert the user's freeform "
-           u"input (Dutch or English) into ONE JSON object matching the schema. No markdown fences. No commentary.\n"
-           u"\n"
-           u"Return EXACTLY one JSON object with these top-level keys (use null when missing):\n"
-           u"- \"intent\": one of "
-           u"\"create_project|create_projects|create_task|start_timer|stop_timer|log_time|unknown\"\n"
-           u"- \"projects\": list of {\"name\", \"description\", \"hourly_rate\"} for projects to create\n"
-           u"- \"project\": the name of the project the input is about; reuse a known project's exact name when it "
-           u"matches\n"
-           u"- \"task\": {\"title\", \"description\", \"due_date\", \"priority\" (low|medium|high)} for a task to "
-           u"create or time\n"
-           u"- \"minutes\": time to log, as a number of minutes\n"
-           u"- \"date\": the day the input is about\n"
-           u"\n"
-           u"Dates: use the TODAY and CALENDAR lines below. Write every date as YYYY-MM-DD from that calendar; never "
-           u"use another year or a date before today.\n"
-           u"\"vandaag\"/\"today\" = today; \"morgen\"/\"tomorrow\" = the day after today; \"overmorgen\"/\"the day "
-           u"after tomorrow\" = two days after today; \"over een week\"/\"in a week\" = seven days after today; a "
-           u"weekday name (\"maandag\"/\"Monday\", ...) = the next such day in CALENDAR after today; \"volgende "
-           u"week\"/\"next week\" = the Monday of next week.\n"
-           u"\n"
-           u"Known projects:"_s +
-           projects + u"\n\nTODAY: "_s + todayISO +
-           (today.isValid() ? u" ("_s + english.dayName(today.dayOfWeek()) + u")"_s : QString()) + u"\nTIME ZONE: "_s +
-           QString::fromUtf8(zone.id()) + u"\nCALENDAR:"_s + calendar + u"\n"_s;
+    return CapturePrompt::systemPrompt(knownProjects, todayISO, zone);
 }
 
 QString ClaudeBridge::jsonSchema()
 {
-    return uR"({"type":"object","additionalProperties":false,)"
-           uR"("required":["intent","projects","project","task","minutes","date"],)"
-           uR"("properties":{)"
-           uR"("intent":{"type":"string","enum":["create_project","create_projects","create_task","start_timer",)"
-           uR"("stop_timer","log_time","unknown"]},)"
-           uR"("projects":{"type":["array","null"],"items":{"type":"object","additionalProperties":false,)"
-           uR"("required":["name","description","hourly_rate"],"properties":{"name":{"type":"string"},)"
-           uR"("description":{"type":["string","null"]},"hourly_rate":{"type":["number","null"]}}}},)"
-           uR"("project":{"type":["string","null"]},)"
-           uR"("task":{"type":["object","null"],"additionalProperties":false,)"
-           uR"("required":["title","description","due_date","priority"],"properties":{"title":{"type":"string"},)"
-           uR"("description":{"type":["string","null"]},)"
-           uR"("due_date":{"type":["string","null"],"pattern":"^[0-9]{4}-[0-9]{2}-[0-9]{2}$"},)"
-           uR"("priority":{"type":["string","null"],"enum":["low","medium","high",null]}}},)"
-           uR"("minutes":{"type":["number","null"]},)"
-           uR"("date":{"type":["string","null"],"pattern":"^[0-9]{4}-[0-9]{2}-[0-9]{2}$"}}})"_s;
+    return CapturePrompt::jsonSchema();
 }
 
 std::optional<QString> ClaudeBridge::extractHTMLDocument(const QString &text)
