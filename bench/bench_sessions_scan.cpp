@@ -1,7 +1,8 @@
 // What a scan of coding-agent session logs costs, next to merely reading the same bytes with
 // `cat` in the same run: a cold scan (empty parse cache) of a generated folder of thousands of
-// logs, some of hundreds of megabytes; the once-a-minute re-scan of the unchanged folder; and the
-// re-scan after 1 MB was appended to a 200 MB log. The folder is generated under /tmp and deleted
+// logs, some of hundreds of megabytes, beside the same logs parsed one by one on one thread; the
+// once-a-minute re-scan of the unchanged folder; and the re-scan after 1 MB was appended to a
+// 200 MB log. The folder is generated under /tmp and deleted
 // afterwards. Prints the figures; asserts nothing.
 //
 //   bench_sessions_scan [--mb TOTAL] [--files COUNT]     (defaults: 600 MB in 3,000 files)
@@ -12,6 +13,7 @@
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <algorithm>
 #include <chrono>
@@ -229,6 +231,37 @@ double statWalkMillis(const QByteArray &root)
     return millisSince(start);
 }
 
+// Every log parsed one after another on this thread, in the order a walk lists them: what a scan
+// without its threads would return, to compare the scan's result and time with.
+QList<ParsedSession> parseOneByOne(const QString &root)
+{
+    QList<ParsedSession> sessions;
+    const QByteArray top = QFile::encodeName(root);
+    DIR *projects = ::opendir(top.constData());
+    while (const dirent *folder = ::readdir(projects)) {
+        if (folder->d_name[0] == '.' || folder->d_type == DT_REG) {
+            continue;
+        }
+        const QByteArray path = top + '/' + folder->d_name;
+        DIR *inner = ::opendir(path.constData());
+        while (const dirent *file = inner ? ::readdir(inner) : nullptr) {
+            const QByteArray name(file->d_name);
+            if (name.endsWith(".jsonl")) {
+                const std::optional<ParsedSession> session =
+                    ClaudeWatcher::parse(QFile::decodeName(path + '/' + name), QFile::decodeName(name.chopped(6)), 900);
+                if (session) {
+                    sessions.append(*session);
+                }
+            }
+        }
+        if (inner) {
+            ::closedir(inner);
+        }
+    }
+    ::closedir(projects);
+    return sessions;
+}
+
 double catMillis(const QString &root)
 {
     const auto start = SteadyClock::now();
@@ -300,9 +333,20 @@ int main(int argc, char **argv)
         colds.push_back(millisSince(start));
     }
     const double cold = *std::min_element(colds.begin(), colds.end());
+    QList<ParsedSession> oneByOne;
+    double serial = 0;
+    for (int i = 0; i < 2; ++i) {
+        const auto start = SteadyClock::now();
+        oneByOne = parseOneByOne(root);
+        serial = i == 0 ? millisSince(start) : std::min(serial, millisSince(start));
+    }
     const double mb = double(bytes) / megabyte;
-    std::printf("cold scan      %8.1f ms  %7.0f MB/s  (%d sessions, %lld MB read)\n", cold, mb / (cold / 1000),
-                int(sessions.size()), (long long)(stats.bytesRead / megabyte));
+    std::printf("cold scan      %8.1f ms  %7.0f MB/s  (%d sessions, %lld MB read, %d threads)\n", cold,
+                mb / (cold / 1000), int(sessions.size()), (long long)(stats.bytesRead / megabyte),
+                QThread::idealThreadCount());
+    std::printf("one by one     %8.1f ms  %7.0f MB/s  the same files parsed in turn on one thread; same "
+                "sessions in the same order: %s\n",
+                serial, mb / (serial / 1000), oneByOne == sessions ? "yes" : "NO");
     std::printf("cat > /dev/null %7.1f ms  %7.0f MB/s\n", cat, mb / (cat / 1000));
     std::printf("cold / cat     %8.2f x    target under %.1f x: %s\n\n", cold / cat, coldTargetRatio,
                 cold / cat < coldTargetRatio ? "met" : "MISSED");

@@ -6,12 +6,18 @@
 #include <QHash>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QThread>
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <dirent.h>
+#include <numeric>
 #include <span>
 #include <sys/stat.h>
+#include <system_error>
+#include <thread>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -152,6 +158,86 @@ bool endsWithLogSuffix(const char *name, size_t length)
     return length >= 6 && std::memcmp(name + length - 6, ".jsonl", 6) == 0;
 }
 
+// A file a walk found new or changed, and what reading it gave.
+struct PendingRead
+{
+    QByteArray path;
+    QString sessionId;
+    struct stat info
+    {};
+    // Set when only the bytes appended since this parse need reading.
+    std::shared_ptr<const CacheEntry> previous;
+
+    std::shared_ptr<const CacheEntry> entry; // nothing when the file could not be read
+    bool extended = false;
+    qint64 bytesRead = 0;
+};
+
+// One file of a walk in directory order: from the cache, or the pending read numbered from 1.
+struct Visit
+{
+    std::shared_ptr<const CacheEntry> cached;
+    size_t pending = 0;
+};
+
+void readOne(PendingRead &pending, int idleGap)
+{
+    std::optional<SessionLogRead> read;
+    if (pending.previous) {
+        read = SessionLogReader::readAppended(pending.path, pending.previous->state);
+        pending.extended = read.has_value();
+    }
+    if (!read) {
+        read = SessionLogReader::readWhole(pending.path);
+        if (!read) {
+            return;
+        }
+    }
+    pending.bytesRead = read->bytesRead;
+    auto entry = std::make_shared<CacheEntry>();
+    entry->modSeconds = pending.info.st_mtim.tv_sec;
+    entry->modNanoseconds = pending.info.st_mtim.tv_nsec;
+    entry->size = pending.info.st_size;
+    entry->device = pending.info.st_dev;
+    entry->inode = pending.info.st_ino;
+    entry->idleGap = idleGap;
+    entry->session = finish(*read, pending.sessionId, idleGap);
+    entry->state = std::move(read->state);
+    pending.entry = std::move(entry);
+}
+
+// Reads the pending files on as many threads as there are cores, the walking thread among them.
+// Helpers inherit the walk's scheduling, so a background walk stays in the background. The
+// largest files are taken first: one started last would leave the other cores idle at the end.
+void readAll(std::vector<PendingRead> &pending, int idleGap)
+{
+    if (pending.empty()) {
+        return;
+    }
+    std::vector<size_t> bySize(pending.size());
+    std::iota(bySize.begin(), bySize.end(), size_t(0));
+    std::stable_sort(bySize.begin(), bySize.end(),
+                     [&](size_t a, size_t b) { return pending[a].info.st_size > pending[b].info.st_size; });
+    std::atomic<size_t> next{0};
+    const auto drain = [&] {
+        for (size_t taken = next++; taken < bySize.size(); taken = next++) {
+            readOne(pending[bySize[taken]], idleGap);
+        }
+    };
+    const size_t threads = std::min(pending.size(), size_t(std::max(1, QThread::idealThreadCount())));
+    std::vector<std::jthread> helpers;
+    helpers.reserve(threads - 1);
+    for (size_t i = 1; i < threads; ++i) {
+        try {
+            helpers.emplace_back(drain);
+        } catch (const std::system_error &) {
+            // No thread to be had: the threads already running read the rest.
+            break;
+        }
+    }
+    drain();
+}
+
 } // namespace
 
 std::optional<ParsedSession> ClaudeWatcher::parse(const QString &path, const QString &sessionId, int idleGap)
@@ -225,6 +311,10 @@ QList<ParsedSession> ClaudeWatcher::enumerateSessions(const QString &projectsDir
         prune();
         return sessions;
     }
+    // The walk only lists and stats; the files to open are read afterwards on every core, and
+    // `visits` keeps the directory order the sessions are returned in.
+    std::vector<Visit> visits;
+    std::vector<PendingRead> pending;
     // One buffer for every path: an unchanged file costs no allocation.
     QByteArray path;
     path.reserve(4096);
@@ -273,49 +363,48 @@ QList<ParsedSession> ClaudeWatcher::enumerateSessions(const QString &projectsDir
                 cached->modNanoseconds == info.st_mtim.tv_nsec && cached->size == info.st_size) {
                 ++counted.filesFromCache;
                 if (cached->session) {
-                    sessions.append(*cached->session);
+                    visits.push_back(Visit{std::move(cached), 0});
                 }
                 continue;
             }
 
-            std::optional<SessionLogRead> read;
+            PendingRead read;
+            read.path = QByteArray(path.constData(), path.size());
+            read.sessionId = QFile::decodeName(QByteArray(file->d_name, qsizetype(length - 6)));
+            read.info = info;
             if (sameFile && info.st_size >= cached->state.parsedBytes) {
-                read = SessionLogReader::readAppended(path, cached->state);
-                if (read) {
-                    ++counted.filesExtended;
-                }
+                read.previous = std::move(cached);
             }
-            if (!read) {
-                read = SessionLogReader::readWhole(path);
-                if (!read) {
-                    continue;
-                }
-                ++counted.filesReadWhole;
-            }
-            counted.bytesRead += read->bytesRead;
-            const QString sessionId = QFile::decodeName(QByteArray(file->d_name, qsizetype(length - 6)));
-            auto entry = std::make_shared<CacheEntry>();
-            entry->modSeconds = info.st_mtim.tv_sec;
-            entry->modNanoseconds = info.st_mtim.tv_nsec;
-            entry->size = info.st_size;
-            entry->device = info.st_dev;
-            entry->inode = info.st_ino;
-            entry->idleGap = idleGap;
-            entry->session = finish(*read, sessionId, idleGap);
-            entry->state = std::move(read->state);
-            if (entry->session) {
-                sessions.append(*entry->session);
-            }
-            // Files without a session are kept too: unchanged, they would give none again, and
-            // a growing one is extended like any other.
-            const QMutexLocker locker(&cache.lock);
-            CacheSlot &slot = cache.entries[QByteArray(path.constData(), path.size())];
-            slot.entry = std::move(entry);
-            slot.seenByWalk = std::max(slot.seenByWalk, walk);
+            pending.push_back(std::move(read));
+            visits.push_back(Visit{nullptr, pending.size()});
         }
         ::closedir(inner);
     }
     ::closedir(top);
+
+    readAll(pending, idleGap);
+
+    for (const PendingRead &read : pending) {
+        if (!read.entry) {
+            continue;
+        }
+        counted.filesExtended += read.extended ? 1 : 0;
+        counted.filesReadWhole += read.extended ? 0 : 1;
+        counted.bytesRead += read.bytesRead;
+        // Files without a session are kept too: unchanged, they would give none again, and
+        // a growing one is extended like any other.
+        const QMutexLocker locker(&cache.lock);
+        CacheSlot &slot = cache.entries[read.path];
+        slot.entry = read.entry;
+        slot.seenByWalk = std::max(slot.seenByWalk, walk);
+    }
+    sessions.reserve(qsizetype(visits.size()));
+    for (const Visit &visit : visits) {
+        const CacheEntry *entry = visit.pending > 0 ? pending[visit.pending - 1].entry.get() : visit.cached.get();
+        if (entry && entry->session) {
+            sessions.append(*entry->session);
+        }
+    }
     prune();
     if (stats) {
         *stats = counted;
