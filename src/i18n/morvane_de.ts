@@ -3011,6 +3011,206 @@
       <source>No timer is running</source>
       <translation>Es läuft kein Timer</translation>
     </message>
+    <message id="ui.sessions.autoTrack">
+      <source>Auto-track Claude sessions</source>
+      <translation>Claude-Sitzungen automatisch erfassen</translation>
+    </message>
+    <message id="ui.sessions.burstLine">
+      <source>%1 · %2 prompts</source>
+      <translation>%1 · %2 Eingaben</translation>
+    </message>
+    <message id="ui.sessions.burstLineOne">
+      <source>%1 · 1 prompt</source>
+      <translation>%1 · 1 Eingabe</translation>
+    </message>
+    <message id="ui.sessions.commit">
+      <source>Log to project</source>
+      <translation>Im Projekt erfassen</translation>
+    </message>
+    <message id="ui.sessions.earlier">
+      <source>Earlier</source>
+      <translation>Früher</translation>
+    </message>
+    <message id="ui.sessions.emptyHint">
+      <source>Run a claude session in any folder on this computer (Claude Code, the command line, anything that writes to ~/.claude/projects/). Then press Rescan. Sessions from the last 30 days are picked up.</source>
+      <translation>Starte eine claude-Sitzung in einem beliebigen Ordner auf diesem Computer (Claude Code, die Befehlszeile, alles, was nach ~/.claude/projects/ schreibt). Tippe dann auf Neu einlesen. Sitzungen der letzten 30 Tage werden übernommen.</translation>
+    </message>
+    <message id="ui.sessions.emptyTitle">
+      <source>No Claude sessions parsed yet</source>
+      <translation>Noch keine Claude-Sitzungen gelesen</translation>
+    </message>
+    <message id="ui.sessions.err.createProject">
+      <source>Create project failed: %1</source>
+      <translation>Projekt anlegen fehlgeschlagen: %1</translation>
+    </message>
+    <message id="ui.sessions.explainMapping">
+      <source>Sessions are tied to their working directory. You map each working dir to one of your projects once; from then on every new conversation in that repo logs automatically. Idle gaps longer than 5 minutes are excluded so an overnight pause does not bill 8 hours.</source>
+      <translation>Sitzungen gehören zu ihrem Arbeitsordner. Du verknüpfst jeden Arbeitsordner einmal mit einem deiner Projekte; danach wird jedes neue Gespräch in diesem Repo automatisch erfasst. Pausen über 5 Minuten zählen nicht, damit eine Nacht nicht 8 Stunden kostet.</translation>
+    </message>
+    <message id="ui.sessions.explainPrefix">
+      <source>Resulting tasks are prefixed [AI] so you can tell a client exactly what part of the work was AI-assisted.</source>
+      <translation>Die so entstehenden Aufgaben beginnen mit [AI], damit du Kunden genau sagen kannst, welcher Teil der Arbeit KI-gestützt war.</translation>
+    </message>
+    <message id="ui.sessions.explainScan">
+      <source>Every minute Morvane scans your local Claude Code sessions (~/.claude/projects/) and turns each one into a billable time entry on the matching Morvane project.</source>
+      <translation>Jede Minute liest Morvane deine lokalen Claude-Code-Sitzungen (~/.claude/projects/) und macht aus jeder eine abrechenbare Zeitbuchung im passenden Morvane-Projekt.</translation>
+    </message>
+    <message id="ui.sessions.fewer">
+      <source>Show fewer</source>
+      <translation>Weniger zeigen</translation>
+    </message>
+    <message id="ui.sessions.folderProject">
+      <source>Auto-created for Claude sessions in %1</source>
+      <translation>Automatisch angelegt für Claude-Sitzungen in %1</translation>
+    </message>
+    <message id="ui.sessions.idleGap">
+      <source>Idle gap (minutes)</source>
+      <translation>Pausengrenze (Minuten)</translation>
+    </message>
+    <message id="ui.sessions.idleGapHelp">
+      <source>Gaps longer than this between messages are treated as idle and excluded. 15 min covers most typing pauses.</source>
+      <translation>Längere Pausen zwischen Nachrichten gelten als Leerlauf und zählen nicht. 15 Min. decken die meisten Tipp-Pausen ab.</translation>
+    </message>
+    <message id="ui.sessions.ignore">
+      <source>Ignore</source>
+      <translation>Ignorieren</translation>
+    </message>
+    <message id="ui.sessions.lastWeek">
+      <source>Last week</source>
+      <translation>Letzte Woche</translation>
+    </message>
+    <message id="ui.sessions.link">
+      <source>Link to a project…</source>
+      <translation>Mit Projekt verknüpfen…</translation>
+    </message>
+    <message id="ui.sessions.list">
+      <source>Sessions</source>
+      <translation>Sitzungen</translation>
+    </message>
+    <message id="ui.sessions.loading">
+      <source>Reading your sessions…</source>
+      <translation>Deine Sitzungen werden gelesen…</translation>
+    </message>
+    <message id="ui.sessions.logHelp">
+      <source>Log this session to a project, split into %1 tasks by natural breaks</source>
+      <translation>Diese Sitzung in einem Projekt erfassen, an natürlichen Pausen in %1 Aufgaben geteilt</translation>
+    </message>
+    <message id="ui.sessions.logTo">
+      <source>Log to…</source>
+      <translation>Erfassen in…</translation>
+    </message>
+    <message id="ui.sessions.logged">
+      <source>Logged %1 of %2 work bursts.</source>
+      <translation>%1 von %2 Arbeitsabschnitten erfasst.</translation>
+    </message>
+    <message id="ui.sessions.loggedChip">
+      <source>Logged</source>
+      <translation>Erfasst</translation>
+    </message>
+    <message id="ui.sessions.manyTasks">
+      <source>%1 tasks</source>
+      <translation>%1 Aufgaben</translation>
+    </message>
+    <message id="ui.sessions.more">
+      <source>Show all %1 sessions</source>
+      <translation>Alle %1 Sitzungen zeigen</translation>
+    </message>
+    <message id="ui.sessions.newProject">
+      <source>Create new project named "%1"</source>
+      <translation>Neues Projekt namens "%1"</translation>
+    </message>
+    <message id="ui.sessions.noScan">
+      <source>No scan yet.</source>
+      <translation>Noch kein Scan.</translation>
+    </message>
+    <message id="ui.sessions.notLinked">
+      <source>Not linked yet</source>
+      <translation>Noch nicht verknüpft</translation>
+    </message>
+    <message id="ui.sessions.oneTask">
+      <source>1 task</source>
+      <translation>1 Aufgabe</translation>
+    </message>
+    <message id="ui.sessions.pendingIntro">
+      <source>These directories have Claude sessions waiting to be logged. Pick a Morvane project (or Ignore) for each.</source>
+      <translation>In diesen Ordnern warten Claude-Sitzungen auf die Erfassung. Wähle für jeden ein Morvane-Projekt (oder Ignorieren).</translation>
+    </message>
+    <message id="ui.sessions.pendingLine">
+      <source>%1 · %2 sessions · %3 active</source>
+      <translation>%1 · %2 Sitzungen · %3 aktiv</translation>
+    </message>
+    <message id="ui.sessions.previewTitle">
+      <source>Review and log to: %1 (%2)</source>
+      <translation>Prüfen und erfassen in: %1 (%2)</translation>
+    </message>
+    <message id="ui.sessions.reimport">
+      <source>Re-import</source>
+      <translation>Neu importieren</translation>
+    </message>
+    <message id="ui.sessions.reimportAll">
+      <source>Re-import all sessions</source>
+      <translation>Alle Sitzungen neu importieren</translation>
+    </message>
+    <message id="ui.sessions.reimportAllBody">
+      <source>Every session is logged again at the next scan. Tasks made earlier stay; delete them yourself if you do not want them twice.</source>
+      <translation>Jede Sitzung wird beim nächsten Scan erneut erfasst. Früher angelegte Aufgaben bleiben; lösche sie selbst, wenn du sie nicht doppelt willst.</translation>
+    </message>
+    <message id="ui.sessions.reimportAllTitle">
+      <source>Re-import all sessions?</source>
+      <translation>Alle Sitzungen neu importieren?</translation>
+    </message>
+    <message id="ui.sessions.reimportHelp">
+      <source>Re-import this session (forget previous log)</source>
+      <translation>Diese Sitzung neu importieren (frühere Erfassung vergessen)</translation>
+    </message>
+    <message id="ui.sessions.rescan">
+      <source>Rescan</source>
+      <translation>Neu einlesen</translation>
+    </message>
+    <message id="ui.sessions.result">
+      <source>Last scan %1: %2 sessions found, %3 work bursts logged (%4), %5 sessions waiting for a project.</source>
+      <translation>Letzter Scan %1: %2 Sitzungen gefunden, %3 Arbeitsabschnitte erfasst (%4), %5 Sitzungen warten auf ein Projekt.</translation>
+    </message>
+    <message id="ui.sessions.scanNow">
+      <source>Scan now</source>
+      <translation>Jetzt einlesen</translation>
+    </message>
+    <message id="ui.sessions.sessionLine">
+      <source>%1 · %2 active · %3 bursts</source>
+      <translation>%1 · %2 aktiv · %3 Abschnitte</translation>
+    </message>
+    <message id="ui.sessions.sessionLineOne">
+      <source>%1 · %2 active</source>
+      <translation>%1 · %2 aktiv</translation>
+    </message>
+    <message id="ui.sessions.sessionProject">
+      <source>Auto-created for Claude session %1</source>
+      <translation>Automatisch angelegt für Claude-Sitzung %1</translation>
+    </message>
+    <message id="ui.sessions.thisWeek">
+      <source>Earlier this week</source>
+      <translation>Früher in dieser Woche</translation>
+    </message>
+    <message id="ui.sessions.title">
+      <source>AI sessions</source>
+      <translation>KI-Sitzungen</translation>
+    </message>
+    <message id="ui.sessions.today">
+      <source>Today</source>
+      <translation>Heute</translation>
+    </message>
+    <message id="ui.sessions.tracking">
+      <source>Tracking</source>
+      <translation>Erfassung</translation>
+    </message>
+    <message id="ui.sessions.untitled">
+      <source>Claude session</source>
+      <translation>Claude-Sitzung</translation>
+    </message>
+    <message id="ui.sessions.yesterday">
+      <source>Yesterday</source>
+      <translation>Gestern</translation>
+    </message>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Konto</translation>

@@ -3011,6 +3011,206 @@
       <source>No timer is running</source>
       <translation>No timer is running</translation>
     </message>
+    <message id="ui.sessions.autoTrack">
+      <source>Auto-track Claude sessions</source>
+      <translation>Auto-track Claude sessions</translation>
+    </message>
+    <message id="ui.sessions.burstLine">
+      <source>%1 · %2 prompts</source>
+      <translation>%1 · %2 prompts</translation>
+    </message>
+    <message id="ui.sessions.burstLineOne">
+      <source>%1 · 1 prompt</source>
+      <translation>%1 · 1 prompt</translation>
+    </message>
+    <message id="ui.sessions.commit">
+      <source>Log to project</source>
+      <translation>Log to project</translation>
+    </message>
+    <message id="ui.sessions.earlier">
+      <source>Earlier</source>
+      <translation>Earlier</translation>
+    </message>
+    <message id="ui.sessions.emptyHint">
+      <source>Run a claude session in any folder on this computer (Claude Code, the command line, anything that writes to ~/.claude/projects/). Then press Rescan. Sessions from the last 30 days are picked up.</source>
+      <translation>Run a claude session in any folder on this computer (Claude Code, the command line, anything that writes to ~/.claude/projects/). Then press Rescan. Sessions from the last 30 days are picked up.</translation>
+    </message>
+    <message id="ui.sessions.emptyTitle">
+      <source>No Claude sessions parsed yet</source>
+      <translation>No Claude sessions parsed yet</translation>
+    </message>
+    <message id="ui.sessions.err.createProject">
+      <source>Create project failed: %1</source>
+      <translation>Create project failed: %1</translation>
+    </message>
+    <message id="ui.sessions.explainMapping">
+      <source>Sessions are tied to their working directory. You map each working dir to one of your projects once; from then on every new conversation in that repo logs automatically. Idle gaps longer than 5 minutes are excluded so an overnight pause does not bill 8 hours.</source>
+      <translation>Sessions are tied to their working directory. You map each working dir to one of your projects once; from then on every new conversation in that repo logs automatically. Idle gaps longer than 5 minutes are excluded so an overnight pause does not bill 8 hours.</translation>
+    </message>
+    <message id="ui.sessions.explainPrefix">
+      <source>Resulting tasks are prefixed [AI] so you can tell a client exactly what part of the work was AI-assisted.</source>
+      <translation>Resulting tasks are prefixed [AI] so you can tell a client exactly what part of the work was AI-assisted.</translation>
+    </message>
+    <message id="ui.sessions.explainScan">
+      <source>Every minute Morvane scans your local Claude Code sessions (~/.claude/projects/) and turns each one into a billable time entry on the matching Morvane project.</source>
+      <translation>Every minute Morvane scans your local Claude Code sessions (~/.claude/projects/) and turns each one into a billable time entry on the matching Morvane project.</translation>
+    </message>
+    <message id="ui.sessions.fewer">
+      <source>Show fewer</source>
+      <translation>Show fewer</translation>
+    </message>
+    <message id="ui.sessions.folderProject">
+      <source>Auto-created for Claude sessions in %1</source>
+      <translation>Auto-created for Claude sessions in %1</translation>
+    </message>
+    <message id="ui.sessions.idleGap">
+      <source>Idle gap (minutes)</source>
+      <translation>Idle gap (minutes)</translation>
+    </message>
+    <message id="ui.sessions.idleGapHelp">
+      <source>Gaps longer than this between messages are treated as idle and excluded. 15 min covers most typing pauses.</source>
+      <translation>Gaps longer than this between messages are treated as idle and excluded. 15 min covers most typing pauses.</translation>
+    </message>
+    <message id="ui.sessions.ignore">
+      <source>Ignore</source>
+      <translation>Ignore</translation>
+    </message>
+    <message id="ui.sessions.lastWeek">
+      <source>Last week</source>
+      <translation>Last week</translation>
+    </message>
+    <message id="ui.sessions.link">
+      <source>Link to a project…</source>
+      <translation>Link to a project…</translation>
+    </message>
+    <message id="ui.sessions.list">
+      <source>Sessions</source>
+      <translation>Sessions</translation>
+    </message>
+    <message id="ui.sessions.loading">
+      <source>Reading your sessions…</source>
+      <translation>Reading your sessions…</translation>
+    </message>
+    <message id="ui.sessions.logHelp">
+      <source>Log this session to a project, split into %1 tasks by natural breaks</source>
+      <translation>Log this session to a project, split into %1 tasks by natural breaks</translation>
+    </message>
+    <message id="ui.sessions.logTo">
+      <source>Log to…</source>
+      <translation>Log to…</translation>
+    </message>
+    <message id="ui.sessions.logged">
+      <source>Logged %1 of %2 work bursts.</source>
+      <translation>Logged %1 of %2 work bursts.</translation>
+    </message>
+    <message id="ui.sessions.loggedChip">
+      <source>Logged</source>
+      <translation>Logged</translation>
+    </message>
+    <message id="ui.sessions.manyTasks">
+      <source>%1 tasks</source>
+      <translation>%1 tasks</translation>
+    </message>
+    <message id="ui.sessions.more">
+      <source>Show all %1 sessions</source>
+      <translation>Show all %1 sessions</translation>
+    </message>
+    <message id="ui.sessions.newProject">
+      <source>Create new project named "%1"</source>
+      <translation>Create new project named "%1"</translation>
+    </message>
+    <message id="ui.sessions.noScan">
+      <source>No scan yet.</source>
+      <translation>No scan yet.</translation>
+    </message>
+    <message id="ui.sessions.notLinked">
+      <source>Not linked yet</source>
+      <translation>Not linked yet</translation>
+    </message>
+    <message id="ui.sessions.oneTask">
+      <source>1 task</source>
+      <translation>1 task</translation>
+    </message>
+    <message id="ui.sessions.pendingIntro">
+      <source>These directories have Claude sessions waiting to be logged. Pick a Morvane project (or Ignore) for each.</source>
+      <translation>These directories have Claude sessions waiting to be logged. Pick a Morvane project (or Ignore) for each.</translation>
+    </message>
+    <message id="ui.sessions.pendingLine">
+      <source>%1 · %2 sessions · %3 active</source>
+      <translation>%1 · %2 sessions · %3 active</translation>
+    </message>
+    <message id="ui.sessions.previewTitle">
+      <source>Review and log to: %1 (%2)</source>
+      <translation>Review and log to: %1 (%2)</translation>
+    </message>
+    <message id="ui.sessions.reimport">
+      <source>Re-import</source>
+      <translation>Re-import</translation>
+    </message>
+    <message id="ui.sessions.reimportAll">
+      <source>Re-import all sessions</source>
+      <translation>Re-import all sessions</translation>
+    </message>
+    <message id="ui.sessions.reimportAllBody">
+      <source>Every session is logged again at the next scan. Tasks made earlier stay; delete them yourself if you do not want them twice.</source>
+      <translation>Every session is logged again at the next scan. Tasks made earlier stay; delete them yourself if you do not want them twice.</translation>
+    </message>
+    <message id="ui.sessions.reimportAllTitle">
+      <source>Re-import all sessions?</source>
+      <translation>Re-import all sessions?</translation>
+    </message>
+    <message id="ui.sessions.reimportHelp">
+      <source>Re-import this session (forget previous log)</source>
+      <translation>Re-import this session (forget previous log)</translation>
+    </message>
+    <message id="ui.sessions.rescan">
+      <source>Rescan</source>
+      <translation>Rescan</translation>
+    </message>
+    <message id="ui.sessions.result">
+      <source>Last scan %1: %2 sessions found, %3 work bursts logged (%4), %5 sessions waiting for a project.</source>
+      <translation>Last scan %1: %2 sessions found, %3 work bursts logged (%4), %5 sessions waiting for a project.</translation>
+    </message>
+    <message id="ui.sessions.scanNow">
+      <source>Scan now</source>
+      <translation>Scan now</translation>
+    </message>
+    <message id="ui.sessions.sessionLine">
+      <source>%1 · %2 active · %3 bursts</source>
+      <translation>%1 · %2 active · %3 bursts</translation>
+    </message>
+    <message id="ui.sessions.sessionLineOne">
+      <source>%1 · %2 active</source>
+      <translation>%1 · %2 active</translation>
+    </message>
+    <message id="ui.sessions.sessionProject">
+      <source>Auto-created for Claude session %1</source>
+      <translation>Auto-created for Claude session %1</translation>
+    </message>
+    <message id="ui.sessions.thisWeek">
+      <source>Earlier this week</source>
+      <translation>Earlier this week</translation>
+    </message>
+    <message id="ui.sessions.title">
+      <source>AI sessions</source>
+      <translation>AI sessions</translation>
+    </message>
+    <message id="ui.sessions.today">
+      <source>Today</source>
+      <translation>Today</translation>
+    </message>
+    <message id="ui.sessions.tracking">
+      <source>Tracking</source>
+      <translation>Tracking</translation>
+    </message>
+    <message id="ui.sessions.untitled">
+      <source>Claude session</source>
+      <translation>Claude session</translation>
+    </message>
+    <message id="ui.sessions.yesterday">
+      <source>Yesterday</source>
+      <translation>Yesterday</translation>
+    </message>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Account</translation>

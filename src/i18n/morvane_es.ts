@@ -3011,6 +3011,206 @@
       <source>No timer is running</source>
       <translation>No hay ningún temporizador en marcha</translation>
     </message>
+    <message id="ui.sessions.autoTrack">
+      <source>Auto-track Claude sessions</source>
+      <translation>Registrar automáticamente las sesiones de Claude</translation>
+    </message>
+    <message id="ui.sessions.burstLine">
+      <source>%1 · %2 prompts</source>
+      <translation>%1 · %2 peticiones</translation>
+    </message>
+    <message id="ui.sessions.burstLineOne">
+      <source>%1 · 1 prompt</source>
+      <translation>%1 · 1 petición</translation>
+    </message>
+    <message id="ui.sessions.commit">
+      <source>Log to project</source>
+      <translation>Registrar en el proyecto</translation>
+    </message>
+    <message id="ui.sessions.earlier">
+      <source>Earlier</source>
+      <translation>Antes</translation>
+    </message>
+    <message id="ui.sessions.emptyHint">
+      <source>Run a claude session in any folder on this computer (Claude Code, the command line, anything that writes to ~/.claude/projects/). Then press Rescan. Sessions from the last 30 days are picked up.</source>
+      <translation>Inicia una sesión de claude en cualquier carpeta de este ordenador (Claude Code, la línea de comandos, cualquier cosa que escriba en ~/.claude/projects/). Después pulsa Volver a escanear. Se recogen las sesiones de los últimos 30 días.</translation>
+    </message>
+    <message id="ui.sessions.emptyTitle">
+      <source>No Claude sessions parsed yet</source>
+      <translation>Aún no se ha leído ninguna sesión de Claude</translation>
+    </message>
+    <message id="ui.sessions.err.createProject">
+      <source>Create project failed: %1</source>
+      <translation>No se pudo crear el proyecto: %1</translation>
+    </message>
+    <message id="ui.sessions.explainMapping">
+      <source>Sessions are tied to their working directory. You map each working dir to one of your projects once; from then on every new conversation in that repo logs automatically. Idle gaps longer than 5 minutes are excluded so an overnight pause does not bill 8 hours.</source>
+      <translation>Las sesiones van ligadas a su carpeta de trabajo. Vinculas cada carpeta una vez a uno de tus proyectos; desde entonces cada conversación nueva en ese repositorio se registra sola. Las pausas de más de 5 minutos no cuentan, así una noche no factura 8 horas.</translation>
+    </message>
+    <message id="ui.sessions.explainPrefix">
+      <source>Resulting tasks are prefixed [AI] so you can tell a client exactly what part of the work was AI-assisted.</source>
+      <translation>Las tareas resultantes empiezan por [AI], para que puedas decir a un cliente qué parte del trabajo se hizo con ayuda de IA.</translation>
+    </message>
+    <message id="ui.sessions.explainScan">
+      <source>Every minute Morvane scans your local Claude Code sessions (~/.claude/projects/) and turns each one into a billable time entry on the matching Morvane project.</source>
+      <translation>Cada minuto Morvane revisa tus sesiones locales de Claude Code (~/.claude/projects/) y convierte cada una en tiempo facturable en el proyecto de Morvane que le corresponde.</translation>
+    </message>
+    <message id="ui.sessions.fewer">
+      <source>Show fewer</source>
+      <translation>Mostrar menos</translation>
+    </message>
+    <message id="ui.sessions.folderProject">
+      <source>Auto-created for Claude sessions in %1</source>
+      <translation>Creado automáticamente para las sesiones de Claude en %1</translation>
+    </message>
+    <message id="ui.sessions.idleGap">
+      <source>Idle gap (minutes)</source>
+      <translation>Pausa máxima (minutos)</translation>
+    </message>
+    <message id="ui.sessions.idleGapHelp">
+      <source>Gaps longer than this between messages are treated as idle and excluded. 15 min covers most typing pauses.</source>
+      <translation>Las pausas más largas entre mensajes cuentan como inactividad y se excluyen. 15 min cubren la mayoría de las pausas al escribir.</translation>
+    </message>
+    <message id="ui.sessions.ignore">
+      <source>Ignore</source>
+      <translation>Ignorar</translation>
+    </message>
+    <message id="ui.sessions.lastWeek">
+      <source>Last week</source>
+      <translation>La semana pasada</translation>
+    </message>
+    <message id="ui.sessions.link">
+      <source>Link to a project…</source>
+      <translation>Vincular a un proyecto…</translation>
+    </message>
+    <message id="ui.sessions.list">
+      <source>Sessions</source>
+      <translation>Sesiones</translation>
+    </message>
+    <message id="ui.sessions.loading">
+      <source>Reading your sessions…</source>
+      <translation>Leyendo tus sesiones…</translation>
+    </message>
+    <message id="ui.sessions.logHelp">
+      <source>Log this session to a project, split into %1 tasks by natural breaks</source>
+      <translation>Registrar esta sesión en un proyecto, dividida en %1 tareas por sus pausas naturales</translation>
+    </message>
+    <message id="ui.sessions.logTo">
+      <source>Log to…</source>
+      <translation>Registrar en…</translation>
+    </message>
+    <message id="ui.sessions.logged">
+      <source>Logged %1 of %2 work bursts.</source>
+      <translation>Registrados %1 de %2 bloques de trabajo.</translation>
+    </message>
+    <message id="ui.sessions.loggedChip">
+      <source>Logged</source>
+      <translation>Registrada</translation>
+    </message>
+    <message id="ui.sessions.manyTasks">
+      <source>%1 tasks</source>
+      <translation>%1 tareas</translation>
+    </message>
+    <message id="ui.sessions.more">
+      <source>Show all %1 sessions</source>
+      <translation>Mostrar las %1 sesiones</translation>
+    </message>
+    <message id="ui.sessions.newProject">
+      <source>Create new project named "%1"</source>
+      <translation>Crear el proyecto "%1"</translation>
+    </message>
+    <message id="ui.sessions.noScan">
+      <source>No scan yet.</source>
+      <translation>Aún no se ha escaneado.</translation>
+    </message>
+    <message id="ui.sessions.notLinked">
+      <source>Not linked yet</source>
+      <translation>Sin vincular</translation>
+    </message>
+    <message id="ui.sessions.oneTask">
+      <source>1 task</source>
+      <translation>1 tarea</translation>
+    </message>
+    <message id="ui.sessions.pendingIntro">
+      <source>These directories have Claude sessions waiting to be logged. Pick a Morvane project (or Ignore) for each.</source>
+      <translation>Estas carpetas tienen sesiones de Claude pendientes de registrar. Elige un proyecto de Morvane (o Ignorar) para cada una.</translation>
+    </message>
+    <message id="ui.sessions.pendingLine">
+      <source>%1 · %2 sessions · %3 active</source>
+      <translation>%1 · %2 sesiones · %3 activo</translation>
+    </message>
+    <message id="ui.sessions.previewTitle">
+      <source>Review and log to: %1 (%2)</source>
+      <translation>Revisar y registrar en: %1 (%2)</translation>
+    </message>
+    <message id="ui.sessions.reimport">
+      <source>Re-import</source>
+      <translation>Reimportar</translation>
+    </message>
+    <message id="ui.sessions.reimportAll">
+      <source>Re-import all sessions</source>
+      <translation>Volver a importar todas las sesiones</translation>
+    </message>
+    <message id="ui.sessions.reimportAllBody">
+      <source>Every session is logged again at the next scan. Tasks made earlier stay; delete them yourself if you do not want them twice.</source>
+      <translation>Cada sesión se registrará de nuevo en el próximo escaneo. Las tareas creadas antes se quedan; bórralas tú si no las quieres duplicadas.</translation>
+    </message>
+    <message id="ui.sessions.reimportAllTitle">
+      <source>Re-import all sessions?</source>
+      <translation>¿Volver a importar todas las sesiones?</translation>
+    </message>
+    <message id="ui.sessions.reimportHelp">
+      <source>Re-import this session (forget previous log)</source>
+      <translation>Volver a importar esta sesión (olvidar el registro anterior)</translation>
+    </message>
+    <message id="ui.sessions.rescan">
+      <source>Rescan</source>
+      <translation>Volver a escanear</translation>
+    </message>
+    <message id="ui.sessions.result">
+      <source>Last scan %1: %2 sessions found, %3 work bursts logged (%4), %5 sessions waiting for a project.</source>
+      <translation>Último escaneo %1: %2 sesiones encontradas, %3 bloques de trabajo registrados (%4), %5 sesiones esperan un proyecto.</translation>
+    </message>
+    <message id="ui.sessions.scanNow">
+      <source>Scan now</source>
+      <translation>Escanear ahora</translation>
+    </message>
+    <message id="ui.sessions.sessionLine">
+      <source>%1 · %2 active · %3 bursts</source>
+      <translation>%1 · %2 activo · %3 bloques</translation>
+    </message>
+    <message id="ui.sessions.sessionLineOne">
+      <source>%1 · %2 active</source>
+      <translation>%1 · %2 activo</translation>
+    </message>
+    <message id="ui.sessions.sessionProject">
+      <source>Auto-created for Claude session %1</source>
+      <translation>Creado automáticamente para la sesión de Claude %1</translation>
+    </message>
+    <message id="ui.sessions.thisWeek">
+      <source>Earlier this week</source>
+      <translation>Antes esta semana</translation>
+    </message>
+    <message id="ui.sessions.title">
+      <source>AI sessions</source>
+      <translation>Sesiones de IA</translation>
+    </message>
+    <message id="ui.sessions.today">
+      <source>Today</source>
+      <translation>Hoy</translation>
+    </message>
+    <message id="ui.sessions.tracking">
+      <source>Tracking</source>
+      <translation>Seguimiento</translation>
+    </message>
+    <message id="ui.sessions.untitled">
+      <source>Claude session</source>
+      <translation>Sesión de Claude</translation>
+    </message>
+    <message id="ui.sessions.yesterday">
+      <source>Yesterday</source>
+      <translation>Ayer</translation>
+    </message>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Cuenta</translation>

@@ -3011,6 +3011,206 @@
       <source>No timer is running</source>
       <translation>Aucun minuteur en cours</translation>
     </message>
+    <message id="ui.sessions.autoTrack">
+      <source>Auto-track Claude sessions</source>
+      <translation>Suivre automatiquement les sessions Claude</translation>
+    </message>
+    <message id="ui.sessions.burstLine">
+      <source>%1 · %2 prompts</source>
+      <translation>%1 · %2 requêtes</translation>
+    </message>
+    <message id="ui.sessions.burstLineOne">
+      <source>%1 · 1 prompt</source>
+      <translation>%1 · 1 requête</translation>
+    </message>
+    <message id="ui.sessions.commit">
+      <source>Log to project</source>
+      <translation>Enregistrer dans le projet</translation>
+    </message>
+    <message id="ui.sessions.earlier">
+      <source>Earlier</source>
+      <translation>Plus ancien</translation>
+    </message>
+    <message id="ui.sessions.emptyHint">
+      <source>Run a claude session in any folder on this computer (Claude Code, the command line, anything that writes to ~/.claude/projects/). Then press Rescan. Sessions from the last 30 days are picked up.</source>
+      <translation>Lancez une session claude dans n’importe quel dossier de cet ordinateur (Claude Code, la ligne de commande, tout ce qui écrit dans ~/.claude/projects/). Puis cliquez sur Relancer l’analyse. Les sessions des 30 derniers jours sont reprises.</translation>
+    </message>
+    <message id="ui.sessions.emptyTitle">
+      <source>No Claude sessions parsed yet</source>
+      <translation>Aucune session Claude lue pour l’instant</translation>
+    </message>
+    <message id="ui.sessions.err.createProject">
+      <source>Create project failed: %1</source>
+      <translation>Échec de la création du projet : %1</translation>
+    </message>
+    <message id="ui.sessions.explainMapping">
+      <source>Sessions are tied to their working directory. You map each working dir to one of your projects once; from then on every new conversation in that repo logs automatically. Idle gaps longer than 5 minutes are excluded so an overnight pause does not bill 8 hours.</source>
+      <translation>Les sessions sont liées à leur dossier de travail. Vous liez chaque dossier une fois à l’un de vos projets ; ensuite chaque nouvelle conversation dans ce dépôt est enregistrée d’elle-même. Les pauses de plus de 5 minutes sont exclues, pour qu’une nuit ne facture pas 8 heures.</translation>
+    </message>
+    <message id="ui.sessions.explainPrefix">
+      <source>Resulting tasks are prefixed [AI] so you can tell a client exactly what part of the work was AI-assisted.</source>
+      <translation>Les tâches ainsi créées commencent par [AI] : vous pouvez dire précisément à un client quelle partie du travail a été faite avec l’IA.</translation>
+    </message>
+    <message id="ui.sessions.explainScan">
+      <source>Every minute Morvane scans your local Claude Code sessions (~/.claude/projects/) and turns each one into a billable time entry on the matching Morvane project.</source>
+      <translation>Chaque minute, Morvane analyse vos sessions Claude Code locales (~/.claude/projects/) et transforme chacune en temps facturable sur le projet Morvane correspondant.</translation>
+    </message>
+    <message id="ui.sessions.fewer">
+      <source>Show fewer</source>
+      <translation>Afficher moins</translation>
+    </message>
+    <message id="ui.sessions.folderProject">
+      <source>Auto-created for Claude sessions in %1</source>
+      <translation>Créé automatiquement pour les sessions Claude de %1</translation>
+    </message>
+    <message id="ui.sessions.idleGap">
+      <source>Idle gap (minutes)</source>
+      <translation>Seuil d’inactivité (minutes)</translation>
+    </message>
+    <message id="ui.sessions.idleGapHelp">
+      <source>Gaps longer than this between messages are treated as idle and excluded. 15 min covers most typing pauses.</source>
+      <translation>Les pauses plus longues entre deux messages comptent comme inactives et sont exclues. 15 min couvrent la plupart des pauses de frappe.</translation>
+    </message>
+    <message id="ui.sessions.ignore">
+      <source>Ignore</source>
+      <translation>Ignorer</translation>
+    </message>
+    <message id="ui.sessions.lastWeek">
+      <source>Last week</source>
+      <translation>La semaine dernière</translation>
+    </message>
+    <message id="ui.sessions.link">
+      <source>Link to a project…</source>
+      <translation>Lier à un projet…</translation>
+    </message>
+    <message id="ui.sessions.list">
+      <source>Sessions</source>
+      <translation>Sessions</translation>
+    </message>
+    <message id="ui.sessions.loading">
+      <source>Reading your sessions…</source>
+      <translation>Lecture de vos sessions…</translation>
+    </message>
+    <message id="ui.sessions.logHelp">
+      <source>Log this session to a project, split into %1 tasks by natural breaks</source>
+      <translation>Enregistrer cette session dans un projet, découpée en %1 tâches aux pauses naturelles</translation>
+    </message>
+    <message id="ui.sessions.logTo">
+      <source>Log to…</source>
+      <translation>Enregistrer dans…</translation>
+    </message>
+    <message id="ui.sessions.logged">
+      <source>Logged %1 of %2 work bursts.</source>
+      <translation>%1 séquences de travail sur %2 enregistrées.</translation>
+    </message>
+    <message id="ui.sessions.loggedChip">
+      <source>Logged</source>
+      <translation>Enregistrée</translation>
+    </message>
+    <message id="ui.sessions.manyTasks">
+      <source>%1 tasks</source>
+      <translation>%1 tâches</translation>
+    </message>
+    <message id="ui.sessions.more">
+      <source>Show all %1 sessions</source>
+      <translation>Afficher les %1 sessions</translation>
+    </message>
+    <message id="ui.sessions.newProject">
+      <source>Create new project named "%1"</source>
+      <translation>Créer le projet "%1"</translation>
+    </message>
+    <message id="ui.sessions.noScan">
+      <source>No scan yet.</source>
+      <translation>Pas encore d’analyse.</translation>
+    </message>
+    <message id="ui.sessions.notLinked">
+      <source>Not linked yet</source>
+      <translation>Pas encore lié</translation>
+    </message>
+    <message id="ui.sessions.oneTask">
+      <source>1 task</source>
+      <translation>1 tâche</translation>
+    </message>
+    <message id="ui.sessions.pendingIntro">
+      <source>These directories have Claude sessions waiting to be logged. Pick a Morvane project (or Ignore) for each.</source>
+      <translation>Ces dossiers ont des sessions Claude en attente d’enregistrement. Choisissez un projet Morvane (ou Ignorer) pour chacun.</translation>
+    </message>
+    <message id="ui.sessions.pendingLine">
+      <source>%1 · %2 sessions · %3 active</source>
+      <translation>%1 · %2 sessions · %3 actif</translation>
+    </message>
+    <message id="ui.sessions.previewTitle">
+      <source>Review and log to: %1 (%2)</source>
+      <translation>Vérifier et enregistrer dans : %1 (%2)</translation>
+    </message>
+    <message id="ui.sessions.reimport">
+      <source>Re-import</source>
+      <translation>Réimporter</translation>
+    </message>
+    <message id="ui.sessions.reimportAll">
+      <source>Re-import all sessions</source>
+      <translation>Réimporter toutes les sessions</translation>
+    </message>
+    <message id="ui.sessions.reimportAllBody">
+      <source>Every session is logged again at the next scan. Tasks made earlier stay; delete them yourself if you do not want them twice.</source>
+      <translation>Chaque session sera de nouveau enregistrée au prochain scan. Les tâches déjà créées restent ; supprimez-les vous-même si vous ne les voulez pas en double.</translation>
+    </message>
+    <message id="ui.sessions.reimportAllTitle">
+      <source>Re-import all sessions?</source>
+      <translation>Réimporter toutes les sessions ?</translation>
+    </message>
+    <message id="ui.sessions.reimportHelp">
+      <source>Re-import this session (forget previous log)</source>
+      <translation>Réimporter cette session (oublier l’enregistrement précédent)</translation>
+    </message>
+    <message id="ui.sessions.rescan">
+      <source>Rescan</source>
+      <translation>Relancer l’analyse</translation>
+    </message>
+    <message id="ui.sessions.result">
+      <source>Last scan %1: %2 sessions found, %3 work bursts logged (%4), %5 sessions waiting for a project.</source>
+      <translation>Dernière analyse %1 : %2 sessions trouvées, %3 séquences de travail enregistrées (%4), %5 sessions en attente d’un projet.</translation>
+    </message>
+    <message id="ui.sessions.scanNow">
+      <source>Scan now</source>
+      <translation>Analyser maintenant</translation>
+    </message>
+    <message id="ui.sessions.sessionLine">
+      <source>%1 · %2 active · %3 bursts</source>
+      <translation>%1 · %2 actif · %3 séquences</translation>
+    </message>
+    <message id="ui.sessions.sessionLineOne">
+      <source>%1 · %2 active</source>
+      <translation>%1 · %2 actif</translation>
+    </message>
+    <message id="ui.sessions.sessionProject">
+      <source>Auto-created for Claude session %1</source>
+      <translation>Créé automatiquement pour la session Claude %1</translation>
+    </message>
+    <message id="ui.sessions.thisWeek">
+      <source>Earlier this week</source>
+      <translation>Plus tôt cette semaine</translation>
+    </message>
+    <message id="ui.sessions.title">
+      <source>AI sessions</source>
+      <translation>Sessions IA</translation>
+    </message>
+    <message id="ui.sessions.today">
+      <source>Today</source>
+      <translation>Aujourd’hui</translation>
+    </message>
+    <message id="ui.sessions.tracking">
+      <source>Tracking</source>
+      <translation>Suivi</translation>
+    </message>
+    <message id="ui.sessions.untitled">
+      <source>Claude session</source>
+      <translation>Session Claude</translation>
+    </message>
+    <message id="ui.sessions.yesterday">
+      <source>Yesterday</source>
+      <translation>Hier</translation>
+    </message>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Compte</translation>

@@ -3011,6 +3011,206 @@
       <source>No timer is running</source>
       <translation>Nessun timer in corso</translation>
     </message>
+    <message id="ui.sessions.autoTrack">
+      <source>Auto-track Claude sessions</source>
+      <translation>Registra automaticamente le sessioni Claude</translation>
+    </message>
+    <message id="ui.sessions.burstLine">
+      <source>%1 · %2 prompts</source>
+      <translation>%1 · %2 richieste</translation>
+    </message>
+    <message id="ui.sessions.burstLineOne">
+      <source>%1 · 1 prompt</source>
+      <translation>%1 · 1 richiesta</translation>
+    </message>
+    <message id="ui.sessions.commit">
+      <source>Log to project</source>
+      <translation>Registra nel progetto</translation>
+    </message>
+    <message id="ui.sessions.earlier">
+      <source>Earlier</source>
+      <translation>Prima</translation>
+    </message>
+    <message id="ui.sessions.emptyHint">
+      <source>Run a claude session in any folder on this computer (Claude Code, the command line, anything that writes to ~/.claude/projects/). Then press Rescan. Sessions from the last 30 days are picked up.</source>
+      <translation>Avvia una sessione claude in una cartella qualsiasi di questo computer (Claude Code, la riga di comando, tutto ciò che scrive in ~/.claude/projects/). Poi premi Scansiona di nuovo. Vengono lette le sessioni degli ultimi 30 giorni.</translation>
+    </message>
+    <message id="ui.sessions.emptyTitle">
+      <source>No Claude sessions parsed yet</source>
+      <translation>Nessuna sessione Claude letta finora</translation>
+    </message>
+    <message id="ui.sessions.err.createProject">
+      <source>Create project failed: %1</source>
+      <translation>Creazione del progetto non riuscita: %1</translation>
+    </message>
+    <message id="ui.sessions.explainMapping">
+      <source>Sessions are tied to their working directory. You map each working dir to one of your projects once; from then on every new conversation in that repo logs automatically. Idle gaps longer than 5 minutes are excluded so an overnight pause does not bill 8 hours.</source>
+      <translation>Le sessioni sono legate alla loro cartella di lavoro. Colleghi ogni cartella una volta a uno dei tuoi progetti; da lì ogni nuova conversazione in quel repository viene registrata da sola. Le pause oltre i 5 minuti sono escluse, così una notte non fattura 8 ore.</translation>
+    </message>
+    <message id="ui.sessions.explainPrefix">
+      <source>Resulting tasks are prefixed [AI] so you can tell a client exactly what part of the work was AI-assisted.</source>
+      <translation>Le attività così create iniziano con [AI], così puoi dire a un cliente quale parte del lavoro è stata fatta con l’IA.</translation>
+    </message>
+    <message id="ui.sessions.explainScan">
+      <source>Every minute Morvane scans your local Claude Code sessions (~/.claude/projects/) and turns each one into a billable time entry on the matching Morvane project.</source>
+      <translation>Ogni minuto Morvane analizza le sessioni locali di Claude Code (~/.claude/projects/) e trasforma ciascuna in tempo fatturabile nel progetto Morvane corrispondente.</translation>
+    </message>
+    <message id="ui.sessions.fewer">
+      <source>Show fewer</source>
+      <translation>Mostra meno</translation>
+    </message>
+    <message id="ui.sessions.folderProject">
+      <source>Auto-created for Claude sessions in %1</source>
+      <translation>Creato automaticamente per le sessioni Claude in %1</translation>
+    </message>
+    <message id="ui.sessions.idleGap">
+      <source>Idle gap (minutes)</source>
+      <translation>Soglia di inattività (minuti)</translation>
+    </message>
+    <message id="ui.sessions.idleGapHelp">
+      <source>Gaps longer than this between messages are treated as idle and excluded. 15 min covers most typing pauses.</source>
+      <translation>Le pause più lunghe tra i messaggi contano come inattività e sono escluse. 15 min coprono quasi tutte le pause di scrittura.</translation>
+    </message>
+    <message id="ui.sessions.ignore">
+      <source>Ignore</source>
+      <translation>Ignora</translation>
+    </message>
+    <message id="ui.sessions.lastWeek">
+      <source>Last week</source>
+      <translation>La settimana scorsa</translation>
+    </message>
+    <message id="ui.sessions.link">
+      <source>Link to a project…</source>
+      <translation>Collega a un progetto…</translation>
+    </message>
+    <message id="ui.sessions.list">
+      <source>Sessions</source>
+      <translation>Sessioni</translation>
+    </message>
+    <message id="ui.sessions.loading">
+      <source>Reading your sessions…</source>
+      <translation>Lettura delle sessioni…</translation>
+    </message>
+    <message id="ui.sessions.logHelp">
+      <source>Log this session to a project, split into %1 tasks by natural breaks</source>
+      <translation>Registra questa sessione in un progetto, divisa in %1 attività alle pause naturali</translation>
+    </message>
+    <message id="ui.sessions.logTo">
+      <source>Log to…</source>
+      <translation>Registra in…</translation>
+    </message>
+    <message id="ui.sessions.logged">
+      <source>Logged %1 of %2 work bursts.</source>
+      <translation>Registrati %1 blocchi di lavoro su %2.</translation>
+    </message>
+    <message id="ui.sessions.loggedChip">
+      <source>Logged</source>
+      <translation>Registrata</translation>
+    </message>
+    <message id="ui.sessions.manyTasks">
+      <source>%1 tasks</source>
+      <translation>%1 attività</translation>
+    </message>
+    <message id="ui.sessions.more">
+      <source>Show all %1 sessions</source>
+      <translation>Mostra tutte le %1 sessioni</translation>
+    </message>
+    <message id="ui.sessions.newProject">
+      <source>Create new project named "%1"</source>
+      <translation>Crea il progetto "%1"</translation>
+    </message>
+    <message id="ui.sessions.noScan">
+      <source>No scan yet.</source>
+      <translation>Nessuna scansione finora.</translation>
+    </message>
+    <message id="ui.sessions.notLinked">
+      <source>Not linked yet</source>
+      <translation>Non ancora collegata</translation>
+    </message>
+    <message id="ui.sessions.oneTask">
+      <source>1 task</source>
+      <translation>1 attività</translation>
+    </message>
+    <message id="ui.sessions.pendingIntro">
+      <source>These directories have Claude sessions waiting to be logged. Pick a Morvane project (or Ignore) for each.</source>
+      <translation>Queste cartelle hanno sessioni Claude in attesa di registrazione. Scegli un progetto Morvane (o Ignora) per ciascuna.</translation>
+    </message>
+    <message id="ui.sessions.pendingLine">
+      <source>%1 · %2 sessions · %3 active</source>
+      <translation>%1 · %2 sessioni · %3 attivo</translation>
+    </message>
+    <message id="ui.sessions.previewTitle">
+      <source>Review and log to: %1 (%2)</source>
+      <translation>Controlla e registra in: %1 (%2)</translation>
+    </message>
+    <message id="ui.sessions.reimport">
+      <source>Re-import</source>
+      <translation>Reimporta</translation>
+    </message>
+    <message id="ui.sessions.reimportAll">
+      <source>Re-import all sessions</source>
+      <translation>Reimporta tutte le sessioni</translation>
+    </message>
+    <message id="ui.sessions.reimportAllBody">
+      <source>Every session is logged again at the next scan. Tasks made earlier stay; delete them yourself if you do not want them twice.</source>
+      <translation>Ogni sessione verrà registrata di nuovo alla prossima scansione. Le attività create prima restano; eliminale tu se non le vuoi doppie.</translation>
+    </message>
+    <message id="ui.sessions.reimportAllTitle">
+      <source>Re-import all sessions?</source>
+      <translation>Reimportare tutte le sessioni?</translation>
+    </message>
+    <message id="ui.sessions.reimportHelp">
+      <source>Re-import this session (forget previous log)</source>
+      <translation>Reimporta questa sessione (dimentica la registrazione precedente)</translation>
+    </message>
+    <message id="ui.sessions.rescan">
+      <source>Rescan</source>
+      <translation>Scansiona di nuovo</translation>
+    </message>
+    <message id="ui.sessions.result">
+      <source>Last scan %1: %2 sessions found, %3 work bursts logged (%4), %5 sessions waiting for a project.</source>
+      <translation>Ultima scansione %1: %2 sessioni trovate, %3 blocchi di lavoro registrati (%4), %5 sessioni in attesa di un progetto.</translation>
+    </message>
+    <message id="ui.sessions.scanNow">
+      <source>Scan now</source>
+      <translation>Scansiona ora</translation>
+    </message>
+    <message id="ui.sessions.sessionLine">
+      <source>%1 · %2 active · %3 bursts</source>
+      <translation>%1 · %2 attivo · %3 blocchi</translation>
+    </message>
+    <message id="ui.sessions.sessionLineOne">
+      <source>%1 · %2 active</source>
+      <translation>%1 · %2 attivo</translation>
+    </message>
+    <message id="ui.sessions.sessionProject">
+      <source>Auto-created for Claude session %1</source>
+      <translation>Creato automaticamente per la sessione Claude %1</translation>
+    </message>
+    <message id="ui.sessions.thisWeek">
+      <source>Earlier this week</source>
+      <translation>Prima, questa settimana</translation>
+    </message>
+    <message id="ui.sessions.title">
+      <source>AI sessions</source>
+      <translation>Sessioni IA</translation>
+    </message>
+    <message id="ui.sessions.today">
+      <source>Today</source>
+      <translation>Oggi</translation>
+    </message>
+    <message id="ui.sessions.tracking">
+      <source>Tracking</source>
+      <translation>Monitoraggio</translation>
+    </message>
+    <message id="ui.sessions.untitled">
+      <source>Claude session</source>
+      <translation>Sessione Claude</translation>
+    </message>
+    <message id="ui.sessions.yesterday">
+      <source>Yesterday</source>
+      <translation>Ieri</translation>
+    </message>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Account</translation>

@@ -3011,6 +3011,206 @@
       <source>No timer is running</source>
       <translation>ไม่มีตัวจับเวลาที่ทำงานอยู่</translation>
     </message>
+    <message id="ui.sessions.autoTrack">
+      <source>Auto-track Claude sessions</source>
+      <translation>ติดตามเซสชัน Claude อัตโนมัติ</translation>
+    </message>
+    <message id="ui.sessions.burstLine">
+      <source>%1 · %2 prompts</source>
+      <translation>%1 · %2 พรอมต์</translation>
+    </message>
+    <message id="ui.sessions.burstLineOne">
+      <source>%1 · 1 prompt</source>
+      <translation>%1 · 1 พรอมต์</translation>
+    </message>
+    <message id="ui.sessions.commit">
+      <source>Log to project</source>
+      <translation>บันทึกลงโปรเจกต์</translation>
+    </message>
+    <message id="ui.sessions.earlier">
+      <source>Earlier</source>
+      <translation>ก่อนหน้านั้น</translation>
+    </message>
+    <message id="ui.sessions.emptyHint">
+      <source>Run a claude session in any folder on this computer (Claude Code, the command line, anything that writes to ~/.claude/projects/). Then press Rescan. Sessions from the last 30 days are picked up.</source>
+      <translation>เริ่มเซสชัน claude ในโฟลเดอร์ใดก็ได้บนคอมพิวเตอร์นี้ (Claude Code, บรรทัดคำสั่ง หรืออะไรก็ตามที่เขียนลง ~/.claude/projects/) แล้วกด สแกนใหม่ ระบบจะอ่านเซสชันใน 30 วันที่ผ่านมา</translation>
+    </message>
+    <message id="ui.sessions.emptyTitle">
+      <source>No Claude sessions parsed yet</source>
+      <translation>ยังไม่มีเซสชัน Claude ที่อ่านได้</translation>
+    </message>
+    <message id="ui.sessions.err.createProject">
+      <source>Create project failed: %1</source>
+      <translation>สร้างโปรเจกต์ไม่สำเร็จ: %1</translation>
+    </message>
+    <message id="ui.sessions.explainMapping">
+      <source>Sessions are tied to their working directory. You map each working dir to one of your projects once; from then on every new conversation in that repo logs automatically. Idle gaps longer than 5 minutes are excluded so an overnight pause does not bill 8 hours.</source>
+      <translation>เซสชันผูกกับโฟลเดอร์ทำงานของมัน คุณเชื่อมโยงแต่ละโฟลเดอร์กับโปรเจกต์หนึ่งครั้ง จากนั้นทุกบทสนทนาใหม่ใน repo นั้นจะถูกบันทึกอัตโนมัติ ช่วงว่างที่นานกว่า 5 นาทีจะไม่นับ การพักข้ามคืนจึงไม่ถูกเรียกเก็บ 8 ชั่วโมง</translation>
+    </message>
+    <message id="ui.sessions.explainPrefix">
+      <source>Resulting tasks are prefixed [AI] so you can tell a client exactly what part of the work was AI-assisted.</source>
+      <translation>งานที่ได้จะขึ้นต้นด้วย [AI] คุณจึงบอกลูกค้าได้ชัดเจนว่างานส่วนไหนใช้ AI ช่วย</translation>
+    </message>
+    <message id="ui.sessions.explainScan">
+      <source>Every minute Morvane scans your local Claude Code sessions (~/.claude/projects/) and turns each one into a billable time entry on the matching Morvane project.</source>
+      <translation>ทุกนาที Morvane จะสแกนเซสชัน Claude Code ในเครื่องของคุณ (~/.claude/projects/) และเปลี่ยนแต่ละเซสชันเป็นเวลาที่เรียกเก็บได้ในโปรเจกต์ Morvane ที่ตรงกัน</translation>
+    </message>
+    <message id="ui.sessions.fewer">
+      <source>Show fewer</source>
+      <translation>แสดงน้อยลง</translation>
+    </message>
+    <message id="ui.sessions.folderProject">
+      <source>Auto-created for Claude sessions in %1</source>
+      <translation>สร้างอัตโนมัติสำหรับเซสชัน Claude ใน %1</translation>
+    </message>
+    <message id="ui.sessions.idleGap">
+      <source>Idle gap (minutes)</source>
+      <translation>ช่วงว่างสูงสุด (นาที)</translation>
+    </message>
+    <message id="ui.sessions.idleGapHelp">
+      <source>Gaps longer than this between messages are treated as idle and excluded. 15 min covers most typing pauses.</source>
+      <translation>ช่วงว่างระหว่างข้อความที่นานกว่านี้จะถือว่าไม่ได้ทำงานและไม่นับ 15 นาทีครอบคลุมการหยุดพิมพ์ส่วนใหญ่</translation>
+    </message>
+    <message id="ui.sessions.ignore">
+      <source>Ignore</source>
+      <translation>ละเว้น</translation>
+    </message>
+    <message id="ui.sessions.lastWeek">
+      <source>Last week</source>
+      <translation>สัปดาห์ที่แล้ว</translation>
+    </message>
+    <message id="ui.sessions.link">
+      <source>Link to a project…</source>
+      <translation>เชื่อมโยงกับโปรเจกต์…</translation>
+    </message>
+    <message id="ui.sessions.list">
+      <source>Sessions</source>
+      <translation>เซสชัน</translation>
+    </message>
+    <message id="ui.sessions.loading">
+      <source>Reading your sessions…</source>
+      <translation>กำลังอ่านเซสชันของคุณ…</translation>
+    </message>
+    <message id="ui.sessions.logHelp">
+      <source>Log this session to a project, split into %1 tasks by natural breaks</source>
+      <translation>บันทึกเซสชันนี้ลงโปรเจกต์ แบ่งเป็น %1 งานตามช่วงพักตามธรรมชาติ</translation>
+    </message>
+    <message id="ui.sessions.logTo">
+      <source>Log to…</source>
+      <translation>บันทึกลง…</translation>
+    </message>
+    <message id="ui.sessions.logged">
+      <source>Logged %1 of %2 work bursts.</source>
+      <translation>บันทึกแล้ว %1 จาก %2 ช่วงงาน</translation>
+    </message>
+    <message id="ui.sessions.loggedChip">
+      <source>Logged</source>
+      <translation>บันทึกแล้ว</translation>
+    </message>
+    <message id="ui.sessions.manyTasks">
+      <source>%1 tasks</source>
+      <translation>%1 งาน</translation>
+    </message>
+    <message id="ui.sessions.more">
+      <source>Show all %1 sessions</source>
+      <translation>แสดงทั้ง %1 เซสชัน</translation>
+    </message>
+    <message id="ui.sessions.newProject">
+      <source>Create new project named "%1"</source>
+      <translation>สร้างโปรเจกต์ใหม่ชื่อ "%1"</translation>
+    </message>
+    <message id="ui.sessions.noScan">
+      <source>No scan yet.</source>
+      <translation>ยังไม่ได้สแกน</translation>
+    </message>
+    <message id="ui.sessions.notLinked">
+      <source>Not linked yet</source>
+      <translation>ยังไม่ได้เชื่อมโยง</translation>
+    </message>
+    <message id="ui.sessions.oneTask">
+      <source>1 task</source>
+      <translation>1 งาน</translation>
+    </message>
+    <message id="ui.sessions.pendingIntro">
+      <source>These directories have Claude sessions waiting to be logged. Pick a Morvane project (or Ignore) for each.</source>
+      <translation>โฟลเดอร์เหล่านี้มีเซสชัน Claude รอการบันทึก เลือกโปรเจกต์ Morvane (หรือ ละเว้น) ให้แต่ละโฟลเดอร์</translation>
+    </message>
+    <message id="ui.sessions.pendingLine">
+      <source>%1 · %2 sessions · %3 active</source>
+      <translation>%1 · %2 เซสชัน · ใช้งาน %3</translation>
+    </message>
+    <message id="ui.sessions.previewTitle">
+      <source>Review and log to: %1 (%2)</source>
+      <translation>ตรวจสอบและบันทึกลง: %1 (%2)</translation>
+    </message>
+    <message id="ui.sessions.reimport">
+      <source>Re-import</source>
+      <translation>นำเข้าใหม่</translation>
+    </message>
+    <message id="ui.sessions.reimportAll">
+      <source>Re-import all sessions</source>
+      <translation>นำเข้าเซสชันทั้งหมดใหม่</translation>
+    </message>
+    <message id="ui.sessions.reimportAllBody">
+      <source>Every session is logged again at the next scan. Tasks made earlier stay; delete them yourself if you do not want them twice.</source>
+      <translation>ทุกเซสชันจะถูกบันทึกอีกครั้งในการสแกนครั้งถัดไป งานที่สร้างไว้ก่อนจะยังอยู่ ลบเองหากไม่ต้องการให้ซ้ำ</translation>
+    </message>
+    <message id="ui.sessions.reimportAllTitle">
+      <source>Re-import all sessions?</source>
+      <translation>นำเข้าเซสชันทั้งหมดใหม่หรือไม่?</translation>
+    </message>
+    <message id="ui.sessions.reimportHelp">
+      <source>Re-import this session (forget previous log)</source>
+      <translation>นำเข้าเซสชันนี้ใหม่ (ลืมบันทึกก่อนหน้า)</translation>
+    </message>
+    <message id="ui.sessions.rescan">
+      <source>Rescan</source>
+      <translation>สแกนใหม่</translation>
+    </message>
+    <message id="ui.sessions.result">
+      <source>Last scan %1: %2 sessions found, %3 work bursts logged (%4), %5 sessions waiting for a project.</source>
+      <translation>สแกนล่าสุด %1: พบ %2 เซสชัน บันทึก %3 ช่วงงาน (%4) มี %5 เซสชันรอโปรเจกต์</translation>
+    </message>
+    <message id="ui.sessions.scanNow">
+      <source>Scan now</source>
+      <translation>สแกนตอนนี้</translation>
+    </message>
+    <message id="ui.sessions.sessionLine">
+      <source>%1 · %2 active · %3 bursts</source>
+      <translation>%1 · ใช้งาน %2 · %3 ช่วง</translation>
+    </message>
+    <message id="ui.sessions.sessionLineOne">
+      <source>%1 · %2 active</source>
+      <translation>%1 · ใช้งาน %2</translation>
+    </message>
+    <message id="ui.sessions.sessionProject">
+      <source>Auto-created for Claude session %1</source>
+      <translation>สร้างอัตโนมัติสำหรับเซสชัน Claude %1</translation>
+    </message>
+    <message id="ui.sessions.thisWeek">
+      <source>Earlier this week</source>
+      <translation>ต้นสัปดาห์นี้</translation>
+    </message>
+    <message id="ui.sessions.title">
+      <source>AI sessions</source>
+      <translation>เซสชัน AI</translation>
+    </message>
+    <message id="ui.sessions.today">
+      <source>Today</source>
+      <translation>วันนี้</translation>
+    </message>
+    <message id="ui.sessions.tracking">
+      <source>Tracking</source>
+      <translation>การติดตาม</translation>
+    </message>
+    <message id="ui.sessions.untitled">
+      <source>Claude session</source>
+      <translation>เซสชัน Claude</translation>
+    </message>
+    <message id="ui.sessions.yesterday">
+      <source>Yesterday</source>
+      <translation>เมื่อวาน</translation>
+    </message>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>บัญชี</translation>

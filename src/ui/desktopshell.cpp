@@ -82,6 +82,7 @@ DesktopShell::DesktopShell(Options options, QObject *parent)
     }
     m_idle = createTimeDecisions(*this, m_options.clock);
     m_earnings = new EarningsModel(m_options.clock, this);
+    m_sessions = new SessionsView(m_options.settings, m_options.sessionsDir, this);
 }
 
 DesktopShell::~DesktopShell()
@@ -93,6 +94,7 @@ DesktopShell::~DesktopShell()
     // the auth store's signals.
     m_workspace->setStore(nullptr);
     m_earnings->setStores(nullptr, nullptr);
+    m_sessions->setStores(nullptr, nullptr);
     m_sequence.reset();
     if (m_store) {
         m_store->stopSync();
@@ -163,6 +165,7 @@ void DesktopShell::restart()
     if (m_auth) {
         m_workspace->setStore(nullptr);
         m_earnings->setStores(nullptr, nullptr);
+        m_sessions->setStores(nullptr, nullptr);
         m_sequence.reset();
         m_store->stopSync();
         disconnect(m_auth.get(), nullptr, this, nullptr);
@@ -222,6 +225,7 @@ void DesktopShell::buildStores(const Config &config, std::shared_ptr<SecretStore
     m_workspace->setStore(m_store.get());
     m_workspace->invoices()->setBackend(m_auth->client().baseUrl());
     m_earnings->setStores(m_store.get(), m_auth.get());
+    m_sessions->setStores(m_store.get(), m_auth.get());
     emit storesChanged();
 }
 
@@ -407,6 +411,7 @@ void DesktopShell::setLanguage(const QString &code)
     }
     m_workspace->retranslate();
     m_earnings->retranslate();
+    m_sessions->retranslate();
     emit languageChanged();
 }
 

@@ -4,6 +4,7 @@
 #include "model/clock.h"
 #include "ui/preferences.h"
 #include "ui/earningsmodel.h"
+#include "ui/sessionsview.h"
 #include "ui/workspace.h"
 
 #include <QDBusVariant>
@@ -41,6 +42,7 @@ class DesktopShell : public QObject
     Q_PROPERTY(QObject *timer READ timerObject NOTIFY storesChanged)
     Q_PROPERTY(Workspace *workspace READ workspace CONSTANT)
     Q_PROPERTY(EarningsModel *earnings READ earnings CONSTANT)
+    Q_PROPERTY(SessionsView *sessions READ sessions CONSTANT)
     // Time that needs a decision: the idle question, the timer limits and reminders (an IdleWatcher).
     Q_PROPERTY(QObject *idle READ idleWatcher CONSTANT)
     Q_PROPERTY(Preferences *preferences READ preferences CONSTANT)
@@ -74,6 +76,8 @@ public:
         Clock clock = systemClock();
         // Follows the desktop's colour scheme unless the settings say otherwise.
         bool followDesktopScheme = true;
+        // Where the coding agent keeps its session logs; empty for the user's own.
+        QString sessionsDir;
     };
 
     explicit DesktopShell(Options options, QObject *parent = nullptr);
@@ -95,6 +99,7 @@ public:
     [[nodiscard]] QObject *timerObject() const;
     [[nodiscard]] Workspace *workspace() const { return m_workspace; }
     [[nodiscard]] EarningsModel *earnings() const { return m_earnings; }
+    [[nodiscard]] SessionsView *sessions() const { return m_sessions; }
     [[nodiscard]] QObject *idleWatcher() const { return m_idle; }
     [[nodiscard]] Preferences *preferences() const { return m_preferences; }
     [[nodiscard]] QStringList providers() const { return m_providers; }
@@ -171,6 +176,7 @@ private:
     std::unique_ptr<SessionSequence> m_sequence;
     Workspace *m_workspace = nullptr;
     EarningsModel *m_earnings = nullptr;
+    SessionsView *m_sessions = nullptr;
     QObject *m_idle = nullptr;
     Preferences *m_preferences = nullptr;
     // Stores of a backend left behind: operations may still run on them, so they stay until the

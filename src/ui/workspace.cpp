@@ -97,6 +97,7 @@ Workspace::Workspace(QObject *parent)
     , m_inspector(new TaskInspector(this))
     , m_clients(new ClientList(this))
     , m_invoices(new InvoiceList(this))
+    , m_invoiceStyle(new InvoiceStyleView(this))
     , m_printer(new InvoicePrinter(this))
     , m_composer(new ComposerView(*m_printer, this))
     , m_projectPrice(new BillingEditor(this))
@@ -125,6 +126,7 @@ void Workspace::setStore(AppStore *store)
     m_inspector->setStore(store);
     m_clients->setStore(store);
     m_invoices->setStore(store);
+    m_invoiceStyle->setStore(store);
     m_invoices->setPrinter(m_printer);
     m_composer->setStore(store);
     if (store) {
@@ -188,6 +190,7 @@ void Workspace::retranslate()
     }
     m_rowCache.clear();
     m_invoices->retranslate();
+    m_invoiceStyle->retranslate();
     m_composer->retranslate();
     rebuildSidebar();
     rebuildTasks();

@@ -4,6 +4,7 @@
 #include "ui/clientlist.h"
 #include "ui/composerview.h"
 #include "ui/invoicelist.h"
+#include "ui/invoicestyleview.h"
 #include "ui/invoiceprinter.h"
 #include "ui/rowsmodel.h"
 #include "ui/taskinspector.h"
@@ -30,6 +31,7 @@ class Workspace : public QObject
     Q_PROPERTY(TaskInspector *inspector READ inspector CONSTANT)
     Q_PROPERTY(ClientList *clients READ clients CONSTANT)
     Q_PROPERTY(InvoiceList *invoices READ invoices CONSTANT)
+    Q_PROPERTY(InvoiceStyleView *invoiceStyle READ invoiceStyle CONSTANT)
     Q_PROPERTY(ComposerView *composer READ composer CONSTANT)
     Q_PROPERTY(BillingEditor *projectPriceEditor READ projectPriceEditor CONSTANT)
     Q_PROPERTY(bool hasStore READ hasStore NOTIFY storeChanged)
@@ -72,6 +74,7 @@ public:
     [[nodiscard]] TaskInspector *inspector() const { return m_inspector; }
     [[nodiscard]] ClientList *clients() const { return m_clients; }
     [[nodiscard]] InvoiceList *invoices() const { return m_invoices; }
+    [[nodiscard]] InvoiceStyleView *invoiceStyle() const { return m_invoiceStyle; }
     [[nodiscard]] ComposerView *composer() const { return m_composer; }
     [[nodiscard]] BillingEditor *projectPriceEditor() const { return m_projectPrice; }
 
@@ -185,6 +188,7 @@ private:
     TaskInspector *m_inspector;
     ClientList *m_clients;
     InvoiceList *m_invoices;
+    InvoiceStyleView *m_invoiceStyle;
     InvoicePrinter *m_printer;
     ComposerView *m_composer;
     BillingEditor *m_projectPrice;

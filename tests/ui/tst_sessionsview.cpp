@@ -1,0 +1,121 @@
+#include "support/desktopwindow.h"
+#include "ui/sessionsview.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int patience = 20000;
+
+// One line of an agent log: a prompt when `prompt` is given, else an answer.
+QByteArray line(const QDateTime &at, const QString &cwd, const QString &prompt = {})
+{
+    QJsonObject object{{u"type"_s, prompt.isEmpty() ? u"assistant"_s : u"user"_s},
+                       {u"cwd"_s, cwd},
+                       {u"timestamp"_s, at.toUTC().toString(Qt::ISODateWithMs)}};
+    object.insert(u"message"_s,
+                  prompt.isEmpty()
+                      ? QJsonObject{{u"content"_s, QJsonArray{QJsonObject{{u"type"_s, u"text"_s}, {u"text"_s, u"ok"_s}}}}}
+                      : QJsonObject{{u"role"_s, u"user"_s}, {u"content"_s, prompt}});
+    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+}
+
+} // namespace
+
+// The sessions screen in the real window over a real backend, reading agent logs written by the
+// test: folders grouped by recency, a session logged to a project after its preview, a folder
+// linked and scanned.
+class TestSessionsView : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_logs;
+    TestBackend m_backend;
+    std::unique_ptr<DesktopWindow> m_desktop;
+
+    SessionsView *view() const { return m_desktop->shell().sessions(); }
+    AppStore *store() const { return m_desktop->store(); }
+
+    void write(const QString &folder, const QString &sessionId, const QByteArray &lines)
+    {
+        const QString dir = m_logs.filePath(u"projects/"_s + folder);
+        QVERIFY(QDir().mkpath(dir));
+        QFile file(dir + u'/' + sessionId + u".jsonl"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(lines);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY2(m_backend.isReady(), qPrintable(m_backend.startupLog()));
+        // Two bursts in the shop this morning (an hour apart), one in the blog two days ago.
+        const QDateTime morning(QDate::currentDate(), QTime(9, 0));
+        write(u"-w-shop"_s, u"s1"_s,
+              line(morning, u"/w/shop"_s, u"Fix the basket"_s) + line(morning.addSecs(240), u"/w/shop"_s) +
+                  line(morning.addSecs(3600), u"/w/shop"_s, u"Add coupons"_s) +
+                  line(morning.addSecs(3600 + 300), u"/w/shop"_s));
+        const QDateTime before = morning.addDays(-2);
+        write(u"-w-blog"_s, u"b1"_s, line(before, u"/w/blog"_s, u"Draft the post"_s) + line(before.addSecs(600), u"/w/blog"_s));
+        m_desktop = std::make_unique<DesktopWindow>(
+            m_backend, [this](DesktopShell::Options &options) { options.sessionsDir = m_logs.filePath(u"projects"_s); });
+        QVERIFY(m_desktop->open());
+        QVERIFY(m_desktop->signUp(u"ada@example.com"_s));
+    }
+
+    void aSessionLoggedAfterItsPreviewAndAFolderLinked()
+    {
+        m_desktop->workspace()->createProject(u"Shop"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_desktop->workspace()->selectedProjectId().isEmpty(), patience);
+        const QString shopId = m_desktop->workspace()->selectedProjectId();
+        m_desktop->showPage(u"sessions"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(view()->groups().size(), 2, patience);
+        const QVariantMap shop = view()->groups().first().toMap();
+        QCOMPARE(shop.value(u"name"_s).toString(), u"shop"_s);
+        QCOMPARE(shop.value(u"bucket"_s).toString(), u"Today"_s);
+        QCOMPARE(view()->groups().last().toMap().value(u"name"_s).toString(), u"blog"_s);
+        QVERIFY(m_desktop->shoot(u"sessions-list"_s));
+
+        view()->previewSession(u"s1"_s, shopId);
+        QCOMPARE(view()->preview().value(u"title"_s).toString(), u"Review and log to: Shop (2 tasks)"_s);
+        const QVariantList bursts = view()->preview().value(u"rows"_s).toList();
+        QCOMPARE(bursts.size(), 2);
+        QCOMPARE(bursts.first().toMap().value(u"title"_s).toString(), u"[AI] Fix the basket"_s);
+        QVERIFY(m_desktop->shoot(u"sessions-preview"_s));
+        view()->commitPreview();
+        QTRY_COMPARE_WITH_TIMEOUT(view()->message(), u"Logged 2 of 2 work bursts."_s, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(store()->tasks(shopId).size(), 2, patience);
+        QTRY_VERIFY(view()->groups().first().toMap().value(u"sessions"_s).toList().first().toMap().value(u"logged"_s).toBool());
+
+        // Both folders wait for a project until linked; the scan then logs the blog.
+        view()->scanNow();
+        QTRY_COMPARE_WITH_TIMEOUT(view()->pending().size(), 2, patience);
+        QTRY_VERIFY(!view()->scanning());
+        view()->mapFolder(u"/w/blog"_s, shopId);
+        view()->scanNow();
+        QTRY_COMPARE_WITH_TIMEOUT(store()->tasks(shopId).size(), 3, patience);
+        QTRY_COMPARE(view()->pending().size(), 1);
+        QCOMPARE(view()->pending().first().toMap().value(u"cwd"_s).toString(), u"/w/shop"_s);
+        // Logged once: a second scan adds nothing.
+        QTRY_VERIFY(!view()->scanning());
+        view()->scanNow();
+        QTRY_VERIFY_WITH_TIMEOUT(!view()->scanning(), patience);
+        QCOMPARE(store()->tasks(shopId).size(), 3);
+        QVERIFY(m_desktop->item(u"trackingTab"_s));
+        QVERIFY(QMetaObject::invokeMethod(m_desktop->item(u"trackingTab"_s), "clicked"));
+        QVERIFY(m_desktop->shoot(u"sessions-tracking"_s));
+    }
+
+    void cleanupTestCase() { m_desktop.reset(); }
+};
+
+MORVANE_DESKTOP_TEST_MAIN(TestSessionsView)
+#include "tst_sessionsview.moc"
