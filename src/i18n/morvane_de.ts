@@ -3411,6 +3411,254 @@
       <source>Not started</source>
       <translation>Nicht begonnen</translation>
     </message>
+    <message id="ui.style.accent">
+      <source>Accent</source>
+      <translation>Akzent</translation>
+    </message>
+    <message id="ui.style.address">
+      <source>Address</source>
+      <translation>Adresse</translation>
+    </message>
+    <message id="ui.style.bank">
+      <source>Bank</source>
+      <translation>Bank</translation>
+    </message>
+    <message id="ui.style.banner">
+      <source>Banner</source>
+      <translation>Band</translation>
+    </message>
+    <message id="ui.style.border">
+      <source>Border</source>
+      <translation>Rahmen</translation>
+    </message>
+    <message id="ui.style.btw">
+      <source>VAT number</source>
+      <translation>USt-IdNr.</translation>
+    </message>
+    <message id="ui.style.chooseLogo">
+      <source>Choose logo…</source>
+      <translation>Logo auswählen…</translation>
+    </message>
+    <message id="ui.style.colourAuto">
+      <source>auto</source>
+      <translation>auto</translation>
+    </message>
+    <message id="ui.style.company">
+      <source>Company</source>
+      <translation>Firma</translation>
+    </message>
+    <message id="ui.style.customHint">
+      <source>An HTML page with {{placeholders}}, a &lt;header&gt; and a &lt;footer&gt;, fixed at 794 × 1123 px. When it cannot be used, invoices are drawn in “Light minimal”.</source>
+      <translation>Eine HTML-Seite mit {{Platzhaltern}}, einem &lt;header&gt; und einem &lt;footer&gt;, fest auf 794 × 1123 px. Ist sie nicht verwendbar, erhalten Rechnungen das Design „Hell minimal“.</translation>
+    </message>
+    <message id="ui.style.customTitle">
+      <source>Your own template</source>
+      <translation>Deine eigene Vorlage</translation>
+    </message>
+    <message id="ui.style.days">
+      <source>Payment terms in days</source>
+      <translation>Zahlungsziel in Tagen</translation>
+    </message>
+    <message id="ui.style.design.aiCustom">
+      <source>Your template</source>
+      <translation>Deine Vorlage</translation>
+    </message>
+    <message id="ui.style.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Kräftig dunkel</translation>
+    </message>
+    <message id="ui.style.design.editorial">
+      <source>Editorial</source>
+      <translation>Editorial</translation>
+    </message>
+    <message id="ui.style.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Editorial mono</translation>
+    </message>
+    <message id="ui.style.design.lightMinimalAccent">
+      <source>Light minimal</source>
+      <translation>Hell minimal</translation>
+    </message>
+    <message id="ui.style.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimalistisch mono</translation>
+    </message>
+    <message id="ui.style.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Modernes Band</translation>
+    </message>
+    <message id="ui.style.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Pastell modern</translation>
+    </message>
+    <message id="ui.style.design.signatureEditorial">
+      <source>Signature</source>
+      <translation>Signatur</translation>
+    </message>
+    <message id="ui.style.designs">
+      <source>Design</source>
+      <translation>Design</translation>
+    </message>
+    <message id="ui.style.designsHint">
+      <source>Every new invoice is drawn in the chosen design. The pictures show a sample invoice in your style.</source>
+      <translation>Jede neue Rechnung erhält das gewählte Design. Die Bilder zeigen eine Beispielrechnung in deinem Stil.</translation>
+    </message>
+    <message id="ui.style.drawing">
+      <source>Drawing the designs</source>
+      <translation>Designs werden gezeichnet</translation>
+    </message>
+    <message id="ui.style.email">
+      <source>E-mail</source>
+      <translation>E-Mail</translation>
+    </message>
+    <message id="ui.style.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>Das Zahlungsziel ist eine ganze Zahl von Tagen zwischen 0 und 365.</translation>
+    </message>
+    <message id="ui.style.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>Der USt-Satz ist ein Prozentsatz zwischen 0 und 100.</translation>
+    </message>
+    <message id="ui.style.fallsBack">
+      <source>%1 Invoices fall back to “Light minimal” until it is fixed.</source>
+      <translation>%1 Bis das behoben ist, erhalten Rechnungen das Design „Hell minimal“.</translation>
+    </message>
+    <message id="ui.style.fontAuto">
+      <source>The design’s own</source>
+      <translation>Die des Designs</translation>
+    </message>
+    <message id="ui.style.fontBody">
+      <source>Text font</source>
+      <translation>Schrift für Text</translation>
+    </message>
+    <message id="ui.style.fontDisplay">
+      <source>Headings font</source>
+      <translation>Schrift für Überschriften</translation>
+    </message>
+    <message id="ui.style.footer">
+      <source>Footer</source>
+      <translation>Fußzeile</translation>
+    </message>
+    <message id="ui.style.footerPlaceholder">
+      <source>Thank you for your business.</source>
+      <translation>Vielen Dank für den Auftrag.</translation>
+    </message>
+    <message id="ui.style.htmlFilter">
+      <source>HTML files (*.html *.htm)</source>
+      <translation>HTML-Dateien (*.html *.htm)</translation>
+    </message>
+    <message id="ui.style.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Bankkonto (IBAN)</translation>
+    </message>
+    <message id="ui.style.imageFilter">
+      <source>Images (*.png *.jpg *.jpeg)</source>
+      <translation>Bilder (*.png *.jpg *.jpeg)</translation>
+    </message>
+    <message id="ui.style.ink">
+      <source>Ink</source>
+      <translation>Schrift</translation>
+    </message>
+    <message id="ui.style.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Handelsregisternummer</translation>
+    </message>
+    <message id="ui.style.logo">
+      <source>Logo</source>
+      <translation>Logo</translation>
+    </message>
+    <message id="ui.style.logoDialog">
+      <source>Choose a logo</source>
+      <translation>Logo auswählen</translation>
+    </message>
+    <message id="ui.style.logoHint">
+      <source>PNG or JPEG, at most 1 MB; wider than 600 px is scaled down.</source>
+      <translation>PNG oder JPEG, höchstens 1 MB; breiter als 600 px wird verkleinert.</translation>
+    </message>
+    <message id="ui.style.look">
+      <source>Look</source>
+      <translation>Aussehen</translation>
+    </message>
+    <message id="ui.style.madeWith">
+      <source>Show “Made with Morvane” in the footer</source>
+      <translation>„Erstellt mit Morvane“ in der Fußzeile zeigen</translation>
+    </message>
+    <message id="ui.style.muted">
+      <source>Muted</source>
+      <translation>Gedämpft</translation>
+    </message>
+    <message id="ui.style.noLogo">
+      <source>No logo</source>
+      <translation>Kein Logo</translation>
+    </message>
+    <message id="ui.style.noTemplate">
+      <source>No template uploaded: invoices use the design chosen above.</source>
+      <translation>Keine Vorlage hochgeladen: Rechnungen nutzen das oben gewählte Design.</translation>
+    </message>
+    <message id="ui.style.palette">
+      <source>Palette</source>
+      <translation>Palette</translation>
+    </message>
+    <message id="ui.style.paper">
+      <source>Paper</source>
+      <translation>Papier</translation>
+    </message>
+    <message id="ui.style.phone">
+      <source>Phone</source>
+      <translation>Telefon</translation>
+    </message>
+    <message id="ui.style.removeLogo">
+      <source>Remove logo</source>
+      <translation>Logo entfernen</translation>
+    </message>
+    <message id="ui.style.removeTemplate">
+      <source>Remove template</source>
+      <translation>Vorlage entfernen</translation>
+    </message>
+    <message id="ui.style.revert">
+      <source>Undo changes</source>
+      <translation>Änderungen verwerfen</translation>
+    </message>
+    <message id="ui.style.saving">
+      <source>Saving…</source>
+      <translation>Speichern…</translation>
+    </message>
+    <message id="ui.style.sender">
+      <source>Sender</source>
+      <translation>Absender</translation>
+    </message>
+    <message id="ui.style.templateDialog">
+      <source>Choose an HTML template</source>
+      <translation>HTML-Vorlage auswählen</translation>
+    </message>
+    <message id="ui.style.templateNotUsed">
+      <source>Not used</source>
+      <translation>Nicht verwendet</translation>
+    </message>
+    <message id="ui.style.templateUsed">
+      <source>Used</source>
+      <translation>Verwendet</translation>
+    </message>
+    <message id="ui.style.title">
+      <source>Invoice style</source>
+      <translation>Rechnungsstil</translation>
+    </message>
+    <message id="ui.style.unsaved">
+      <source>Unsaved changes</source>
+      <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message id="ui.style.upload">
+      <source>Upload template…</source>
+      <translation>Vorlage hochladen…</translation>
+    </message>
+    <message id="ui.style.vatRate">
+      <source>Default VAT rate in %</source>
+      <translation>Standard-USt-Satz in %</translation>
+    </message>
+    <message id="ui.style.website">
+      <source>Website</source>
+      <translation>Website</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Aufgabe eingeben und Enter drücken</translation>

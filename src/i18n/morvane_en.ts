@@ -3411,6 +3411,254 @@
       <source>Not started</source>
       <translation>Not started</translation>
     </message>
+    <message id="ui.style.accent">
+      <source>Accent</source>
+      <translation>Accent</translation>
+    </message>
+    <message id="ui.style.address">
+      <source>Address</source>
+      <translation>Address</translation>
+    </message>
+    <message id="ui.style.bank">
+      <source>Bank</source>
+      <translation>Bank</translation>
+    </message>
+    <message id="ui.style.banner">
+      <source>Banner</source>
+      <translation>Banner</translation>
+    </message>
+    <message id="ui.style.border">
+      <source>Border</source>
+      <translation>Border</translation>
+    </message>
+    <message id="ui.style.btw">
+      <source>VAT number</source>
+      <translation>VAT number</translation>
+    </message>
+    <message id="ui.style.chooseLogo">
+      <source>Choose logo…</source>
+      <translation>Choose logo…</translation>
+    </message>
+    <message id="ui.style.colourAuto">
+      <source>auto</source>
+      <translation>auto</translation>
+    </message>
+    <message id="ui.style.company">
+      <source>Company</source>
+      <translation>Company</translation>
+    </message>
+    <message id="ui.style.customHint">
+      <source>An HTML page with {{placeholders}}, a &lt;header&gt; and a &lt;footer&gt;, fixed at 794 × 1123 px. When it cannot be used, invoices are drawn in “Light minimal”.</source>
+      <translation>An HTML page with {{placeholders}}, a &lt;header&gt; and a &lt;footer&gt;, fixed at 794 × 1123 px. When it cannot be used, invoices are drawn in “Light minimal”.</translation>
+    </message>
+    <message id="ui.style.customTitle">
+      <source>Your own template</source>
+      <translation>Your own template</translation>
+    </message>
+    <message id="ui.style.days">
+      <source>Payment terms in days</source>
+      <translation>Payment terms in days</translation>
+    </message>
+    <message id="ui.style.design.aiCustom">
+      <source>Your template</source>
+      <translation>Your template</translation>
+    </message>
+    <message id="ui.style.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Bold dark</translation>
+    </message>
+    <message id="ui.style.design.editorial">
+      <source>Editorial</source>
+      <translation>Editorial</translation>
+    </message>
+    <message id="ui.style.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Editorial mono</translation>
+    </message>
+    <message id="ui.style.design.lightMinimalAccent">
+      <source>Light minimal</source>
+      <translation>Light minimal</translation>
+    </message>
+    <message id="ui.style.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimalist mono</translation>
+    </message>
+    <message id="ui.style.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Modern ribbon</translation>
+    </message>
+    <message id="ui.style.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Pastel modern</translation>
+    </message>
+    <message id="ui.style.design.signatureEditorial">
+      <source>Signature</source>
+      <translation>Signature</translation>
+    </message>
+    <message id="ui.style.designs">
+      <source>Design</source>
+      <translation>Design</translation>
+    </message>
+    <message id="ui.style.designsHint">
+      <source>Every new invoice is drawn in the chosen design. The pictures show a sample invoice in your style.</source>
+      <translation>Every new invoice is drawn in the chosen design. The pictures show a sample invoice in your style.</translation>
+    </message>
+    <message id="ui.style.drawing">
+      <source>Drawing the designs</source>
+      <translation>Drawing the designs</translation>
+    </message>
+    <message id="ui.style.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.style.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>Payment terms are a whole number of days from 0 to 365.</translation>
+    </message>
+    <message id="ui.style.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>The VAT rate is a percentage from 0 to 100.</translation>
+    </message>
+    <message id="ui.style.fallsBack">
+      <source>%1 Invoices fall back to “Light minimal” until it is fixed.</source>
+      <translation>%1 Invoices fall back to “Light minimal” until it is fixed.</translation>
+    </message>
+    <message id="ui.style.fontAuto">
+      <source>The design’s own</source>
+      <translation>The design’s own</translation>
+    </message>
+    <message id="ui.style.fontBody">
+      <source>Text font</source>
+      <translation>Text font</translation>
+    </message>
+    <message id="ui.style.fontDisplay">
+      <source>Headings font</source>
+      <translation>Headings font</translation>
+    </message>
+    <message id="ui.style.footer">
+      <source>Footer</source>
+      <translation>Footer</translation>
+    </message>
+    <message id="ui.style.footerPlaceholder">
+      <source>Thank you for your business.</source>
+      <translation>Thank you for your business.</translation>
+    </message>
+    <message id="ui.style.htmlFilter">
+      <source>HTML files (*.html *.htm)</source>
+      <translation>HTML files (*.html *.htm)</translation>
+    </message>
+    <message id="ui.style.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Bank account (IBAN)</translation>
+    </message>
+    <message id="ui.style.imageFilter">
+      <source>Images (*.png *.jpg *.jpeg)</source>
+      <translation>Images (*.png *.jpg *.jpeg)</translation>
+    </message>
+    <message id="ui.style.ink">
+      <source>Ink</source>
+      <translation>Ink</translation>
+    </message>
+    <message id="ui.style.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Chamber of commerce number</translation>
+    </message>
+    <message id="ui.style.logo">
+      <source>Logo</source>
+      <translation>Logo</translation>
+    </message>
+    <message id="ui.style.logoDialog">
+      <source>Choose a logo</source>
+      <translation>Choose a logo</translation>
+    </message>
+    <message id="ui.style.logoHint">
+      <source>PNG or JPEG, at most 1 MB; wider than 600 px is scaled down.</source>
+      <translation>PNG or JPEG, at most 1 MB; wider than 600 px is scaled down.</translation>
+    </message>
+    <message id="ui.style.look">
+      <source>Look</source>
+      <translation>Look</translation>
+    </message>
+    <message id="ui.style.madeWith">
+      <source>Show “Made with Morvane” in the footer</source>
+      <translation>Show “Made with Morvane” in the footer</translation>
+    </message>
+    <message id="ui.style.muted">
+      <source>Muted</source>
+      <translation>Muted</translation>
+    </message>
+    <message id="ui.style.noLogo">
+      <source>No logo</source>
+      <translation>No logo</translation>
+    </message>
+    <message id="ui.style.noTemplate">
+      <source>No template uploaded: invoices use the design chosen above.</source>
+      <translation>No template uploaded: invoices use the design chosen above.</translation>
+    </message>
+    <message id="ui.style.palette">
+      <source>Palette</source>
+      <translation>Palette</translation>
+    </message>
+    <message id="ui.style.paper">
+      <source>Paper</source>
+      <translation>Paper</translation>
+    </message>
+    <message id="ui.style.phone">
+      <source>Phone</source>
+      <translation>Phone</translation>
+    </message>
+    <message id="ui.style.removeLogo">
+      <source>Remove logo</source>
+      <translation>Remove logo</translation>
+    </message>
+    <message id="ui.style.removeTemplate">
+      <source>Remove template</source>
+      <translation>Remove template</translation>
+    </message>
+    <message id="ui.style.revert">
+      <source>Undo changes</source>
+      <translation>Undo changes</translation>
+    </message>
+    <message id="ui.style.saving">
+      <source>Saving…</source>
+      <translation>Saving…</translation>
+    </message>
+    <message id="ui.style.sender">
+      <source>Sender</source>
+      <translation>Sender</translation>
+    </message>
+    <message id="ui.style.templateDialog">
+      <source>Choose an HTML template</source>
+      <translation>Choose an HTML template</translation>
+    </message>
+    <message id="ui.style.templateNotUsed">
+      <source>Not used</source>
+      <translation>Not used</translation>
+    </message>
+    <message id="ui.style.templateUsed">
+      <source>Used</source>
+      <translation>Used</translation>
+    </message>
+    <message id="ui.style.title">
+      <source>Invoice style</source>
+      <translation>Invoice style</translation>
+    </message>
+    <message id="ui.style.unsaved">
+      <source>Unsaved changes</source>
+      <translation>Unsaved changes</translation>
+    </message>
+    <message id="ui.style.upload">
+      <source>Upload template…</source>
+      <translation>Upload template…</translation>
+    </message>
+    <message id="ui.style.vatRate">
+      <source>Default VAT rate in %</source>
+      <translation>Default VAT rate in %</translation>
+    </message>
+    <message id="ui.style.website">
+      <source>Website</source>
+      <translation>Website</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Add a task and press Enter</translation>

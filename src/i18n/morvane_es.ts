@@ -3411,6 +3411,254 @@
       <source>Not started</source>
       <translation>Sin empezar</translation>
     </message>
+    <message id="ui.style.accent">
+      <source>Accent</source>
+      <translation>Acento</translation>
+    </message>
+    <message id="ui.style.address">
+      <source>Address</source>
+      <translation>Dirección</translation>
+    </message>
+    <message id="ui.style.bank">
+      <source>Bank</source>
+      <translation>Banco</translation>
+    </message>
+    <message id="ui.style.banner">
+      <source>Banner</source>
+      <translation>Franja</translation>
+    </message>
+    <message id="ui.style.border">
+      <source>Border</source>
+      <translation>Borde</translation>
+    </message>
+    <message id="ui.style.btw">
+      <source>VAT number</source>
+      <translation>NIF-IVA</translation>
+    </message>
+    <message id="ui.style.chooseLogo">
+      <source>Choose logo…</source>
+      <translation>Elegir logotipo…</translation>
+    </message>
+    <message id="ui.style.colourAuto">
+      <source>auto</source>
+      <translation>auto</translation>
+    </message>
+    <message id="ui.style.company">
+      <source>Company</source>
+      <translation>Empresa</translation>
+    </message>
+    <message id="ui.style.customHint">
+      <source>An HTML page with {{placeholders}}, a &lt;header&gt; and a &lt;footer&gt;, fixed at 794 × 1123 px. When it cannot be used, invoices are drawn in “Light minimal”.</source>
+      <translation>Una página HTML con {{marcadores}}, un &lt;header&gt; y un &lt;footer&gt;, fijada en 794 × 1123 px. Si no se puede usar, las facturas usan el diseño «Claro minimalista».</translation>
+    </message>
+    <message id="ui.style.customTitle">
+      <source>Your own template</source>
+      <translation>Tu propia plantilla</translation>
+    </message>
+    <message id="ui.style.days">
+      <source>Payment terms in days</source>
+      <translation>Plazo de pago en días</translation>
+    </message>
+    <message id="ui.style.design.aiCustom">
+      <source>Your template</source>
+      <translation>Tu plantilla</translation>
+    </message>
+    <message id="ui.style.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Oscuro intenso</translation>
+    </message>
+    <message id="ui.style.design.editorial">
+      <source>Editorial</source>
+      <translation>Editorial</translation>
+    </message>
+    <message id="ui.style.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Editorial mono</translation>
+    </message>
+    <message id="ui.style.design.lightMinimalAccent">
+      <source>Light minimal</source>
+      <translation>Claro minimalista</translation>
+    </message>
+    <message id="ui.style.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimalista mono</translation>
+    </message>
+    <message id="ui.style.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Cinta moderna</translation>
+    </message>
+    <message id="ui.style.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Pastel moderno</translation>
+    </message>
+    <message id="ui.style.design.signatureEditorial">
+      <source>Signature</source>
+      <translation>Firma</translation>
+    </message>
+    <message id="ui.style.designs">
+      <source>Design</source>
+      <translation>Diseño</translation>
+    </message>
+    <message id="ui.style.designsHint">
+      <source>Every new invoice is drawn in the chosen design. The pictures show a sample invoice in your style.</source>
+      <translation>Cada factura nueva usa el diseño elegido. Las imágenes muestran una factura de ejemplo con tu estilo.</translation>
+    </message>
+    <message id="ui.style.drawing">
+      <source>Drawing the designs</source>
+      <translation>Dibujando los diseños</translation>
+    </message>
+    <message id="ui.style.email">
+      <source>E-mail</source>
+      <translation>Correo electrónico</translation>
+    </message>
+    <message id="ui.style.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>El plazo de pago es un número entero de días entre 0 y 365.</translation>
+    </message>
+    <message id="ui.style.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>El tipo de IVA es un porcentaje entre 0 y 100.</translation>
+    </message>
+    <message id="ui.style.fallsBack">
+      <source>%1 Invoices fall back to “Light minimal” until it is fixed.</source>
+      <translation>%1 Hasta que se corrija, las facturas usan el diseño «Claro minimalista».</translation>
+    </message>
+    <message id="ui.style.fontAuto">
+      <source>The design’s own</source>
+      <translation>La del diseño</translation>
+    </message>
+    <message id="ui.style.fontBody">
+      <source>Text font</source>
+      <translation>Fuente del texto</translation>
+    </message>
+    <message id="ui.style.fontDisplay">
+      <source>Headings font</source>
+      <translation>Fuente de títulos</translation>
+    </message>
+    <message id="ui.style.footer">
+      <source>Footer</source>
+      <translation>Pie de página</translation>
+    </message>
+    <message id="ui.style.footerPlaceholder">
+      <source>Thank you for your business.</source>
+      <translation>Gracias por confiar en nosotros.</translation>
+    </message>
+    <message id="ui.style.htmlFilter">
+      <source>HTML files (*.html *.htm)</source>
+      <translation>Archivos HTML (*.html *.htm)</translation>
+    </message>
+    <message id="ui.style.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Cuenta bancaria (IBAN)</translation>
+    </message>
+    <message id="ui.style.imageFilter">
+      <source>Images (*.png *.jpg *.jpeg)</source>
+      <translation>Imágenes (*.png *.jpg *.jpeg)</translation>
+    </message>
+    <message id="ui.style.ink">
+      <source>Ink</source>
+      <translation>Texto</translation>
+    </message>
+    <message id="ui.style.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Número de registro mercantil</translation>
+    </message>
+    <message id="ui.style.logo">
+      <source>Logo</source>
+      <translation>Logotipo</translation>
+    </message>
+    <message id="ui.style.logoDialog">
+      <source>Choose a logo</source>
+      <translation>Elegir un logotipo</translation>
+    </message>
+    <message id="ui.style.logoHint">
+      <source>PNG or JPEG, at most 1 MB; wider than 600 px is scaled down.</source>
+      <translation>PNG o JPEG, 1 MB como máximo; si supera 600 px de ancho, se reduce.</translation>
+    </message>
+    <message id="ui.style.look">
+      <source>Look</source>
+      <translation>Aspecto</translation>
+    </message>
+    <message id="ui.style.madeWith">
+      <source>Show “Made with Morvane” in the footer</source>
+      <translation>Mostrar «Hecho con Morvane» en el pie de página</translation>
+    </message>
+    <message id="ui.style.muted">
+      <source>Muted</source>
+      <translation>Atenuado</translation>
+    </message>
+    <message id="ui.style.noLogo">
+      <source>No logo</source>
+      <translation>Sin logotipo</translation>
+    </message>
+    <message id="ui.style.noTemplate">
+      <source>No template uploaded: invoices use the design chosen above.</source>
+      <translation>No hay plantilla subida: las facturas usan el diseño elegido arriba.</translation>
+    </message>
+    <message id="ui.style.palette">
+      <source>Palette</source>
+      <translation>Paleta</translation>
+    </message>
+    <message id="ui.style.paper">
+      <source>Paper</source>
+      <translation>Papel</translation>
+    </message>
+    <message id="ui.style.phone">
+      <source>Phone</source>
+      <translation>Teléfono</translation>
+    </message>
+    <message id="ui.style.removeLogo">
+      <source>Remove logo</source>
+      <translation>Quitar logotipo</translation>
+    </message>
+    <message id="ui.style.removeTemplate">
+      <source>Remove template</source>
+      <translation>Quitar plantilla</translation>
+    </message>
+    <message id="ui.style.revert">
+      <source>Undo changes</source>
+      <translation>Deshacer cambios</translation>
+    </message>
+    <message id="ui.style.saving">
+      <source>Saving…</source>
+      <translation>Guardando…</translation>
+    </message>
+    <message id="ui.style.sender">
+      <source>Sender</source>
+      <translation>Remitente</translation>
+    </message>
+    <message id="ui.style.templateDialog">
+      <source>Choose an HTML template</source>
+      <translation>Elegir una plantilla HTML</translation>
+    </message>
+    <message id="ui.style.templateNotUsed">
+      <source>Not used</source>
+      <translation>No se usa</translation>
+    </message>
+    <message id="ui.style.templateUsed">
+      <source>Used</source>
+      <translation>En uso</translation>
+    </message>
+    <message id="ui.style.title">
+      <source>Invoice style</source>
+      <translation>Estilo de factura</translation>
+    </message>
+    <message id="ui.style.unsaved">
+      <source>Unsaved changes</source>
+      <translation>Cambios sin guardar</translation>
+    </message>
+    <message id="ui.style.upload">
+      <source>Upload template…</source>
+      <translation>Subir plantilla…</translation>
+    </message>
+    <message id="ui.style.vatRate">
+      <source>Default VAT rate in %</source>
+      <translation>Tipo de IVA predeterminado en %</translation>
+    </message>
+    <message id="ui.style.website">
+      <source>Website</source>
+      <translation>Sitio web</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Añade una tarea y pulsa Enter</translation>

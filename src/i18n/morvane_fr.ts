@@ -3411,6 +3411,254 @@
       <source>Not started</source>
       <translation>Non commencée</translation>
     </message>
+    <message id="ui.style.accent">
+      <source>Accent</source>
+      <translation>Accent</translation>
+    </message>
+    <message id="ui.style.address">
+      <source>Address</source>
+      <translation>Adresse</translation>
+    </message>
+    <message id="ui.style.bank">
+      <source>Bank</source>
+      <translation>Banque</translation>
+    </message>
+    <message id="ui.style.banner">
+      <source>Banner</source>
+      <translation>Bandeau</translation>
+    </message>
+    <message id="ui.style.border">
+      <source>Border</source>
+      <translation>Bordure</translation>
+    </message>
+    <message id="ui.style.btw">
+      <source>VAT number</source>
+      <translation>Numéro de TVA</translation>
+    </message>
+    <message id="ui.style.chooseLogo">
+      <source>Choose logo…</source>
+      <translation>Choisir un logo…</translation>
+    </message>
+    <message id="ui.style.colourAuto">
+      <source>auto</source>
+      <translation>auto</translation>
+    </message>
+    <message id="ui.style.company">
+      <source>Company</source>
+      <translation>Entreprise</translation>
+    </message>
+    <message id="ui.style.customHint">
+      <source>An HTML page with {{placeholders}}, a &lt;header&gt; and a &lt;footer&gt;, fixed at 794 × 1123 px. When it cannot be used, invoices are drawn in “Light minimal”.</source>
+      <translation>Une page HTML avec des {{espaces réservés}}, un &lt;header&gt; et un &lt;footer&gt;, fixée à 794 × 1123 px. Si elle est inutilisable, les factures prennent le modèle « Clair minimal ».</translation>
+    </message>
+    <message id="ui.style.customTitle">
+      <source>Your own template</source>
+      <translation>Votre propre modèle</translation>
+    </message>
+    <message id="ui.style.days">
+      <source>Payment terms in days</source>
+      <translation>Délai de paiement en jours</translation>
+    </message>
+    <message id="ui.style.design.aiCustom">
+      <source>Your template</source>
+      <translation>Votre modèle</translation>
+    </message>
+    <message id="ui.style.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Sombre affirmé</translation>
+    </message>
+    <message id="ui.style.design.editorial">
+      <source>Editorial</source>
+      <translation>Éditorial</translation>
+    </message>
+    <message id="ui.style.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Éditorial mono</translation>
+    </message>
+    <message id="ui.style.design.lightMinimalAccent">
+      <source>Light minimal</source>
+      <translation>Clair minimal</translation>
+    </message>
+    <message id="ui.style.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimaliste mono</translation>
+    </message>
+    <message id="ui.style.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Ruban moderne</translation>
+    </message>
+    <message id="ui.style.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Pastel moderne</translation>
+    </message>
+    <message id="ui.style.design.signatureEditorial">
+      <source>Signature</source>
+      <translation>Signature</translation>
+    </message>
+    <message id="ui.style.designs">
+      <source>Design</source>
+      <translation>Modèle</translation>
+    </message>
+    <message id="ui.style.designsHint">
+      <source>Every new invoice is drawn in the chosen design. The pictures show a sample invoice in your style.</source>
+      <translation>Chaque nouvelle facture utilise le modèle choisi. Les images montrent une facture d’exemple dans votre style.</translation>
+    </message>
+    <message id="ui.style.drawing">
+      <source>Drawing the designs</source>
+      <translation>Dessin des modèles</translation>
+    </message>
+    <message id="ui.style.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.style.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>Le délai de paiement est un nombre entier de jours entre 0 et 365.</translation>
+    </message>
+    <message id="ui.style.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>Le taux de TVA est un pourcentage entre 0 et 100.</translation>
+    </message>
+    <message id="ui.style.fallsBack">
+      <source>%1 Invoices fall back to “Light minimal” until it is fixed.</source>
+      <translation>%1 Tant que ce n’est pas corrigé, les factures prennent le modèle « Clair minimal ».</translation>
+    </message>
+    <message id="ui.style.fontAuto">
+      <source>The design’s own</source>
+      <translation>Celle du modèle</translation>
+    </message>
+    <message id="ui.style.fontBody">
+      <source>Text font</source>
+      <translation>Police du texte</translation>
+    </message>
+    <message id="ui.style.fontDisplay">
+      <source>Headings font</source>
+      <translation>Police des titres</translation>
+    </message>
+    <message id="ui.style.footer">
+      <source>Footer</source>
+      <translation>Pied de page</translation>
+    </message>
+    <message id="ui.style.footerPlaceholder">
+      <source>Thank you for your business.</source>
+      <translation>Merci pour votre confiance.</translation>
+    </message>
+    <message id="ui.style.htmlFilter">
+      <source>HTML files (*.html *.htm)</source>
+      <translation>Fichiers HTML (*.html *.htm)</translation>
+    </message>
+    <message id="ui.style.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Compte bancaire (IBAN)</translation>
+    </message>
+    <message id="ui.style.imageFilter">
+      <source>Images (*.png *.jpg *.jpeg)</source>
+      <translation>Images (*.png *.jpg *.jpeg)</translation>
+    </message>
+    <message id="ui.style.ink">
+      <source>Ink</source>
+      <translation>Texte</translation>
+    </message>
+    <message id="ui.style.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Numéro SIREN</translation>
+    </message>
+    <message id="ui.style.logo">
+      <source>Logo</source>
+      <translation>Logo</translation>
+    </message>
+    <message id="ui.style.logoDialog">
+      <source>Choose a logo</source>
+      <translation>Choisir un logo</translation>
+    </message>
+    <message id="ui.style.logoHint">
+      <source>PNG or JPEG, at most 1 MB; wider than 600 px is scaled down.</source>
+      <translation>PNG ou JPEG, 1 Mo au plus ; au-delà de 600 px de large, il est réduit.</translation>
+    </message>
+    <message id="ui.style.look">
+      <source>Look</source>
+      <translation>Apparence</translation>
+    </message>
+    <message id="ui.style.madeWith">
+      <source>Show “Made with Morvane” in the footer</source>
+      <translation>Afficher « Créé avec Morvane » en pied de page</translation>
+    </message>
+    <message id="ui.style.muted">
+      <source>Muted</source>
+      <translation>Atténué</translation>
+    </message>
+    <message id="ui.style.noLogo">
+      <source>No logo</source>
+      <translation>Aucun logo</translation>
+    </message>
+    <message id="ui.style.noTemplate">
+      <source>No template uploaded: invoices use the design chosen above.</source>
+      <translation>Aucun modèle importé : les factures utilisent le modèle choisi ci-dessus.</translation>
+    </message>
+    <message id="ui.style.palette">
+      <source>Palette</source>
+      <translation>Palette</translation>
+    </message>
+    <message id="ui.style.paper">
+      <source>Paper</source>
+      <translation>Papier</translation>
+    </message>
+    <message id="ui.style.phone">
+      <source>Phone</source>
+      <translation>Téléphone</translation>
+    </message>
+    <message id="ui.style.removeLogo">
+      <source>Remove logo</source>
+      <translation>Retirer le logo</translation>
+    </message>
+    <message id="ui.style.removeTemplate">
+      <source>Remove template</source>
+      <translation>Retirer le modèle</translation>
+    </message>
+    <message id="ui.style.revert">
+      <source>Undo changes</source>
+      <translation>Annuler les modifications</translation>
+    </message>
+    <message id="ui.style.saving">
+      <source>Saving…</source>
+      <translation>Enregistrement…</translation>
+    </message>
+    <message id="ui.style.sender">
+      <source>Sender</source>
+      <translation>Expéditeur</translation>
+    </message>
+    <message id="ui.style.templateDialog">
+      <source>Choose an HTML template</source>
+      <translation>Choisir un modèle HTML</translation>
+    </message>
+    <message id="ui.style.templateNotUsed">
+      <source>Not used</source>
+      <translation>Non utilisé</translation>
+    </message>
+    <message id="ui.style.templateUsed">
+      <source>Used</source>
+      <translation>Utilisé</translation>
+    </message>
+    <message id="ui.style.title">
+      <source>Invoice style</source>
+      <translation>Style des factures</translation>
+    </message>
+    <message id="ui.style.unsaved">
+      <source>Unsaved changes</source>
+      <translation>Modifications non enregistrées</translation>
+    </message>
+    <message id="ui.style.upload">
+      <source>Upload template…</source>
+      <translation>Importer un modèle…</translation>
+    </message>
+    <message id="ui.style.vatRate">
+      <source>Default VAT rate in %</source>
+      <translation>Taux de TVA par défaut en %</translation>
+    </message>
+    <message id="ui.style.website">
+      <source>Website</source>
+      <translation>Site web</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Ajoutez une tâche et appuyez sur Enter</translation>

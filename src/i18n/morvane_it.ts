@@ -3411,6 +3411,254 @@
       <source>Not started</source>
       <translation>Non iniziata</translation>
     </message>
+    <message id="ui.style.accent">
+      <source>Accent</source>
+      <translation>Accento</translation>
+    </message>
+    <message id="ui.style.address">
+      <source>Address</source>
+      <translation>Indirizzo</translation>
+    </message>
+    <message id="ui.style.bank">
+      <source>Bank</source>
+      <translation>Banca</translation>
+    </message>
+    <message id="ui.style.banner">
+      <source>Banner</source>
+      <translation>Fascia</translation>
+    </message>
+    <message id="ui.style.border">
+      <source>Border</source>
+      <translation>Bordo</translation>
+    </message>
+    <message id="ui.style.btw">
+      <source>VAT number</source>
+      <translation>Partita IVA</translation>
+    </message>
+    <message id="ui.style.chooseLogo">
+      <source>Choose logo…</source>
+      <translation>Scegli logo…</translation>
+    </message>
+    <message id="ui.style.colourAuto">
+      <source>auto</source>
+      <translation>auto</translation>
+    </message>
+    <message id="ui.style.company">
+      <source>Company</source>
+      <translation>Azienda</translation>
+    </message>
+    <message id="ui.style.customHint">
+      <source>An HTML page with {{placeholders}}, a &lt;header&gt; and a &lt;footer&gt;, fixed at 794 × 1123 px. When it cannot be used, invoices are drawn in “Light minimal”.</source>
+      <translation>Una pagina HTML con {{segnaposto}}, un &lt;header&gt; e un &lt;footer&gt;, fissata a 794 × 1123 px. Se non è utilizzabile, le fatture usano il design «Chiaro minimale».</translation>
+    </message>
+    <message id="ui.style.customTitle">
+      <source>Your own template</source>
+      <translation>Il tuo modello</translation>
+    </message>
+    <message id="ui.style.days">
+      <source>Payment terms in days</source>
+      <translation>Termini di pagamento in giorni</translation>
+    </message>
+    <message id="ui.style.design.aiCustom">
+      <source>Your template</source>
+      <translation>Il tuo modello</translation>
+    </message>
+    <message id="ui.style.design.boldDark">
+      <source>Bold dark</source>
+      <translation>Scuro deciso</translation>
+    </message>
+    <message id="ui.style.design.editorial">
+      <source>Editorial</source>
+      <translation>Editoriale</translation>
+    </message>
+    <message id="ui.style.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>Editoriale mono</translation>
+    </message>
+    <message id="ui.style.design.lightMinimalAccent">
+      <source>Light minimal</source>
+      <translation>Chiaro minimale</translation>
+    </message>
+    <message id="ui.style.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>Minimalista mono</translation>
+    </message>
+    <message id="ui.style.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>Nastro moderno</translation>
+    </message>
+    <message id="ui.style.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>Pastello moderno</translation>
+    </message>
+    <message id="ui.style.design.signatureEditorial">
+      <source>Signature</source>
+      <translation>Firma</translation>
+    </message>
+    <message id="ui.style.designs">
+      <source>Design</source>
+      <translation>Design</translation>
+    </message>
+    <message id="ui.style.designsHint">
+      <source>Every new invoice is drawn in the chosen design. The pictures show a sample invoice in your style.</source>
+      <translation>Ogni nuova fattura usa il design scelto. Le immagini mostrano una fattura di esempio nel tuo stile.</translation>
+    </message>
+    <message id="ui.style.drawing">
+      <source>Drawing the designs</source>
+      <translation>Disegno dei design</translation>
+    </message>
+    <message id="ui.style.email">
+      <source>E-mail</source>
+      <translation>E-mail</translation>
+    </message>
+    <message id="ui.style.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>I termini di pagamento sono un numero intero di giorni da 0 a 365.</translation>
+    </message>
+    <message id="ui.style.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>L’aliquota IVA è una percentuale da 0 a 100.</translation>
+    </message>
+    <message id="ui.style.fallsBack">
+      <source>%1 Invoices fall back to “Light minimal” until it is fixed.</source>
+      <translation>%1 Finché non è corretto, le fatture usano il design «Chiaro minimale».</translation>
+    </message>
+    <message id="ui.style.fontAuto">
+      <source>The design’s own</source>
+      <translation>Quello del design</translation>
+    </message>
+    <message id="ui.style.fontBody">
+      <source>Text font</source>
+      <translation>Carattere del testo</translation>
+    </message>
+    <message id="ui.style.fontDisplay">
+      <source>Headings font</source>
+      <translation>Carattere dei titoli</translation>
+    </message>
+    <message id="ui.style.footer">
+      <source>Footer</source>
+      <translation>Piè di pagina</translation>
+    </message>
+    <message id="ui.style.footerPlaceholder">
+      <source>Thank you for your business.</source>
+      <translation>Grazie per la fiducia.</translation>
+    </message>
+    <message id="ui.style.htmlFilter">
+      <source>HTML files (*.html *.htm)</source>
+      <translation>File HTML (*.html *.htm)</translation>
+    </message>
+    <message id="ui.style.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>Conto bancario (IBAN)</translation>
+    </message>
+    <message id="ui.style.imageFilter">
+      <source>Images (*.png *.jpg *.jpeg)</source>
+      <translation>Immagini (*.png *.jpg *.jpeg)</translation>
+    </message>
+    <message id="ui.style.ink">
+      <source>Ink</source>
+      <translation>Testo</translation>
+    </message>
+    <message id="ui.style.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>Numero REA</translation>
+    </message>
+    <message id="ui.style.logo">
+      <source>Logo</source>
+      <translation>Logo</translation>
+    </message>
+    <message id="ui.style.logoDialog">
+      <source>Choose a logo</source>
+      <translation>Scegli un logo</translation>
+    </message>
+    <message id="ui.style.logoHint">
+      <source>PNG or JPEG, at most 1 MB; wider than 600 px is scaled down.</source>
+      <translation>PNG o JPEG, al massimo 1 MB; oltre 600 px di larghezza viene ridotto.</translation>
+    </message>
+    <message id="ui.style.look">
+      <source>Look</source>
+      <translation>Aspetto</translation>
+    </message>
+    <message id="ui.style.madeWith">
+      <source>Show “Made with Morvane” in the footer</source>
+      <translation>Mostra «Creato con Morvane» nel piè di pagina</translation>
+    </message>
+    <message id="ui.style.muted">
+      <source>Muted</source>
+      <translation>Attenuato</translation>
+    </message>
+    <message id="ui.style.noLogo">
+      <source>No logo</source>
+      <translation>Nessun logo</translation>
+    </message>
+    <message id="ui.style.noTemplate">
+      <source>No template uploaded: invoices use the design chosen above.</source>
+      <translation>Nessun modello caricato: le fatture usano il design scelto sopra.</translation>
+    </message>
+    <message id="ui.style.palette">
+      <source>Palette</source>
+      <translation>Tavolozza</translation>
+    </message>
+    <message id="ui.style.paper">
+      <source>Paper</source>
+      <translation>Carta</translation>
+    </message>
+    <message id="ui.style.phone">
+      <source>Phone</source>
+      <translation>Telefono</translation>
+    </message>
+    <message id="ui.style.removeLogo">
+      <source>Remove logo</source>
+      <translation>Rimuovi logo</translation>
+    </message>
+    <message id="ui.style.removeTemplate">
+      <source>Remove template</source>
+      <translation>Rimuovi modello</translation>
+    </message>
+    <message id="ui.style.revert">
+      <source>Undo changes</source>
+      <translation>Annulla modifiche</translation>
+    </message>
+    <message id="ui.style.saving">
+      <source>Saving…</source>
+      <translation>Salvataggio…</translation>
+    </message>
+    <message id="ui.style.sender">
+      <source>Sender</source>
+      <translation>Mittente</translation>
+    </message>
+    <message id="ui.style.templateDialog">
+      <source>Choose an HTML template</source>
+      <translation>Scegli un modello HTML</translation>
+    </message>
+    <message id="ui.style.templateNotUsed">
+      <source>Not used</source>
+      <translation>Non usato</translation>
+    </message>
+    <message id="ui.style.templateUsed">
+      <source>Used</source>
+      <translation>In uso</translation>
+    </message>
+    <message id="ui.style.title">
+      <source>Invoice style</source>
+      <translation>Stile fattura</translation>
+    </message>
+    <message id="ui.style.unsaved">
+      <source>Unsaved changes</source>
+      <translation>Modifiche non salvate</translation>
+    </message>
+    <message id="ui.style.upload">
+      <source>Upload template…</source>
+      <translation>Carica modello…</translation>
+    </message>
+    <message id="ui.style.vatRate">
+      <source>Default VAT rate in %</source>
+      <translation>Aliquota IVA predefinita in %</translation>
+    </message>
+    <message id="ui.style.website">
+      <source>Website</source>
+      <translation>Sito web</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Aggiungi un’attività e premi Enter</translation>

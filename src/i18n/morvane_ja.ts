@@ -3411,6 +3411,254 @@
       <source>Not started</source>
       <translation>未着手</translation>
     </message>
+    <message id="ui.style.accent">
+      <source>Accent</source>
+      <translation>アクセント</translation>
+    </message>
+    <message id="ui.style.address">
+      <source>Address</source>
+      <translation>住所</translation>
+    </message>
+    <message id="ui.style.bank">
+      <source>Bank</source>
+      <translation>銀行</translation>
+    </message>
+    <message id="ui.style.banner">
+      <source>Banner</source>
+      <translation>帯</translation>
+    </message>
+    <message id="ui.style.border">
+      <source>Border</source>
+      <translation>罫線</translation>
+    </message>
+    <message id="ui.style.btw">
+      <source>VAT number</source>
+      <translation>VAT 番号</translation>
+    </message>
+    <message id="ui.style.chooseLogo">
+      <source>Choose logo…</source>
+      <translation>ロゴを選択…</translation>
+    </message>
+    <message id="ui.style.colourAuto">
+      <source>auto</source>
+      <translation>自動</translation>
+    </message>
+    <message id="ui.style.company">
+      <source>Company</source>
+      <translation>会社名</translation>
+    </message>
+    <message id="ui.style.customHint">
+      <source>An HTML page with {{placeholders}}, a &lt;header&gt; and a &lt;footer&gt;, fixed at 794 × 1123 px. When it cannot be used, invoices are drawn in “Light minimal”.</source>
+      <translation>{{プレースホルダー}}、&lt;header&gt;、&lt;footer&gt; を含み、794 × 1123 px に固定した HTML ページ。使えない場合、請求書は「ライト・ミニマル」で作成されます。</translation>
+    </message>
+    <message id="ui.style.customTitle">
+      <source>Your own template</source>
+      <translation>独自のテンプレート</translation>
+    </message>
+    <message id="ui.style.days">
+      <source>Payment terms in days</source>
+      <translation>支払期限（日数）</translation>
+    </message>
+    <message id="ui.style.design.aiCustom">
+      <source>Your template</source>
+      <translation>独自テンプレート</translation>
+    </message>
+    <message id="ui.style.design.boldDark">
+      <source>Bold dark</source>
+      <translation>ボールド・ダーク</translation>
+    </message>
+    <message id="ui.style.design.editorial">
+      <source>Editorial</source>
+      <translation>エディトリアル</translation>
+    </message>
+    <message id="ui.style.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>エディトリアル・モノ</translation>
+    </message>
+    <message id="ui.style.design.lightMinimalAccent">
+      <source>Light minimal</source>
+      <translation>ライト・ミニマル</translation>
+    </message>
+    <message id="ui.style.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>ミニマリスト・モノ</translation>
+    </message>
+    <message id="ui.style.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>モダン・リボン</translation>
+    </message>
+    <message id="ui.style.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>パステル・モダン</translation>
+    </message>
+    <message id="ui.style.design.signatureEditorial">
+      <source>Signature</source>
+      <translation>シグネチャー</translation>
+    </message>
+    <message id="ui.style.designs">
+      <source>Design</source>
+      <translation>デザイン</translation>
+    </message>
+    <message id="ui.style.designsHint">
+      <source>Every new invoice is drawn in the chosen design. The pictures show a sample invoice in your style.</source>
+      <translation>新しい請求書はすべて選んだデザインで作成されます。画像はあなたのスタイルで作ったサンプル請求書です。</translation>
+    </message>
+    <message id="ui.style.drawing">
+      <source>Drawing the designs</source>
+      <translation>デザインを描画中</translation>
+    </message>
+    <message id="ui.style.email">
+      <source>E-mail</source>
+      <translation>メール</translation>
+    </message>
+    <message id="ui.style.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>支払期限は 0〜365 の整数の日数で入力してください。</translation>
+    </message>
+    <message id="ui.style.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>税率は 0〜100 のパーセントで入力してください。</translation>
+    </message>
+    <message id="ui.style.fallsBack">
+      <source>%1 Invoices fall back to “Light minimal” until it is fixed.</source>
+      <translation>%1 修正されるまで、請求書は「ライト・ミニマル」で作成されます。</translation>
+    </message>
+    <message id="ui.style.fontAuto">
+      <source>The design’s own</source>
+      <translation>デザインの既定</translation>
+    </message>
+    <message id="ui.style.fontBody">
+      <source>Text font</source>
+      <translation>本文フォント</translation>
+    </message>
+    <message id="ui.style.fontDisplay">
+      <source>Headings font</source>
+      <translation>見出しフォント</translation>
+    </message>
+    <message id="ui.style.footer">
+      <source>Footer</source>
+      <translation>フッター</translation>
+    </message>
+    <message id="ui.style.footerPlaceholder">
+      <source>Thank you for your business.</source>
+      <translation>ご依頼ありがとうございました。</translation>
+    </message>
+    <message id="ui.style.htmlFilter">
+      <source>HTML files (*.html *.htm)</source>
+      <translation>HTML ファイル (*.html *.htm)</translation>
+    </message>
+    <message id="ui.style.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>銀行口座 (IBAN)</translation>
+    </message>
+    <message id="ui.style.imageFilter">
+      <source>Images (*.png *.jpg *.jpeg)</source>
+      <translation>画像 (*.png *.jpg *.jpeg)</translation>
+    </message>
+    <message id="ui.style.ink">
+      <source>Ink</source>
+      <translation>文字</translation>
+    </message>
+    <message id="ui.style.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>商業登記番号</translation>
+    </message>
+    <message id="ui.style.logo">
+      <source>Logo</source>
+      <translation>ロゴ</translation>
+    </message>
+    <message id="ui.style.logoDialog">
+      <source>Choose a logo</source>
+      <translation>ロゴを選択</translation>
+    </message>
+    <message id="ui.style.logoHint">
+      <source>PNG or JPEG, at most 1 MB; wider than 600 px is scaled down.</source>
+      <translation>PNG または JPEG、1 MB まで。幅 600 px を超える画像は縮小されます。</translation>
+    </message>
+    <message id="ui.style.look">
+      <source>Look</source>
+      <translation>デザイン設定</translation>
+    </message>
+    <message id="ui.style.madeWith">
+      <source>Show “Made with Morvane” in the footer</source>
+      <translation>フッターに「Made with Morvane」を表示</translation>
+    </message>
+    <message id="ui.style.muted">
+      <source>Muted</source>
+      <translation>控えめ</translation>
+    </message>
+    <message id="ui.style.noLogo">
+      <source>No logo</source>
+      <translation>ロゴなし</translation>
+    </message>
+    <message id="ui.style.noTemplate">
+      <source>No template uploaded: invoices use the design chosen above.</source>
+      <translation>テンプレートはありません。請求書には上で選んだデザインが使われます。</translation>
+    </message>
+    <message id="ui.style.palette">
+      <source>Palette</source>
+      <translation>配色</translation>
+    </message>
+    <message id="ui.style.paper">
+      <source>Paper</source>
+      <translation>用紙</translation>
+    </message>
+    <message id="ui.style.phone">
+      <source>Phone</source>
+      <translation>電話</translation>
+    </message>
+    <message id="ui.style.removeLogo">
+      <source>Remove logo</source>
+      <translation>ロゴを削除</translation>
+    </message>
+    <message id="ui.style.removeTemplate">
+      <source>Remove template</source>
+      <translation>テンプレートを削除</translation>
+    </message>
+    <message id="ui.style.revert">
+      <source>Undo changes</source>
+      <translation>変更を元に戻す</translation>
+    </message>
+    <message id="ui.style.saving">
+      <source>Saving…</source>
+      <translation>保存中…</translation>
+    </message>
+    <message id="ui.style.sender">
+      <source>Sender</source>
+      <translation>差出人</translation>
+    </message>
+    <message id="ui.style.templateDialog">
+      <source>Choose an HTML template</source>
+      <translation>HTML テンプレートを選択</translation>
+    </message>
+    <message id="ui.style.templateNotUsed">
+      <source>Not used</source>
+      <translation>未使用</translation>
+    </message>
+    <message id="ui.style.templateUsed">
+      <source>Used</source>
+      <translation>使用中</translation>
+    </message>
+    <message id="ui.style.title">
+      <source>Invoice style</source>
+      <translation>請求書スタイル</translation>
+    </message>
+    <message id="ui.style.unsaved">
+      <source>Unsaved changes</source>
+      <translation>未保存の変更があります</translation>
+    </message>
+    <message id="ui.style.upload">
+      <source>Upload template…</source>
+      <translation>テンプレートをアップロード…</translation>
+    </message>
+    <message id="ui.style.vatRate">
+      <source>Default VAT rate in %</source>
+      <translation>既定の税率（%）</translation>
+    </message>
+    <message id="ui.style.website">
+      <source>Website</source>
+      <translation>ウェブサイト</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>タスクを入力して Enter</translation>

@@ -3411,6 +3411,254 @@
       <source>Not started</source>
       <translation>ยังไม่เริ่ม</translation>
     </message>
+    <message id="ui.style.accent">
+      <source>Accent</source>
+      <translation>สีเน้น</translation>
+    </message>
+    <message id="ui.style.address">
+      <source>Address</source>
+      <translation>ที่อยู่</translation>
+    </message>
+    <message id="ui.style.bank">
+      <source>Bank</source>
+      <translation>ธนาคาร</translation>
+    </message>
+    <message id="ui.style.banner">
+      <source>Banner</source>
+      <translation>แถบ</translation>
+    </message>
+    <message id="ui.style.border">
+      <source>Border</source>
+      <translation>เส้นขอบ</translation>
+    </message>
+    <message id="ui.style.btw">
+      <source>VAT number</source>
+      <translation>เลขประจำตัวผู้เสียภาษี</translation>
+    </message>
+    <message id="ui.style.chooseLogo">
+      <source>Choose logo…</source>
+      <translation>เลือกโลโก้…</translation>
+    </message>
+    <message id="ui.style.colourAuto">
+      <source>auto</source>
+      <translation>อัตโนมัติ</translation>
+    </message>
+    <message id="ui.style.company">
+      <source>Company</source>
+      <translation>บริษัท</translation>
+    </message>
+    <message id="ui.style.customHint">
+      <source>An HTML page with {{placeholders}}, a &lt;header&gt; and a &lt;footer&gt;, fixed at 794 × 1123 px. When it cannot be used, invoices are drawn in “Light minimal”.</source>
+      <translation>หน้า HTML ที่มี {{ตัวแทน}} มี &lt;header&gt; และ &lt;footer&gt; และกำหนดขนาดไว้ที่ 794 × 1123 px หากใช้ไม่ได้ ใบแจ้งหนี้จะใช้ดีไซน์ “มินิมอลสีอ่อน”</translation>
+    </message>
+    <message id="ui.style.customTitle">
+      <source>Your own template</source>
+      <translation>เทมเพลตของคุณเอง</translation>
+    </message>
+    <message id="ui.style.days">
+      <source>Payment terms in days</source>
+      <translation>ระยะเวลาชำระเงิน (วัน)</translation>
+    </message>
+    <message id="ui.style.design.aiCustom">
+      <source>Your template</source>
+      <translation>เทมเพลตของคุณ</translation>
+    </message>
+    <message id="ui.style.design.boldDark">
+      <source>Bold dark</source>
+      <translation>เข้มโดดเด่น</translation>
+    </message>
+    <message id="ui.style.design.editorial">
+      <source>Editorial</source>
+      <translation>เอดิทอเรียล</translation>
+    </message>
+    <message id="ui.style.design.editorialMono">
+      <source>Editorial mono</source>
+      <translation>เอดิทอเรียลโมโน</translation>
+    </message>
+    <message id="ui.style.design.lightMinimalAccent">
+      <source>Light minimal</source>
+      <translation>มินิมอลสีอ่อน</translation>
+    </message>
+    <message id="ui.style.design.minimalistMono">
+      <source>Minimalist mono</source>
+      <translation>มินิมอลโมโน</translation>
+    </message>
+    <message id="ui.style.design.modernRibbon">
+      <source>Modern ribbon</source>
+      <translation>ริบบอนโมเดิร์น</translation>
+    </message>
+    <message id="ui.style.design.pastelModern">
+      <source>Pastel modern</source>
+      <translation>พาสเทลโมเดิร์น</translation>
+    </message>
+    <message id="ui.style.design.signatureEditorial">
+      <source>Signature</source>
+      <translation>ซิกเนเจอร์</translation>
+    </message>
+    <message id="ui.style.designs">
+      <source>Design</source>
+      <translation>ดีไซน์</translation>
+    </message>
+    <message id="ui.style.designsHint">
+      <source>Every new invoice is drawn in the chosen design. The pictures show a sample invoice in your style.</source>
+      <translation>ใบแจ้งหนี้ใหม่ทุกใบจะใช้ดีไซน์ที่เลือก ภาพตัวอย่างแสดงใบแจ้งหนี้ตัวอย่างในรูปแบบของคุณ</translation>
+    </message>
+    <message id="ui.style.drawing">
+      <source>Drawing the designs</source>
+      <translation>กำลังวาดดีไซน์</translation>
+    </message>
+    <message id="ui.style.email">
+      <source>E-mail</source>
+      <translation>อีเมล</translation>
+    </message>
+    <message id="ui.style.err.days">
+      <source>Payment terms are a whole number of days from 0 to 365.</source>
+      <translation>ระยะเวลาชำระเงินต้องเป็นจำนวนวันเต็มตั้งแต่ 0 ถึง 365</translation>
+    </message>
+    <message id="ui.style.err.vatRate">
+      <source>The VAT rate is a percentage from 0 to 100.</source>
+      <translation>อัตราภาษีต้องเป็นเปอร์เซ็นต์ตั้งแต่ 0 ถึง 100</translation>
+    </message>
+    <message id="ui.style.fallsBack">
+      <source>%1 Invoices fall back to “Light minimal” until it is fixed.</source>
+      <translation>%1 ใบแจ้งหนี้จะใช้ดีไซน์ “มินิมอลสีอ่อน” จนกว่าจะแก้ไข</translation>
+    </message>
+    <message id="ui.style.fontAuto">
+      <source>The design’s own</source>
+      <translation>ตามดีไซน์</translation>
+    </message>
+    <message id="ui.style.fontBody">
+      <source>Text font</source>
+      <translation>ฟอนต์เนื้อหา</translation>
+    </message>
+    <message id="ui.style.fontDisplay">
+      <source>Headings font</source>
+      <translation>ฟอนต์หัวเรื่อง</translation>
+    </message>
+    <message id="ui.style.footer">
+      <source>Footer</source>
+      <translation>ส่วนท้าย</translation>
+    </message>
+    <message id="ui.style.footerPlaceholder">
+      <source>Thank you for your business.</source>
+      <translation>ขอบคุณที่ใช้บริการ</translation>
+    </message>
+    <message id="ui.style.htmlFilter">
+      <source>HTML files (*.html *.htm)</source>
+      <translation>ไฟล์ HTML (*.html *.htm)</translation>
+    </message>
+    <message id="ui.style.iban">
+      <source>Bank account (IBAN)</source>
+      <translation>บัญชีธนาคาร (IBAN)</translation>
+    </message>
+    <message id="ui.style.imageFilter">
+      <source>Images (*.png *.jpg *.jpeg)</source>
+      <translation>รูปภาพ (*.png *.jpg *.jpeg)</translation>
+    </message>
+    <message id="ui.style.ink">
+      <source>Ink</source>
+      <translation>สีตัวอักษร</translation>
+    </message>
+    <message id="ui.style.kvk">
+      <source>Chamber of commerce number</source>
+      <translation>เลขทะเบียนพาณิชย์</translation>
+    </message>
+    <message id="ui.style.logo">
+      <source>Logo</source>
+      <translation>โลโก้</translation>
+    </message>
+    <message id="ui.style.logoDialog">
+      <source>Choose a logo</source>
+      <translation>เลือกโลโก้</translation>
+    </message>
+    <message id="ui.style.logoHint">
+      <source>PNG or JPEG, at most 1 MB; wider than 600 px is scaled down.</source>
+      <translation>PNG หรือ JPEG ขนาดไม่เกิน 1 MB ภาพที่กว้างเกิน 600 px จะถูกย่อ</translation>
+    </message>
+    <message id="ui.style.look">
+      <source>Look</source>
+      <translation>รูปลักษณ์</translation>
+    </message>
+    <message id="ui.style.madeWith">
+      <source>Show “Made with Morvane” in the footer</source>
+      <translation>แสดง “สร้างด้วย Morvane” ที่ส่วนท้าย</translation>
+    </message>
+    <message id="ui.style.muted">
+      <source>Muted</source>
+      <translation>สีรอง</translation>
+    </message>
+    <message id="ui.style.noLogo">
+      <source>No logo</source>
+      <translation>ไม่มีโลโก้</translation>
+    </message>
+    <message id="ui.style.noTemplate">
+      <source>No template uploaded: invoices use the design chosen above.</source>
+      <translation>ยังไม่ได้อัปโหลดเทมเพลต ใบแจ้งหนี้จะใช้ดีไซน์ที่เลือกไว้ด้านบน</translation>
+    </message>
+    <message id="ui.style.palette">
+      <source>Palette</source>
+      <translation>ชุดสี</translation>
+    </message>
+    <message id="ui.style.paper">
+      <source>Paper</source>
+      <translation>สีกระดาษ</translation>
+    </message>
+    <message id="ui.style.phone">
+      <source>Phone</source>
+      <translation>โทรศัพท์</translation>
+    </message>
+    <message id="ui.style.removeLogo">
+      <source>Remove logo</source>
+      <translation>ลบโลโก้</translation>
+    </message>
+    <message id="ui.style.removeTemplate">
+      <source>Remove template</source>
+      <translation>ลบเทมเพลต</translation>
+    </message>
+    <message id="ui.style.revert">
+      <source>Undo changes</source>
+      <translation>เลิกทำการเปลี่ยนแปลง</translation>
+    </message>
+    <message id="ui.style.saving">
+      <source>Saving…</source>
+      <translation>กำลังบันทึก…</translation>
+    </message>
+    <message id="ui.style.sender">
+      <source>Sender</source>
+      <translation>ผู้ส่ง</translation>
+    </message>
+    <message id="ui.style.templateDialog">
+      <source>Choose an HTML template</source>
+      <translation>เลือกเทมเพลต HTML</translation>
+    </message>
+    <message id="ui.style.templateNotUsed">
+      <source>Not used</source>
+      <translation>ไม่ได้ใช้</translation>
+    </message>
+    <message id="ui.style.templateUsed">
+      <source>Used</source>
+      <translation>ใช้งานอยู่</translation>
+    </message>
+    <message id="ui.style.title">
+      <source>Invoice style</source>
+      <translation>รูปแบบใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.style.unsaved">
+      <source>Unsaved changes</source>
+      <translation>มีการเปลี่ยนแปลงที่ยังไม่บันทึก</translation>
+    </message>
+    <message id="ui.style.upload">
+      <source>Upload template…</source>
+      <translation>อัปโหลดเทมเพลต…</translation>
+    </message>
+    <message id="ui.style.vatRate">
+      <source>Default VAT rate in %</source>
+      <translation>อัตราภาษีเริ่มต้น (%)</translation>
+    </message>
+    <message id="ui.style.website">
+      <source>Website</source>
+      <translation>เว็บไซต์</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>พิมพ์งานใหม่แล้วกด Enter</translation>
