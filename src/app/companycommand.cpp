@@ -294,6 +294,10 @@ int runCompanyCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     InvoiceStyle style = store.defaultInvoiceTemplate().value_or(InvoiceTemplate{}).style;
     for (const Change &change : std::as_const(changes)) {
         style.*change.field = change.value;
+        // The palette's ink would override the ink colour just given.
+        if (change.field == &InvoiceStyle::inkHex) {
+            style.paletteInk.reset();
+        }
     }
     if (parser.isSet(days)) {
         style.paymentTermsDays = paymentDays;
