@@ -63,8 +63,20 @@ int main(int argc, char *argv[])
     const QCommandLineOption redirectUrl(
         u"redirect-url"_s,
         u"Also allow e-mail links and sign-ins to lead to this address (its origin); may be repeated."_s, u"url"_s);
-    parser.addOptions(
-        {dataDir, port, listen, databaseUrl, migrations, idle, confirmEmail, providers, realtimeBacklog, redirectUrl});
+    const QCommandLineOption aiProvider(
+        u"ai-provider"_s,
+        u"Let signed-in users reach this AI service through the \"morvane-ai\" function: anthropic, openai or gemini."_s,
+        u"name"_s);
+    const QCommandLineOption aiKeyFile(
+        u"ai-key-file"_s, u"The file holding the AI service's key; only its owner may read it (chmod 600)."_s,
+        u"file"_s);
+    const QCommandLineOption aiBaseUrl(
+        u"ai-base-url"_s, u"Reach the AI service at this address instead of its public one (a gateway of your own)."_s,
+        u"url"_s);
+    const QCommandLineOption aiRate(
+        u"ai-calls-per-hour"_s, u"How many AI calls each user may make per hour (default 60)."_s, u"count"_s, u"60"_s);
+    parser.addOptions({dataDir, port, listen, databaseUrl, migrations, idle, confirmEmail, providers, realtimeBacklog,
+                       redirectUrl, aiProvider, aiKeyFile, aiBaseUrl, aiRate});
     parser.process(app);
 
     bool portOk = false;
@@ -94,9 +106,38 @@ int main(int argc, char *argv[])
             return 2;
         }
     }
+    std::optional<AIRelay::Config> relay;
+    if (parser.isSet(aiProvider) || parser.isSet(aiKeyFile)) {
+        const std::optional<AIVendor> vendor = AIWire::vendorFromName(parser.value(aiProvider));
+        if (!vendor || !parser.isSet(aiKeyFile)) {
+            std::fprintf(stderr, "morvane-server: the AI relay needs --ai-provider anthropic|openai|gemini and "
+                                 "--ai-key-file FILE\n");
+            return 2;
+        }
+        const auto key = AIRelay::readKeyFile(parser.value(aiKeyFile));
+        if (const auto *problem = std::get_if<1>(&key)) {
+            std::fprintf(stderr, "morvane-server: --ai-key-file: %s\n", qPrintable(*problem));
+            return 2;
+        }
+        relay = AIRelay::Config{*vendor, std::get<0>(key)};
+        if (parser.isSet(aiBaseUrl)) {
+            const QUrl base(parser.value(aiBaseUrl));
+            if (!base.isValid() || base.host().isEmpty() || (base.scheme() != u"https" && base.scheme() != u"http")) {
+                std::fprintf(stderr, "morvane-server: --ai-base-url needs an http or https address\n");
+                return 2;
+            }
+            relay->baseUrl = base;
+        }
+        bool rateOk = false;
+        relay->callsPerHour = parser.value(aiRate).toInt(&rateOk);
+        if (!rateOk || relay->callsPerHour < 1) {
+            std::fprintf(stderr, "morvane-server: --ai-calls-per-hour needs a number, 1 or more\n");
+            return 2;
+        }
+    }
     ServerApp server({parser.value(dataDir), quint16(portNumber), parser.value(listen), parser.value(databaseUrl),
                       parser.value(migrations), idleSeconds, parser.isSet(confirmEmail), parser.value(providers),
-                      backlogBytes, redirectUrls});
+                      backlogBytes, redirectUrls, relay});
 
     // Signals arrive on any thread; a pipe turns them into an event of the main loop, where the
     // database can be stopped cleanly.

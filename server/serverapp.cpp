@@ -308,7 +308,12 @@ bool ServerApp::start()
     const QString storageRoot = QDir(m_options.dataDir).filePath(u"storage"_s);
     m_http->addService(std::make_shared<StorageService>(*m_pool, secret, storageRoot,
                                                         StorageService::Limits{limits.maxBodyBytes}, sessionChecks));
-    m_http->addService(std::make_shared<FunctionsService>(*m_pool, secret, storageRoot, sessionChecks));
+    std::shared_ptr<AIRelay> relay;
+    if (m_options.aiRelay) {
+        relay = std::make_shared<AIRelay>(*m_options.aiRelay);
+        say(u"AI relay forwards to %1"_s.arg(AIWire::displayName(m_options.aiRelay->vendor)));
+    }
+    m_http->addService(std::make_shared<FunctionsService>(*m_pool, secret, storageRoot, sessionChecks, relay));
     // As PostgREST does: `NOTIFY pgrst, 'reload schema'` after a change of tables or functions.
     m_schemaListener = std::make_unique<PgListener>(conninfo, "pgrst", [conninfo, rest](const QByteArray &payload) {
         if (!payload.isEmpty() && payload != "reload schema") {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "functions/airelay.h"
+
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -33,6 +35,7 @@ public:
         QString authProvidersFile; // empty: <data-dir>/auth-providers.json
         qint64 realtimeMaxBacklog = 16 * 1024 * 1024;
         QStringList redirectUrls; // besides the server's own address
+        std::optional<AIRelay::Config> aiRelay; // none: "morvane-ai" answers 503
     };
 
     explicit ServerApp(Options options, QObject *parent = nullptr);

@@ -40,10 +40,12 @@ std::variant<RequestIdentity, HttpResponse> callerOf(const HttpRequest &request,
 
 } // namespace
 
-FunctionsService::FunctionsService(PgPool &pool, QByteArray jwtSecret, QString storageRoot, bool checkSessions)
+FunctionsService::FunctionsService(PgPool &pool, QByteArray jwtSecret, QString storageRoot, bool checkSessions,
+                                   std::shared_ptr<AIRelay> relay)
     : m_scope{pool, checkSessions}
     , m_secret(std::move(jwtSecret))
     , m_files(std::move(storageRoot))
+    , m_relay(std::move(relay))
 {}
 
 HttpResponse FunctionsService::handle(const HttpRequest &request)
@@ -117,5 +119,16 @@ HttpResponse FunctionsService::aiRelay(const HttpRequest &request)
     if (auto *refusal = std::get_if<HttpResponse>(&caller)) {
         return *refusal;
     }
-    return failure(503, u"ai_not_configured"_s, u"No AI provider is configured on this server."_s);
+    const RequestIdentity &identity = std::get<RequestIdentity>(caller);
+    if (identity.isAnonymous()) {
+        return failure(401, u"not_signed_in"_s, u"Sign in to use Morvane AI."_s, {{"WWW-Authenticate", "Bearer"}});
+    }
+    // The limits are per user: a service token has no user to hold to them.
+    if (identity.role != u"authenticated" || identity.userId().isEmpty()) {
+        return failure(403, u"user_token_required"_s, u"Morvane AI answers signed-in users only."_s);
+    }
+    if (!m_relay) {
+        return failure(503, u"ai_not_configured"_s, u"No AI provider is configured on this server."_s);
+    }
+    return m_relay->forward(identity.userId(), request.body);
 }

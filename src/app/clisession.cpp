@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QTextStream>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -54,8 +56,8 @@ std::optional<T> pick(const QList<T> &items, const QString &reference, NameOf na
 } // namespace
 
 CliSession::CliSession()
-    : m_auth(std::make_unique<AuthStore>(Supabase::shared(), runBlocking(SecretStore::system()),
-                                         std::make_shared<QSettings>()))
+    : m_secrets(runBlocking(SecretStore::system()))
+    , m_auth(std::make_unique<AuthStore>(Supabase::shared(), m_secrets, std::make_shared<QSettings>()))
     , m_store(std::make_unique<AppStore>(*m_auth, std::make_shared<QSettings>()))
     , m_sequence(std::make_unique<SessionSequence>(*m_auth, *m_store))
 {
@@ -170,3 +172,33 @@ QString hoursMinutes(qint64 seconds)
 }
 
 } // namespace Cli
+
+QCommandLineOption Cli::yesOption()
+{
+    //% "Agree to sending your text to the chosen AI service without being asked."
+    return QCommandLineOption(u"yes"_s, qtTrId("cli.ai.yes"));
+}
+
+void Cli::connectAI(ClaudeBridge &bridge, CliSession &session, bool assumeYes, QTextStream &err)
+{
+    AuthStore *auth = &session.auth();
+    bridge.setAccess({session.secrets(), auth->client().baseUrl(), auth->client().anonKey(),
+                      [auth]() -> QCoro::Task<std::optional<QString>> { co_return co_await auth->validToken(); }});
+    if (assumeYes) {
+        bridge.setConsentHook([](ClaudeBridge::Route) -> QCoro::Task<bool> { co_return true; });
+        return;
+    }
+    // A script has no one to answer; it fails with the message that names --yes.
+    if (!::isatty(STDIN_FILENO)) {
+        return;
+    }
+    bridge.setConsentHook([&err](ClaudeBridge::Route route) -> QCoro::Task<bool> {
+        //% "%1\nSend your text to %2 now and from now on? [y/N] "
+        err << qtTrId("cli.ai.question").arg(ClaudeBridge::routeDestination(route), ClaudeBridge::routeName(route))
+            << Qt::flush;
+        QTextStream in(stdin);
+        const QString answer = in.readLine().trimmed().toLower();
+        //% "y,yes"
+        co_return !answer.isEmpty() && qtTrId("cli.ai.yesAnswers").split(u',').contains(answer);
+    });
+}

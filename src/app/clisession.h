@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backend/authstore.h"
+#include "sessions/claudebridge.h"
 #include "store/appstore.h"
 #include "store/sessionsequence.h"
 
@@ -27,6 +28,7 @@ public:
     bool open(QTextStream &err);
 
     [[nodiscard]] AuthStore &auth() { return *m_auth; }
+    [[nodiscard]] std::shared_ptr<SecretStore> secrets() const { return m_secrets; }
     [[nodiscard]] AppStore &store() { return *m_store; }
 
     // Prints the store's last error and answers the exit code of a failed command.
@@ -41,6 +43,7 @@ public:
     [[nodiscard]] std::optional<TeamInvitation> invitation(const QString &reference, QTextStream &err) const;
 
 private:
+    std::shared_ptr<SecretStore> m_secrets;
     std::unique_ptr<AuthStore> m_auth;
     std::unique_ptr<AppStore> m_store;
     std::unique_ptr<SessionSequence> m_sequence;
@@ -58,5 +61,12 @@ void printJson(QTextStream &out, const QJsonValue &value);
 int usage(QTextStream &err, const QString &text);
 // Hours and minutes of a duration in seconds, as lists show tracked time ("3:05").
 [[nodiscard]] QString hoursMinutes(qint64 seconds);
+
+// The --yes option of every command that calls a model.
+[[nodiscard]] QCommandLineOption yesOption();
+// Readies a bridge for a command: the HTTP routes get the user's keys and, for the relay, the
+// session's token; the consent question goes to the person at the terminal, or is answered yes
+// with `assumeYes`. With neither a terminal nor --yes, a route that needs consent fails and says so.
+void connectAI(ClaudeBridge &bridge, CliSession &session, bool assumeYes, QTextStream &err);
 
 } // namespace Cli

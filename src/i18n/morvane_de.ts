@@ -3,6 +3,76 @@
 <TS version="2.1" language="de_DE">
   <context>
     <name>Morvane</name>
+    <message id="ai.err.badAnswer">
+      <source>%1 sent an answer Morvane cannot use: %2</source>
+      <translation>%1 hat eine Antwort geschickt, mit der Morvane nichts anfangen kann: %2</translation>
+    </message>
+    <message id="ai.err.consentDeclined">
+      <source>You chose not to send your text to %1. You can change this in the AI settings.</source>
+      <translation>Du hast entschieden, deinen Text nicht an %1 zu senden. Das kannst du in den KI-Einstellungen ändern.</translation>
+    </message>
+    <message id="ai.err.consentMissing">
+      <source>Morvane asks before it sends your text to %1 for the first time. Answer that question in the window, or run the command again with --yes.</source>
+      <translation>Morvane fragt nach, bevor dein Text zum ersten Mal an %1 geht. Beantworte die Frage im Fenster oder führe den Befehl erneut mit --yes aus.</translation>
+    </message>
+    <message id="ai.err.needsCLI">
+      <source>This needs the Claude CLI, which can work with files; %1 cannot. Choose the Claude CLI in the AI settings.</source>
+      <translation>Dafür braucht es die Claude CLI, die mit Dateien arbeiten kann; %1 kann das nicht. Wähle die Claude CLI in den KI-Einstellungen.</translation>
+    </message>
+    <message id="ai.err.noKey">
+      <source>There is no API key for %1 in your keyring. Add your key in the AI settings.</source>
+      <translation>In deinem Schlüsselbund ist kein API-Schlüssel für %1. Füge deinen Schlüssel in den KI-Einstellungen hinzu.</translation>
+    </message>
+    <message id="ai.err.notSignedIn">
+      <source>%1 works only while you are signed in. Sign in, then try again.</source>
+      <translation>%1 funktioniert nur, solange du angemeldet bist. Melde dich an und versuche es erneut.</translation>
+    </message>
+    <message id="ai.err.status">
+      <source>%1 answered with error %2: %3</source>
+      <translation>%1 antwortete mit Fehler %2: %3</translation>
+    </message>
+    <message id="ai.err.timedOut">
+      <source>%1 did not answer within %2 s</source>
+      <translation>%1 hat nicht innerhalb von %2 s geantwortet</translation>
+    </message>
+    <message id="ai.err.unreachable">
+      <source>%1 could not be reached: %2</source>
+      <translation>%1 ist nicht erreichbar: %2</translation>
+    </message>
+    <message id="ai.route.anthropic.where">
+      <source>Your text goes straight from this computer to Anthropic, with your own API key.</source>
+      <translation>Dein Text geht direkt von diesem Computer an Anthropic, mit deinem eigenen API-Schlüssel.</translation>
+    </message>
+    <message id="ai.route.claudeCLI.where">
+      <source>Your text goes to the claude program on this computer, which sends it to Anthropic under your own Claude account. Morvane itself sends nothing over the network.</source>
+      <translation>Dein Text geht an das Programm claude auf diesem Computer, das ihn unter deinem eigenen Claude-Konto an Anthropic sendet. Morvane selbst sendet nichts über das Netzwerk.</translation>
+    </message>
+    <message id="ai.route.gemini.where">
+      <source>Your text goes straight from this computer to Google, with your own API key.</source>
+      <translation>Dein Text geht direkt von diesem Computer an Google, mit deinem eigenen API-Schlüssel.</translation>
+    </message>
+    <message id="ai.route.morvaneAI.where">
+      <source>Your text goes to the Morvane server you are signed in to, which passes it on to the AI service its operator has chosen, and the answer comes back the same way.</source>
+      <translation>Dein Text geht an den Morvane-Server, bei dem du angemeldet bist. Er gibt ihn an den KI-Dienst weiter, den sein Betreiber gewählt hat, und die Antwort kommt auf demselben Weg zurück.</translation>
+    </message>
+    <message id="ai.route.openAI.where">
+      <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
+      <translation>Dein Text geht direkt von diesem Computer an OpenAI, mit deinem eigenen API-Schlüssel.</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Dem Senden deines Textes an den gewählten KI-Dienst ohne Nachfrage zustimmen.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>j,ja,y,yes</translation>
+    </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
       <translation>Es gibt bereits ein Konto mit dieser E-Mail-Adresse. Melde dich stattdessen an.</translation>
@@ -202,10 +272,6 @@
     <message id="claude.err.resultIsError">
       <source>claude returned is_error=true</source>
       <translation>claude meldete is_error=true</translation>
-    </message>
-    <message id="claude.err.routeNotConfigured">
-      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
-      <translation>%1 ist in dieser Version von Morvane nicht verfügbar. Wähle die Claude CLI in den KI-Einstellungen.</translation>
     </message>
     <message id="claude.err.timedOut">
       <source>Claude request timed out after %1 s</source>

@@ -3,6 +3,76 @@
 <TS version="2.1" language="es_ES">
   <context>
     <name>Morvane</name>
+    <message id="ai.err.badAnswer">
+      <source>%1 sent an answer Morvane cannot use: %2</source>
+      <translation>%1 envió una respuesta que Morvane no puede usar: %2</translation>
+    </message>
+    <message id="ai.err.consentDeclined">
+      <source>You chose not to send your text to %1. You can change this in the AI settings.</source>
+      <translation>Elegiste no enviar tu texto a %1. Puedes cambiarlo en los ajustes de IA.</translation>
+    </message>
+    <message id="ai.err.consentMissing">
+      <source>Morvane asks before it sends your text to %1 for the first time. Answer that question in the window, or run the command again with --yes.</source>
+      <translation>Morvane pregunta antes de enviar tu texto a %1 por primera vez. Responde a esa pregunta en la ventana o vuelve a ejecutar el comando con --yes.</translation>
+    </message>
+    <message id="ai.err.needsCLI">
+      <source>This needs the Claude CLI, which can work with files; %1 cannot. Choose the Claude CLI in the AI settings.</source>
+      <translation>Esto necesita la CLI de Claude, que puede trabajar con archivos; %1 no puede. Elige la CLI de Claude en los ajustes de IA.</translation>
+    </message>
+    <message id="ai.err.noKey">
+      <source>There is no API key for %1 in your keyring. Add your key in the AI settings.</source>
+      <translation>No hay ninguna clave de API para %1 en tu llavero. Añade tu clave en los ajustes de IA.</translation>
+    </message>
+    <message id="ai.err.notSignedIn">
+      <source>%1 works only while you are signed in. Sign in, then try again.</source>
+      <translation>%1 solo funciona con la sesión iniciada. Inicia sesión y vuelve a intentarlo.</translation>
+    </message>
+    <message id="ai.err.status">
+      <source>%1 answered with error %2: %3</source>
+      <translation>%1 respondió con el error %2: %3</translation>
+    </message>
+    <message id="ai.err.timedOut">
+      <source>%1 did not answer within %2 s</source>
+      <translation>%1 no respondió en %2 s</translation>
+    </message>
+    <message id="ai.err.unreachable">
+      <source>%1 could not be reached: %2</source>
+      <translation>No se pudo contactar con %1: %2</translation>
+    </message>
+    <message id="ai.route.anthropic.where">
+      <source>Your text goes straight from this computer to Anthropic, with your own API key.</source>
+      <translation>Tu texto va directamente de este ordenador a Anthropic, con tu propia clave de API.</translation>
+    </message>
+    <message id="ai.route.claudeCLI.where">
+      <source>Your text goes to the claude program on this computer, which sends it to Anthropic under your own Claude account. Morvane itself sends nothing over the network.</source>
+      <translation>Tu texto va al programa claude de este ordenador, que lo envía a Anthropic con tu propia cuenta de Claude. Morvane no envía nada por la red.</translation>
+    </message>
+    <message id="ai.route.gemini.where">
+      <source>Your text goes straight from this computer to Google, with your own API key.</source>
+      <translation>Tu texto va directamente de este ordenador a Google, con tu propia clave de API.</translation>
+    </message>
+    <message id="ai.route.morvaneAI.where">
+      <source>Your text goes to the Morvane server you are signed in to, which passes it on to the AI service its operator has chosen, and the answer comes back the same way.</source>
+      <translation>Tu texto va al servidor de Morvane en el que has iniciado sesión, que lo pasa al servicio de IA elegido por su operador; la respuesta vuelve por el mismo camino.</translation>
+    </message>
+    <message id="ai.route.openAI.where">
+      <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
+      <translation>Tu texto va directamente de este ordenador a OpenAI, con tu propia clave de API.</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+¿Enviar tu texto a %2 ahora y a partir de ahora? [s/N] </translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Aceptar sin preguntar que tu texto se envíe al servicio de IA elegido.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>s,sí,si,y,yes</translation>
+    </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
       <translation>Ya existe una cuenta con esta dirección de correo. Inicia sesión en su lugar.</translation>
@@ -202,10 +272,6 @@
     <message id="claude.err.resultIsError">
       <source>claude returned is_error=true</source>
       <translation>claude devolvió is_error=true</translation>
-    </message>
-    <message id="claude.err.routeNotConfigured">
-      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
-      <translation>%1 no está disponible en esta versión de Morvane. Elige la CLI de Claude en los ajustes de IA.</translation>
     </message>
     <message id="claude.err.timedOut">
       <source>Claude request timed out after %1 s</source>

@@ -3,6 +3,76 @@
 <TS version="2.1" language="it_IT">
   <context>
     <name>Morvane</name>
+    <message id="ai.err.badAnswer">
+      <source>%1 sent an answer Morvane cannot use: %2</source>
+      <translation>%1 ha inviato una risposta che Morvane non può usare: %2</translation>
+    </message>
+    <message id="ai.err.consentDeclined">
+      <source>You chose not to send your text to %1. You can change this in the AI settings.</source>
+      <translation>Hai scelto di non inviare il tuo testo a %1. Puoi cambiare idea nelle impostazioni IA.</translation>
+    </message>
+    <message id="ai.err.consentMissing">
+      <source>Morvane asks before it sends your text to %1 for the first time. Answer that question in the window, or run the command again with --yes.</source>
+      <translation>Morvane chiede prima di inviare il tuo testo a %1 per la prima volta. Rispondi alla domanda nella finestra oppure esegui di nuovo il comando con --yes.</translation>
+    </message>
+    <message id="ai.err.needsCLI">
+      <source>This needs the Claude CLI, which can work with files; %1 cannot. Choose the Claude CLI in the AI settings.</source>
+      <translation>Serve la CLI di Claude, che sa lavorare con i file; %1 non può farlo. Scegli la CLI di Claude nelle impostazioni IA.</translation>
+    </message>
+    <message id="ai.err.noKey">
+      <source>There is no API key for %1 in your keyring. Add your key in the AI settings.</source>
+      <translation>Nel portachiavi non c'è una chiave API per %1. Aggiungi la tua chiave nelle impostazioni IA.</translation>
+    </message>
+    <message id="ai.err.notSignedIn">
+      <source>%1 works only while you are signed in. Sign in, then try again.</source>
+      <translation>%1 funziona solo dopo l'accesso. Accedi e riprova.</translation>
+    </message>
+    <message id="ai.err.status">
+      <source>%1 answered with error %2: %3</source>
+      <translation>%1 ha risposto con l'errore %2: %3</translation>
+    </message>
+    <message id="ai.err.timedOut">
+      <source>%1 did not answer within %2 s</source>
+      <translation>%1 non ha risposto entro %2 s</translation>
+    </message>
+    <message id="ai.err.unreachable">
+      <source>%1 could not be reached: %2</source>
+      <translation>Impossibile raggiungere %1: %2</translation>
+    </message>
+    <message id="ai.route.anthropic.where">
+      <source>Your text goes straight from this computer to Anthropic, with your own API key.</source>
+      <translation>Il tuo testo va direttamente da questo computer a Anthropic, con la tua chiave API.</translation>
+    </message>
+    <message id="ai.route.claudeCLI.where">
+      <source>Your text goes to the claude program on this computer, which sends it to Anthropic under your own Claude account. Morvane itself sends nothing over the network.</source>
+      <translation>Il tuo testo va al programma claude di questo computer, che lo invia ad Anthropic con il tuo account Claude. Morvane non invia nulla in rete.</translation>
+    </message>
+    <message id="ai.route.gemini.where">
+      <source>Your text goes straight from this computer to Google, with your own API key.</source>
+      <translation>Il tuo testo va direttamente da questo computer a Google, con la tua chiave API.</translation>
+    </message>
+    <message id="ai.route.morvaneAI.where">
+      <source>Your text goes to the Morvane server you are signed in to, which passes it on to the AI service its operator has chosen, and the answer comes back the same way.</source>
+      <translation>Il tuo testo va al server Morvane a cui hai effettuato l'accesso, che lo inoltra al servizio IA scelto dal suo gestore; la risposta torna per la stessa strada.</translation>
+    </message>
+    <message id="ai.route.openAI.where">
+      <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
+      <translation>Il tuo testo va direttamente da questo computer a OpenAI, con la tua chiave API.</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Accetta senza domande l'invio del tuo testo al servizio IA scelto.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>s,sì,si,y,yes</translation>
+    </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
       <translation>Esiste già un account con questo indirizzo e-mail. Accedi invece.</translation>
@@ -202,10 +272,6 @@
     <message id="claude.err.resultIsError">
       <source>claude returned is_error=true</source>
       <translation>claude ha restituito is_error=true</translation>
-    </message>
-    <message id="claude.err.routeNotConfigured">
-      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
-      <translation>%1 non è disponibile in questa versione di Morvane. Scegli la CLI di Claude nelle impostazioni IA.</translation>
     </message>
     <message id="claude.err.timedOut">
       <source>Claude request timed out after %1 s</source>

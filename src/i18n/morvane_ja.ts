@@ -3,6 +3,76 @@
 <TS version="2.1" language="ja_JP">
   <context>
     <name>Morvane</name>
+    <message id="ai.err.badAnswer">
+      <source>%1 sent an answer Morvane cannot use: %2</source>
+      <translation>%1 から Morvane が使えない応答が届きました: %2</translation>
+    </message>
+    <message id="ai.err.consentDeclined">
+      <source>You chose not to send your text to %1. You can change this in the AI settings.</source>
+      <translation>テキストを %1 に送らないことを選択しています。AI の設定で変更できます。</translation>
+    </message>
+    <message id="ai.err.consentMissing">
+      <source>Morvane asks before it sends your text to %1 for the first time. Answer that question in the window, or run the command again with --yes.</source>
+      <translation>Morvane はテキストを初めて %1 に送る前に確認します。ウィンドウで質問に答えるか、--yes を付けてコマンドをもう一度実行してください。</translation>
+    </message>
+    <message id="ai.err.needsCLI">
+      <source>This needs the Claude CLI, which can work with files; %1 cannot. Choose the Claude CLI in the AI settings.</source>
+      <translation>これにはファイルを扱える Claude CLI が必要です。%1 ではできません。AI の設定で Claude CLI を選んでください。</translation>
+    </message>
+    <message id="ai.err.noKey">
+      <source>There is no API key for %1 in your keyring. Add your key in the AI settings.</source>
+      <translation>キーリングに %1 の API キーがありません。AI の設定でキーを追加してください。</translation>
+    </message>
+    <message id="ai.err.notSignedIn">
+      <source>%1 works only while you are signed in. Sign in, then try again.</source>
+      <translation>%1 はサインイン中のみ使えます。サインインしてからもう一度お試しください。</translation>
+    </message>
+    <message id="ai.err.status">
+      <source>%1 answered with error %2: %3</source>
+      <translation>%1 がエラー %2 を返しました: %3</translation>
+    </message>
+    <message id="ai.err.timedOut">
+      <source>%1 did not answer within %2 s</source>
+      <translation>%1 から %2 秒以内に応答がありませんでした</translation>
+    </message>
+    <message id="ai.err.unreachable">
+      <source>%1 could not be reached: %2</source>
+      <translation>%1 に接続できません: %2</translation>
+    </message>
+    <message id="ai.route.anthropic.where">
+      <source>Your text goes straight from this computer to Anthropic, with your own API key.</source>
+      <translation>テキストはこのコンピューターから Anthropic へ、あなた自身の API キーで直接送られます。</translation>
+    </message>
+    <message id="ai.route.claudeCLI.where">
+      <source>Your text goes to the claude program on this computer, which sends it to Anthropic under your own Claude account. Morvane itself sends nothing over the network.</source>
+      <translation>テキストはこのコンピューターの claude プログラムに渡され、あなた自身の Claude アカウントで Anthropic に送られます。Morvane 自体はネットワークに何も送りません。</translation>
+    </message>
+    <message id="ai.route.gemini.where">
+      <source>Your text goes straight from this computer to Google, with your own API key.</source>
+      <translation>テキストはこのコンピューターから Google へ、あなた自身の API キーで直接送られます。</translation>
+    </message>
+    <message id="ai.route.morvaneAI.where">
+      <source>Your text goes to the Morvane server you are signed in to, which passes it on to the AI service its operator has chosen, and the answer comes back the same way.</source>
+      <translation>テキストはサインイン中の Morvane サーバーに送られ、運営者が選んだ AI サービスに転送されます。応答も同じ経路で戻ります。</translation>
+    </message>
+    <message id="ai.route.openAI.where">
+      <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
+      <translation>テキストはこのコンピューターから OpenAI へ、あなた自身の API キーで直接送られます。</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+今回以降、テキストを %2 に送りますか? [y/N] </translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>確認なしで、選んだ AI サービスへのテキスト送信に同意します。</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>y,yes,はい</translation>
+    </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
       <translation>このメールアドレスのアカウントはすでにあります。代わりにサインインしてください。</translation>
@@ -202,10 +272,6 @@
     <message id="claude.err.resultIsError">
       <source>claude returned is_error=true</source>
       <translation>claude が is_error=true を返しました</translation>
-    </message>
-    <message id="claude.err.routeNotConfigured">
-      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
-      <translation>%1 はこのバージョンの Morvane では使えません。AI 設定で Claude CLI を選んでください。</translation>
     </message>
     <message id="claude.err.timedOut">
       <source>Claude request timed out after %1 s</source>

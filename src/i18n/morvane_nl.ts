@@ -3,6 +3,76 @@
 <TS version="2.1" language="nl_NL">
   <context>
     <name>Morvane</name>
+    <message id="ai.err.badAnswer">
+      <source>%1 sent an answer Morvane cannot use: %2</source>
+      <translation>%1 stuurde een antwoord waar Morvane niets mee kan: %2</translation>
+    </message>
+    <message id="ai.err.consentDeclined">
+      <source>You chose not to send your text to %1. You can change this in the AI settings.</source>
+      <translation>Je hebt ervoor gekozen je tekst niet naar %1 te sturen. Je kunt dit wijzigen in de AI-instellingen.</translation>
+    </message>
+    <message id="ai.err.consentMissing">
+      <source>Morvane asks before it sends your text to %1 for the first time. Answer that question in the window, or run the command again with --yes.</source>
+      <translation>Morvane vraagt het eerst voordat je tekst voor het eerst naar %1 gaat. Beantwoord die vraag in het venster, of voer de opdracht opnieuw uit met --yes.</translation>
+    </message>
+    <message id="ai.err.needsCLI">
+      <source>This needs the Claude CLI, which can work with files; %1 cannot. Choose the Claude CLI in the AI settings.</source>
+      <translation>Hiervoor is de Claude CLI nodig, die met bestanden kan werken; %1 kan dat niet. Kies de Claude CLI in de AI-instellingen.</translation>
+    </message>
+    <message id="ai.err.noKey">
+      <source>There is no API key for %1 in your keyring. Add your key in the AI settings.</source>
+      <translation>Er staat geen API-sleutel voor %1 in je sleutelbos. Voeg je sleutel toe in de AI-instellingen.</translation>
+    </message>
+    <message id="ai.err.notSignedIn">
+      <source>%1 works only while you are signed in. Sign in, then try again.</source>
+      <translation>%1 werkt alleen als je bent aangemeld. Meld je aan en probeer het opnieuw.</translation>
+    </message>
+    <message id="ai.err.status">
+      <source>%1 answered with error %2: %3</source>
+      <translation>%1 antwoordde met fout %2: %3</translation>
+    </message>
+    <message id="ai.err.timedOut">
+      <source>%1 did not answer within %2 s</source>
+      <translation>%1 gaf binnen %2 s geen antwoord</translation>
+    </message>
+    <message id="ai.err.unreachable">
+      <source>%1 could not be reached: %2</source>
+      <translation>%1 is niet bereikbaar: %2</translation>
+    </message>
+    <message id="ai.route.anthropic.where">
+      <source>Your text goes straight from this computer to Anthropic, with your own API key.</source>
+      <translation>Je tekst gaat rechtstreeks van deze computer naar Anthropic, met je eigen API-sleutel.</translation>
+    </message>
+    <message id="ai.route.claudeCLI.where">
+      <source>Your text goes to the claude program on this computer, which sends it to Anthropic under your own Claude account. Morvane itself sends nothing over the network.</source>
+      <translation>Je tekst gaat naar het programma claude op deze computer, dat hem onder je eigen Claude-account naar Anthropic stuurt. Morvane zelf stuurt niets over het netwerk.</translation>
+    </message>
+    <message id="ai.route.gemini.where">
+      <source>Your text goes straight from this computer to Google, with your own API key.</source>
+      <translation>Je tekst gaat rechtstreeks van deze computer naar Google, met je eigen API-sleutel.</translation>
+    </message>
+    <message id="ai.route.morvaneAI.where">
+      <source>Your text goes to the Morvane server you are signed in to, which passes it on to the AI service its operator has chosen, and the answer comes back the same way.</source>
+      <translation>Je tekst gaat naar de Morvane-server waarop je bent aangemeld, die hem doorgeeft aan de AI-dienst die de beheerder heeft gekozen; het antwoord komt via dezelfde weg terug.</translation>
+    </message>
+    <message id="ai.route.openAI.where">
+      <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
+      <translation>Je tekst gaat rechtstreeks van deze computer naar OpenAI, met je eigen API-sleutel.</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Stem zonder vraag in met het sturen van je tekst naar de gekozen AI-dienst.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>j,ja,y,yes</translation>
+    </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
       <translation>Er bestaat al een account met dit e-mailadres. Log in plaats daarvan in.</translation>
@@ -202,10 +272,6 @@
     <message id="claude.err.resultIsError">
       <source>claude returned is_error=true</source>
       <translation>claude gaf is_error=true terug</translation>
-    </message>
-    <message id="claude.err.routeNotConfigured">
-      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
-      <translation>%1 is niet beschikbaar in deze versie van Morvane. Kies de Claude CLI in de AI-instellingen.</translation>
     </message>
     <message id="claude.err.timedOut">
       <source>Claude request timed out after %1 s</source>

@@ -3,6 +3,76 @@
 <TS version="2.1" language="pt_BR">
   <context>
     <name>Morvane</name>
+    <message id="ai.err.badAnswer">
+      <source>%1 sent an answer Morvane cannot use: %2</source>
+      <translation>%1 enviou uma resposta que o Morvane não consegue usar: %2</translation>
+    </message>
+    <message id="ai.err.consentDeclined">
+      <source>You chose not to send your text to %1. You can change this in the AI settings.</source>
+      <translation>Você escolheu não enviar o seu texto para %1. Pode mudar isso nas configurações de IA.</translation>
+    </message>
+    <message id="ai.err.consentMissing">
+      <source>Morvane asks before it sends your text to %1 for the first time. Answer that question in the window, or run the command again with --yes.</source>
+      <translation>O Morvane pergunta antes de enviar o seu texto para %1 pela primeira vez. Responda a essa pergunta na janela ou execute o comando novamente com --yes.</translation>
+    </message>
+    <message id="ai.err.needsCLI">
+      <source>This needs the Claude CLI, which can work with files; %1 cannot. Choose the Claude CLI in the AI settings.</source>
+      <translation>Isto precisa da CLI do Claude, que trabalha com arquivos; %1 não consegue. Escolha a CLI do Claude nas configurações de IA.</translation>
+    </message>
+    <message id="ai.err.noKey">
+      <source>There is no API key for %1 in your keyring. Add your key in the AI settings.</source>
+      <translation>Não há nenhuma chave de API para %1 no seu chaveiro. Adicione a sua chave nas configurações de IA.</translation>
+    </message>
+    <message id="ai.err.notSignedIn">
+      <source>%1 works only while you are signed in. Sign in, then try again.</source>
+      <translation>%1 só funciona com a sessão iniciada. Entre e tente novamente.</translation>
+    </message>
+    <message id="ai.err.status">
+      <source>%1 answered with error %2: %3</source>
+      <translation>%1 respondeu com o erro %2: %3</translation>
+    </message>
+    <message id="ai.err.timedOut">
+      <source>%1 did not answer within %2 s</source>
+      <translation>%1 não respondeu em %2 s</translation>
+    </message>
+    <message id="ai.err.unreachable">
+      <source>%1 could not be reached: %2</source>
+      <translation>Não foi possível contactar %1: %2</translation>
+    </message>
+    <message id="ai.route.anthropic.where">
+      <source>Your text goes straight from this computer to Anthropic, with your own API key.</source>
+      <translation>O seu texto vai diretamente deste computador para Anthropic, com a sua própria chave de API.</translation>
+    </message>
+    <message id="ai.route.claudeCLI.where">
+      <source>Your text goes to the claude program on this computer, which sends it to Anthropic under your own Claude account. Morvane itself sends nothing over the network.</source>
+      <translation>O seu texto vai para o programa claude deste computador, que o envia à Anthropic com a sua própria conta Claude. O Morvane em si não envia nada pela rede.</translation>
+    </message>
+    <message id="ai.route.gemini.where">
+      <source>Your text goes straight from this computer to Google, with your own API key.</source>
+      <translation>O seu texto vai diretamente deste computador para Google, com a sua própria chave de API.</translation>
+    </message>
+    <message id="ai.route.morvaneAI.where">
+      <source>Your text goes to the Morvane server you are signed in to, which passes it on to the AI service its operator has chosen, and the answer comes back the same way.</source>
+      <translation>O seu texto vai para o servidor Morvane em que você entrou, que o repassa ao serviço de IA escolhido pelo seu operador; a resposta volta pelo mesmo caminho.</translation>
+    </message>
+    <message id="ai.route.openAI.where">
+      <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
+      <translation>O seu texto vai diretamente deste computador para OpenAI, com a sua própria chave de API.</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Aceitar sem perguntar o envio do seu texto ao serviço de IA escolhido.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>s,sim,y,yes</translation>
+    </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
       <translation>Já existe uma conta com este endereço de e-mail. Entre nela em vez disso.</translation>
@@ -202,10 +272,6 @@
     <message id="claude.err.resultIsError">
       <source>claude returned is_error=true</source>
       <translation>claude retornou is_error=true</translation>
-    </message>
-    <message id="claude.err.routeNotConfigured">
-      <source>%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings.</source>
-      <translation>%1 não está disponível nesta versão do Morvane. Escolha a CLI do Claude nas configurações de IA.</translation>
     </message>
     <message id="claude.err.timedOut">
       <source>Claude request timed out after %1 s</source>

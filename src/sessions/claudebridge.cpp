@@ -1,5 +1,7 @@
 #include "claudebridge.h"
 
+#include "backend/secretstore.h"
+#include "sessions/aiwire.h"
 #include "sessions/captureprompt.h"
 #include "sessions/claudebridgeerror.h"
 
@@ -8,9 +10,13 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLocale>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
 #include <QProcess>
 #include <QSettings>
+#include <QTimer>
 
+#include <qcoro/qcoronetworkreply.h>
 #include <qcoro/qcoroprocess.h>
 #include <qcoro/qcorosignal.h>
 
@@ -55,6 +61,86 @@ QStringList textInput()
 // The bridge's own runs must not leave session logs behind: they would show up among the
 // user's sessions and be logged as billable work.
 const QString noSessionLog = u"--no-session-persistence"_s;
+
+struct HttpAnswer
+{
+    int status = 0;
+    QByteArray body;
+};
+
+// One POST with an overall time-out. No answer at all, or none in time, is an AIRouteError; any
+// HTTP status is the caller's to read.
+QCoro::Task<HttpAnswer> post(AIHttpCall call, int timeoutSeconds, QString routeName)
+{
+    QNetworkAccessManager network;
+    QNetworkRequest request(call.url);
+    for (const auto &[name, value] : std::as_const(call.headers)) {
+        request.setRawHeader(name, value);
+    }
+    // A key must never follow a redirect to another host.
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    std::unique_ptr<QNetworkReply> reply(network.post(request, call.body));
+    bool timedOut = false;
+    QTimer overall;
+    overall.setSingleShot(true);
+    // Queued: aborting finishes the reply at once, which resumes this coroutine and would end the
+    // timer while it is still delivering its signal.
+    QObject::connect(
+        &overall, &QTimer::timeout, reply.get(),
+        [&timedOut, r = reply.get()] {
+            timedOut = true;
+            r->abort();
+        },
+        Qt::QueuedConnection);
+    overall.start(std::chrono::seconds(timeoutSeconds));
+    co_await reply.get();
+    overall.stop();
+    if (timedOut) {
+        throw AIRouteError(AIRouteError::Kind::TimedOut, routeName, QString::number(timeoutSeconds));
+    }
+    const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
+    if (!status.isValid()) {
+        throw AIRouteError(AIRouteError::Kind::Unreachable, routeName, reply->errorString());
+    }
+    co_return HttpAnswer{status.toInt(), reply->readAll()};
+}
+
+QString routeKey(ClaudeBridge::Route route)
+{
+    switch (route) {
+    case ClaudeBridge::Route::ClaudeCLI:
+        return u"claudeCLI"_s;
+    case ClaudeBridge::Route::MorvaneAI:
+        return u"morvaneAI"_s;
+    case ClaudeBridge::Route::Anthropic:
+        return u"anthropic"_s;
+    case ClaudeBridge::Route::OpenAI:
+        return u"openAI"_s;
+    case ClaudeBridge::Route::Gemini:
+        return u"gemini"_s;
+    }
+    return {};
+}
+
+std::optional<AIVendor> vendorOf(ClaudeBridge::Route route)
+{
+    switch (route) {
+    case ClaudeBridge::Route::Anthropic:
+        return AIVendor::Anthropic;
+    case ClaudeBridge::Route::OpenAI:
+        return AIVendor::OpenAI;
+    case ClaudeBridge::Route::Gemini:
+        return AIVendor::Gemini;
+    case ClaudeBridge::Route::ClaudeCLI:
+    case ClaudeBridge::Route::MorvaneAI:
+        break;
+    }
+    return std::nullopt;
+}
+
+// The requests the HTTP routes accept are bounded by their time-out; the answers they read are
+// bounded here, so a broken or hostile service cannot fill memory.
+constexpr qsizetype maxAnswerBytes = 8 * 1024 * 1024;
 
 struct FileStamp
 {
@@ -171,20 +257,164 @@ ClaudeBridge::Route ClaudeBridge::currentRoute() const
     return route(provider(), isExecutableFile(claudeCLIPath()));
 }
 
-void ClaudeBridge::requireCommandLineRoute() const
+QString ClaudeBridge::routeName(Route route)
 {
-    switch (currentRoute()) {
+    switch (route) {
     case Route::ClaudeCLI:
-        return;
+        return u"Claude CLI"_s;
     case Route::MorvaneAI:
-        throw ClaudeRequestError(ClaudeRequestError::Kind::RouteNotConfigured, u"Morvane AI"_s);
+        return u"Morvane AI"_s;
     case Route::Anthropic:
-        throw ClaudeRequestError(ClaudeRequestError::Kind::RouteNotConfigured, u"The Anthropic API"_s);
+        return u"Anthropic API"_s;
     case Route::OpenAI:
-        throw ClaudeRequestError(ClaudeRequestError::Kind::RouteNotConfigured, u"The OpenAI API"_s);
+        return u"OpenAI API"_s;
     case Route::Gemini:
-        throw ClaudeRequestError(ClaudeRequestError::Kind::RouteNotConfigured, u"The Google Gemini API"_s);
+        return u"Google Gemini API"_s;
     }
+    return {};
+}
+
+QString ClaudeBridge::routeDestination(Route route)
+{
+    switch (route) {
+    case Route::ClaudeCLI:
+        //% "Your text goes to the claude program on this computer, which sends it to Anthropic under your own Claude
+        // account. Morvane itself sends nothing over the network."
+        return qtTrId("ai.route.claudeCLI.where");
+    case Route::MorvaneAI:
+        //% "Your text goes to the Morvane server you are signed in to, which passes it on to the AI service its
+        // operator has chosen, and the answer comes back the same way."
+        return qtTrId("ai.route.morvaneAI.where");
+    case Route::Anthropic:
+        //% "Your text goes straight from this computer to Anthropic, with your own API key."
+        return qtTrId("ai.route.anthropic.where");
+    case Route::OpenAI:
+        //% "Your text goes straight from this computer to OpenAI, with your own API key."
+        return qtTrId("ai.route.openAI.where");
+    case Route::Gemini:
+        //% "Your text goes straight from this computer to Google, with your own API key."
+        return qtTrId("ai.route.gemini.where");
+    }
+    return {};
+}
+
+bool ClaudeBridge::needsConsent(Route route)
+{
+    return route != Route::ClaudeCLI;
+}
+
+std::optional<bool> ClaudeBridge::consent(Route route) const
+{
+    const QVariant stored = m_settings->value(u"ai.consent."_s + routeKey(route));
+    if (!stored.isValid()) {
+        return std::nullopt;
+    }
+    return stored.toBool();
+}
+
+void ClaudeBridge::setConsent(Route route, bool allowed)
+{
+    m_settings->setValue(u"ai.consent."_s + routeKey(route), allowed);
+    m_settings->sync();
+}
+
+QUrl ClaudeBridge::vendorBaseUrl(AIVendor vendor) const
+{
+    const QString name = AIWire::vendorName(vendor);
+    const QUrl chosen(m_settings->value(u"ai.%1.baseUrl"_s.arg(name)).toString());
+    if (chosen.isValid() && !chosen.host().isEmpty()) {
+        return chosen;
+    }
+    const QUrl fromEnvironment(m_environment.value(u"MORVANE_AI_%1_URL"_s.arg(name.toUpper())));
+    if (fromEnvironment.isValid() && !fromEnvironment.host().isEmpty()) {
+        return fromEnvironment;
+    }
+    return AIWire::defaultBaseUrl(vendor);
+}
+
+QString ClaudeBridge::keyItem(AIVendor vendor)
+{
+    return u"morvane.ai.%1.key"_s.arg(AIWire::vendorName(vendor));
+}
+
+QCoro::Task<> ClaudeBridge::admit(Route route)
+{
+    if (!needsConsent(route)) {
+        co_return;
+    }
+    std::optional<bool> answer = consent(route);
+    if (!answer && m_consentHook) {
+        answer = co_await m_consentHook(route);
+        setConsent(route, *answer);
+    }
+    if (!answer) {
+        throw AIRouteError(AIRouteError::Kind::ConsentMissing, routeName(route));
+    }
+    if (!*answer) {
+        throw AIRouteError(AIRouteError::Kind::ConsentDeclined, routeName(route));
+    }
+}
+
+QCoro::Task<QString> ClaudeBridge::askOverHttp(Route route, AIRequest request, int timeoutSeconds)
+{
+    const QString name = routeName(route);
+    const std::optional<AIVendor> vendor = vendorOf(route);
+    AIHttpCall call;
+    if (vendor) {
+        std::optional<QString> key;
+        if (m_access.secrets) {
+            key = co_await m_access.secrets->read(keyItem(*vendor));
+        }
+        if (!key || key->trimmed().isEmpty()) {
+            throw AIRouteError(AIRouteError::Kind::NoKey, name);
+        }
+        call = AIWire::build(*vendor, vendorBaseUrl(*vendor), key->trimmed(), request);
+    } else {
+        std::optional<QString> token;
+        if (m_access.accessToken) {
+            token = co_await m_access.accessToken();
+        }
+        if (!token || token->isEmpty() || !m_access.backendUrl.isValid()) {
+            throw AIRouteError(AIRouteError::Kind::NotSignedIn, name);
+        }
+        QUrl url = m_access.backendUrl;
+        QString path = url.path();
+        while (path.endsWith(u'/')) {
+            path.chop(1);
+        }
+        url.setPath(path + u"/functions/v1/morvane-ai"_s);
+        call.url = url;
+        call.headers = {{"Content-Type", "application/json"},
+                        {"apikey", m_access.anonKey.toUtf8()},
+                        {"Authorization", "Bearer " + token->toUtf8()}};
+        QJsonObject body{{u"system"_s, request.systemPrompt},
+                         {u"input"_s, request.userText},
+                         {u"model"_s, request.model},
+                         {u"max_tokens"_s, request.maxTokens}};
+        if (!request.schema.isEmpty()) {
+            body.insert(u"schema"_s, request.schema);
+        }
+        call.body = QJsonDocument(body).toJson(QJsonDocument::Compact);
+    }
+    const HttpAnswer answer = co_await post(std::move(call), timeoutSeconds, name);
+    if (answer.body.size() > maxAnswerBytes) {
+        throw AIRouteError(AIRouteError::Kind::BadAnswer, name, u"the answer is too large"_s);
+    }
+    if (answer.status < 200 || answer.status > 299) {
+        throw AIRouteError(AIRouteError::Kind::Status, name, AIWire::errorText(answer.body), answer.status);
+    }
+    if (!vendor) {
+        const QJsonValue text = QJsonDocument::fromJson(answer.body).object().value(u"text");
+        if (!text.isString()) {
+            throw AIRouteError(AIRouteError::Kind::BadAnswer, name, u"no \"text\" in the answer"_s);
+        }
+        co_return text.toString();
+    }
+    const AIAnswer read = AIWire::readAnswer(*vendor, answer.body);
+    if (!read.text) {
+        throw AIRouteError(AIRouteError::Kind::BadAnswer, name, read.problem);
+    }
+    co_return *read.text;
 }
 
 QCoro::Task<ClaudeBridge::Output> ClaudeBridge::run(QStringList arguments, QByteArray input, QString workingDirectory,
@@ -239,12 +469,25 @@ QCoro::Task<ClaudeBridge::Output> ClaudeBridge::run(QStringList arguments, QByte
 
 QCoro::Task<QJsonObject> ClaudeBridge::parse(ParseInput input, QTimeZone zone)
 {
-    requireCommandLineRoute();
+    const Route chosen = currentRoute();
+    co_await admit(chosen);
+    const QString systemPrompt = parseSystemPrompt(input.knownProjects, input.todayISO, zone);
+    const QString userText = u"User input: "_s + input.userText;
+    if (chosen != Route::ClaudeCLI) {
+        AIRequest request{systemPrompt, userText, QJsonDocument::fromJson(jsonSchema().toUtf8()).object(), u"sonnet"_s};
+        const QString text = co_await askOverHttp(chosen, std::move(request), parseTimeoutSeconds);
+        // Every vendor is asked for exactly the object, but one that wraps it in prose or a fence
+        // still gives a usable answer.
+        const std::optional<QJsonObject> found = firstJSONObject(text);
+        if (!found) {
+            throw ClaudeRequestError(ClaudeRequestError::Kind::NoJSONObject);
+        }
+        co_return *found;
+    }
     QStringList arguments{u"--print"_s, u"--model"_s, u"sonnet"_s, u"--output-format"_s, u"json"_s};
     arguments += textInput();
-    arguments += QStringList{u"--system-prompt"_s, parseSystemPrompt(input.knownProjects, input.todayISO, zone),
-                             u"--json-schema"_s, jsonSchema(), noSessionLog};
-    const QByteArray stdinText = QString(u"User input: "_s + input.userText).toUtf8();
+    arguments += QStringList{u"--system-prompt"_s, systemPrompt, u"--json-schema"_s, jsonSchema(), noSessionLog};
+    const QByteArray stdinText = userText.toUtf8();
     const Output output = co_await run(arguments, stdinText, QString(), parseTimeoutSeconds, false);
     if (output.out.trimmed().isEmpty()) {
         throw ClaudeBridgeError::emptyOutput();
@@ -267,8 +510,13 @@ QCoro::Task<QJsonObject> ClaudeBridge::parse(ParseInput input, QTimeZone zone)
 QCoro::Task<QString> ClaudeBridge::parsePlain(QString userText, QString model, int timeoutSeconds, QString systemPrompt,
                                               QString effort)
 {
+    // The command-line program has no effort setting, and the HTTP routes leave it to the model.
     Q_UNUSED(effort)
-    requireCommandLineRoute();
+    const Route chosen = currentRoute();
+    co_await admit(chosen);
+    if (chosen != Route::ClaudeCLI) {
+        co_return co_await askOverHttp(chosen, AIRequest{systemPrompt, userText, {}, model}, timeoutSeconds);
+    }
     QStringList arguments{u"--print"_s, u"--model"_s, model, u"--output-format"_s, u"json"_s};
     arguments += textInput();
     arguments += QStringList{u"--system-prompt"_s, systemPrompt, noSessionLog};
@@ -290,7 +538,10 @@ QCoro::Task<QString> ClaudeBridge::parsePlain(QString userText, QString model, i
 QCoro::Task<QString> ClaudeBridge::parseWithWorkspace(QString prompt, QString workspaceDir, QString outputPath,
                                                       QString model, int timeoutSeconds)
 {
-    requireCommandLineRoute();
+    const Route chosen = currentRoute();
+    if (chosen != Route::ClaudeCLI) {
+        throw AIRouteError(AIRouteError::Kind::NeedsCLI, routeName(chosen));
+    }
     const QString target = QDir(workspaceDir).absoluteFilePath(outputPath);
     const FileStamp before = FileStamp::of(target);
     QStringList arguments{u"--print"_s,

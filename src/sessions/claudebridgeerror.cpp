@@ -89,9 +89,48 @@ QString ClaudeRequestError::message() const
     case Kind::OutputNotWritten:
         //% "Claude finished but did not write %1"
         return qtTrId("claude.err.outputNotWritten").arg(m_detail);
-    case Kind::RouteNotConfigured:
-        //% "%1 is not available in this version of Morvane. Choose the Claude CLI in the AI settings."
-        return qtTrId("claude.err.routeNotConfigured").arg(m_detail);
+    }
+    return {};
+}
+
+AIRouteError::AIRouteError(Kind kind, QString route, QString detail, int status)
+    : m_kind(kind)
+    , m_route(std::move(route))
+    , m_detail(std::move(detail))
+    , m_status(status)
+{}
+
+QString AIRouteError::message() const
+{
+    switch (m_kind) {
+    case Kind::ConsentMissing:
+        //% "Morvane asks before it sends your text to %1 for the first time. Answer that question in the window, or run
+        // the command again with --yes."
+        return qtTrId("ai.err.consentMissing").arg(m_route);
+    case Kind::ConsentDeclined:
+        //% "You chose not to send your text to %1. You can change this in the AI settings."
+        return qtTrId("ai.err.consentDeclined").arg(m_route);
+    case Kind::NoKey:
+        //% "There is no API key for %1 in your keyring. Add your key in the AI settings."
+        return qtTrId("ai.err.noKey").arg(m_route);
+    case Kind::NotSignedIn:
+        //% "%1 works only while you are signed in. Sign in, then try again."
+        return qtTrId("ai.err.notSignedIn").arg(m_route);
+    case Kind::Status:
+        //% "%1 answered with error %2: %3"
+        return qtTrId("ai.err.status").arg(m_route, QString::number(m_status), shortened(m_detail));
+    case Kind::Unreachable:
+        //% "%1 could not be reached: %2"
+        return qtTrId("ai.err.unreachable").arg(m_route, m_detail);
+    case Kind::TimedOut:
+        //% "%1 did not answer within %2 s"
+        return qtTrId("ai.err.timedOut").arg(m_route, m_detail);
+    case Kind::BadAnswer:
+        //% "%1 sent an answer Morvane cannot use: %2"
+        return qtTrId("ai.err.badAnswer").arg(m_route, shortened(m_detail));
+    case Kind::NeedsCLI:
+        //% "This needs the Claude CLI, which can work with files; %1 cannot. Choose the Claude CLI in the AI settings."
+        return qtTrId("ai.err.needsCLI").arg(m_route);
     }
     return {};
 }

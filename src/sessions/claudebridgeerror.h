@@ -31,11 +31,11 @@ private:
 
 // A run that ended without a usable answer for another reason: it took too long, the program
 // reported an error in its result, the answer held no JSON object, or the agent did not write
-// the file it was asked for; and calls routed to a model service this build cannot reach yet.
+// the file it was asked for.
 class ClaudeRequestError : public MorvaneError
 {
 public:
-    enum class Kind { TimedOut, WorkspaceTimedOut, ResultIsError, NoJSONObject, OutputNotWritten, RouteNotConfigured };
+    enum class Kind { TimedOut, WorkspaceTimedOut, ResultIsError, NoJSONObject, OutputNotWritten };
 
     ClaudeRequestError(Kind kind, QString detail = {});
 
@@ -45,4 +45,34 @@ public:
 private:
     Kind m_kind;
     QString m_detail;
+};
+
+// Why a call over one of the HTTP routes, or the consent gate before any route, gave no answer.
+// `route` is the route's name as the person knows it.
+class AIRouteError : public MorvaneError
+{
+public:
+    enum class Kind {
+        ConsentMissing,  // no answer stored and no one to ask
+        ConsentDeclined, // the person said no
+        NoKey,           // no key of the user's own in the keyring
+        NotSignedIn,     // the relay needs a signed-in user
+        Status,          // the service answered an error: detail is its own text
+        Unreachable,     // no answer at all: detail is the network's reason
+        TimedOut,        // detail is the seconds
+        BadAnswer,       // an answer without usable text: detail says what was wrong
+        NeedsCLI,        // only the `claude` program can work in a folder
+    };
+
+    AIRouteError(Kind kind, QString route, QString detail = {}, int status = 0);
+
+    [[nodiscard]] Kind kind() const { return m_kind; }
+    [[nodiscard]] int status() const { return m_status; }
+    [[nodiscard]] QString message() const override;
+
+private:
+    Kind m_kind;
+    QString m_route;
+    QString m_detail;
+    int m_status;
 };

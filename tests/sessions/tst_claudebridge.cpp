@@ -314,19 +314,6 @@ private Q_SLOTS:
         }
     }
 
-    void httpRoutesAreNotConfiguredYet()
-    {
-        const QString failure = u"The Google Gemini API is not available in this version of Morvane. Choose the "
-                                u"Claude CLI in the AI settings."_s;
-        m_settings->setValue(u"ai.provider"_s, u"geminiCustom"_s);
-        QCOMPARE(failureOf(bridge(u"result"_s).parsePlain(u"x"_s, u"sonnet"_s, 5, u"s"_s, u"low"_s)), failure);
-        QCOMPARE(failureOf(bridge(u"structured"_s).parse({u"x"_s, {}, u"2025-03-05"_s})), failure);
-        QTemporaryDir workspace;
-        QCOMPARE(failureOf(bridge(u"write"_s).parseWithWorkspace(u"p"_s, workspace.path(), u"t.html"_s, u"m"_s, 5)),
-                 failure);
-        QVERIFY2(!QFile::exists(m_record + u"/args"_s), "the program ran on another route");
-    }
-
     void extractsAnHTMLDocument_data()
     {
         QTest::addColumn<QString>("text");
