@@ -22,7 +22,6 @@ Rectangle {
         { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
         { id: "earnings", title: qsTrId("ui.earnings.title"), source: "qrc:/Morvane/Ui/earnings/EarningsView.qml" },
         { id: "style", title: qsTrId("ui.style.title"), source: "qrc:/Morvane/Ui/style/InvoiceStyleView.qml" },
-        { id: "style", title: qsTrId("ui.style.title"), source: "qrc:/Morvane/Ui/style/InvoiceStyleView.qml" },
         { id: "sessions", title: qsTrId("ui.sessions.title"), source: "qrc:/Morvane/Ui/sessions/SessionsView.qml" }
     ]
     // Screens reached from inside others, not listed in the sidebar.
