@@ -1,5 +1,6 @@
 #include "commandline.h"
 
+#include "app/aicommands.h"
 #include "app/authcommands.h"
 #include "app/companycommand.h"
 #include "app/exportcommand.h"
@@ -118,6 +119,8 @@ QList<Command> commands()
         //% "Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore |
         // reimport | track"
         {u"sessions"_s, [] { return qtTrId("cli.command.sessions"); }, runSessionsCommand, false},
+        //% "Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent"
+        {u"ai"_s, [] { return qtTrId("cli.command.ai"); }, runAICommand, false},
         //% "Invoices: invoice draft|create|list|show|status|void|rm|pdf"
         {u"invoice"_s, [] { return qtTrId("cli.command.invoice"); }, runInvoiceCommand},
         //% "Your sender details and invoice style: company show|set"

@@ -59,11 +59,63 @@
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>Tu texto va directamente de este ordenador a OpenAI, con tu propia clave de API.</translation>
     </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>permitido</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>aún sin preguntar</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>rechazado</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>El llavero no aceptó la clave; no ha cambiado nada.</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>No se indicó ninguna clave; no ha cambiado nada.</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>Pega tu clave de API de %1 y pulsa Intro: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>La clave de %1 ya no está en tu llavero.</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>La clave de %1 está en tu llavero.</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>Tus claves en el llavero: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>Eliminar la clave guardada en lugar de establecer una.</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>Proveedor elegido: %1</translation>
+    </message>
     <message id="cli.ai.question">
       <source>%1
 Send your text to %2 now and from now on? [y/N] </source>
       <translation>%1
 ¿Enviar tu texto a %2 ahora y a partir de ahora? [s/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>Las llamadas van a: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>Uso: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
     </message>
     <message id="cli.ai.yes">
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
@@ -72,6 +124,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.ai.yesAnswers">
       <source>y,yes</source>
       <translation>s,sí,si,y,yes</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>Adónde van las llamadas al modelo, tus propias claves de API y lo que aceptaste enviar: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>

@@ -59,11 +59,63 @@
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>Votre texte part directement de cet ordinateur vers OpenAI, avec votre propre clé d'API.</translation>
     </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>autorisé</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>pas encore demandé</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>refusé</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>Le trousseau n'a pas accepté la clé ; rien n'a changé.</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>Aucune clé n'a été fournie ; rien n'a changé.</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>Collez votre clé d'API %1 et appuyez sur Entrée : </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>La clé %1 n'est plus dans votre trousseau.</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>La clé %1 est dans votre trousseau.</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>Vos clés dans le trousseau : %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>Supprimer la clé enregistrée au lieu d'en définir une.</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>Réglage du fournisseur : %1</translation>
+    </message>
     <message id="cli.ai.question">
       <source>%1
 Send your text to %2 now and from now on? [y/N] </source>
       <translation>%1
 Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>Les appels vont à : %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>Utilisation : morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
     </message>
     <message id="cli.ai.yes">
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
@@ -72,6 +124,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="cli.ai.yesAnswers">
       <source>y,yes</source>
       <translation>o,oui,y,yes</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>Où vont les appels au modèle, vos propres clés d'API et ce que vous avez accepté d'envoyer : ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>

@@ -59,11 +59,63 @@
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>Il tuo testo va direttamente da questo computer a OpenAI, con la tua chiave API.</translation>
     </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>consentito</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>non ancora chiesto</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>rifiutato</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>Il portachiavi non ha accettato la chiave; non è cambiato nulla.</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>Nessuna chiave indicata; non è cambiato nulla.</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>Incolla la tua chiave API di %1 e premi Invio: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>La chiave di %1 non è più nel portachiavi.</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>La chiave di %1 è nel portachiavi.</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>Le tue chiavi nel portachiavi: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>Rimuovi la chiave salvata invece di impostarne una.</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>Impostazione del fornitore: %1</translation>
+    </message>
     <message id="cli.ai.question">
       <source>%1
 Send your text to %2 now and from now on? [y/N] </source>
       <translation>%1
 Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>Le chiamate vanno a: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>Uso: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
     </message>
     <message id="cli.ai.yes">
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
@@ -72,6 +124,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="cli.ai.yesAnswers">
       <source>y,yes</source>
       <translation>s,sì,si,y,yes</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>Dove vanno le chiamate al modello, le tue chiavi API e cosa hai accettato di inviare: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>

@@ -59,11 +59,63 @@
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>テキストはこのコンピューターから OpenAI へ、あなた自身の API キーで直接送られます。</translation>
     </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>許可済み</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>未確認</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>拒否</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>キーリングがキーを受け付けなかったため、何も変更していません。</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>キーが入力されなかったため、何も変更していません。</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>%1 の API キーを貼り付けて Enter を押してください: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>%1 のキーはキーリングから削除されました。</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>%1 のキーをキーリングに保存しました。</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>キーリング内のキー: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>キーを設定する代わりに、保存済みのキーを削除します。</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>プロバイダー設定: %1</translation>
+    </message>
     <message id="cli.ai.question">
       <source>%1
 Send your text to %2 now and from now on? [y/N] </source>
       <translation>%1
 今回以降、テキストを %2 に送りますか? [y/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>呼び出しの送り先: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>使い方: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
     </message>
     <message id="cli.ai.yes">
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
@@ -72,6 +124,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.ai.yesAnswers">
       <source>y,yes</source>
       <translation>y,yes,はい</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>モデル呼び出しの送り先、自分の API キー、送信に同意した内容: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>

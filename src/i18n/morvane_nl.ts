@@ -59,11 +59,63 @@
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>Je tekst gaat rechtstreeks van deze computer naar OpenAI, met je eigen API-sleutel.</translation>
     </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>toegestaan</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>nog niet gevraagd</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>geweigerd</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>Het sleutelbos nam de sleutel niet aan; er is niets veranderd.</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>Er is geen sleutel opgegeven; er is niets veranderd.</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>Plak je API-sleutel voor %1 en druk op Enter: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>De sleutel voor %1 staat niet meer in je sleutelbos.</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>De sleutel voor %1 staat in je sleutelbos.</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>Je sleutels in het sleutelbos: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>Verwijder de opgeslagen sleutel in plaats van er een in te stellen.</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>Instelling aanbieder: %1</translation>
+    </message>
     <message id="cli.ai.question">
       <source>%1
 Send your text to %2 now and from now on? [y/N] </source>
       <translation>%1
 Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>Aanroepen gaan naar: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>Gebruik: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
     </message>
     <message id="cli.ai.yes">
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
@@ -72,6 +124,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
     <message id="cli.ai.yesAnswers">
       <source>y,yes</source>
       <translation>j,ja,y,yes</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>Waar modelaanroepen heen gaan, je eigen API-sleutels en waarmee je hebt ingestemd: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>

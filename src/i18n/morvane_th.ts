@@ -59,11 +59,63 @@
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>ข้อความของคุณจะส่งตรงจากคอมพิวเตอร์เครื่องนี้ไปยัง OpenAI ด้วยคีย์ API ของคุณเอง</translation>
     </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>อนุญาตแล้ว</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>ยังไม่ได้ถาม</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>ปฏิเสธแล้ว</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>พวงกุญแจไม่รับคีย์นี้ จึงไม่มีอะไรเปลี่ยนแปลง</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>ไม่ได้ใส่คีย์ จึงไม่มีอะไรเปลี่ยนแปลง</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>วางคีย์ API ของ %1 แล้วกด Enter: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>คีย์ %1 ไม่อยู่ในพวงกุญแจของคุณแล้ว</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>คีย์ %1 อยู่ในพวงกุญแจของคุณแล้ว</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>คีย์ของคุณในพวงกุญแจ: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>ลบคีย์ที่เก็บไว้แทนการตั้งคีย์ใหม่</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>การตั้งค่าผู้ให้บริการ: %1</translation>
+    </message>
     <message id="cli.ai.question">
       <source>%1
 Send your text to %2 now and from now on? [y/N] </source>
       <translation>%1
 ส่งข้อความของคุณไปยัง %2 ตอนนี้และต่อจากนี้หรือไม่? [y/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>การเรียกจะส่งไปที่: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>วิธีใช้: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
     </message>
     <message id="cli.ai.yes">
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
@@ -72,6 +124,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.ai.yesAnswers">
       <source>y,yes</source>
       <translation>y,yes,ใช่</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>การเรียกโมเดลส่งไปที่ใด คีย์ API ของคุณเอง และสิ่งที่คุณยินยอมให้ส่ง: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
