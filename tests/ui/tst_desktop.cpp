@@ -520,7 +520,13 @@ private slots:
         InvoiceList *list = workspace()->invoices();
         QTRY_VERIFY(list->rows()->indexOf(saved->id) >= 0);
         // The hour before the period is still there to bill.
-        QTRY_COMPARE_WITH_TIMEOUT(store()->unbilledEntries().size(), 1, patience);
+        const auto unbilledOf = [this](const QString &projectId) {
+            const QList<TimeEntry> &entries = store()->unbilledEntries();
+            return std::count_if(entries.cbegin(), entries.cend(),
+                                 [&](const TimeEntry &entry) { return entry.projectId == projectId; });
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(unbilledOf(projects[0].projectId), 1, patience);
+        QCOMPARE(unbilledOf(projects[1].projectId), 0);
 
         list->redraw(saved->id);
         QTRY_VERIFY2_WITH_TIMEOUT(!list->busy() && list->message().contains(number), qPrintable(list->message()),
