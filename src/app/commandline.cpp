@@ -2,6 +2,7 @@
 
 #include "app/aicommands.h"
 #include "app/authcommands.h"
+#include "app/capturecommand.h"
 #include "app/companycommand.h"
 #include "app/exportcommand.h"
 #include "app/renderinvoice.h"
@@ -112,6 +113,8 @@ QList<Command> commands()
         {u"timer"_s, [] { return qtTrId("cli.command.timer"); }, runTimerCommand},
         //% "Log minutes of work on a task: log <task> <minutes>"
         {u"log"_s, [] { return qtTrId("cli.command.log"); }, runLogCommand},
+        //% "Turn a sentence into projects, tasks, logged time or a timer action: add \"<text>\" [--dry-run] [--json]"
+        {u"add"_s, [] { return qtTrId("cli.command.add"); }, runAddCommand},
         //% "List, edit or delete time entries: entries [--task T] | edit | rm"
         {u"entries"_s, [] { return qtTrId("cli.command.entries"); }, runEntriesCommand},
         //% "Show or set the price of a project or task: price show|set"

@@ -3,6 +3,10 @@
 <TS version="2.1" language="de_DE">
   <context>
     <name>Morvane</name>
+    <message id="add.couldNotParse">
+      <source>Morvane could not make sense of that. Try saying it another way.</source>
+      <translation>Morvane konnte damit nichts anfangen. Versuchen Sie es anders zu formulieren.</translation>
+    </message>
     <message id="ai.err.badAnswer">
       <source>%1 sent an answer Morvane cannot use: %2</source>
       <translation>%1 hat eine Antwort geschickt, mit der Morvane nichts anfangen kann: %2</translation>
@@ -58,76 +62,6 @@
     <message id="ai.route.openAI.where">
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>Dein Text geht direkt von diesem Computer an OpenAI, mit deinem eigenen API-Schlüssel.</translation>
-    </message>
-    <message id="cli.ai.consentAllowed">
-      <source>allowed</source>
-      <translation>erlaubt</translation>
-    </message>
-    <message id="cli.ai.consentAsk">
-      <source>not asked yet</source>
-      <translation>noch nicht gefragt</translation>
-    </message>
-    <message id="cli.ai.consentDeclined">
-      <source>declined</source>
-      <translation>abgelehnt</translation>
-    </message>
-    <message id="cli.ai.keyFailed">
-      <source>The keyring did not take the key; nothing changed.</source>
-      <translation>Der Schlüsselbund hat den Schlüssel nicht angenommen; nichts wurde geändert.</translation>
-    </message>
-    <message id="cli.ai.keyMissing">
-      <source>No key was given; nothing changed.</source>
-      <translation>Es wurde kein Schlüssel angegeben; nichts wurde geändert.</translation>
-    </message>
-    <message id="cli.ai.keyPrompt">
-      <source>Paste your %1 API key and press Enter: </source>
-      <translation>Füge deinen API-Schlüssel für %1 ein und drücke die Eingabetaste: </translation>
-    </message>
-    <message id="cli.ai.keyRemoved">
-      <source>The %1 key is no longer in your keyring.</source>
-      <translation>Der Schlüssel für %1 ist nicht mehr in deinem Schlüsselbund.</translation>
-    </message>
-    <message id="cli.ai.keySaved">
-      <source>The %1 key is in your keyring.</source>
-      <translation>Der Schlüssel für %1 ist in deinem Schlüsselbund.</translation>
-    </message>
-    <message id="cli.ai.keys">
-      <source>Your keys in the keyring: %1</source>
-      <translation>Deine Schlüssel im Schlüsselbund: %1</translation>
-    </message>
-    <message id="cli.ai.option.remove">
-      <source>Remove the stored key instead of setting one.</source>
-      <translation>Den gespeicherten Schlüssel entfernen, statt einen zu setzen.</translation>
-    </message>
-    <message id="cli.ai.provider">
-      <source>Provider setting: %1</source>
-      <translation>Anbieter-Einstellung: %1</translation>
-    </message>
-    <message id="cli.ai.question">
-      <source>%1
-Send your text to %2 now and from now on? [y/N] </source>
-      <translation>%1
-Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
-    </message>
-    <message id="cli.ai.route">
-      <source>Calls go to: %1</source>
-      <translation>Aufrufe gehen an: %1</translation>
-    </message>
-    <message id="cli.ai.usage">
-      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
-      <translation>Aufruf: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
-    </message>
-    <message id="cli.ai.yes">
-      <source>Agree to sending your text to the chosen AI service without being asked.</source>
-      <translation>Dem Senden deines Textes an den gewählten KI-Dienst ohne Nachfrage zustimmen.</translation>
-    </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>j,ja,y,yes</translation>
-    </message>
-    <message id="cli.command.ai">
-      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
-      <translation>Wohin Modellaufrufe gehen, deine eigenen API-Schlüssel und wozu du zugestimmt hast: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
@@ -293,6 +227,58 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>No VAT</source>
       <translation>Keine MwSt.</translation>
     </message>
+    <message id="capture.err.noMinutes">
+      <source>The sentence gives no time to log.</source>
+      <translation>Der Satz nennt keine Zeit zum Erfassen.</translation>
+    </message>
+    <message id="capture.err.noProject">
+      <source>The sentence names no project to add the task to.</source>
+      <translation>Der Satz nennt kein Projekt, dem die Aufgabe hinzugefügt werden soll.</translation>
+    </message>
+    <message id="capture.err.notSaved">
+      <source>The change could not be saved.</source>
+      <translation>Die Änderung konnte nicht gespeichert werden.</translation>
+    </message>
+    <message id="capture.fix.bothPrices">
+      <source>"%1" has both a fixed price and an hourly rate; the fixed price is used.</source>
+      <translation>„%1“ hat einen Festpreis und einen Stundensatz; der Festpreis gilt.</translation>
+    </message>
+    <message id="capture.fix.cut">
+      <source>"%1…" was cut to %2 characters.</source>
+      <translation>„%1…“ wurde auf %2 Zeichen gekürzt.</translation>
+    </message>
+    <message id="capture.fix.date">
+      <source>The due date "%1" was left out: it is not a date of the form YYYY-MM-DD.</source>
+      <translation>Das Fälligkeitsdatum „%1“ wurde weggelassen: Es ist kein Datum der Form JJJJ-MM-TT.</translation>
+    </message>
+    <message id="capture.fix.minutes">
+      <source>%1 minutes were left out: time logged from one sentence is more than 0 and at most %2 minutes.</source>
+      <translation>%1 Minuten wurden weggelassen: Zeit aus einem Satz liegt über 0 und bei höchstens %2 Minuten.</translation>
+    </message>
+    <message id="capture.fix.price">
+      <source>The fixed price %1 was left out: a price lies between 0 and %2.</source>
+      <translation>Der Festpreis %1 wurde weggelassen: Ein Preis liegt zwischen 0 und %2.</translation>
+    </message>
+    <message id="capture.fix.priority">
+      <source>The priority "%1" is unknown; the task gets the default, medium.</source>
+      <translation>Die Priorität „%1“ ist unbekannt; die Aufgabe erhält die Standardpriorität Mittel.</translation>
+    </message>
+    <message id="capture.fix.rate">
+      <source>The hourly rate %1 was left out: a rate lies between 0 and %2.</source>
+      <translation>Der Stundensatz %1 wurde weggelassen: Ein Satz liegt zwischen 0 und %2.</translation>
+    </message>
+    <message id="capture.fix.unnamed">
+      <source>A project or task without a name was left out.</source>
+      <translation>Ein Projekt oder eine Aufgabe ohne Namen wurde weggelassen.</translation>
+    </message>
+    <message id="capture.note.noTeam">
+      <source>You have no team called "%1" that you may add projects to; "%2" stays yours alone.</source>
+      <translation>Sie haben kein Team „%1“, dem Sie Projekte hinzufügen dürfen; „%2“ bleibt allein Ihres.</translation>
+    </message>
+    <message id="capture.note.noTimer">
+      <source>No timer was running.</source>
+      <translation>Es lief kein Timer.</translation>
+    </message>
     <message id="claude.err.binaryMissing">
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>KI-Funktionen brauchen die Claude CLI auf diesem Mac (für Sprach- und Prompteingabe, Briefings und die Rechnungsnotiz). Alles andere funktioniert ohne sie. Setze CLAUDE_CLI_PATH oder installiere sie und versuche es erneut.</translation>
@@ -336,6 +322,156 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="claude.err.workspaceTimedOut">
       <source>Claude workspace task timed out after %1 s</source>
       <translation>Claude-Arbeitsordneraufgabe nach %1 s abgebrochen</translation>
+    </message>
+    <message id="cli.add.adjusted">
+      <source>Checked: %1</source>
+      <translation>Geprüft: %1</translation>
+    </message>
+    <message id="cli.add.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as 'morvane tasks list' shows it.</source>
+      <translation>Welche Aufgabe? Keine Ihrer Aufgaben heißt „%1“, oder mehrere. Nennen Sie sie so, wie 'morvane tasks list' sie zeigt.</translation>
+    </message>
+    <message id="cli.add.dryRunDone">
+      <source>Nothing was changed (--dry-run).</source>
+      <translation>Es wurde nichts geändert (--dry-run).</translation>
+    </message>
+    <message id="cli.add.due">
+      <source>due %1</source>
+      <translation>fällig %1</translation>
+    </message>
+    <message id="cli.add.fixed">
+      <source>%1 fixed</source>
+      <translation>%1 fest</translation>
+    </message>
+    <message id="cli.add.logTime">
+      <source>Log %1 on "%2"</source>
+      <translation>%1 auf „%2“ erfassen</translation>
+    </message>
+    <message id="cli.add.modelNote">
+      <source>The model notes: %1</source>
+      <translation>Das Modell merkt an: %1</translation>
+    </message>
+    <message id="cli.add.option.dryRun">
+      <source>Show what was understood without changing anything.</source>
+      <translation>Zeigen, was verstanden wurde, ohne etwas zu ändern.</translation>
+    </message>
+    <message id="cli.add.partial">
+      <source>Stopped: %1 What was made before stays; give the same sentence again to finish the rest without making anything twice.</source>
+      <translation>Abgebrochen: %1 Was bereits angelegt wurde, bleibt; geben Sie denselben Satz noch einmal ein, um den Rest ohne Doppeltes zu erledigen.</translation>
+    </message>
+    <message id="cli.add.project">
+      <source>Project "%1"</source>
+      <translation>Projekt „%1“</translation>
+    </message>
+    <message id="cli.add.spent">
+      <source>%1 already spent</source>
+      <translation>%1 bereits aufgewendet</translation>
+    </message>
+    <message id="cli.add.startTimer">
+      <source>Start the timer on "%1"</source>
+      <translation>Den Timer für „%1“ starten</translation>
+    </message>
+    <message id="cli.add.stopRunning">
+      <source>Stop the running timer</source>
+      <translation>Den laufenden Timer stoppen</translation>
+    </message>
+    <message id="cli.add.stopTimer">
+      <source>Stop the timer on "%1"</source>
+      <translation>Den Timer für „%1“ stoppen</translation>
+    </message>
+    <message id="cli.add.summary">
+      <source>Projects: %1 new, %2 existing. Tasks: %3 new, %4 existing. Time logged: %5.</source>
+      <translation>Projekte: %1 neu, %2 vorhanden. Aufgaben: %3 neu, %4 vorhanden. Erfasste Zeit: %5.</translation>
+    </message>
+    <message id="cli.add.task">
+      <source>Task "%1"</source>
+      <translation>Aufgabe „%1“</translation>
+    </message>
+    <message id="cli.add.team">
+      <source>shared with team %1</source>
+      <translation>mit Team %1 geteilt</translation>
+    </message>
+    <message id="cli.add.timerStopped">
+      <source>Timer stopped on %1.</source>
+      <translation>Timer für %1 gestoppt.</translation>
+    </message>
+    <message id="cli.add.understood">
+      <source>Understood:</source>
+      <translation>Verstanden:</translation>
+    </message>
+    <message id="cli.add.unknown">
+      <source>Nothing to do: the sentence holds no project, task, time or timer action.</source>
+      <translation>Nichts zu tun: Der Satz enthält kein Projekt, keine Aufgabe, keine Zeit und keine Timer-Aktion.</translation>
+    </message>
+    <message id="cli.add.usage">
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Aufruf: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>erlaubt</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>noch nicht gefragt</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>abgelehnt</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>Der Schlüsselbund hat den Schlüssel nicht angenommen; nichts wurde geändert.</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>Es wurde kein Schlüssel angegeben; nichts wurde geändert.</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>Füge deinen API-Schlüssel für %1 ein und drücke die Eingabetaste: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>Der Schlüssel für %1 ist nicht mehr in deinem Schlüsselbund.</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>Der Schlüssel für %1 ist in deinem Schlüsselbund.</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>Deine Schlüssel im Schlüsselbund: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>Den gespeicherten Schlüssel entfernen, statt einen zu setzen.</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>Anbieter-Einstellung: %1</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>Aufrufe gehen an: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>Aufruf: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Dem Senden deines Textes an den gewählten KI-Dienst ohne Nachfrage zustimmen.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>j,ja,y,yes</translation>
     </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
@@ -448,6 +584,14 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="cli.clients.yesAnswers">
       <source>y|yes</source>
       <translation>j|ja</translation>
+    </message>
+    <message id="cli.command.add">
+      <source>Turn a sentence into projects, tasks, logged time or a timer action: add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Einen Satz in Projekte, Aufgaben, erfasste Zeit oder eine Timer-Aktion verwandeln: add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>Wohin Modellaufrufe gehen, deine eigenen API-Schlüssel und wozu du zugestimmt hast: ai show|provider|key|consent</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>

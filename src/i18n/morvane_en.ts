@@ -3,6 +3,10 @@
 <TS version="2.1" language="en_US">
   <context>
     <name>Morvane</name>
+    <message id="add.couldNotParse">
+      <source>Morvane could not make sense of that. Try saying it another way.</source>
+      <translation>Morvane could not make sense of that. Try saying it another way.</translation>
+    </message>
     <message id="ai.err.badAnswer">
       <source>%1 sent an answer Morvane cannot use: %2</source>
       <translation>%1 sent an answer Morvane cannot use: %2</translation>
@@ -58,76 +62,6 @@
     <message id="ai.route.openAI.where">
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>Your text goes straight from this computer to OpenAI, with your own API key.</translation>
-    </message>
-    <message id="cli.ai.consentAllowed">
-      <source>allowed</source>
-      <translation>allowed</translation>
-    </message>
-    <message id="cli.ai.consentAsk">
-      <source>not asked yet</source>
-      <translation>not asked yet</translation>
-    </message>
-    <message id="cli.ai.consentDeclined">
-      <source>declined</source>
-      <translation>declined</translation>
-    </message>
-    <message id="cli.ai.keyFailed">
-      <source>The keyring did not take the key; nothing changed.</source>
-      <translation>The keyring did not take the key; nothing changed.</translation>
-    </message>
-    <message id="cli.ai.keyMissing">
-      <source>No key was given; nothing changed.</source>
-      <translation>No key was given; nothing changed.</translation>
-    </message>
-    <message id="cli.ai.keyPrompt">
-      <source>Paste your %1 API key and press Enter: </source>
-      <translation>Paste your %1 API key and press Enter: </translation>
-    </message>
-    <message id="cli.ai.keyRemoved">
-      <source>The %1 key is no longer in your keyring.</source>
-      <translation>The %1 key is no longer in your keyring.</translation>
-    </message>
-    <message id="cli.ai.keySaved">
-      <source>The %1 key is in your keyring.</source>
-      <translation>The %1 key is in your keyring.</translation>
-    </message>
-    <message id="cli.ai.keys">
-      <source>Your keys in the keyring: %1</source>
-      <translation>Your keys in the keyring: %1</translation>
-    </message>
-    <message id="cli.ai.option.remove">
-      <source>Remove the stored key instead of setting one.</source>
-      <translation>Remove the stored key instead of setting one.</translation>
-    </message>
-    <message id="cli.ai.provider">
-      <source>Provider setting: %1</source>
-      <translation>Provider setting: %1</translation>
-    </message>
-    <message id="cli.ai.question">
-      <source>%1
-Send your text to %2 now and from now on? [y/N] </source>
-      <translation>%1
-Send your text to %2 now and from now on? [y/N] </translation>
-    </message>
-    <message id="cli.ai.route">
-      <source>Calls go to: %1</source>
-      <translation>Calls go to: %1</translation>
-    </message>
-    <message id="cli.ai.usage">
-      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
-      <translation>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
-    </message>
-    <message id="cli.ai.yes">
-      <source>Agree to sending your text to the chosen AI service without being asked.</source>
-      <translation>Agree to sending your text to the chosen AI service without being asked.</translation>
-    </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>y,yes</translation>
-    </message>
-    <message id="cli.command.ai">
-      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
-      <translation>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
@@ -293,6 +227,58 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>No VAT</source>
       <translation>No VAT</translation>
     </message>
+    <message id="capture.err.noMinutes">
+      <source>The sentence gives no time to log.</source>
+      <translation>The sentence gives no time to log.</translation>
+    </message>
+    <message id="capture.err.noProject">
+      <source>The sentence names no project to add the task to.</source>
+      <translation>The sentence names no project to add the task to.</translation>
+    </message>
+    <message id="capture.err.notSaved">
+      <source>The change could not be saved.</source>
+      <translation>The change could not be saved.</translation>
+    </message>
+    <message id="capture.fix.bothPrices">
+      <source>"%1" has both a fixed price and an hourly rate; the fixed price is used.</source>
+      <translation>"%1" has both a fixed price and an hourly rate; the fixed price is used.</translation>
+    </message>
+    <message id="capture.fix.cut">
+      <source>"%1…" was cut to %2 characters.</source>
+      <translation>"%1…" was cut to %2 characters.</translation>
+    </message>
+    <message id="capture.fix.date">
+      <source>The due date "%1" was left out: it is not a date of the form YYYY-MM-DD.</source>
+      <translation>The due date "%1" was left out: it is not a date of the form YYYY-MM-DD.</translation>
+    </message>
+    <message id="capture.fix.minutes">
+      <source>%1 minutes were left out: time logged from one sentence is more than 0 and at most %2 minutes.</source>
+      <translation>%1 minutes were left out: time logged from one sentence is more than 0 and at most %2 minutes.</translation>
+    </message>
+    <message id="capture.fix.price">
+      <source>The fixed price %1 was left out: a price lies between 0 and %2.</source>
+      <translation>The fixed price %1 was left out: a price lies between 0 and %2.</translation>
+    </message>
+    <message id="capture.fix.priority">
+      <source>The priority "%1" is unknown; the task gets the default, medium.</source>
+      <translation>The priority "%1" is unknown; the task gets the default, medium.</translation>
+    </message>
+    <message id="capture.fix.rate">
+      <source>The hourly rate %1 was left out: a rate lies between 0 and %2.</source>
+      <translation>The hourly rate %1 was left out: a rate lies between 0 and %2.</translation>
+    </message>
+    <message id="capture.fix.unnamed">
+      <source>A project or task without a name was left out.</source>
+      <translation>A project or task without a name was left out.</translation>
+    </message>
+    <message id="capture.note.noTeam">
+      <source>You have no team called "%1" that you may add projects to; "%2" stays yours alone.</source>
+      <translation>You have no team called "%1" that you may add projects to; "%2" stays yours alone.</translation>
+    </message>
+    <message id="capture.note.noTimer">
+      <source>No timer was running.</source>
+      <translation>No timer was running.</translation>
+    </message>
     <message id="claude.err.binaryMissing">
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</translation>
@@ -336,6 +322,156 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="claude.err.workspaceTimedOut">
       <source>Claude workspace task timed out after %1 s</source>
       <translation>Claude workspace task timed out after %1 s</translation>
+    </message>
+    <message id="cli.add.adjusted">
+      <source>Checked: %1</source>
+      <translation>Checked: %1</translation>
+    </message>
+    <message id="cli.add.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as 'morvane tasks list' shows it.</source>
+      <translation>Which task? None of your tasks is called "%1", or several are. Say it as 'morvane tasks list' shows it.</translation>
+    </message>
+    <message id="cli.add.dryRunDone">
+      <source>Nothing was changed (--dry-run).</source>
+      <translation>Nothing was changed (--dry-run).</translation>
+    </message>
+    <message id="cli.add.due">
+      <source>due %1</source>
+      <translation>due %1</translation>
+    </message>
+    <message id="cli.add.fixed">
+      <source>%1 fixed</source>
+      <translation>%1 fixed</translation>
+    </message>
+    <message id="cli.add.logTime">
+      <source>Log %1 on "%2"</source>
+      <translation>Log %1 on "%2"</translation>
+    </message>
+    <message id="cli.add.modelNote">
+      <source>The model notes: %1</source>
+      <translation>The model notes: %1</translation>
+    </message>
+    <message id="cli.add.option.dryRun">
+      <source>Show what was understood without changing anything.</source>
+      <translation>Show what was understood without changing anything.</translation>
+    </message>
+    <message id="cli.add.partial">
+      <source>Stopped: %1 What was made before stays; give the same sentence again to finish the rest without making anything twice.</source>
+      <translation>Stopped: %1 What was made before stays; give the same sentence again to finish the rest without making anything twice.</translation>
+    </message>
+    <message id="cli.add.project">
+      <source>Project "%1"</source>
+      <translation>Project "%1"</translation>
+    </message>
+    <message id="cli.add.spent">
+      <source>%1 already spent</source>
+      <translation>%1 already spent</translation>
+    </message>
+    <message id="cli.add.startTimer">
+      <source>Start the timer on "%1"</source>
+      <translation>Start the timer on "%1"</translation>
+    </message>
+    <message id="cli.add.stopRunning">
+      <source>Stop the running timer</source>
+      <translation>Stop the running timer</translation>
+    </message>
+    <message id="cli.add.stopTimer">
+      <source>Stop the timer on "%1"</source>
+      <translation>Stop the timer on "%1"</translation>
+    </message>
+    <message id="cli.add.summary">
+      <source>Projects: %1 new, %2 existing. Tasks: %3 new, %4 existing. Time logged: %5.</source>
+      <translation>Projects: %1 new, %2 existing. Tasks: %3 new, %4 existing. Time logged: %5.</translation>
+    </message>
+    <message id="cli.add.task">
+      <source>Task "%1"</source>
+      <translation>Task "%1"</translation>
+    </message>
+    <message id="cli.add.team">
+      <source>shared with team %1</source>
+      <translation>shared with team %1</translation>
+    </message>
+    <message id="cli.add.timerStopped">
+      <source>Timer stopped on %1.</source>
+      <translation>Timer stopped on %1.</translation>
+    </message>
+    <message id="cli.add.understood">
+      <source>Understood:</source>
+      <translation>Understood:</translation>
+    </message>
+    <message id="cli.add.unknown">
+      <source>Nothing to do: the sentence holds no project, task, time or timer action.</source>
+      <translation>Nothing to do: the sentence holds no project, task, time or timer action.</translation>
+    </message>
+    <message id="cli.add.usage">
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>allowed</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>not asked yet</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>declined</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>The keyring did not take the key; nothing changed.</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>No key was given; nothing changed.</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>Paste your %1 API key and press Enter: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>The %1 key is no longer in your keyring.</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>The %1 key is in your keyring.</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>Your keys in the keyring: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>Remove the stored key instead of setting one.</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>Provider setting: %1</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+Send your text to %2 now and from now on? [y/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>Calls go to: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Agree to sending your text to the chosen AI service without being asked.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>y,yes</translation>
     </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
@@ -448,6 +584,14 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="cli.clients.yesAnswers">
       <source>y|yes</source>
       <translation>y|yes</translation>
+    </message>
+    <message id="cli.command.add">
+      <source>Turn a sentence into projects, tasks, logged time or a timer action: add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Turn a sentence into projects, tasks, logged time or a timer action: add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>

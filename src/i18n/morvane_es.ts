@@ -3,6 +3,10 @@
 <TS version="2.1" language="es_ES">
   <context>
     <name>Morvane</name>
+    <message id="add.couldNotParse">
+      <source>Morvane could not make sense of that. Try saying it another way.</source>
+      <translation>Morvane no ha podido entenderlo. Prueba a decirlo de otra manera.</translation>
+    </message>
     <message id="ai.err.badAnswer">
       <source>%1 sent an answer Morvane cannot use: %2</source>
       <translation>%1 envió una respuesta que Morvane no puede usar: %2</translation>
@@ -58,76 +62,6 @@
     <message id="ai.route.openAI.where">
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>Tu texto va directamente de este ordenador a OpenAI, con tu propia clave de API.</translation>
-    </message>
-    <message id="cli.ai.consentAllowed">
-      <source>allowed</source>
-      <translation>permitido</translation>
-    </message>
-    <message id="cli.ai.consentAsk">
-      <source>not asked yet</source>
-      <translation>aún sin preguntar</translation>
-    </message>
-    <message id="cli.ai.consentDeclined">
-      <source>declined</source>
-      <translation>rechazado</translation>
-    </message>
-    <message id="cli.ai.keyFailed">
-      <source>The keyring did not take the key; nothing changed.</source>
-      <translation>El llavero no aceptó la clave; no ha cambiado nada.</translation>
-    </message>
-    <message id="cli.ai.keyMissing">
-      <source>No key was given; nothing changed.</source>
-      <translation>No se indicó ninguna clave; no ha cambiado nada.</translation>
-    </message>
-    <message id="cli.ai.keyPrompt">
-      <source>Paste your %1 API key and press Enter: </source>
-      <translation>Pega tu clave de API de %1 y pulsa Intro: </translation>
-    </message>
-    <message id="cli.ai.keyRemoved">
-      <source>The %1 key is no longer in your keyring.</source>
-      <translation>La clave de %1 ya no está en tu llavero.</translation>
-    </message>
-    <message id="cli.ai.keySaved">
-      <source>The %1 key is in your keyring.</source>
-      <translation>La clave de %1 está en tu llavero.</translation>
-    </message>
-    <message id="cli.ai.keys">
-      <source>Your keys in the keyring: %1</source>
-      <translation>Tus claves en el llavero: %1</translation>
-    </message>
-    <message id="cli.ai.option.remove">
-      <source>Remove the stored key instead of setting one.</source>
-      <translation>Eliminar la clave guardada en lugar de establecer una.</translation>
-    </message>
-    <message id="cli.ai.provider">
-      <source>Provider setting: %1</source>
-      <translation>Proveedor elegido: %1</translation>
-    </message>
-    <message id="cli.ai.question">
-      <source>%1
-Send your text to %2 now and from now on? [y/N] </source>
-      <translation>%1
-¿Enviar tu texto a %2 ahora y a partir de ahora? [s/N] </translation>
-    </message>
-    <message id="cli.ai.route">
-      <source>Calls go to: %1</source>
-      <translation>Las llamadas van a: %1</translation>
-    </message>
-    <message id="cli.ai.usage">
-      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
-      <translation>Uso: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
-    </message>
-    <message id="cli.ai.yes">
-      <source>Agree to sending your text to the chosen AI service without being asked.</source>
-      <translation>Aceptar sin preguntar que tu texto se envíe al servicio de IA elegido.</translation>
-    </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>s,sí,si,y,yes</translation>
-    </message>
-    <message id="cli.command.ai">
-      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
-      <translation>Adónde van las llamadas al modelo, tus propias claves de API y lo que aceptaste enviar: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
@@ -293,6 +227,58 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>No VAT</source>
       <translation>Sin IVA</translation>
     </message>
+    <message id="capture.err.noMinutes">
+      <source>The sentence gives no time to log.</source>
+      <translation>La frase no indica ningún tiempo que registrar.</translation>
+    </message>
+    <message id="capture.err.noProject">
+      <source>The sentence names no project to add the task to.</source>
+      <translation>La frase no nombra ningún proyecto al que añadir la tarea.</translation>
+    </message>
+    <message id="capture.err.notSaved">
+      <source>The change could not be saved.</source>
+      <translation>No se ha podido guardar el cambio.</translation>
+    </message>
+    <message id="capture.fix.bothPrices">
+      <source>"%1" has both a fixed price and an hourly rate; the fixed price is used.</source>
+      <translation>«%1» tiene un precio fijo y una tarifa por hora; se usa el precio fijo.</translation>
+    </message>
+    <message id="capture.fix.cut">
+      <source>"%1…" was cut to %2 characters.</source>
+      <translation>«%1…» se ha recortado a %2 caracteres.</translation>
+    </message>
+    <message id="capture.fix.date">
+      <source>The due date "%1" was left out: it is not a date of the form YYYY-MM-DD.</source>
+      <translation>Se ha omitido la fecha límite «%1»: no es una fecha con el formato AAAA-MM-DD.</translation>
+    </message>
+    <message id="capture.fix.minutes">
+      <source>%1 minutes were left out: time logged from one sentence is more than 0 and at most %2 minutes.</source>
+      <translation>Se han omitido %1 minutos: el tiempo de una frase es mayor que 0 y de como mucho %2 minutos.</translation>
+    </message>
+    <message id="capture.fix.price">
+      <source>The fixed price %1 was left out: a price lies between 0 and %2.</source>
+      <translation>Se ha omitido el precio fijo %1: un precio está entre 0 y %2.</translation>
+    </message>
+    <message id="capture.fix.priority">
+      <source>The priority "%1" is unknown; the task gets the default, medium.</source>
+      <translation>La prioridad «%1» es desconocida; la tarea recibe la predeterminada, media.</translation>
+    </message>
+    <message id="capture.fix.rate">
+      <source>The hourly rate %1 was left out: a rate lies between 0 and %2.</source>
+      <translation>Se ha omitido la tarifa por hora %1: una tarifa está entre 0 y %2.</translation>
+    </message>
+    <message id="capture.fix.unnamed">
+      <source>A project or task without a name was left out.</source>
+      <translation>Se ha omitido un proyecto o una tarea sin nombre.</translation>
+    </message>
+    <message id="capture.note.noTeam">
+      <source>You have no team called "%1" that you may add projects to; "%2" stays yours alone.</source>
+      <translation>No tienes ningún equipo «%1» al que puedas añadir proyectos; «%2» sigue siendo solo tuyo.</translation>
+    </message>
+    <message id="capture.note.noTimer">
+      <source>No timer was running.</source>
+      <translation>No había ningún temporizador en marcha.</translation>
+    </message>
     <message id="claude.err.binaryMissing">
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>Las funciones de IA necesitan la CLI de Claude en este Mac (captura por voz o texto, resúmenes y la nota de factura). Todo lo demás funciona sin ella. Define CLAUDE_CLI_PATH o instálala y vuelve a intentarlo.</translation>
@@ -336,6 +322,156 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="claude.err.workspaceTimedOut">
       <source>Claude workspace task timed out after %1 s</source>
       <translation>La tarea de Claude en la carpeta de trabajo caducó tras %1 s</translation>
+    </message>
+    <message id="cli.add.adjusted">
+      <source>Checked: %1</source>
+      <translation>Comprobado: %1</translation>
+    </message>
+    <message id="cli.add.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as 'morvane tasks list' shows it.</source>
+      <translation>¿Qué tarea? Ninguna de tus tareas se llama «%1», o varias sí. Nómbrala como la muestra 'morvane tasks list'.</translation>
+    </message>
+    <message id="cli.add.dryRunDone">
+      <source>Nothing was changed (--dry-run).</source>
+      <translation>No se ha cambiado nada (--dry-run).</translation>
+    </message>
+    <message id="cli.add.due">
+      <source>due %1</source>
+      <translation>vence el %1</translation>
+    </message>
+    <message id="cli.add.fixed">
+      <source>%1 fixed</source>
+      <translation>%1 fijo</translation>
+    </message>
+    <message id="cli.add.logTime">
+      <source>Log %1 on "%2"</source>
+      <translation>Registrar %1 en «%2»</translation>
+    </message>
+    <message id="cli.add.modelNote">
+      <source>The model notes: %1</source>
+      <translation>El modelo señala: %1</translation>
+    </message>
+    <message id="cli.add.option.dryRun">
+      <source>Show what was understood without changing anything.</source>
+      <translation>Mostrar lo que se ha entendido sin cambiar nada.</translation>
+    </message>
+    <message id="cli.add.partial">
+      <source>Stopped: %1 What was made before stays; give the same sentence again to finish the rest without making anything twice.</source>
+      <translation>Detenido: %1 Lo ya creado se conserva; vuelve a dar la misma frase para terminar el resto sin crear nada dos veces.</translation>
+    </message>
+    <message id="cli.add.project">
+      <source>Project "%1"</source>
+      <translation>Proyecto «%1»</translation>
+    </message>
+    <message id="cli.add.spent">
+      <source>%1 already spent</source>
+      <translation>%1 ya dedicados</translation>
+    </message>
+    <message id="cli.add.startTimer">
+      <source>Start the timer on "%1"</source>
+      <translation>Iniciar el temporizador en «%1»</translation>
+    </message>
+    <message id="cli.add.stopRunning">
+      <source>Stop the running timer</source>
+      <translation>Detener el temporizador en marcha</translation>
+    </message>
+    <message id="cli.add.stopTimer">
+      <source>Stop the timer on "%1"</source>
+      <translation>Detener el temporizador en «%1»</translation>
+    </message>
+    <message id="cli.add.summary">
+      <source>Projects: %1 new, %2 existing. Tasks: %3 new, %4 existing. Time logged: %5.</source>
+      <translation>Proyectos: %1 nuevos, %2 existentes. Tareas: %3 nuevas, %4 existentes. Tiempo registrado: %5.</translation>
+    </message>
+    <message id="cli.add.task">
+      <source>Task "%1"</source>
+      <translation>Tarea «%1»</translation>
+    </message>
+    <message id="cli.add.team">
+      <source>shared with team %1</source>
+      <translation>compartido con el equipo %1</translation>
+    </message>
+    <message id="cli.add.timerStopped">
+      <source>Timer stopped on %1.</source>
+      <translation>Temporizador detenido en %1.</translation>
+    </message>
+    <message id="cli.add.understood">
+      <source>Understood:</source>
+      <translation>Entendido:</translation>
+    </message>
+    <message id="cli.add.unknown">
+      <source>Nothing to do: the sentence holds no project, task, time or timer action.</source>
+      <translation>Nada que hacer: la frase no contiene ningún proyecto, tarea, tiempo ni acción del temporizador.</translation>
+    </message>
+    <message id="cli.add.usage">
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Uso: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>permitido</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>aún sin preguntar</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>rechazado</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>El llavero no aceptó la clave; no ha cambiado nada.</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>No se indicó ninguna clave; no ha cambiado nada.</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>Pega tu clave de API de %1 y pulsa Intro: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>La clave de %1 ya no está en tu llavero.</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>La clave de %1 está en tu llavero.</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>Tus claves en el llavero: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>Eliminar la clave guardada en lugar de establecer una.</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>Proveedor elegido: %1</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+¿Enviar tu texto a %2 ahora y a partir de ahora? [s/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>Las llamadas van a: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>Uso: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Aceptar sin preguntar que tu texto se envíe al servicio de IA elegido.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>s,sí,si,y,yes</translation>
     </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
@@ -448,6 +584,14 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.clients.yesAnswers">
       <source>y|yes</source>
       <translation>s|sí|si</translation>
+    </message>
+    <message id="cli.command.add">
+      <source>Turn a sentence into projects, tasks, logged time or a timer action: add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Convertir una frase en proyectos, tareas, tiempo registrado o una acción del temporizador: add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>Adónde van las llamadas al modelo, tus propias claves de API y lo que aceptaste enviar: ai show|provider|key|consent</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>

@@ -3,6 +3,10 @@
 <TS version="2.1" language="fr_FR">
   <context>
     <name>Morvane</name>
+    <message id="add.couldNotParse">
+      <source>Morvane could not make sense of that. Try saying it another way.</source>
+      <translation>Morvane n’a pas compris. Essayez de le dire autrement.</translation>
+    </message>
     <message id="ai.err.badAnswer">
       <source>%1 sent an answer Morvane cannot use: %2</source>
       <translation>%1 a envoyé une réponse que Morvane ne peut pas utiliser : %2</translation>
@@ -58,76 +62,6 @@
     <message id="ai.route.openAI.where">
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>Votre texte part directement de cet ordinateur vers OpenAI, avec votre propre clé d'API.</translation>
-    </message>
-    <message id="cli.ai.consentAllowed">
-      <source>allowed</source>
-      <translation>autorisé</translation>
-    </message>
-    <message id="cli.ai.consentAsk">
-      <source>not asked yet</source>
-      <translation>pas encore demandé</translation>
-    </message>
-    <message id="cli.ai.consentDeclined">
-      <source>declined</source>
-      <translation>refusé</translation>
-    </message>
-    <message id="cli.ai.keyFailed">
-      <source>The keyring did not take the key; nothing changed.</source>
-      <translation>Le trousseau n'a pas accepté la clé ; rien n'a changé.</translation>
-    </message>
-    <message id="cli.ai.keyMissing">
-      <source>No key was given; nothing changed.</source>
-      <translation>Aucune clé n'a été fournie ; rien n'a changé.</translation>
-    </message>
-    <message id="cli.ai.keyPrompt">
-      <source>Paste your %1 API key and press Enter: </source>
-      <translation>Collez votre clé d'API %1 et appuyez sur Entrée : </translation>
-    </message>
-    <message id="cli.ai.keyRemoved">
-      <source>The %1 key is no longer in your keyring.</source>
-      <translation>La clé %1 n'est plus dans votre trousseau.</translation>
-    </message>
-    <message id="cli.ai.keySaved">
-      <source>The %1 key is in your keyring.</source>
-      <translation>La clé %1 est dans votre trousseau.</translation>
-    </message>
-    <message id="cli.ai.keys">
-      <source>Your keys in the keyring: %1</source>
-      <translation>Vos clés dans le trousseau : %1</translation>
-    </message>
-    <message id="cli.ai.option.remove">
-      <source>Remove the stored key instead of setting one.</source>
-      <translation>Supprimer la clé enregistrée au lieu d'en définir une.</translation>
-    </message>
-    <message id="cli.ai.provider">
-      <source>Provider setting: %1</source>
-      <translation>Réglage du fournisseur : %1</translation>
-    </message>
-    <message id="cli.ai.question">
-      <source>%1
-Send your text to %2 now and from now on? [y/N] </source>
-      <translation>%1
-Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
-    </message>
-    <message id="cli.ai.route">
-      <source>Calls go to: %1</source>
-      <translation>Les appels vont à : %1</translation>
-    </message>
-    <message id="cli.ai.usage">
-      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
-      <translation>Utilisation : morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
-    </message>
-    <message id="cli.ai.yes">
-      <source>Agree to sending your text to the chosen AI service without being asked.</source>
-      <translation>Accepter sans question l'envoi de votre texte au service d'IA choisi.</translation>
-    </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>o,oui,y,yes</translation>
-    </message>
-    <message id="cli.command.ai">
-      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
-      <translation>Où vont les appels au modèle, vos propres clés d'API et ce que vous avez accepté d'envoyer : ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
@@ -293,6 +227,58 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>No VAT</source>
       <translation>Pas de TVA</translation>
     </message>
+    <message id="capture.err.noMinutes">
+      <source>The sentence gives no time to log.</source>
+      <translation>La phrase n’indique aucun temps à enregistrer.</translation>
+    </message>
+    <message id="capture.err.noProject">
+      <source>The sentence names no project to add the task to.</source>
+      <translation>La phrase ne nomme aucun projet auquel ajouter la tâche.</translation>
+    </message>
+    <message id="capture.err.notSaved">
+      <source>The change could not be saved.</source>
+      <translation>La modification n’a pas pu être enregistrée.</translation>
+    </message>
+    <message id="capture.fix.bothPrices">
+      <source>"%1" has both a fixed price and an hourly rate; the fixed price is used.</source>
+      <translation>« %1 » a à la fois un prix fixe et un taux horaire ; le prix fixe est retenu.</translation>
+    </message>
+    <message id="capture.fix.cut">
+      <source>"%1…" was cut to %2 characters.</source>
+      <translation>« %1… » a été raccourci à %2 caractères.</translation>
+    </message>
+    <message id="capture.fix.date">
+      <source>The due date "%1" was left out: it is not a date of the form YYYY-MM-DD.</source>
+      <translation>L’échéance « %1 » a été ignorée : ce n’est pas une date au format AAAA-MM-JJ.</translation>
+    </message>
+    <message id="capture.fix.minutes">
+      <source>%1 minutes were left out: time logged from one sentence is more than 0 and at most %2 minutes.</source>
+      <translation>%1 minutes ont été ignorées : le temps d’une phrase est supérieur à 0 et d’au plus %2 minutes.</translation>
+    </message>
+    <message id="capture.fix.price">
+      <source>The fixed price %1 was left out: a price lies between 0 and %2.</source>
+      <translation>Le prix fixe %1 a été ignoré : un prix est compris entre 0 et %2.</translation>
+    </message>
+    <message id="capture.fix.priority">
+      <source>The priority "%1" is unknown; the task gets the default, medium.</source>
+      <translation>La priorité « %1 » est inconnue ; la tâche reçoit la priorité par défaut, moyenne.</translation>
+    </message>
+    <message id="capture.fix.rate">
+      <source>The hourly rate %1 was left out: a rate lies between 0 and %2.</source>
+      <translation>Le taux horaire %1 a été ignoré : un taux est compris entre 0 et %2.</translation>
+    </message>
+    <message id="capture.fix.unnamed">
+      <source>A project or task without a name was left out.</source>
+      <translation>Un projet ou une tâche sans nom a été ignoré.</translation>
+    </message>
+    <message id="capture.note.noTeam">
+      <source>You have no team called "%1" that you may add projects to; "%2" stays yours alone.</source>
+      <translation>Vous n’avez aucune équipe « %1 » à laquelle ajouter des projets ; « %2 » reste à vous seul.</translation>
+    </message>
+    <message id="capture.note.noTimer">
+      <source>No timer was running.</source>
+      <translation>Aucun minuteur n’était en cours.</translation>
+    </message>
     <message id="claude.err.binaryMissing">
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>Les fonctions d'IA ont besoin de la CLI Claude sur ce Mac (saisie vocale et par invite, briefs et note de facture). Tout le reste fonctionne sans elle. Définissez CLAUDE_CLI_PATH ou installez-la, puis réessayez.</translation>
@@ -336,6 +322,156 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="claude.err.workspaceTimedOut">
       <source>Claude workspace task timed out after %1 s</source>
       <translation>La tâche Claude dans l'espace de travail a expiré après %1 s</translation>
+    </message>
+    <message id="cli.add.adjusted">
+      <source>Checked: %1</source>
+      <translation>Vérifié : %1</translation>
+    </message>
+    <message id="cli.add.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as 'morvane tasks list' shows it.</source>
+      <translation>Quelle tâche ? Aucune de vos tâches ne s’appelle « %1 », ou plusieurs. Nommez-la comme 'morvane tasks list' l’affiche.</translation>
+    </message>
+    <message id="cli.add.dryRunDone">
+      <source>Nothing was changed (--dry-run).</source>
+      <translation>Rien n’a été modifié (--dry-run).</translation>
+    </message>
+    <message id="cli.add.due">
+      <source>due %1</source>
+      <translation>échéance %1</translation>
+    </message>
+    <message id="cli.add.fixed">
+      <source>%1 fixed</source>
+      <translation>%1 forfait</translation>
+    </message>
+    <message id="cli.add.logTime">
+      <source>Log %1 on "%2"</source>
+      <translation>Enregistrer %1 sur « %2 »</translation>
+    </message>
+    <message id="cli.add.modelNote">
+      <source>The model notes: %1</source>
+      <translation>Le modèle note : %1</translation>
+    </message>
+    <message id="cli.add.option.dryRun">
+      <source>Show what was understood without changing anything.</source>
+      <translation>Afficher ce qui a été compris sans rien modifier.</translation>
+    </message>
+    <message id="cli.add.partial">
+      <source>Stopped: %1 What was made before stays; give the same sentence again to finish the rest without making anything twice.</source>
+      <translation>Arrêté : %1 Ce qui a déjà été créé reste ; redonnez la même phrase pour terminer le reste sans rien créer deux fois.</translation>
+    </message>
+    <message id="cli.add.project">
+      <source>Project "%1"</source>
+      <translation>Projet « %1 »</translation>
+    </message>
+    <message id="cli.add.spent">
+      <source>%1 already spent</source>
+      <translation>%1 déjà passées</translation>
+    </message>
+    <message id="cli.add.startTimer">
+      <source>Start the timer on "%1"</source>
+      <translation>Démarrer le minuteur sur « %1 »</translation>
+    </message>
+    <message id="cli.add.stopRunning">
+      <source>Stop the running timer</source>
+      <translation>Arrêter le minuteur en cours</translation>
+    </message>
+    <message id="cli.add.stopTimer">
+      <source>Stop the timer on "%1"</source>
+      <translation>Arrêter le minuteur sur « %1 »</translation>
+    </message>
+    <message id="cli.add.summary">
+      <source>Projects: %1 new, %2 existing. Tasks: %3 new, %4 existing. Time logged: %5.</source>
+      <translation>Projets : %1 nouveaux, %2 existants. Tâches : %3 nouvelles, %4 existantes. Temps enregistré : %5.</translation>
+    </message>
+    <message id="cli.add.task">
+      <source>Task "%1"</source>
+      <translation>Tâche « %1 »</translation>
+    </message>
+    <message id="cli.add.team">
+      <source>shared with team %1</source>
+      <translation>partagé avec l’équipe %1</translation>
+    </message>
+    <message id="cli.add.timerStopped">
+      <source>Timer stopped on %1.</source>
+      <translation>Minuteur arrêté sur %1.</translation>
+    </message>
+    <message id="cli.add.understood">
+      <source>Understood:</source>
+      <translation>Compris :</translation>
+    </message>
+    <message id="cli.add.unknown">
+      <source>Nothing to do: the sentence holds no project, task, time or timer action.</source>
+      <translation>Rien à faire : la phrase ne contient ni projet, ni tâche, ni temps, ni action de minuteur.</translation>
+    </message>
+    <message id="cli.add.usage">
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Utilisation : morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>autorisé</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>pas encore demandé</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>refusé</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>Le trousseau n'a pas accepté la clé ; rien n'a changé.</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>Aucune clé n'a été fournie ; rien n'a changé.</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>Collez votre clé d'API %1 et appuyez sur Entrée : </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>La clé %1 n'est plus dans votre trousseau.</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>La clé %1 est dans votre trousseau.</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>Vos clés dans le trousseau : %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>Supprimer la clé enregistrée au lieu d'en définir une.</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>Réglage du fournisseur : %1</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>Les appels vont à : %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>Utilisation : morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Accepter sans question l'envoi de votre texte au service d'IA choisi.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>o,oui,y,yes</translation>
     </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
@@ -448,6 +584,14 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="cli.clients.yesAnswers">
       <source>y|yes</source>
       <translation>o|oui</translation>
+    </message>
+    <message id="cli.command.add">
+      <source>Turn a sentence into projects, tasks, logged time or a timer action: add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Transformer une phrase en projets, tâches, temps enregistré ou action de minuteur : add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>Où vont les appels au modèle, vos propres clés d'API et ce que vous avez accepté d'envoyer : ai show|provider|key|consent</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>

@@ -3,6 +3,10 @@
 <TS version="2.1" language="it_IT">
   <context>
     <name>Morvane</name>
+    <message id="add.couldNotParse">
+      <source>Morvane could not make sense of that. Try saying it another way.</source>
+      <translation>Morvane non è riuscito a capire. Prova a dirlo in un altro modo.</translation>
+    </message>
     <message id="ai.err.badAnswer">
       <source>%1 sent an answer Morvane cannot use: %2</source>
       <translation>%1 ha inviato una risposta che Morvane non può usare: %2</translation>
@@ -58,76 +62,6 @@
     <message id="ai.route.openAI.where">
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>Il tuo testo va direttamente da questo computer a OpenAI, con la tua chiave API.</translation>
-    </message>
-    <message id="cli.ai.consentAllowed">
-      <source>allowed</source>
-      <translation>consentito</translation>
-    </message>
-    <message id="cli.ai.consentAsk">
-      <source>not asked yet</source>
-      <translation>non ancora chiesto</translation>
-    </message>
-    <message id="cli.ai.consentDeclined">
-      <source>declined</source>
-      <translation>rifiutato</translation>
-    </message>
-    <message id="cli.ai.keyFailed">
-      <source>The keyring did not take the key; nothing changed.</source>
-      <translation>Il portachiavi non ha accettato la chiave; non è cambiato nulla.</translation>
-    </message>
-    <message id="cli.ai.keyMissing">
-      <source>No key was given; nothing changed.</source>
-      <translation>Nessuna chiave indicata; non è cambiato nulla.</translation>
-    </message>
-    <message id="cli.ai.keyPrompt">
-      <source>Paste your %1 API key and press Enter: </source>
-      <translation>Incolla la tua chiave API di %1 e premi Invio: </translation>
-    </message>
-    <message id="cli.ai.keyRemoved">
-      <source>The %1 key is no longer in your keyring.</source>
-      <translation>La chiave di %1 non è più nel portachiavi.</translation>
-    </message>
-    <message id="cli.ai.keySaved">
-      <source>The %1 key is in your keyring.</source>
-      <translation>La chiave di %1 è nel portachiavi.</translation>
-    </message>
-    <message id="cli.ai.keys">
-      <source>Your keys in the keyring: %1</source>
-      <translation>Le tue chiavi nel portachiavi: %1</translation>
-    </message>
-    <message id="cli.ai.option.remove">
-      <source>Remove the stored key instead of setting one.</source>
-      <translation>Rimuovi la chiave salvata invece di impostarne una.</translation>
-    </message>
-    <message id="cli.ai.provider">
-      <source>Provider setting: %1</source>
-      <translation>Impostazione del fornitore: %1</translation>
-    </message>
-    <message id="cli.ai.question">
-      <source>%1
-Send your text to %2 now and from now on? [y/N] </source>
-      <translation>%1
-Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
-    </message>
-    <message id="cli.ai.route">
-      <source>Calls go to: %1</source>
-      <translation>Le chiamate vanno a: %1</translation>
-    </message>
-    <message id="cli.ai.usage">
-      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
-      <translation>Uso: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
-    </message>
-    <message id="cli.ai.yes">
-      <source>Agree to sending your text to the chosen AI service without being asked.</source>
-      <translation>Accetta senza domande l'invio del tuo testo al servizio IA scelto.</translation>
-    </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>s,sì,si,y,yes</translation>
-    </message>
-    <message id="cli.command.ai">
-      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
-      <translation>Dove vanno le chiamate al modello, le tue chiavi API e cosa hai accettato di inviare: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
@@ -293,6 +227,58 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>No VAT</source>
       <translation>Senza IVA</translation>
     </message>
+    <message id="capture.err.noMinutes">
+      <source>The sentence gives no time to log.</source>
+      <translation>La frase non indica alcun tempo da registrare.</translation>
+    </message>
+    <message id="capture.err.noProject">
+      <source>The sentence names no project to add the task to.</source>
+      <translation>La frase non nomina alcun progetto a cui aggiungere l’attività.</translation>
+    </message>
+    <message id="capture.err.notSaved">
+      <source>The change could not be saved.</source>
+      <translation>Non è stato possibile salvare la modifica.</translation>
+    </message>
+    <message id="capture.fix.bothPrices">
+      <source>"%1" has both a fixed price and an hourly rate; the fixed price is used.</source>
+      <translation>«%1» ha sia un prezzo fisso sia una tariffa oraria; si usa il prezzo fisso.</translation>
+    </message>
+    <message id="capture.fix.cut">
+      <source>"%1…" was cut to %2 characters.</source>
+      <translation>«%1…» è stato accorciato a %2 caratteri.</translation>
+    </message>
+    <message id="capture.fix.date">
+      <source>The due date "%1" was left out: it is not a date of the form YYYY-MM-DD.</source>
+      <translation>La scadenza «%1» è stata tralasciata: non è una data nel formato AAAA-MM-GG.</translation>
+    </message>
+    <message id="capture.fix.minutes">
+      <source>%1 minutes were left out: time logged from one sentence is more than 0 and at most %2 minutes.</source>
+      <translation>%1 minuti sono stati tralasciati: il tempo di una frase è maggiore di 0 e al massimo %2 minuti.</translation>
+    </message>
+    <message id="capture.fix.price">
+      <source>The fixed price %1 was left out: a price lies between 0 and %2.</source>
+      <translation>Il prezzo fisso %1 è stato tralasciato: un prezzo è compreso tra 0 e %2.</translation>
+    </message>
+    <message id="capture.fix.priority">
+      <source>The priority "%1" is unknown; the task gets the default, medium.</source>
+      <translation>La priorità «%1» è sconosciuta; l’attività riceve quella predefinita, media.</translation>
+    </message>
+    <message id="capture.fix.rate">
+      <source>The hourly rate %1 was left out: a rate lies between 0 and %2.</source>
+      <translation>La tariffa oraria %1 è stata tralasciata: una tariffa è compresa tra 0 e %2.</translation>
+    </message>
+    <message id="capture.fix.unnamed">
+      <source>A project or task without a name was left out.</source>
+      <translation>Un progetto o un’attività senza nome è stato tralasciato.</translation>
+    </message>
+    <message id="capture.note.noTeam">
+      <source>You have no team called "%1" that you may add projects to; "%2" stays yours alone.</source>
+      <translation>Non hai un team «%1» a cui puoi aggiungere progetti; «%2» resta solo tuo.</translation>
+    </message>
+    <message id="capture.note.noTimer">
+      <source>No timer was running.</source>
+      <translation>Nessun timer era in corso.</translation>
+    </message>
     <message id="claude.err.binaryMissing">
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>Le funzioni di IA richiedono la CLI di Claude su questo Mac (acquisizione vocale e testuale, briefing e nota in fattura). Tutto il resto funziona anche senza. Imposta CLAUDE_CLI_PATH o installala, poi riprova.</translation>
@@ -336,6 +322,156 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="claude.err.workspaceTimedOut">
       <source>Claude workspace task timed out after %1 s</source>
       <translation>L'attività di Claude nella cartella di lavoro è scaduta dopo %1 s</translation>
+    </message>
+    <message id="cli.add.adjusted">
+      <source>Checked: %1</source>
+      <translation>Controllato: %1</translation>
+    </message>
+    <message id="cli.add.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as 'morvane tasks list' shows it.</source>
+      <translation>Quale attività? Nessuna delle tue attività si chiama «%1», oppure più di una. Chiamala come la mostra 'morvane tasks list'.</translation>
+    </message>
+    <message id="cli.add.dryRunDone">
+      <source>Nothing was changed (--dry-run).</source>
+      <translation>Non è stato modificato nulla (--dry-run).</translation>
+    </message>
+    <message id="cli.add.due">
+      <source>due %1</source>
+      <translation>scadenza %1</translation>
+    </message>
+    <message id="cli.add.fixed">
+      <source>%1 fixed</source>
+      <translation>%1 fisso</translation>
+    </message>
+    <message id="cli.add.logTime">
+      <source>Log %1 on "%2"</source>
+      <translation>Registrare %1 su «%2»</translation>
+    </message>
+    <message id="cli.add.modelNote">
+      <source>The model notes: %1</source>
+      <translation>Il modello osserva: %1</translation>
+    </message>
+    <message id="cli.add.option.dryRun">
+      <source>Show what was understood without changing anything.</source>
+      <translation>Mostra ciò che è stato capito senza modificare nulla.</translation>
+    </message>
+    <message id="cli.add.partial">
+      <source>Stopped: %1 What was made before stays; give the same sentence again to finish the rest without making anything twice.</source>
+      <translation>Interrotto: %1 Ciò che è già stato creato resta; ripeti la stessa frase per completare il resto senza creare nulla due volte.</translation>
+    </message>
+    <message id="cli.add.project">
+      <source>Project "%1"</source>
+      <translation>Progetto «%1»</translation>
+    </message>
+    <message id="cli.add.spent">
+      <source>%1 already spent</source>
+      <translation>%1 già impiegati</translation>
+    </message>
+    <message id="cli.add.startTimer">
+      <source>Start the timer on "%1"</source>
+      <translation>Avviare il timer su «%1»</translation>
+    </message>
+    <message id="cli.add.stopRunning">
+      <source>Stop the running timer</source>
+      <translation>Fermare il timer in corso</translation>
+    </message>
+    <message id="cli.add.stopTimer">
+      <source>Stop the timer on "%1"</source>
+      <translation>Fermare il timer su «%1»</translation>
+    </message>
+    <message id="cli.add.summary">
+      <source>Projects: %1 new, %2 existing. Tasks: %3 new, %4 existing. Time logged: %5.</source>
+      <translation>Progetti: %1 nuovi, %2 esistenti. Attività: %3 nuove, %4 esistenti. Tempo registrato: %5.</translation>
+    </message>
+    <message id="cli.add.task">
+      <source>Task "%1"</source>
+      <translation>Attività «%1»</translation>
+    </message>
+    <message id="cli.add.team">
+      <source>shared with team %1</source>
+      <translation>condiviso con il team %1</translation>
+    </message>
+    <message id="cli.add.timerStopped">
+      <source>Timer stopped on %1.</source>
+      <translation>Timer fermato su %1.</translation>
+    </message>
+    <message id="cli.add.understood">
+      <source>Understood:</source>
+      <translation>Capito:</translation>
+    </message>
+    <message id="cli.add.unknown">
+      <source>Nothing to do: the sentence holds no project, task, time or timer action.</source>
+      <translation>Niente da fare: la frase non contiene progetti, attività, tempo né azioni sul timer.</translation>
+    </message>
+    <message id="cli.add.usage">
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Uso: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>consentito</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>non ancora chiesto</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>rifiutato</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>Il portachiavi non ha accettato la chiave; non è cambiato nulla.</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>Nessuna chiave indicata; non è cambiato nulla.</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>Incolla la tua chiave API di %1 e premi Invio: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>La chiave di %1 non è più nel portachiavi.</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>La chiave di %1 è nel portachiavi.</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>Le tue chiavi nel portachiavi: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>Rimuovi la chiave salvata invece di impostarne una.</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>Impostazione del fornitore: %1</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>Le chiamate vanno a: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>Uso: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>Accetta senza domande l'invio del tuo testo al servizio IA scelto.</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>s,sì,si,y,yes</translation>
     </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
@@ -448,6 +584,14 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="cli.clients.yesAnswers">
       <source>y|yes</source>
       <translation>s|sì|si</translation>
+    </message>
+    <message id="cli.command.add">
+      <source>Turn a sentence into projects, tasks, logged time or a timer action: add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>Trasforma una frase in progetti, attività, tempo registrato o un’azione sul timer: add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>Dove vanno le chiamate al modello, le tue chiavi API e cosa hai accettato di inviare: ai show|provider|key|consent</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>

@@ -3,6 +3,10 @@
 <TS version="2.1" language="th_TH">
   <context>
     <name>Morvane</name>
+    <message id="add.couldNotParse">
+      <source>Morvane could not make sense of that. Try saying it another way.</source>
+      <translation>Morvane ไม่เข้าใจข้อความนี้ ลองพูดด้วยวิธีอื่น</translation>
+    </message>
     <message id="ai.err.badAnswer">
       <source>%1 sent an answer Morvane cannot use: %2</source>
       <translation>%1 ส่งคำตอบที่ Morvane ใช้ไม่ได้: %2</translation>
@@ -58,76 +62,6 @@
     <message id="ai.route.openAI.where">
       <source>Your text goes straight from this computer to OpenAI, with your own API key.</source>
       <translation>ข้อความของคุณจะส่งตรงจากคอมพิวเตอร์เครื่องนี้ไปยัง OpenAI ด้วยคีย์ API ของคุณเอง</translation>
-    </message>
-    <message id="cli.ai.consentAllowed">
-      <source>allowed</source>
-      <translation>อนุญาตแล้ว</translation>
-    </message>
-    <message id="cli.ai.consentAsk">
-      <source>not asked yet</source>
-      <translation>ยังไม่ได้ถาม</translation>
-    </message>
-    <message id="cli.ai.consentDeclined">
-      <source>declined</source>
-      <translation>ปฏิเสธแล้ว</translation>
-    </message>
-    <message id="cli.ai.keyFailed">
-      <source>The keyring did not take the key; nothing changed.</source>
-      <translation>พวงกุญแจไม่รับคีย์นี้ จึงไม่มีอะไรเปลี่ยนแปลง</translation>
-    </message>
-    <message id="cli.ai.keyMissing">
-      <source>No key was given; nothing changed.</source>
-      <translation>ไม่ได้ใส่คีย์ จึงไม่มีอะไรเปลี่ยนแปลง</translation>
-    </message>
-    <message id="cli.ai.keyPrompt">
-      <source>Paste your %1 API key and press Enter: </source>
-      <translation>วางคีย์ API ของ %1 แล้วกด Enter: </translation>
-    </message>
-    <message id="cli.ai.keyRemoved">
-      <source>The %1 key is no longer in your keyring.</source>
-      <translation>คีย์ %1 ไม่อยู่ในพวงกุญแจของคุณแล้ว</translation>
-    </message>
-    <message id="cli.ai.keySaved">
-      <source>The %1 key is in your keyring.</source>
-      <translation>คีย์ %1 อยู่ในพวงกุญแจของคุณแล้ว</translation>
-    </message>
-    <message id="cli.ai.keys">
-      <source>Your keys in the keyring: %1</source>
-      <translation>คีย์ของคุณในพวงกุญแจ: %1</translation>
-    </message>
-    <message id="cli.ai.option.remove">
-      <source>Remove the stored key instead of setting one.</source>
-      <translation>ลบคีย์ที่เก็บไว้แทนการตั้งคีย์ใหม่</translation>
-    </message>
-    <message id="cli.ai.provider">
-      <source>Provider setting: %1</source>
-      <translation>การตั้งค่าผู้ให้บริการ: %1</translation>
-    </message>
-    <message id="cli.ai.question">
-      <source>%1
-Send your text to %2 now and from now on? [y/N] </source>
-      <translation>%1
-ส่งข้อความของคุณไปยัง %2 ตอนนี้และต่อจากนี้หรือไม่? [y/N] </translation>
-    </message>
-    <message id="cli.ai.route">
-      <source>Calls go to: %1</source>
-      <translation>การเรียกจะส่งไปที่: %1</translation>
-    </message>
-    <message id="cli.ai.usage">
-      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
-      <translation>วิธีใช้: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
-    </message>
-    <message id="cli.ai.yes">
-      <source>Agree to sending your text to the chosen AI service without being asked.</source>
-      <translation>ยินยอมให้ส่งข้อความไปยังบริการ AI ที่เลือกโดยไม่ต้องถาม</translation>
-    </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>y,yes,ใช่</translation>
-    </message>
-    <message id="cli.command.ai">
-      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
-      <translation>การเรียกโมเดลส่งไปที่ใด คีย์ API ของคุณเอง และสิ่งที่คุณยินยอมให้ส่ง: ai show|provider|key|consent</translation>
     </message>
     <message id="auth.err.emailExists">
       <source>An account with this e-mail address exists already. Sign in instead.</source>
@@ -293,6 +227,58 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>No VAT</source>
       <translation>ไม่มี VAT</translation>
     </message>
+    <message id="capture.err.noMinutes">
+      <source>The sentence gives no time to log.</source>
+      <translation>ประโยคนี้ไม่ได้ระบุเวลาที่จะบันทึก</translation>
+    </message>
+    <message id="capture.err.noProject">
+      <source>The sentence names no project to add the task to.</source>
+      <translation>ประโยคนี้ไม่ได้ระบุโปรเจกต์ที่จะเพิ่มงาน</translation>
+    </message>
+    <message id="capture.err.notSaved">
+      <source>The change could not be saved.</source>
+      <translation>ไม่สามารถบันทึกการเปลี่ยนแปลงได้</translation>
+    </message>
+    <message id="capture.fix.bothPrices">
+      <source>"%1" has both a fixed price and an hourly rate; the fixed price is used.</source>
+      <translation>"%1" มีทั้งราคาเหมาและอัตรารายชั่วโมง จะใช้ราคาเหมา</translation>
+    </message>
+    <message id="capture.fix.cut">
+      <source>"%1…" was cut to %2 characters.</source>
+      <translation>"%1…" ถูกตัดเหลือ %2 ตัวอักษร</translation>
+    </message>
+    <message id="capture.fix.date">
+      <source>The due date "%1" was left out: it is not a date of the form YYYY-MM-DD.</source>
+      <translation>ไม่ได้ใช้วันครบกำหนด "%1" เพราะไม่ใช่วันที่ในรูปแบบ YYYY-MM-DD</translation>
+    </message>
+    <message id="capture.fix.minutes">
+      <source>%1 minutes were left out: time logged from one sentence is more than 0 and at most %2 minutes.</source>
+      <translation>ไม่ได้ใช้ %1 นาที เวลาที่บันทึกจากหนึ่งประโยคต้องมากกว่า 0 และไม่เกิน %2 นาที</translation>
+    </message>
+    <message id="capture.fix.price">
+      <source>The fixed price %1 was left out: a price lies between 0 and %2.</source>
+      <translation>ไม่ได้ใช้ราคาเหมา %1 ราคาต้องอยู่ระหว่าง 0 ถึง %2</translation>
+    </message>
+    <message id="capture.fix.priority">
+      <source>The priority "%1" is unknown; the task gets the default, medium.</source>
+      <translation>ไม่รู้จักความสำคัญ "%1" งานนี้จะใช้ค่าเริ่มต้นคือปานกลาง</translation>
+    </message>
+    <message id="capture.fix.rate">
+      <source>The hourly rate %1 was left out: a rate lies between 0 and %2.</source>
+      <translation>ไม่ได้ใช้อัตรารายชั่วโมง %1 อัตราต้องอยู่ระหว่าง 0 ถึง %2</translation>
+    </message>
+    <message id="capture.fix.unnamed">
+      <source>A project or task without a name was left out.</source>
+      <translation>ไม่ได้ใช้โปรเจกต์หรืองานที่ไม่มีชื่อ</translation>
+    </message>
+    <message id="capture.note.noTeam">
+      <source>You have no team called "%1" that you may add projects to; "%2" stays yours alone.</source>
+      <translation>คุณไม่มีทีมชื่อ "%1" ที่เพิ่มโปรเจกต์ได้ "%2" จึงเป็นของคุณคนเดียว</translation>
+    </message>
+    <message id="capture.note.noTimer">
+      <source>No timer was running.</source>
+      <translation>ไม่มีตัวจับเวลาที่กำลังทำงาน</translation>
+    </message>
     <message id="claude.err.binaryMissing">
       <source>AI features need the Claude CLI on this Mac (it powers voice/prompt capture, briefs, and the invoice note). Everything else works without it. Set CLAUDE_CLI_PATH or install it, then try again.</source>
       <translation>ฟีเจอร์ AI ต้องใช้ Claude CLI บน Mac เครื่องนี้ (ใช้กับการป้อนด้วยเสียง/พรอมต์ บทสรุป และหมายเหตุในใบแจ้งหนี้) ส่วนอื่นทำงานได้โดยไม่ต้องมี ตั้งค่า CLAUDE_CLI_PATH หรือติดตั้ง แล้วลองอีกครั้ง</translation>
@@ -336,6 +322,156 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="claude.err.workspaceTimedOut">
       <source>Claude workspace task timed out after %1 s</source>
       <translation>งานของ Claude ในโฟลเดอร์งานหมดเวลาหลัง %1 วินาที</translation>
+    </message>
+    <message id="cli.add.adjusted">
+      <source>Checked: %1</source>
+      <translation>ตรวจสอบแล้ว: %1</translation>
+    </message>
+    <message id="cli.add.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as 'morvane tasks list' shows it.</source>
+      <translation>งานไหน? ไม่มีงานชื่อ "%1" หรือมีหลายงานที่ชื่อนี้ ให้ระบุชื่อตามที่ 'morvane tasks list' แสดง</translation>
+    </message>
+    <message id="cli.add.dryRunDone">
+      <source>Nothing was changed (--dry-run).</source>
+      <translation>ไม่มีการเปลี่ยนแปลงใด ๆ (--dry-run)</translation>
+    </message>
+    <message id="cli.add.due">
+      <source>due %1</source>
+      <translation>ครบกำหนด %1</translation>
+    </message>
+    <message id="cli.add.fixed">
+      <source>%1 fixed</source>
+      <translation>เหมา %1</translation>
+    </message>
+    <message id="cli.add.logTime">
+      <source>Log %1 on "%2"</source>
+      <translation>บันทึก %1 ให้ "%2"</translation>
+    </message>
+    <message id="cli.add.modelNote">
+      <source>The model notes: %1</source>
+      <translation>หมายเหตุจากโมเดล: %1</translation>
+    </message>
+    <message id="cli.add.option.dryRun">
+      <source>Show what was understood without changing anything.</source>
+      <translation>แสดงสิ่งที่เข้าใจโดยไม่เปลี่ยนแปลงอะไร</translation>
+    </message>
+    <message id="cli.add.partial">
+      <source>Stopped: %1 What was made before stays; give the same sentence again to finish the rest without making anything twice.</source>
+      <translation>หยุดแล้ว: %1 สิ่งที่สร้างไปแล้วยังอยู่ ป้อนประโยคเดิมอีกครั้งเพื่อทำส่วนที่เหลือโดยไม่สร้างซ้ำ</translation>
+    </message>
+    <message id="cli.add.project">
+      <source>Project "%1"</source>
+      <translation>โปรเจกต์ "%1"</translation>
+    </message>
+    <message id="cli.add.spent">
+      <source>%1 already spent</source>
+      <translation>ใช้ไปแล้ว %1</translation>
+    </message>
+    <message id="cli.add.startTimer">
+      <source>Start the timer on "%1"</source>
+      <translation>เริ่มจับเวลา "%1"</translation>
+    </message>
+    <message id="cli.add.stopRunning">
+      <source>Stop the running timer</source>
+      <translation>หยุดตัวจับเวลาที่กำลังทำงาน</translation>
+    </message>
+    <message id="cli.add.stopTimer">
+      <source>Stop the timer on "%1"</source>
+      <translation>หยุดจับเวลา "%1"</translation>
+    </message>
+    <message id="cli.add.summary">
+      <source>Projects: %1 new, %2 existing. Tasks: %3 new, %4 existing. Time logged: %5.</source>
+      <translation>โปรเจกต์: ใหม่ %1 มีอยู่แล้ว %2 งาน: ใหม่ %3 มีอยู่แล้ว %4 เวลาที่บันทึก: %5</translation>
+    </message>
+    <message id="cli.add.task">
+      <source>Task "%1"</source>
+      <translation>งาน "%1"</translation>
+    </message>
+    <message id="cli.add.team">
+      <source>shared with team %1</source>
+      <translation>แชร์กับทีม %1</translation>
+    </message>
+    <message id="cli.add.timerStopped">
+      <source>Timer stopped on %1.</source>
+      <translation>หยุดจับเวลา %1 แล้ว</translation>
+    </message>
+    <message id="cli.add.understood">
+      <source>Understood:</source>
+      <translation>สิ่งที่เข้าใจ:</translation>
+    </message>
+    <message id="cli.add.unknown">
+      <source>Nothing to do: the sentence holds no project, task, time or timer action.</source>
+      <translation>ไม่มีอะไรต้องทำ ประโยคนี้ไม่มีโปรเจกต์ งาน เวลา หรือคำสั่งจับเวลา</translation>
+    </message>
+    <message id="cli.add.usage">
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>วิธีใช้: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.ai.consentAllowed">
+      <source>allowed</source>
+      <translation>อนุญาตแล้ว</translation>
+    </message>
+    <message id="cli.ai.consentAsk">
+      <source>not asked yet</source>
+      <translation>ยังไม่ได้ถาม</translation>
+    </message>
+    <message id="cli.ai.consentDeclined">
+      <source>declined</source>
+      <translation>ปฏิเสธแล้ว</translation>
+    </message>
+    <message id="cli.ai.keyFailed">
+      <source>The keyring did not take the key; nothing changed.</source>
+      <translation>พวงกุญแจไม่รับคีย์นี้ จึงไม่มีอะไรเปลี่ยนแปลง</translation>
+    </message>
+    <message id="cli.ai.keyMissing">
+      <source>No key was given; nothing changed.</source>
+      <translation>ไม่ได้ใส่คีย์ จึงไม่มีอะไรเปลี่ยนแปลง</translation>
+    </message>
+    <message id="cli.ai.keyPrompt">
+      <source>Paste your %1 API key and press Enter: </source>
+      <translation>วางคีย์ API ของ %1 แล้วกด Enter: </translation>
+    </message>
+    <message id="cli.ai.keyRemoved">
+      <source>The %1 key is no longer in your keyring.</source>
+      <translation>คีย์ %1 ไม่อยู่ในพวงกุญแจของคุณแล้ว</translation>
+    </message>
+    <message id="cli.ai.keySaved">
+      <source>The %1 key is in your keyring.</source>
+      <translation>คีย์ %1 อยู่ในพวงกุญแจของคุณแล้ว</translation>
+    </message>
+    <message id="cli.ai.keys">
+      <source>Your keys in the keyring: %1</source>
+      <translation>คีย์ของคุณในพวงกุญแจ: %1</translation>
+    </message>
+    <message id="cli.ai.option.remove">
+      <source>Remove the stored key instead of setting one.</source>
+      <translation>ลบคีย์ที่เก็บไว้แทนการตั้งคีย์ใหม่</translation>
+    </message>
+    <message id="cli.ai.provider">
+      <source>Provider setting: %1</source>
+      <translation>การตั้งค่าผู้ให้บริการ: %1</translation>
+    </message>
+    <message id="cli.ai.question">
+      <source>%1
+Send your text to %2 now and from now on? [y/N] </source>
+      <translation>%1
+ส่งข้อความของคุณไปยัง %2 ตอนนี้และต่อจากนี้หรือไม่? [y/N] </translation>
+    </message>
+    <message id="cli.ai.route">
+      <source>Calls go to: %1</source>
+      <translation>การเรียกจะส่งไปที่: %1</translation>
+    </message>
+    <message id="cli.ai.usage">
+      <source>Usage: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</source>
+      <translation>วิธีใช้: morvane ai show [--json] | provider auto|cliOnly|morvaneAIOnly|anthropicCustom|openAICustom|geminiCustom | key anthropic|openai|gemini [--remove] | consent morvaneAI|anthropic|openAI|gemini allow|deny|ask</translation>
+    </message>
+    <message id="cli.ai.yes">
+      <source>Agree to sending your text to the chosen AI service without being asked.</source>
+      <translation>ยินยอมให้ส่งข้อความไปยังบริการ AI ที่เลือกโดยไม่ต้องถาม</translation>
+    </message>
+    <message id="cli.ai.yesAnswers">
+      <source>y,yes</source>
+      <translation>y,yes,ใช่</translation>
     </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
@@ -448,6 +584,14 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.clients.yesAnswers">
       <source>y|yes</source>
       <translation>ใช่</translation>
+    </message>
+    <message id="cli.command.add">
+      <source>Turn a sentence into projects, tasks, logged time or a timer action: add "&lt;text&gt;" [--dry-run] [--json]</source>
+      <translation>เปลี่ยนประโยคเป็นโปรเจกต์ งาน เวลาที่บันทึก หรือคำสั่งจับเวลา: add "&lt;text&gt;" [--dry-run] [--json]</translation>
+    </message>
+    <message id="cli.command.ai">
+      <source>Where model calls go, your own API keys and what you agreed to send: ai show|provider|key|consent</source>
+      <translation>การเรียกโมเดลส่งไปที่ใด คีย์ API ของคุณเอง และสิ่งที่คุณยินยอมให้ส่ง: ai show|provider|key|consent</translation>
     </message>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
