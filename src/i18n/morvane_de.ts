@@ -404,8 +404,8 @@
       <translation>Nichts zu tun: Der Satz enthält kein Projekt, keine Aufgabe, keine Zeit und keine Timer-Aktion.</translation>
     </message>
     <message id="cli.add.usage">
-      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
-      <translation>Aufruf: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</source>
+      <translation>Aufruf: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</translation>
     </message>
     <message id="cli.ai.consentAllowed">
       <source>allowed</source>
@@ -637,6 +637,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>Projekte anzeigen, anlegen, umbenennen, archivieren oder löschen: projects list|add|rename|archive|rm</translation>
     </message>
+    <message id="cli.command.recap">
+      <source>A short recap of your tracked week, written by the model from your own figures: recap [--lang L]</source>
+      <translation>Ein kurzer Wochenrückblick auf deine erfasste Zeit, vom Modell aus deinen eigenen Zahlen geschrieben: recap [--lang L]</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Das lokale Backend starten, beenden oder anzeigen: server start|stop|status</translation>
@@ -644,6 +648,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="cli.command.sessions">
       <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
       <translation>Sitzungen des Coding-Agenten aus den lokalen Logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
+    </message>
+    <message id="cli.command.standup">
+      <source>A stand-up draft from your last workday, today and your open tasks: standup [--lang L]</source>
+      <translation>Ein Stand-up-Entwurf aus deinem letzten Arbeitstag, heute und deinen offenen Aufgaben: standup [--lang L]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -1241,6 +1249,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
       <translation>Aufruf: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
     </message>
+    <message id="cli.recap.usage">
+      <source>Usage: morvane recap [--lang L] [--json]</source>
+      <translation>Aufruf: morvane recap [--lang L] [--json]</translation>
+    </message>
     <message id="cli.ref.ambiguous">
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>"%1" passt auf mehrere: %2. Verwende die ID.</translation>
@@ -1424,6 +1436,18 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>
       <translation>Gesucht wurde nach Logs, die sich in den letzten %1 Tagen geändert haben, in %2.</translation>
+    </message>
+    <message id="cli.standup.usage">
+      <source>Usage: morvane standup [--lang L] [--json]</source>
+      <translation>Aufruf: morvane standup [--lang L] [--json]</translation>
+    </message>
+    <message id="cli.summary.fixed">
+      <source>Written from your figures alone; the model's text was not used (%1).</source>
+      <translation>Allein aus deinen Zahlen geschrieben; der Text des Modells wurde nicht verwendet (%1).</translation>
+    </message>
+    <message id="cli.summary.option.lang">
+      <source>Language of the text: en, nl, de, fr, es, it, pt, ja or th; others mean English. Default: the interface language.</source>
+      <translation>Sprache des Textes: en, nl, de, fr, es, it, pt, ja oder th; andere bedeuten Englisch. Standard: die Sprache der Oberfläche.</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>
@@ -2600,42 +2624,6 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="ui.composer.work">
       <source>Work</source>
       <translation>Arbeit</translation>
-    </message>
-    <message id="ui.design.boldDark">
-      <source>Bold dark</source>
-      <translation>Kräftig dunkel</translation>
-    </message>
-    <message id="ui.design.custom">
-      <source>Your own template</source>
-      <translation>Eigene Vorlage</translation>
-    </message>
-    <message id="ui.design.editorial">
-      <source>Editorial</source>
-      <translation>Editorial</translation>
-    </message>
-    <message id="ui.design.editorialMono">
-      <source>Editorial mono</source>
-      <translation>Editorial Mono</translation>
-    </message>
-    <message id="ui.design.lightMinimalAccent">
-      <source>Light, minimal accent</source>
-      <translation>Hell, dezenter Akzent</translation>
-    </message>
-    <message id="ui.design.minimalistMono">
-      <source>Minimalist mono</source>
-      <translation>Minimalistisch Mono</translation>
-    </message>
-    <message id="ui.design.modernRibbon">
-      <source>Modern ribbon</source>
-      <translation>Modernes Band</translation>
-    </message>
-    <message id="ui.design.pastelModern">
-      <source>Pastel modern</source>
-      <translation>Modern Pastell</translation>
-    </message>
-    <message id="ui.design.signatureEditorial">
-      <source>Signature editorial</source>
-      <translation>Editorial mit Signatur</translation>
     </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>

@@ -404,8 +404,8 @@
       <translation>Rien à faire : la phrase ne contient ni projet, ni tâche, ni temps, ni action de minuteur.</translation>
     </message>
     <message id="cli.add.usage">
-      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
-      <translation>Utilisation : morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</source>
+      <translation>Utilisation : morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</translation>
     </message>
     <message id="cli.ai.consentAllowed">
       <source>allowed</source>
@@ -637,6 +637,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>Lister, ajouter, renommer, archiver ou supprimer des projets : projects list|add|rename|archive|rm</translation>
     </message>
+    <message id="cli.command.recap">
+      <source>A short recap of your tracked week, written by the model from your own figures: recap [--lang L]</source>
+      <translation>Un court bilan de votre semaine suivie, rédigé par le modèle à partir de vos propres chiffres : recap [--lang L]</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Démarrer, arrêter ou afficher le serveur local : server start|stop|status</translation>
@@ -644,6 +648,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="cli.command.sessions">
       <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
       <translation>Sessions de l'agent de code trouvées dans les journaux locaux : sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
+    </message>
+    <message id="cli.command.standup">
+      <source>A stand-up draft from your last workday, today and your open tasks: standup [--lang L]</source>
+      <translation>Un brouillon de stand-up à partir de votre dernier jour travaillé, d'aujourd'hui et de vos tâches ouvertes : standup [--lang L]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -1241,6 +1249,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
       <translation>Utilisation : morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
     </message>
+    <message id="cli.recap.usage">
+      <source>Usage: morvane recap [--lang L] [--json]</source>
+      <translation>Utilisation : morvane recap [--lang L] [--json]</translation>
+    </message>
     <message id="cli.ref.ambiguous">
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>« %1 » correspond à plusieurs éléments : %2. Utilisez l’identifiant.</translation>
@@ -1424,6 +1436,18 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>
       <translation>Recherche des journaux modifiés ces %1 derniers jours dans %2.</translation>
+    </message>
+    <message id="cli.standup.usage">
+      <source>Usage: morvane standup [--lang L] [--json]</source>
+      <translation>Utilisation : morvane standup [--lang L] [--json]</translation>
+    </message>
+    <message id="cli.summary.fixed">
+      <source>Written from your figures alone; the model's text was not used (%1).</source>
+      <translation>Rédigé à partir de vos seuls chiffres ; le texte du modèle n'a pas été utilisé (%1).</translation>
+    </message>
+    <message id="cli.summary.option.lang">
+      <source>Language of the text: en, nl, de, fr, es, it, pt, ja or th; others mean English. Default: the interface language.</source>
+      <translation>Langue du texte : en, nl, de, fr, es, it, pt, ja ou th ; toute autre donne l'anglais. Par défaut : la langue de l'interface.</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>
@@ -2600,42 +2624,6 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="ui.composer.work">
       <source>Work</source>
       <translation>Travail</translation>
-    </message>
-    <message id="ui.design.boldDark">
-      <source>Bold dark</source>
-      <translation>Sombre affirmé</translation>
-    </message>
-    <message id="ui.design.custom">
-      <source>Your own template</source>
-      <translation>Votre propre modèle</translation>
-    </message>
-    <message id="ui.design.editorial">
-      <source>Editorial</source>
-      <translation>Éditorial</translation>
-    </message>
-    <message id="ui.design.editorialMono">
-      <source>Editorial mono</source>
-      <translation>Éditorial mono</translation>
-    </message>
-    <message id="ui.design.lightMinimalAccent">
-      <source>Light, minimal accent</source>
-      <translation>Clair, accent discret</translation>
-    </message>
-    <message id="ui.design.minimalistMono">
-      <source>Minimalist mono</source>
-      <translation>Minimaliste mono</translation>
-    </message>
-    <message id="ui.design.modernRibbon">
-      <source>Modern ribbon</source>
-      <translation>Ruban moderne</translation>
-    </message>
-    <message id="ui.design.pastelModern">
-      <source>Pastel modern</source>
-      <translation>Pastel moderne</translation>
-    </message>
-    <message id="ui.design.signatureEditorial">
-      <source>Signature editorial</source>
-      <translation>Éditorial signature</translation>
     </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>

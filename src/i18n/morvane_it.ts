@@ -404,8 +404,8 @@
       <translation>Niente da fare: la frase non contiene progetti, attività, tempo né azioni sul timer.</translation>
     </message>
     <message id="cli.add.usage">
-      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
-      <translation>Uso: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</source>
+      <translation>Uso: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</translation>
     </message>
     <message id="cli.ai.consentAllowed">
       <source>allowed</source>
@@ -637,6 +637,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>Elencare, aggiungere, rinominare, archiviare o eliminare progetti: projects list|add|rename|archive|rm</translation>
     </message>
+    <message id="cli.command.recap">
+      <source>A short recap of your tracked week, written by the model from your own figures: recap [--lang L]</source>
+      <translation>Un breve riepilogo della tua settimana registrata, scritto dal modello a partire dai tuoi dati: recap [--lang L]</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Avvia, ferma o mostra il server locale: server start|stop|status</translation>
@@ -644,6 +648,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="cli.command.sessions">
       <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
       <translation>Sessioni dell'agente di codice trovate nei log locali: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
+    </message>
+    <message id="cli.command.standup">
+      <source>A stand-up draft from your last workday, today and your open tasks: standup [--lang L]</source>
+      <translation>Una bozza di stand-up dal tuo ultimo giorno di lavoro, da oggi e dalle tue attività aperte: standup [--lang L]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -1241,6 +1249,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
       <translation>Uso: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
     </message>
+    <message id="cli.recap.usage">
+      <source>Usage: morvane recap [--lang L] [--json]</source>
+      <translation>Uso: morvane recap [--lang L] [--json]</translation>
+    </message>
     <message id="cli.ref.ambiguous">
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>"%1" corrisponde a più elementi: %2. Usa l’id.</translation>
@@ -1424,6 +1436,18 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>
       <translation>Cercati i log cambiati negli ultimi %1 giorni in %2.</translation>
+    </message>
+    <message id="cli.standup.usage">
+      <source>Usage: morvane standup [--lang L] [--json]</source>
+      <translation>Uso: morvane standup [--lang L] [--json]</translation>
+    </message>
+    <message id="cli.summary.fixed">
+      <source>Written from your figures alone; the model's text was not used (%1).</source>
+      <translation>Scritto solo a partire dai tuoi dati; il testo del modello non è stato usato (%1).</translation>
+    </message>
+    <message id="cli.summary.option.lang">
+      <source>Language of the text: en, nl, de, fr, es, it, pt, ja or th; others mean English. Default: the interface language.</source>
+      <translation>Lingua del testo: en, nl, de, fr, es, it, pt, ja o th; qualsiasi altra vale inglese. Predefinita: la lingua dell'interfaccia.</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>
@@ -2600,42 +2624,6 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="ui.composer.work">
       <source>Work</source>
       <translation>Lavoro</translation>
-    </message>
-    <message id="ui.design.boldDark">
-      <source>Bold dark</source>
-      <translation>Scuro deciso</translation>
-    </message>
-    <message id="ui.design.custom">
-      <source>Your own template</source>
-      <translation>Il tuo modello</translation>
-    </message>
-    <message id="ui.design.editorial">
-      <source>Editorial</source>
-      <translation>Editoriale</translation>
-    </message>
-    <message id="ui.design.editorialMono">
-      <source>Editorial mono</source>
-      <translation>Editoriale mono</translation>
-    </message>
-    <message id="ui.design.lightMinimalAccent">
-      <source>Light, minimal accent</source>
-      <translation>Chiaro, accento discreto</translation>
-    </message>
-    <message id="ui.design.minimalistMono">
-      <source>Minimalist mono</source>
-      <translation>Minimalista mono</translation>
-    </message>
-    <message id="ui.design.modernRibbon">
-      <source>Modern ribbon</source>
-      <translation>Nastro moderno</translation>
-    </message>
-    <message id="ui.design.pastelModern">
-      <source>Pastel modern</source>
-      <translation>Pastello moderno</translation>
-    </message>
-    <message id="ui.design.signatureEditorial">
-      <source>Signature editorial</source>
-      <translation>Editoriale firma</translation>
     </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>

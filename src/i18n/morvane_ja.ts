@@ -404,8 +404,8 @@
       <translation>何もすることがありません。文にプロジェクト、タスク、時間、タイマー操作が含まれていません。</translation>
     </message>
     <message id="cli.add.usage">
-      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
-      <translation>使い方: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</source>
+      <translation>使い方: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</translation>
     </message>
     <message id="cli.ai.consentAllowed">
       <source>allowed</source>
@@ -637,6 +637,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>プロジェクトの一覧・追加・名前変更・アーカイブ・削除: projects list|add|rename|archive|rm</translation>
     </message>
+    <message id="cli.command.recap">
+      <source>A short recap of your tracked week, written by the model from your own figures: recap [--lang L]</source>
+      <translation>記録した1週間の短い振り返り。あなた自身の数値をもとにモデルが書きます: recap [--lang L]</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>ローカルバックエンドを起動・停止・表示します: server start|stop|status</translation>
@@ -644,6 +648,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.command.sessions">
       <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
       <translation>ローカルログにあるコーディングエージェントのセッション: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
+    </message>
+    <message id="cli.command.standup">
+      <source>A stand-up draft from your last workday, today and your open tasks: standup [--lang L]</source>
+      <translation>前回の稼働日、今日、未完了のタスクから作るスタンドアップの下書き: standup [--lang L]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -1241,6 +1249,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
       <translation>使い方: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
     </message>
+    <message id="cli.recap.usage">
+      <source>Usage: morvane recap [--lang L] [--json]</source>
+      <translation>使い方: morvane recap [--lang L] [--json]</translation>
+    </message>
     <message id="cli.ref.ambiguous">
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>「%1」は複数に一致します: %2。IDを使ってください。</translation>
@@ -1424,6 +1436,18 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>
       <translation>%2 で過去 %1 日間に変更されたログを探しました。</translation>
+    </message>
+    <message id="cli.standup.usage">
+      <source>Usage: morvane standup [--lang L] [--json]</source>
+      <translation>使い方: morvane standup [--lang L] [--json]</translation>
+    </message>
+    <message id="cli.summary.fixed">
+      <source>Written from your figures alone; the model's text was not used (%1).</source>
+      <translation>あなたの数値だけから作成しました。モデルの文章は使っていません（%1）。</translation>
+    </message>
+    <message id="cli.summary.option.lang">
+      <source>Language of the text: en, nl, de, fr, es, it, pt, ja or th; others mean English. Default: the interface language.</source>
+      <translation>文章の言語: en、nl、de、fr、es、it、pt、ja、th のいずれか。それ以外は英語になります。既定: インターフェースの言語。</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>
@@ -2600,42 +2624,6 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.composer.work">
       <source>Work</source>
       <translation>作業</translation>
-    </message>
-    <message id="ui.design.boldDark">
-      <source>Bold dark</source>
-      <translation>ボールド・ダーク</translation>
-    </message>
-    <message id="ui.design.custom">
-      <source>Your own template</source>
-      <translation>独自のテンプレート</translation>
-    </message>
-    <message id="ui.design.editorial">
-      <source>Editorial</source>
-      <translation>エディトリアル</translation>
-    </message>
-    <message id="ui.design.editorialMono">
-      <source>Editorial mono</source>
-      <translation>エディトリアル・モノ</translation>
-    </message>
-    <message id="ui.design.lightMinimalAccent">
-      <source>Light, minimal accent</source>
-      <translation>ライト・控えめなアクセント</translation>
-    </message>
-    <message id="ui.design.minimalistMono">
-      <source>Minimalist mono</source>
-      <translation>ミニマル・モノ</translation>
-    </message>
-    <message id="ui.design.modernRibbon">
-      <source>Modern ribbon</source>
-      <translation>モダン・リボン</translation>
-    </message>
-    <message id="ui.design.pastelModern">
-      <source>Pastel modern</source>
-      <translation>パステル・モダン</translation>
-    </message>
-    <message id="ui.design.signatureEditorial">
-      <source>Signature editorial</source>
-      <translation>シグネチャー・エディトリアル</translation>
     </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>

@@ -404,8 +404,8 @@
       <translation>Niets te doen: de zin bevat geen project, taak, tijd of timeractie.</translation>
     </message>
     <message id="cli.add.usage">
-      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
-      <translation>Gebruik: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</source>
+      <translation>Gebruik: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</translation>
     </message>
     <message id="cli.ai.consentAllowed">
       <source>allowed</source>
@@ -637,6 +637,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>Projecten tonen, toevoegen, hernoemen, archiveren of verwijderen: projects list|add|rename|archive|rm</translation>
     </message>
+    <message id="cli.command.recap">
+      <source>A short recap of your tracked week, written by the model from your own figures: recap [--lang L]</source>
+      <translation>Een korte terugblik op je geregistreerde week, door het model geschreven uit je eigen cijfers: recap [--lang L]</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>Start, stop of toon de lokale backend: server start|stop|status</translation>
@@ -644,6 +648,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
     <message id="cli.command.sessions">
       <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
       <translation>Sessies van de codeeragent uit de lokale logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
+    </message>
+    <message id="cli.command.standup">
+      <source>A stand-up draft from your last workday, today and your open tasks: standup [--lang L]</source>
+      <translation>Een opzet voor je stand-up uit je laatste werkdag, vandaag en je openstaande taken: standup [--lang L]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -1241,6 +1249,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
       <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
       <translation>Gebruik: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
     </message>
+    <message id="cli.recap.usage">
+      <source>Usage: morvane recap [--lang L] [--json]</source>
+      <translation>Gebruik: morvane recap [--lang L] [--json]</translation>
+    </message>
     <message id="cli.ref.ambiguous">
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>"%1" past bij meerdere: %2. Gebruik de id.</translation>
@@ -1424,6 +1436,18 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>
       <translation>Gezocht naar logs die in de laatste %1 dagen zijn gewijzigd, in %2.</translation>
+    </message>
+    <message id="cli.standup.usage">
+      <source>Usage: morvane standup [--lang L] [--json]</source>
+      <translation>Gebruik: morvane standup [--lang L] [--json]</translation>
+    </message>
+    <message id="cli.summary.fixed">
+      <source>Written from your figures alone; the model's text was not used (%1).</source>
+      <translation>Alleen uit je eigen cijfers geschreven; de tekst van het model is niet gebruikt (%1).</translation>
+    </message>
+    <message id="cli.summary.option.lang">
+      <source>Language of the text: en, nl, de, fr, es, it, pt, ja or th; others mean English. Default: the interface language.</source>
+      <translation>Taal van de tekst: en, nl, de, fr, es, it, pt, ja of th; een andere betekent Engels. Standaard: de taal van de interface.</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>
@@ -2600,42 +2624,6 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
     <message id="ui.composer.work">
       <source>Work</source>
       <translation>Werk</translation>
-    </message>
-    <message id="ui.design.boldDark">
-      <source>Bold dark</source>
-      <translation>Krachtig donker</translation>
-    </message>
-    <message id="ui.design.custom">
-      <source>Your own template</source>
-      <translation>Je eigen sjabloon</translation>
-    </message>
-    <message id="ui.design.editorial">
-      <source>Editorial</source>
-      <translation>Editoriaal</translation>
-    </message>
-    <message id="ui.design.editorialMono">
-      <source>Editorial mono</source>
-      <translation>Editoriaal mono</translation>
-    </message>
-    <message id="ui.design.lightMinimalAccent">
-      <source>Light, minimal accent</source>
-      <translation>Licht, ingetogen accent</translation>
-    </message>
-    <message id="ui.design.minimalistMono">
-      <source>Minimalist mono</source>
-      <translation>Minimalistisch mono</translation>
-    </message>
-    <message id="ui.design.modernRibbon">
-      <source>Modern ribbon</source>
-      <translation>Modern lint</translation>
-    </message>
-    <message id="ui.design.pastelModern">
-      <source>Pastel modern</source>
-      <translation>Modern pastel</translation>
-    </message>
-    <message id="ui.design.signatureEditorial">
-      <source>Signature editorial</source>
-      <translation>Editoriaal met handtekening</translation>
     </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>

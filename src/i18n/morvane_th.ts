@@ -404,8 +404,8 @@
       <translation>ไม่มีอะไรต้องทำ ประโยคนี้ไม่มีโปรเจกต์ งาน เวลา หรือคำสั่งจับเวลา</translation>
     </message>
     <message id="cli.add.usage">
-      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--json]</source>
-      <translation>วิธีใช้: morvane add "&lt;text&gt;" [--dry-run] [--json]</translation>
+      <source>Usage: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</source>
+      <translation>วิธีใช้: morvane add "&lt;text&gt;" [--dry-run] [--yes] [--json]</translation>
     </message>
     <message id="cli.ai.consentAllowed">
       <source>allowed</source>
@@ -637,6 +637,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>List, add, rename, archive or delete projects: projects list|add|rename|archive|rm</source>
       <translation>แสดง เพิ่ม เปลี่ยนชื่อ เก็บถาวร หรือลบโปรเจกต์: projects list|add|rename|archive|rm</translation>
     </message>
+    <message id="cli.command.recap">
+      <source>A short recap of your tracked week, written by the model from your own figures: recap [--lang L]</source>
+      <translation>สรุปสั้น ๆ ของสัปดาห์ที่คุณบันทึกเวลาไว้ เขียนโดยโมเดลจากตัวเลขของคุณเอง: recap [--lang L]</translation>
+    </message>
     <message id="cli.command.server">
       <source>Start, stop or show the local backend: server start|stop|status</source>
       <translation>เริ่ม หยุด หรือแสดงแบ็กเอนด์ในเครื่อง: server start|stop|status</translation>
@@ -644,6 +648,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.command.sessions">
       <source>Coding-agent sessions found in the local logs: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</source>
       <translation>เซสชันของเอเจนต์เขียนโค้ดที่พบในล็อกบนเครื่อง: sessions list [--days N] [--json] | scan | map | ignore | reimport | track</translation>
+    </message>
+    <message id="cli.command.standup">
+      <source>A stand-up draft from your last workday, today and your open tasks: standup [--lang L]</source>
+      <translation>ร่างสแตนด์อัปจากวันทำงานล่าสุด วันนี้ และงานที่ยังค้างอยู่ของคุณ: standup [--lang L]</translation>
     </message>
     <message id="cli.command.tasks">
       <source>List, add, edit, move or delete tasks: tasks list|add|edit|move|status|rm</source>
@@ -1241,6 +1249,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Usage: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</source>
       <translation>วิธีใช้: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
     </message>
+    <message id="cli.recap.usage">
+      <source>Usage: morvane recap [--lang L] [--json]</source>
+      <translation>วิธีใช้: morvane recap [--lang L] [--json]</translation>
+    </message>
     <message id="cli.ref.ambiguous">
       <source>"%1" matches several: %2. Use the id.</source>
       <translation>"%1" ตรงกับหลายรายการ: %2 โปรดใช้ id</translation>
@@ -1424,6 +1436,18 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.sessions.where">
       <source>Looked for logs changed in the last %1 days in %2.</source>
       <translation>ค้นหาล็อกที่เปลี่ยนในช่วง %1 วันที่ผ่านมาใน %2</translation>
+    </message>
+    <message id="cli.standup.usage">
+      <source>Usage: morvane standup [--lang L] [--json]</source>
+      <translation>วิธีใช้: morvane standup [--lang L] [--json]</translation>
+    </message>
+    <message id="cli.summary.fixed">
+      <source>Written from your figures alone; the model's text was not used (%1).</source>
+      <translation>เขียนจากตัวเลขของคุณเท่านั้น ไม่ได้ใช้ข้อความจากโมเดล (%1)</translation>
+    </message>
+    <message id="cli.summary.option.lang">
+      <source>Language of the text: en, nl, de, fr, es, it, pt, ja or th; others mean English. Default: the interface language.</source>
+      <translation>ภาษาของข้อความ: en, nl, de, fr, es, it, pt, ja หรือ th ถ้าเป็นค่าอื่นจะใช้ภาษาอังกฤษ ค่าเริ่มต้น: ภาษาของอินเทอร์เฟซ</translation>
     </message>
     <message id="cli.tasks.added">
       <source>Added task %1 (%2) to %3.</source>
@@ -2600,42 +2624,6 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.composer.work">
       <source>Work</source>
       <translation>งาน</translation>
-    </message>
-    <message id="ui.design.boldDark">
-      <source>Bold dark</source>
-      <translation>เข้มหนา</translation>
-    </message>
-    <message id="ui.design.custom">
-      <source>Your own template</source>
-      <translation>เทมเพลตของคุณเอง</translation>
-    </message>
-    <message id="ui.design.editorial">
-      <source>Editorial</source>
-      <translation>บรรณาธิการ</translation>
-    </message>
-    <message id="ui.design.editorialMono">
-      <source>Editorial mono</source>
-      <translation>บรรณาธิการ โมโน</translation>
-    </message>
-    <message id="ui.design.lightMinimalAccent">
-      <source>Light, minimal accent</source>
-      <translation>สว่าง เน้นสีเล็กน้อย</translation>
-    </message>
-    <message id="ui.design.minimalistMono">
-      <source>Minimalist mono</source>
-      <translation>มินิมอล โมโน</translation>
-    </message>
-    <message id="ui.design.modernRibbon">
-      <source>Modern ribbon</source>
-      <translation>ริบบิ้นโมเดิร์น</translation>
-    </message>
-    <message id="ui.design.pastelModern">
-      <source>Pastel modern</source>
-      <translation>พาสเทลโมเดิร์น</translation>
-    </message>
-    <message id="ui.design.signatureEditorial">
-      <source>Signature editorial</source>
-      <translation>บรรณาธิการ ซิกเนเจอร์</translation>
     </message>
     <message id="ui.earnings.barName">
       <source>%1: earned %2, billed %3, unbilled %4</source>

@@ -4,6 +4,7 @@
 #include "invoicing/invoicehtmlrenderer.h"
 #include "store/invoicedocuments.h"
 #include "ui/invoiceprinter.h"
+#include "ui/invoicestyleview.h"
 
 #include <QPointer>
 
@@ -15,41 +16,6 @@ namespace {
 
 // Sharp at the preview pane's width on a screen of twice the density.
 constexpr int previewWidth = 1200;
-
-QString designTitle(InvoiceHTMLRenderer::Template design)
-{
-    using enum InvoiceHTMLRenderer::Template;
-    switch (design) {
-    case AiCustom:
-        //% "Your own template"
-        return qtTrId("ui.design.custom");
-    case LightMinimalAccent:
-        //% "Light, minimal accent"
-        return qtTrId("ui.design.lightMinimalAccent");
-    case EditorialMono:
-        //% "Editorial mono"
-        return qtTrId("ui.design.editorialMono");
-    case ModernRibbon:
-        //% "Modern ribbon"
-        return qtTrId("ui.design.modernRibbon");
-    case SignatureEditorial:
-        //% "Signature editorial"
-        return qtTrId("ui.design.signatureEditorial");
-    case BoldDark:
-        //% "Bold dark"
-        return qtTrId("ui.design.boldDark");
-    case Editorial:
-        //% "Editorial"
-        return qtTrId("ui.design.editorial");
-    case PastelModern:
-        //% "Pastel modern"
-        return qtTrId("ui.design.pastelModern");
-    case MinimalistMono:
-        //% "Minimalist mono"
-        return qtTrId("ui.design.minimalistMono");
-    }
-    return {};
-}
 
 QString hoursText(qint64 seconds)
 {
@@ -181,7 +147,7 @@ QVariantList ComposerView::designs()
                                   //% "As in the invoice style"
                                   {u"title"_s, qtTrId("ui.composer.houseDesign")}}};
     for (const Template design : builtInDesigns()) {
-        list << QVariantMap{{u"name"_s, templateName(design)}, {u"title"_s, designTitle(design)}};
+        list << QVariantMap{{u"name"_s, templateName(design)}, {u"title"_s, InvoiceStyleView::designTitle(design)}};
     }
     return list;
 }

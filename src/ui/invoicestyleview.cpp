@@ -59,7 +59,22 @@ const QList<Key> &keys()
     return all;
 }
 
-QString designTitle(InvoiceHTMLRenderer::Template design)
+
+QList<InvoiceHTMLRenderer::Template> shownDesigns(const InvoiceStyle &style)
+{
+    QList<InvoiceHTMLRenderer::Template> designs = InvoiceHTMLRenderer::builtInDesigns();
+    if (!style.customTemplateHtml.value_or(QString()).trimmed().isEmpty()) {
+        designs.append(InvoiceHTMLRenderer::Template::AiCustom);
+    }
+    return designs;
+}
+
+// Thumbnails are shown at half this width, sharp on a screen of double density.
+constexpr int thumbnailWidth = 320;
+
+} // namespace
+
+QString InvoiceStyleView::designTitle(InvoiceHTMLRenderer::Template design)
 {
     using enum InvoiceHTMLRenderer::Template;
     switch (design) {
@@ -93,20 +108,6 @@ QString designTitle(InvoiceHTMLRenderer::Template design)
     }
     return {};
 }
-
-QList<InvoiceHTMLRenderer::Template> shownDesigns(const InvoiceStyle &style)
-{
-    QList<InvoiceHTMLRenderer::Template> designs = InvoiceHTMLRenderer::builtInDesigns();
-    if (!style.customTemplateHtml.value_or(QString()).trimmed().isEmpty()) {
-        designs.append(InvoiceHTMLRenderer::Template::AiCustom);
-    }
-    return designs;
-}
-
-// Thumbnails are shown at half this width, sharp on a screen of double density.
-constexpr int thumbnailWidth = 320;
-
-} // namespace
 
 InvoiceStyleView::InvoiceStyleView(QObject *parent)
     : QObject(parent)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "invoicing/invoicehtmlrenderer.h"
 #include "model/invoicestyle.h"
 #include "store/appstore.h"
 
@@ -69,6 +70,8 @@ public:
     [[nodiscard]] static std::optional<InvoiceStyle> styleOf(const QVariantMap &form, InvoiceStyle base,
                                                              QString *problem = nullptr);
     [[nodiscard]] static QVariantMap formOf(const InvoiceStyle &style);
+    // A design's name as the person reads it, here and in the composer.
+    [[nodiscard]] static QString designTitle(InvoiceHTMLRenderer::Template design);
 
 signals:
     void savedChanged();
