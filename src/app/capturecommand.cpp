@@ -206,12 +206,13 @@ int runAddCommand(const QStringList &arguments, QTextStream &out, QTextStream &e
     const QCommandLineOption help({u"h"_s, u"help"_s}, qtTrId("cli.option.help"));
     //% "Show what was understood without changing anything."
     const QCommandLineOption dryRun(u"dry-run"_s, qtTrId("cli.add.option.dryRun"));
-    parser.addOptions({help, dryRun});
+    const QCommandLineOption yes = Cli::yesOption();
+    parser.addOptions({help, dryRun, yes});
     parser.addPositionalArgument(u"text"_s, qtTrId("cli.command.add"));
     if (!Cli::parse(parser, arguments, err)) {
         return 2;
     }
-    //% "Usage: morvane add \"<text>\" [--dry-run] [--json]"
+    //% "Usage: morvane add \"<text>\" [--dry-run] [--yes] [--json]"
     const QString usageText = qtTrId("cli.add.usage");
     if (parser.isSet(help)) {
         out << usageText << u"\n\n"_s << parser.helpText();
@@ -231,6 +232,7 @@ int runAddCommand(const QStringList &arguments, QTextStream &out, QTextStream &e
 
     auto settings = std::make_shared<QSettings>();
     ClaudeBridge bridge(settings);
+    Cli::connectAI(bridge, session, parser.isSet(yes), err);
     CaptureHistory history(bridge);
     QStringList names;
     for (const Project &project : store.projects()) {

@@ -7,6 +7,7 @@
 #include "sessions/claudebridge.h"
 #include "sessions/claudebridgeerror.h"
 #include "store/storedevice.h"
+#include "support/morvanecli.h"
 #include "support/testbackend.h"
 
 #include <QJsonDocument>
@@ -292,6 +293,39 @@ private slots:
                  QByteArray("1:2:1800"));
         // Done in full, the sentence is forgotten: said again, it is new work.
         QVERIFY(journal.doneSteps(sentence).isEmpty());
+    }
+
+    // The command as a person runs it: what was understood and done, the JSON of both, and a
+    // dry run that changes nothing.
+    void commandLine()
+    {
+        MorvaneCli cli(m_backend);
+        QCOMPARE(cli(u"auth signup cli@example.nl"_s, "terminal secret\n").code, 0);
+        const auto add = [&](const QStringList &arguments, const QByteArray &answer, const QString &mode = u"result"_s) {
+            QProcessEnvironment environment = cli.environment();
+            environment.insert(u"CLAUDE_CLI_PATH"_s, QStringLiteral(FAKE_CLAUDE_PROGRAM));
+            environment.insert(u"FAKE_CLAUDE_MODE"_s, mode);
+            environment.insert(u"FAKE_CLAUDE_TEXT"_s, QString::fromUtf8(answer));
+            return MorvaneCli::finish(*cli.start(QStringList{u"add"_s} + arguments, environment));
+        };
+        const QByteArray answer = q("{'intent':'create_projects','projects':[{'name':'Garden','tasks':"
+                                    "[{'title':'Write intro','due_date':'2026-12-01','minutes':45}]}]}");
+        const MorvaneCli::Run dry = add({u"Garden: write the intro by 1 December, 45 minutes done"_s, u"--dry-run"_s}, answer);
+        QCOMPARE(dry.code, 0);
+        QCOMPARE(dry.out, u"Understood:\n  Project \"Garden\"\n    Task \"Write intro\" (Medium, due 2026-12-01, 0:45:00 "
+                          u"already spent)\nNothing was changed (--dry-run).\n"_s.replace(u"0:45:00"_s, TimerStore::format(2700)));
+
+        const MorvaneCli::Run applied = add({u"Garden: write the intro"_s, u"--json"_s}, answer);
+        QCOMPARE(applied.code, 0);
+        const QJsonObject outcome = applied.object().value(u"outcome"_s).toObject();
+        QCOMPARE(applied.object().value(u"result"_s).toObject(), object(answer));
+        QCOMPARE(outcome.value(u"projects_created"_s).toInt(), 1);
+        QCOMPARE(outcome.value(u"minutes_logged"_s).toDouble(), 45.0);
+        QCOMPARE(outcome.value(u"focus_task_id"_s).toString(), outcome.value(u"new_task_ids"_s).toArray().at(0).toString());
+
+        const MorvaneCli::Run failed = add({u"hmm"_s}, {}, u"noobject"_s);
+        QCOMPARE(failed.code, 1);
+        QVERIFY2(failed.err.startsWith(u"Morvane could not make sense of that."_s), qPrintable(failed.err));
     }
 
     void modelFailureIsKeptInTheHistory()
