@@ -125,16 +125,19 @@ QString systemPrompt(const QStringList &knownProjects, const QString &todayISO, 
 
 QString jsonSchema()
 {
-    // Every key is required and may be null, the form strict structured output accepts.
+    // Every key is required and may be null, the form strict structured output accepts. The task
+    // shape is written out in both places: not every route resolves "$ref".
+    const QString task =
+        uR"({"type":"object","additionalProperties":false,)"
+        uR"("required":["title","description","priority","due_date","hourly_rate","total_price","minutes"],)"
+        uR"("properties":{"title":{"type":"string"},"description":{"type":["string","null"]},)"
+        uR"("priority":{"type":["string","null"],"enum":["low","medium","high",null]},)"
+        uR"("due_date":{"type":["string","null"],"pattern":"^[0-9]{4}-[0-9]{2}-[0-9]{2}$"},)"
+        uR"("hourly_rate":{"type":["number","null"]},"total_price":{"type":["number","null"]},)"
+        uR"("minutes":{"type":["number","null"]}}})"_s;
+    const QString tasks = uR"({"type":["array","null"],"items":)"_s + task + u'}';
     return uR"({"type":"object","additionalProperties":false,)"
            uR"("required":["intent","projects","project_name","project_hourly_rate","tasks","task_title","minutes","notes"],)"
-           uR"("$defs":{"task":{"type":"object","additionalProperties":false,)"
-           uR"("required":["title","description","priority","due_date","hourly_rate","total_price","minutes"],)"
-           uR"("properties":{"title":{"type":"string"},"description":{"type":["string","null"]},)"
-           uR"("priority":{"type":["string","null"],"enum":["low","medium","high",null]},)"
-           uR"("due_date":{"type":["string","null"],"pattern":"^[0-9]{4}-[0-9]{2}-[0-9]{2}$"},)"
-           uR"("hourly_rate":{"type":["number","null"]},"total_price":{"type":["number","null"]},)"
-           uR"("minutes":{"type":["number","null"]}}}},)"
            uR"("properties":{)"
            uR"("intent":{"type":"string","enum":["create_project","create_projects","create_task","start_timer",)"
            uR"("stop_timer","log_time","unknown"]},)"
@@ -142,11 +145,12 @@ QString jsonSchema()
            uR"("required":["name","description","hourly_rate","total_price","team_name","tasks"],)"
            uR"("properties":{"name":{"type":"string"},"description":{"type":["string","null"]},)"
            uR"("hourly_rate":{"type":["number","null"]},"total_price":{"type":["number","null"]},)"
-           uR"("team_name":{"type":["string","null"]},)"
-           uR"("tasks":{"type":["array","null"],"items":{"$ref":"#/$defs/task"}}}}},)"
-           uR"("project_name":{"type":["string","null"]},"project_hourly_rate":{"type":["number","null"]},)"
-           uR"("tasks":{"type":["array","null"],"items":{"$ref":"#/$defs/task"}},)"
-           uR"("task_title":{"type":["string","null"]},"minutes":{"type":["number","null"]},)"
+           uR"("team_name":{"type":["string","null"]},"tasks":)"_s +
+           tasks +
+           uR"(}}},"project_name":{"type":["string","null"]},"project_hourly_rate":{"type":["number","null"]},)"
+           uR"("tasks":)"_s +
+           tasks +
+           uR"(,"task_title":{"type":["string","null"]},"minutes":{"type":["number","null"]},)"
            uR"("notes":{"type":["string","null"]}}})"_s;
 }
 

@@ -124,6 +124,34 @@ private slots:
         QCOMPARE(ParseDates::calendar(u"next week"_s, zone), u"TODAY: next week (time zone Europe/Amsterdam)."_s);
     }
 
+    // The schema the model must follow names exactly the keys the records read.
+    void schemaMatchesTheRecords()
+    {
+        QJsonParseError error{};
+        const QJsonObject schema = QJsonDocument::fromJson(CapturePrompt::jsonSchema().toUtf8(), &error).object();
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        // The required keys, which must also be every property (QJsonObject::keys() is sorted).
+        const auto keys = [](const QJsonObject &shape) {
+            QStringList required = shape.value(u"required"_s).toVariant().toStringList();
+            required.sort();
+            return required == shape.value(u"properties"_s).toObject().keys() ? required : QStringList{u"mismatch"_s};
+        };
+        const auto wireKeys = [](auto record) {
+            QStringList names;
+            std::apply([&](const auto &...fields) { ((names << QString::fromLatin1(fields.key.data(), qsizetype(fields.key.size()))), ...); },
+                       decltype(record)::wireFields());
+            names.sort();
+            return names;
+        };
+        const QJsonObject properties = schema.value(u"properties"_s).toObject();
+        const QJsonObject project = properties.value(u"projects"_s).toObject().value(u"items"_s).toObject();
+        QCOMPARE(keys(schema), wireKeys(AIParseResult{}));
+        QCOMPARE(keys(project), wireKeys(AIProjectDraft{}));
+        QCOMPARE(keys(properties.value(u"tasks"_s).toObject().value(u"items"_s).toObject()), wireKeys(AITaskDraft{}));
+        QCOMPARE(keys(project.value(u"properties"_s).toObject().value(u"tasks"_s).toObject().value(u"items"_s).toObject()),
+                 wireKeys(AITaskDraft{}));
+    }
+
     void hostileAnswer_data()
     {
         QTest::addColumn<QByteArray>("answer");
