@@ -54,7 +54,12 @@ public:
         switch (result.intent) {
         case AIIntent::CreateProject:
         case AIIntent::CreateProjects: {
-            const QList<AIProjectDraft> drafts = result.projects.value_or(QList<AIProjectDraft>());
+            QList<AIProjectDraft> drafts = result.projects.value_or(QList<AIProjectDraft>());
+            // A single project is sometimes answered in the single-project keys instead.
+            if (drafts.isEmpty() && result.projectName) {
+                drafts << AIProjectDraft{*result.projectName, std::nullopt, result.projectHourlyRate, std::nullopt,
+                                         std::nullopt, result.tasks};
+            }
             for (const AIProjectDraft &draft : drafts) {
                 const bool done = co_await project(draft);
                 if (!done) {

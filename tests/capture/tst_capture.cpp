@@ -255,9 +255,15 @@ private slots:
             << QByteArray("SELECT string_agg(name || ':' || coalesce(team_id::text, '-'), ' ' ORDER BY name) FROM projects "
                           "WHERE name IN ('Studio Site', 'Side Gig')")
             << QByteArray("Side Gig:- Studio Site:TEAM");
+        QTest::newRow("one project in the single-project keys")
+            << QByteArray(R"({"intent":"create_project","project_name":"Solo","project_hourly_rate":55,"tasks":[{"title":"Kickoff"}]})")
+            << u"1 0 1 0 0 0"_s
+            << QByteArray("SELECT p.hourly_rate || ':' || count(t.id) FROM projects p JOIN tasks t ON t.project_id = p.id "
+                          "WHERE p.name = 'Solo' GROUP BY p.hourly_rate")
+            << QByteArray("55:1");
         QTest::newRow("unknown changes nothing")
             << QByteArray(R"({"intent":"unknown","notes":"a greeting"})") << u"0 0 0 0 0 0"_s
-            << QByteArray("SELECT count(*) FROM projects") << QByteArray("4");
+            << QByteArray("SELECT count(*) FROM projects") << QByteArray("5");
     }
 
     void apply()
