@@ -53,6 +53,8 @@ MORVANE_PACKAGES=(
     libqt6svg6
     libxss-dev
     libxcb1-dev
+    libical-dev
+    radicale
 )
 
 morvane_missing_packages() {

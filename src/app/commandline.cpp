@@ -2,6 +2,7 @@
 
 #include "app/aicommands.h"
 #include "app/authcommands.h"
+#include "app/calendarcommands.h"
 #include "app/capturecommand.h"
 #include "app/companycommand.h"
 #include "app/exportcommand.h"
@@ -128,6 +129,8 @@ QList<Command> commands()
         {u"invoice"_s, [] { return qtTrId("cli.command.invoice"); }, runInvoiceCommand},
         //% "Your sender details and invoice style: company show|set"
         {u"company"_s, [] { return qtTrId("cli.command.company"); }, runCompanyCommand},
+        //% "Calendar events as time: calendar add|list|rm|events|import"
+        {u"calendar"_s, [] { return qtTrId("cli.command.calendar"); }, runCalendarCommand},
         //% "The clients you invoice: clients list|add|edit|rm"
         {u"clients"_s, [] { return qtTrId("cli.command.clients"); }, runClientsCommand},
         //% "Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]"

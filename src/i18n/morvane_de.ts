@@ -227,6 +227,54 @@
       <source>No VAT</source>
       <translation>Keine MwSt.</translation>
     </message>
+    <message id="cal.accessOffBody">
+      <source>Morvane turns calendar events into time entries. Add an iCalendar file, a subscription address or a CalDAV account, then come back and recheck.</source>
+      <translation>Morvane macht aus Kalenderterminen Zeiteinträge. Füge eine iCalendar-Datei, eine Abo-Adresse oder ein CalDAV-Konto hinzu und prüfe dann erneut.</translation>
+    </message>
+    <message id="cal.accessOffTitle">
+      <source>No calendars yet</source>
+      <translation>Noch keine Kalender</translation>
+    </message>
+    <message id="cal.err.alreadyImported">
+      <source>This event was imported before; its time is already logged.</source>
+      <translation>Dieser Termin wurde schon importiert; seine Zeit ist bereits erfasst.</translation>
+    </message>
+    <message id="cal.err.readFailed">
+      <source>The calendar “%1” could not be read.</source>
+      <translation>Der Kalender „%1“ konnte nicht gelesen werden.</translation>
+    </message>
+    <message id="cal.err.secret">
+      <source>The password could not be stored in the keyring.</source>
+      <translation>Das Passwort konnte nicht im Schlüsselbund gespeichert werden.</translation>
+    </message>
+    <message id="cal.heroTitle">
+      <source>Import from your calendar</source>
+      <translation>Aus deinem Kalender importieren</translation>
+    </message>
+    <message id="cal.loading">
+      <source>Loading calendar…</source>
+      <translation>Kalender wird geladen…</translation>
+    </message>
+    <message id="cal.noEventsHint">
+      <source>No events on this day. Pick another day, or add a calendar.</source>
+      <translation>Keine Termine an diesem Tag. Wähle einen anderen Tag oder füge einen Kalender hinzu.</translation>
+    </message>
+    <message id="cal.selectedCount">
+      <source>%1 selected</source>
+      <translation>%1 ausgewählt</translation>
+    </message>
+    <message id="cal.untitled">
+      <source>Calendar event</source>
+      <translation>Kalendertermin</translation>
+    </message>
+    <message id="calExistingSection">
+      <source>Existing tasks</source>
+      <translation>Vorhandene Aufgaben</translation>
+    </message>
+    <message id="calNewTaskSection">
+      <source>New tasks</source>
+      <translation>Neue Aufgaben</translation>
+    </message>
     <message id="capture.err.noMinutes">
       <source>The sentence gives no time to log.</source>
       <translation>Der Satz nennt keine Zeit zum Erfassen.</translation>
@@ -517,6 +565,78 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Aufruf: morvane auth signup|signin &lt;E-Mail&gt; | signin --provider NAME | signout | status | switch &lt;E-Mail&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.calendar.added">
+      <source>Added %1 (%2).</source>
+      <translation>%1 hinzugefügt (%2).</translation>
+    </message>
+    <message id="cli.calendar.err.add">
+      <source>That calendar cannot be added: %1.</source>
+      <translation>Dieser Kalender kann nicht hinzugefügt werden: %1.</translation>
+    </message>
+    <message id="cli.calendar.err.day">
+      <source>A day is written as YYYY-MM-DD, today or yesterday.</source>
+      <translation>Ein Tag wird als JJJJ-MM-TT, today oder yesterday geschrieben.</translation>
+    </message>
+    <message id="cli.calendar.err.noDestination">
+      <source>No task or project for: %1. Pass --project P to make them new tasks there.</source>
+      <translation>Keine Aufgabe oder kein Projekt für: %1. Gib --project P an, um dort neue Aufgaben daraus zu machen.</translation>
+    </message>
+    <message id="cli.calendar.err.noSelection">
+      <source>Say which events to import: --events ID... (see morvane calendar events) or --all.</source>
+      <translation>Gib an, welche Termine importiert werden: --events ID... (siehe morvane calendar events) oder --all.</translation>
+    </message>
+    <message id="cli.calendar.err.unknown">
+      <source>No single calendar matches “%1”; see morvane calendar list.</source>
+      <translation>Kein eindeutiger Kalender passt zu „%1“; siehe morvane calendar list.</translation>
+    </message>
+    <message id="cli.calendar.imported">
+      <source>imported</source>
+      <translation>importiert</translation>
+    </message>
+    <message id="cli.calendar.importedCount">
+      <source>Imported %1 events; %2 were imported before.</source>
+      <translation>%1 Termine importiert; %2 waren schon importiert.</translation>
+    </message>
+    <message id="cli.calendar.opt.all">
+      <source>Import every event of the day.</source>
+      <translation>Alle Termine des Tages importieren.</translation>
+    </message>
+    <message id="cli.calendar.opt.caldav">
+      <source>Read a CalDAV collection (with --user) instead of a subscription.</source>
+      <translation>Eine CalDAV-Sammlung (mit --user) statt eines Abos lesen.</translation>
+    </message>
+    <message id="cli.calendar.opt.day">
+      <source>The day: YYYY-MM-DD, today or yesterday.</source>
+      <translation>Der Tag: JJJJ-MM-TT, today oder yesterday.</translation>
+    </message>
+    <message id="cli.calendar.opt.events">
+      <source>The events to import, by the id events shows.</source>
+      <translation>Die zu importierenden Termine, mit der ID, die events zeigt.</translation>
+    </message>
+    <message id="cli.calendar.opt.name">
+      <source>The name the calendar is shown under.</source>
+      <translation>Der Name, unter dem der Kalender angezeigt wird.</translation>
+    </message>
+    <message id="cli.calendar.opt.project">
+      <source>The project new tasks are made in.</source>
+      <translation>Das Projekt, in dem neue Aufgaben angelegt werden.</translation>
+    </message>
+    <message id="cli.calendar.opt.user">
+      <source>The CalDAV user name.</source>
+      <translation>Der CalDAV-Benutzername.</translation>
+    </message>
+    <message id="cli.calendar.password">
+      <source>CalDAV password: </source>
+      <translation>CalDAV-Passwort: </translation>
+    </message>
+    <message id="cli.calendar.removed">
+      <source>Removed %1.</source>
+      <translation>%1 entfernt.</translation>
+    </message>
+    <message id="cli.calendar.usage">
+      <source>Usage: morvane calendar add &lt;file-or-address&gt; [--caldav --user U] | list | rm &lt;calendar&gt; | events [--day DAY] [--json] | import --day DAY [--project P] [--events ID...] [--all]</source>
+      <translation>Aufruf: morvane calendar add &lt;Datei-oder-Adresse&gt; [--caldav --user U] | list | rm &lt;Kalender&gt; | events [--day TAG] [--json] | import --day TAG [--project P] [--events ID...] [--all]</translation>
+    </message>
     <message id="cli.clients.added">
       <source>Added client %1 (%2).</source>
       <translation>Kunde %1 hinzugefügt (%2).</translation>
@@ -596,6 +716,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Registrieren, an- und abmelden, zwischen Konten wechseln</translation>
+    </message>
+    <message id="cli.command.calendar">
+      <source>Calendar events as time: calendar add|list|rm|events|import</source>
+      <translation>Kalendertermine als Zeit: calendar add|list|rm|events|import</translation>
     </message>
     <message id="cli.command.clients">
       <source>The clients you invoice: clients list|add|edit|rm</source>

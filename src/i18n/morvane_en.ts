@@ -227,6 +227,54 @@
       <source>No VAT</source>
       <translation>No VAT</translation>
     </message>
+    <message id="cal.accessOffBody">
+      <source>Morvane turns calendar events into time entries. Add an iCalendar file, a subscription address or a CalDAV account, then come back and recheck.</source>
+      <translation>Morvane turns calendar events into time entries. Add an iCalendar file, a subscription address or a CalDAV account, then come back and recheck.</translation>
+    </message>
+    <message id="cal.accessOffTitle">
+      <source>No calendars yet</source>
+      <translation>No calendars yet</translation>
+    </message>
+    <message id="cal.err.alreadyImported">
+      <source>This event was imported before; its time is already logged.</source>
+      <translation>This event was imported before; its time is already logged.</translation>
+    </message>
+    <message id="cal.err.readFailed">
+      <source>The calendar “%1” could not be read.</source>
+      <translation>The calendar “%1” could not be read.</translation>
+    </message>
+    <message id="cal.err.secret">
+      <source>The password could not be stored in the keyring.</source>
+      <translation>The password could not be stored in the keyring.</translation>
+    </message>
+    <message id="cal.heroTitle">
+      <source>Import from your calendar</source>
+      <translation>Import from your calendar</translation>
+    </message>
+    <message id="cal.loading">
+      <source>Loading calendar…</source>
+      <translation>Loading calendar…</translation>
+    </message>
+    <message id="cal.noEventsHint">
+      <source>No events on this day. Pick another day, or add a calendar.</source>
+      <translation>No events on this day. Pick another day, or add a calendar.</translation>
+    </message>
+    <message id="cal.selectedCount">
+      <source>%1 selected</source>
+      <translation>%1 selected</translation>
+    </message>
+    <message id="cal.untitled">
+      <source>Calendar event</source>
+      <translation>Calendar event</translation>
+    </message>
+    <message id="calExistingSection">
+      <source>Existing tasks</source>
+      <translation>Existing tasks</translation>
+    </message>
+    <message id="calNewTaskSection">
+      <source>New tasks</source>
+      <translation>New tasks</translation>
+    </message>
     <message id="capture.err.noMinutes">
       <source>The sentence gives no time to log.</source>
       <translation>The sentence gives no time to log.</translation>
@@ -517,6 +565,78 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.calendar.added">
+      <source>Added %1 (%2).</source>
+      <translation>Added %1 (%2).</translation>
+    </message>
+    <message id="cli.calendar.err.add">
+      <source>That calendar cannot be added: %1.</source>
+      <translation>That calendar cannot be added: %1.</translation>
+    </message>
+    <message id="cli.calendar.err.day">
+      <source>A day is written as YYYY-MM-DD, today or yesterday.</source>
+      <translation>A day is written as YYYY-MM-DD, today or yesterday.</translation>
+    </message>
+    <message id="cli.calendar.err.noDestination">
+      <source>No task or project for: %1. Pass --project P to make them new tasks there.</source>
+      <translation>No task or project for: %1. Pass --project P to make them new tasks there.</translation>
+    </message>
+    <message id="cli.calendar.err.noSelection">
+      <source>Say which events to import: --events ID... (see morvane calendar events) or --all.</source>
+      <translation>Say which events to import: --events ID... (see morvane calendar events) or --all.</translation>
+    </message>
+    <message id="cli.calendar.err.unknown">
+      <source>No single calendar matches “%1”; see morvane calendar list.</source>
+      <translation>No single calendar matches “%1”; see morvane calendar list.</translation>
+    </message>
+    <message id="cli.calendar.imported">
+      <source>imported</source>
+      <translation>imported</translation>
+    </message>
+    <message id="cli.calendar.importedCount">
+      <source>Imported %1 events; %2 were imported before.</source>
+      <translation>Imported %1 events; %2 were imported before.</translation>
+    </message>
+    <message id="cli.calendar.opt.all">
+      <source>Import every event of the day.</source>
+      <translation>Import every event of the day.</translation>
+    </message>
+    <message id="cli.calendar.opt.caldav">
+      <source>Read a CalDAV collection (with --user) instead of a subscription.</source>
+      <translation>Read a CalDAV collection (with --user) instead of a subscription.</translation>
+    </message>
+    <message id="cli.calendar.opt.day">
+      <source>The day: YYYY-MM-DD, today or yesterday.</source>
+      <translation>The day: YYYY-MM-DD, today or yesterday.</translation>
+    </message>
+    <message id="cli.calendar.opt.events">
+      <source>The events to import, by the id events shows.</source>
+      <translation>The events to import, by the id events shows.</translation>
+    </message>
+    <message id="cli.calendar.opt.name">
+      <source>The name the calendar is shown under.</source>
+      <translation>The name the calendar is shown under.</translation>
+    </message>
+    <message id="cli.calendar.opt.project">
+      <source>The project new tasks are made in.</source>
+      <translation>The project new tasks are made in.</translation>
+    </message>
+    <message id="cli.calendar.opt.user">
+      <source>The CalDAV user name.</source>
+      <translation>The CalDAV user name.</translation>
+    </message>
+    <message id="cli.calendar.password">
+      <source>CalDAV password: </source>
+      <translation>CalDAV password: </translation>
+    </message>
+    <message id="cli.calendar.removed">
+      <source>Removed %1.</source>
+      <translation>Removed %1.</translation>
+    </message>
+    <message id="cli.calendar.usage">
+      <source>Usage: morvane calendar add &lt;file-or-address&gt; [--caldav --user U] | list | rm &lt;calendar&gt; | events [--day DAY] [--json] | import --day DAY [--project P] [--events ID...] [--all]</source>
+      <translation>Usage: morvane calendar add &lt;file-or-address&gt; [--caldav --user U] | list | rm &lt;calendar&gt; | events [--day DAY] [--json] | import --day DAY [--project P] [--events ID...] [--all]</translation>
+    </message>
     <message id="cli.clients.added">
       <source>Added client %1 (%2).</source>
       <translation>Added client %1 (%2).</translation>
@@ -596,6 +716,10 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Sign up, sign in and out, switch between accounts</translation>
+    </message>
+    <message id="cli.command.calendar">
+      <source>Calendar events as time: calendar add|list|rm|events|import</source>
+      <translation>Calendar events as time: calendar add|list|rm|events|import</translation>
     </message>
     <message id="cli.command.clients">
       <source>The clients you invoice: clients list|add|edit|rm</source>

@@ -227,6 +227,54 @@
       <source>No VAT</source>
       <translation>Sin IVA</translation>
     </message>
+    <message id="cal.accessOffBody">
+      <source>Morvane turns calendar events into time entries. Add an iCalendar file, a subscription address or a CalDAV account, then come back and recheck.</source>
+      <translation>Morvane convierte los eventos del calendario en registros de tiempo. Añade un archivo iCalendar, una dirección de suscripción o una cuenta CalDAV y vuelve a comprobarlo.</translation>
+    </message>
+    <message id="cal.accessOffTitle">
+      <source>No calendars yet</source>
+      <translation>Aún no hay calendarios</translation>
+    </message>
+    <message id="cal.err.alreadyImported">
+      <source>This event was imported before; its time is already logged.</source>
+      <translation>Este evento ya se importó; su tiempo ya está registrado.</translation>
+    </message>
+    <message id="cal.err.readFailed">
+      <source>The calendar “%1” could not be read.</source>
+      <translation>No se pudo leer el calendario «%1».</translation>
+    </message>
+    <message id="cal.err.secret">
+      <source>The password could not be stored in the keyring.</source>
+      <translation>No se pudo guardar la contraseña en el llavero.</translation>
+    </message>
+    <message id="cal.heroTitle">
+      <source>Import from your calendar</source>
+      <translation>Importar desde tu calendario</translation>
+    </message>
+    <message id="cal.loading">
+      <source>Loading calendar…</source>
+      <translation>Cargando calendario…</translation>
+    </message>
+    <message id="cal.noEventsHint">
+      <source>No events on this day. Pick another day, or add a calendar.</source>
+      <translation>No hay eventos este día. Elige otro día o añade un calendario.</translation>
+    </message>
+    <message id="cal.selectedCount">
+      <source>%1 selected</source>
+      <translation>%1 seleccionados</translation>
+    </message>
+    <message id="cal.untitled">
+      <source>Calendar event</source>
+      <translation>Evento del calendario</translation>
+    </message>
+    <message id="calExistingSection">
+      <source>Existing tasks</source>
+      <translation>Tareas existentes</translation>
+    </message>
+    <message id="calNewTaskSection">
+      <source>New tasks</source>
+      <translation>Tareas nuevas</translation>
+    </message>
     <message id="capture.err.noMinutes">
       <source>The sentence gives no time to log.</source>
       <translation>La frase no indica ningún tiempo que registrar.</translation>
@@ -517,6 +565,78 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Uso: morvane auth signup|signin &lt;correo&gt; | signin --provider NAME | signout | status | switch &lt;correo&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.calendar.added">
+      <source>Added %1 (%2).</source>
+      <translation>%1 añadido (%2).</translation>
+    </message>
+    <message id="cli.calendar.err.add">
+      <source>That calendar cannot be added: %1.</source>
+      <translation>No se puede añadir ese calendario: %1.</translation>
+    </message>
+    <message id="cli.calendar.err.day">
+      <source>A day is written as YYYY-MM-DD, today or yesterday.</source>
+      <translation>Un día se escribe AAAA-MM-DD, today o yesterday.</translation>
+    </message>
+    <message id="cli.calendar.err.noDestination">
+      <source>No task or project for: %1. Pass --project P to make them new tasks there.</source>
+      <translation>No hay tarea ni proyecto para: %1. Pasa --project P para crear allí tareas nuevas.</translation>
+    </message>
+    <message id="cli.calendar.err.noSelection">
+      <source>Say which events to import: --events ID... (see morvane calendar events) or --all.</source>
+      <translation>Indica qué eventos importar: --events ID... (ver morvane calendar events) o --all.</translation>
+    </message>
+    <message id="cli.calendar.err.unknown">
+      <source>No single calendar matches “%1”; see morvane calendar list.</source>
+      <translation>Ningún calendario único coincide con «%1»; consulta morvane calendar list.</translation>
+    </message>
+    <message id="cli.calendar.imported">
+      <source>imported</source>
+      <translation>importado</translation>
+    </message>
+    <message id="cli.calendar.importedCount">
+      <source>Imported %1 events; %2 were imported before.</source>
+      <translation>%1 eventos importados; %2 ya se habían importado.</translation>
+    </message>
+    <message id="cli.calendar.opt.all">
+      <source>Import every event of the day.</source>
+      <translation>Importar todos los eventos del día.</translation>
+    </message>
+    <message id="cli.calendar.opt.caldav">
+      <source>Read a CalDAV collection (with --user) instead of a subscription.</source>
+      <translation>Leer una colección CalDAV (con --user) en lugar de una suscripción.</translation>
+    </message>
+    <message id="cli.calendar.opt.day">
+      <source>The day: YYYY-MM-DD, today or yesterday.</source>
+      <translation>El día: AAAA-MM-DD, today o yesterday.</translation>
+    </message>
+    <message id="cli.calendar.opt.events">
+      <source>The events to import, by the id events shows.</source>
+      <translation>Los eventos a importar, por el id que muestra events.</translation>
+    </message>
+    <message id="cli.calendar.opt.name">
+      <source>The name the calendar is shown under.</source>
+      <translation>El nombre con el que se muestra el calendario.</translation>
+    </message>
+    <message id="cli.calendar.opt.project">
+      <source>The project new tasks are made in.</source>
+      <translation>El proyecto en el que se crean las tareas nuevas.</translation>
+    </message>
+    <message id="cli.calendar.opt.user">
+      <source>The CalDAV user name.</source>
+      <translation>El nombre de usuario de CalDAV.</translation>
+    </message>
+    <message id="cli.calendar.password">
+      <source>CalDAV password: </source>
+      <translation>Contraseña de CalDAV: </translation>
+    </message>
+    <message id="cli.calendar.removed">
+      <source>Removed %1.</source>
+      <translation>%1 eliminado.</translation>
+    </message>
+    <message id="cli.calendar.usage">
+      <source>Usage: morvane calendar add &lt;file-or-address&gt; [--caldav --user U] | list | rm &lt;calendar&gt; | events [--day DAY] [--json] | import --day DAY [--project P] [--events ID...] [--all]</source>
+      <translation>Uso: morvane calendar add &lt;archivo-o-dirección&gt; [--caldav --user U] | list | rm &lt;calendario&gt; | events [--day DÍA] [--json] | import --day DÍA [--project P] [--events ID...] [--all]</translation>
+    </message>
     <message id="cli.clients.added">
       <source>Added client %1 (%2).</source>
       <translation>Cliente %1 añadido (%2).</translation>
@@ -596,6 +716,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Registrarse, iniciar y cerrar sesión, cambiar de cuenta</translation>
+    </message>
+    <message id="cli.command.calendar">
+      <source>Calendar events as time: calendar add|list|rm|events|import</source>
+      <translation>Eventos del calendario como tiempo: calendar add|list|rm|events|import</translation>
     </message>
     <message id="cli.command.clients">
       <source>The clients you invoice: clients list|add|edit|rm</source>

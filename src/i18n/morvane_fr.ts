@@ -227,6 +227,54 @@
       <source>No VAT</source>
       <translation>Pas de TVA</translation>
     </message>
+    <message id="cal.accessOffBody">
+      <source>Morvane turns calendar events into time entries. Add an iCalendar file, a subscription address or a CalDAV account, then come back and recheck.</source>
+      <translation>Morvane transforme les événements du calendrier en temps saisi. Ajoutez un fichier iCalendar, une adresse d’abonnement ou un compte CalDAV, puis revenez vérifier.</translation>
+    </message>
+    <message id="cal.accessOffTitle">
+      <source>No calendars yet</source>
+      <translation>Pas encore de calendrier</translation>
+    </message>
+    <message id="cal.err.alreadyImported">
+      <source>This event was imported before; its time is already logged.</source>
+      <translation>Cet événement a déjà été importé ; son temps est déjà saisi.</translation>
+    </message>
+    <message id="cal.err.readFailed">
+      <source>The calendar “%1” could not be read.</source>
+      <translation>Le calendrier « %1 » n’a pas pu être lu.</translation>
+    </message>
+    <message id="cal.err.secret">
+      <source>The password could not be stored in the keyring.</source>
+      <translation>Le mot de passe n’a pas pu être enregistré dans le trousseau.</translation>
+    </message>
+    <message id="cal.heroTitle">
+      <source>Import from your calendar</source>
+      <translation>Importer depuis votre calendrier</translation>
+    </message>
+    <message id="cal.loading">
+      <source>Loading calendar…</source>
+      <translation>Chargement du calendrier…</translation>
+    </message>
+    <message id="cal.noEventsHint">
+      <source>No events on this day. Pick another day, or add a calendar.</source>
+      <translation>Aucun événement ce jour-là. Choisissez un autre jour ou ajoutez un calendrier.</translation>
+    </message>
+    <message id="cal.selectedCount">
+      <source>%1 selected</source>
+      <translation>%1 sélectionné(s)</translation>
+    </message>
+    <message id="cal.untitled">
+      <source>Calendar event</source>
+      <translation>Événement du calendrier</translation>
+    </message>
+    <message id="calExistingSection">
+      <source>Existing tasks</source>
+      <translation>Tâches existantes</translation>
+    </message>
+    <message id="calNewTaskSection">
+      <source>New tasks</source>
+      <translation>Nouvelles tâches</translation>
+    </message>
     <message id="capture.err.noMinutes">
       <source>The sentence gives no time to log.</source>
       <translation>La phrase n’indique aucun temps à enregistrer.</translation>
@@ -517,6 +565,78 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Utilisation : morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.calendar.added">
+      <source>Added %1 (%2).</source>
+      <translation>%1 ajouté (%2).</translation>
+    </message>
+    <message id="cli.calendar.err.add">
+      <source>That calendar cannot be added: %1.</source>
+      <translation>Ce calendrier ne peut pas être ajouté : %1.</translation>
+    </message>
+    <message id="cli.calendar.err.day">
+      <source>A day is written as YYYY-MM-DD, today or yesterday.</source>
+      <translation>Un jour s’écrit AAAA-MM-JJ, today ou yesterday.</translation>
+    </message>
+    <message id="cli.calendar.err.noDestination">
+      <source>No task or project for: %1. Pass --project P to make them new tasks there.</source>
+      <translation>Aucune tâche ni aucun projet pour : %1. Passez --project P pour en faire de nouvelles tâches dans ce projet.</translation>
+    </message>
+    <message id="cli.calendar.err.noSelection">
+      <source>Say which events to import: --events ID... (see morvane calendar events) or --all.</source>
+      <translation>Indiquez les événements à importer : --events ID... (voir morvane calendar events) ou --all.</translation>
+    </message>
+    <message id="cli.calendar.err.unknown">
+      <source>No single calendar matches “%1”; see morvane calendar list.</source>
+      <translation>Aucun calendrier unique ne correspond à « %1 » ; voir morvane calendar list.</translation>
+    </message>
+    <message id="cli.calendar.imported">
+      <source>imported</source>
+      <translation>importé</translation>
+    </message>
+    <message id="cli.calendar.importedCount">
+      <source>Imported %1 events; %2 were imported before.</source>
+      <translation>%1 événements importés ; %2 l’avaient déjà été.</translation>
+    </message>
+    <message id="cli.calendar.opt.all">
+      <source>Import every event of the day.</source>
+      <translation>Importer tous les événements du jour.</translation>
+    </message>
+    <message id="cli.calendar.opt.caldav">
+      <source>Read a CalDAV collection (with --user) instead of a subscription.</source>
+      <translation>Lire une collection CalDAV (avec --user) au lieu d’un abonnement.</translation>
+    </message>
+    <message id="cli.calendar.opt.day">
+      <source>The day: YYYY-MM-DD, today or yesterday.</source>
+      <translation>Le jour : AAAA-MM-JJ, today ou yesterday.</translation>
+    </message>
+    <message id="cli.calendar.opt.events">
+      <source>The events to import, by the id events shows.</source>
+      <translation>Les événements à importer, par l’identifiant qu’affiche events.</translation>
+    </message>
+    <message id="cli.calendar.opt.name">
+      <source>The name the calendar is shown under.</source>
+      <translation>Le nom sous lequel le calendrier est affiché.</translation>
+    </message>
+    <message id="cli.calendar.opt.project">
+      <source>The project new tasks are made in.</source>
+      <translation>Le projet où les nouvelles tâches sont créées.</translation>
+    </message>
+    <message id="cli.calendar.opt.user">
+      <source>The CalDAV user name.</source>
+      <translation>Le nom d’utilisateur CalDAV.</translation>
+    </message>
+    <message id="cli.calendar.password">
+      <source>CalDAV password: </source>
+      <translation>Mot de passe CalDAV : </translation>
+    </message>
+    <message id="cli.calendar.removed">
+      <source>Removed %1.</source>
+      <translation>%1 supprimé.</translation>
+    </message>
+    <message id="cli.calendar.usage">
+      <source>Usage: morvane calendar add &lt;file-or-address&gt; [--caldav --user U] | list | rm &lt;calendar&gt; | events [--day DAY] [--json] | import --day DAY [--project P] [--events ID...] [--all]</source>
+      <translation>Usage : morvane calendar add &lt;fichier-ou-adresse&gt; [--caldav --user U] | list | rm &lt;calendrier&gt; | events [--day JOUR] [--json] | import --day JOUR [--project P] [--events ID...] [--all]</translation>
+    </message>
     <message id="cli.clients.added">
       <source>Added client %1 (%2).</source>
       <translation>Client %1 ajouté (%2).</translation>
@@ -596,6 +716,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Créer un compte, se connecter et se déconnecter, changer de compte</translation>
+    </message>
+    <message id="cli.command.calendar">
+      <source>Calendar events as time: calendar add|list|rm|events|import</source>
+      <translation>Événements du calendrier en temps : calendar add|list|rm|events|import</translation>
     </message>
     <message id="cli.command.clients">
       <source>The clients you invoice: clients list|add|edit|rm</source>

@@ -227,6 +227,54 @@
       <source>No VAT</source>
       <translation>Senza IVA</translation>
     </message>
+    <message id="cal.accessOffBody">
+      <source>Morvane turns calendar events into time entries. Add an iCalendar file, a subscription address or a CalDAV account, then come back and recheck.</source>
+      <translation>Morvane trasforma gli eventi del calendario in registrazioni di tempo. Aggiungi un file iCalendar, un indirizzo di iscrizione o un account CalDAV, poi torna e ricontrolla.</translation>
+    </message>
+    <message id="cal.accessOffTitle">
+      <source>No calendars yet</source>
+      <translation>Ancora nessun calendario</translation>
+    </message>
+    <message id="cal.err.alreadyImported">
+      <source>This event was imported before; its time is already logged.</source>
+      <translation>Questo evento è già stato importato; il suo tempo è già registrato.</translation>
+    </message>
+    <message id="cal.err.readFailed">
+      <source>The calendar “%1” could not be read.</source>
+      <translation>Impossibile leggere il calendario «%1».</translation>
+    </message>
+    <message id="cal.err.secret">
+      <source>The password could not be stored in the keyring.</source>
+      <translation>Impossibile salvare la password nel portachiavi.</translation>
+    </message>
+    <message id="cal.heroTitle">
+      <source>Import from your calendar</source>
+      <translation>Importa dal tuo calendario</translation>
+    </message>
+    <message id="cal.loading">
+      <source>Loading calendar…</source>
+      <translation>Caricamento del calendario…</translation>
+    </message>
+    <message id="cal.noEventsHint">
+      <source>No events on this day. Pick another day, or add a calendar.</source>
+      <translation>Nessun evento in questo giorno. Scegli un altro giorno o aggiungi un calendario.</translation>
+    </message>
+    <message id="cal.selectedCount">
+      <source>%1 selected</source>
+      <translation>%1 selezionati</translation>
+    </message>
+    <message id="cal.untitled">
+      <source>Calendar event</source>
+      <translation>Evento del calendario</translation>
+    </message>
+    <message id="calExistingSection">
+      <source>Existing tasks</source>
+      <translation>Attività esistenti</translation>
+    </message>
+    <message id="calNewTaskSection">
+      <source>New tasks</source>
+      <translation>Nuove attività</translation>
+    </message>
     <message id="capture.err.noMinutes">
       <source>The sentence gives no time to log.</source>
       <translation>La frase non indica alcun tempo da registrare.</translation>
@@ -517,6 +565,78 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>Uso: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.calendar.added">
+      <source>Added %1 (%2).</source>
+      <translation>%1 aggiunto (%2).</translation>
+    </message>
+    <message id="cli.calendar.err.add">
+      <source>That calendar cannot be added: %1.</source>
+      <translation>Impossibile aggiungere quel calendario: %1.</translation>
+    </message>
+    <message id="cli.calendar.err.day">
+      <source>A day is written as YYYY-MM-DD, today or yesterday.</source>
+      <translation>Un giorno si scrive AAAA-MM-GG, today o yesterday.</translation>
+    </message>
+    <message id="cli.calendar.err.noDestination">
+      <source>No task or project for: %1. Pass --project P to make them new tasks there.</source>
+      <translation>Nessuna attività o progetto per: %1. Passa --project P per crearne nuove attività lì.</translation>
+    </message>
+    <message id="cli.calendar.err.noSelection">
+      <source>Say which events to import: --events ID... (see morvane calendar events) or --all.</source>
+      <translation>Indica quali eventi importare: --events ID... (vedi morvane calendar events) oppure --all.</translation>
+    </message>
+    <message id="cli.calendar.err.unknown">
+      <source>No single calendar matches “%1”; see morvane calendar list.</source>
+      <translation>Nessun calendario univoco corrisponde a «%1»; vedi morvane calendar list.</translation>
+    </message>
+    <message id="cli.calendar.imported">
+      <source>imported</source>
+      <translation>importato</translation>
+    </message>
+    <message id="cli.calendar.importedCount">
+      <source>Imported %1 events; %2 were imported before.</source>
+      <translation>%1 eventi importati; %2 erano già stati importati.</translation>
+    </message>
+    <message id="cli.calendar.opt.all">
+      <source>Import every event of the day.</source>
+      <translation>Importa tutti gli eventi del giorno.</translation>
+    </message>
+    <message id="cli.calendar.opt.caldav">
+      <source>Read a CalDAV collection (with --user) instead of a subscription.</source>
+      <translation>Leggi una raccolta CalDAV (con --user) invece di un’iscrizione.</translation>
+    </message>
+    <message id="cli.calendar.opt.day">
+      <source>The day: YYYY-MM-DD, today or yesterday.</source>
+      <translation>Il giorno: AAAA-MM-GG, today o yesterday.</translation>
+    </message>
+    <message id="cli.calendar.opt.events">
+      <source>The events to import, by the id events shows.</source>
+      <translation>Gli eventi da importare, con l’id mostrato da events.</translation>
+    </message>
+    <message id="cli.calendar.opt.name">
+      <source>The name the calendar is shown under.</source>
+      <translation>Il nome con cui viene mostrato il calendario.</translation>
+    </message>
+    <message id="cli.calendar.opt.project">
+      <source>The project new tasks are made in.</source>
+      <translation>Il progetto in cui vengono create le nuove attività.</translation>
+    </message>
+    <message id="cli.calendar.opt.user">
+      <source>The CalDAV user name.</source>
+      <translation>Il nome utente CalDAV.</translation>
+    </message>
+    <message id="cli.calendar.password">
+      <source>CalDAV password: </source>
+      <translation>Password CalDAV: </translation>
+    </message>
+    <message id="cli.calendar.removed">
+      <source>Removed %1.</source>
+      <translation>%1 rimosso.</translation>
+    </message>
+    <message id="cli.calendar.usage">
+      <source>Usage: morvane calendar add &lt;file-or-address&gt; [--caldav --user U] | list | rm &lt;calendar&gt; | events [--day DAY] [--json] | import --day DAY [--project P] [--events ID...] [--all]</source>
+      <translation>Uso: morvane calendar add &lt;file-o-indirizzo&gt; [--caldav --user U] | list | rm &lt;calendario&gt; | events [--day GIORNO] [--json] | import --day GIORNO [--project P] [--events ID...] [--all]</translation>
+    </message>
     <message id="cli.clients.added">
       <source>Added client %1 (%2).</source>
       <translation>Cliente %1 aggiunto (%2).</translation>
@@ -596,6 +716,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>Registrarsi, accedere e uscire, passare da un account all’altro</translation>
+    </message>
+    <message id="cli.command.calendar">
+      <source>Calendar events as time: calendar add|list|rm|events|import</source>
+      <translation>Eventi del calendario come tempo: calendar add|list|rm|events|import</translation>
     </message>
     <message id="cli.command.clients">
       <source>The clients you invoice: clients list|add|edit|rm</source>

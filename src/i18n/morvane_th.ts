@@ -227,6 +227,54 @@
       <source>No VAT</source>
       <translation>ไม่มี VAT</translation>
     </message>
+    <message id="cal.accessOffBody">
+      <source>Morvane turns calendar events into time entries. Add an iCalendar file, a subscription address or a CalDAV account, then come back and recheck.</source>
+      <translation>Morvane เปลี่ยนกิจกรรมในปฏิทินเป็นรายการเวลา เพิ่มไฟล์ iCalendar ที่อยู่สมัครรับ หรือบัญชี CalDAV แล้วกลับมาตรวจสอบอีกครั้ง</translation>
+    </message>
+    <message id="cal.accessOffTitle">
+      <source>No calendars yet</source>
+      <translation>ยังไม่มีปฏิทิน</translation>
+    </message>
+    <message id="cal.err.alreadyImported">
+      <source>This event was imported before; its time is already logged.</source>
+      <translation>กิจกรรมนี้ถูกนำเข้าแล้ว เวลาของกิจกรรมถูกบันทึกไว้แล้ว</translation>
+    </message>
+    <message id="cal.err.readFailed">
+      <source>The calendar “%1” could not be read.</source>
+      <translation>อ่านปฏิทิน “%1” ไม่ได้</translation>
+    </message>
+    <message id="cal.err.secret">
+      <source>The password could not be stored in the keyring.</source>
+      <translation>ไม่สามารถเก็บรหัสผ่านไว้ในพวงกุญแจได้</translation>
+    </message>
+    <message id="cal.heroTitle">
+      <source>Import from your calendar</source>
+      <translation>นำเข้าจากปฏิทินของคุณ</translation>
+    </message>
+    <message id="cal.loading">
+      <source>Loading calendar…</source>
+      <translation>กำลังโหลดปฏิทิน…</translation>
+    </message>
+    <message id="cal.noEventsHint">
+      <source>No events on this day. Pick another day, or add a calendar.</source>
+      <translation>ไม่มีกิจกรรมในวันนี้ เลือกวันอื่นหรือเพิ่มปฏิทิน</translation>
+    </message>
+    <message id="cal.selectedCount">
+      <source>%1 selected</source>
+      <translation>เลือกแล้ว %1 รายการ</translation>
+    </message>
+    <message id="cal.untitled">
+      <source>Calendar event</source>
+      <translation>กิจกรรมในปฏิทิน</translation>
+    </message>
+    <message id="calExistingSection">
+      <source>Existing tasks</source>
+      <translation>งานที่มีอยู่</translation>
+    </message>
+    <message id="calNewTaskSection">
+      <source>New tasks</source>
+      <translation>งานใหม่</translation>
+    </message>
     <message id="capture.err.noMinutes">
       <source>The sentence gives no time to log.</source>
       <translation>ประโยคนี้ไม่ได้ระบุเวลาที่จะบันทึก</translation>
@@ -517,6 +565,78 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Usage: morvane auth signup|signin &lt;e-mail&gt; | signin --provider NAME | signout | status | switch &lt;e-mail&gt; | accounts [--json]</source>
       <translation>วิธีใช้: morvane auth signup|signin &lt;อีเมล&gt; | signin --provider NAME | signout | status | switch &lt;อีเมล&gt; | accounts [--json]</translation>
     </message>
+    <message id="cli.calendar.added">
+      <source>Added %1 (%2).</source>
+      <translation>เพิ่ม %1 แล้ว (%2)</translation>
+    </message>
+    <message id="cli.calendar.err.add">
+      <source>That calendar cannot be added: %1.</source>
+      <translation>เพิ่มปฏิทินนั้นไม่ได้: %1</translation>
+    </message>
+    <message id="cli.calendar.err.day">
+      <source>A day is written as YYYY-MM-DD, today or yesterday.</source>
+      <translation>เขียนวันเป็น YYYY-MM-DD, today หรือ yesterday</translation>
+    </message>
+    <message id="cli.calendar.err.noDestination">
+      <source>No task or project for: %1. Pass --project P to make them new tasks there.</source>
+      <translation>ไม่มีงานหรือโปรเจกต์สำหรับ: %1 ใส่ --project P เพื่อสร้างเป็นงานใหม่ในโปรเจกต์นั้น</translation>
+    </message>
+    <message id="cli.calendar.err.noSelection">
+      <source>Say which events to import: --events ID... (see morvane calendar events) or --all.</source>
+      <translation>ระบุกิจกรรมที่จะนำเข้า: --events ID... (ดู morvane calendar events) หรือ --all</translation>
+    </message>
+    <message id="cli.calendar.err.unknown">
+      <source>No single calendar matches “%1”; see morvane calendar list.</source>
+      <translation>ไม่มีปฏิทินเดียวที่ตรงกับ “%1” ดู morvane calendar list</translation>
+    </message>
+    <message id="cli.calendar.imported">
+      <source>imported</source>
+      <translation>นำเข้าแล้ว</translation>
+    </message>
+    <message id="cli.calendar.importedCount">
+      <source>Imported %1 events; %2 were imported before.</source>
+      <translation>นำเข้า %1 กิจกรรม; %2 รายการเคยนำเข้าแล้ว</translation>
+    </message>
+    <message id="cli.calendar.opt.all">
+      <source>Import every event of the day.</source>
+      <translation>นำเข้ากิจกรรมทั้งหมดของวัน</translation>
+    </message>
+    <message id="cli.calendar.opt.caldav">
+      <source>Read a CalDAV collection (with --user) instead of a subscription.</source>
+      <translation>อ่านคอลเลกชัน CalDAV (ใช้กับ --user) แทนการสมัครรับ</translation>
+    </message>
+    <message id="cli.calendar.opt.day">
+      <source>The day: YYYY-MM-DD, today or yesterday.</source>
+      <translation>วัน: YYYY-MM-DD, today หรือ yesterday</translation>
+    </message>
+    <message id="cli.calendar.opt.events">
+      <source>The events to import, by the id events shows.</source>
+      <translation>กิจกรรมที่จะนำเข้า ตาม id ที่ events แสดง</translation>
+    </message>
+    <message id="cli.calendar.opt.name">
+      <source>The name the calendar is shown under.</source>
+      <translation>ชื่อที่ใช้แสดงปฏิทิน</translation>
+    </message>
+    <message id="cli.calendar.opt.project">
+      <source>The project new tasks are made in.</source>
+      <translation>โปรเจกต์ที่จะสร้างงานใหม่</translation>
+    </message>
+    <message id="cli.calendar.opt.user">
+      <source>The CalDAV user name.</source>
+      <translation>ชื่อผู้ใช้ CalDAV</translation>
+    </message>
+    <message id="cli.calendar.password">
+      <source>CalDAV password: </source>
+      <translation>รหัสผ่าน CalDAV: </translation>
+    </message>
+    <message id="cli.calendar.removed">
+      <source>Removed %1.</source>
+      <translation>ลบ %1 แล้ว</translation>
+    </message>
+    <message id="cli.calendar.usage">
+      <source>Usage: morvane calendar add &lt;file-or-address&gt; [--caldav --user U] | list | rm &lt;calendar&gt; | events [--day DAY] [--json] | import --day DAY [--project P] [--events ID...] [--all]</source>
+      <translation>วิธีใช้: morvane calendar add &lt;ไฟล์หรือที่อยู่&gt; [--caldav --user U] | list | rm &lt;ปฏิทิน&gt; | events [--day วัน] [--json] | import --day วัน [--project P] [--events ID...] [--all]</translation>
+    </message>
     <message id="cli.clients.added">
       <source>Added client %1 (%2).</source>
       <translation>เพิ่มลูกค้า %1 แล้ว (%2)</translation>
@@ -596,6 +716,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.command.auth">
       <source>Sign up, sign in and out, switch between accounts</source>
       <translation>สมัคร ลงชื่อเข้าและออก สลับบัญชี</translation>
+    </message>
+    <message id="cli.command.calendar">
+      <source>Calendar events as time: calendar add|list|rm|events|import</source>
+      <translation>กิจกรรมในปฏิทินเป็นเวลา: calendar add|list|rm|events|import</translation>
     </message>
     <message id="cli.command.clients">
       <source>The clients you invoice: clients list|add|edit|rm</source>
