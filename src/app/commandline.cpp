@@ -11,6 +11,7 @@
 #include "app/sessionscommands.h"
 #include "app/startup.h"
 #include "app/storecommands.h"
+#include "app/tripcommands.h"
 #include "backend/config.h"
 #include "backend/runblocking.h"
 #include "backend/urlscheme.h"
@@ -133,6 +134,10 @@ QList<Command> commands()
         {u"calendar"_s, [] { return qtTrId("cli.command.calendar"); }, runCalendarCommand},
         //% "The clients you invoice: clients list|add|edit|rm"
         {u"clients"_s, [] { return qtTrId("cli.command.clients"); }, runClientsCommand},
+        //% "Trips and their kilometres: trips list|add|edit|rm|route|export"
+        {u"trips"_s, [] { return qtTrId("cli.command.trips"); }, runTripsCommand},
+        //% "Your rate per kilometre and how you usually travel: travel show|set"
+        {u"travel"_s, [] { return qtTrId("cli.command.travel"); }, runTravelCommand},
         //% "Earned, billed and unbilled money by week, month or project: earnings [--from DAY --to DAY] [--by week|month|project]"
         {u"earnings"_s, [] { return qtTrId("cli.command.earnings"); }, runEarningsCommand},
         //% "Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]"

@@ -4,6 +4,8 @@
 #include "billing/billingeditor.h"
 #include "billing/money.h"
 #include "billing/moneyfield.h"
+#include "billing/moneyinput.h"
+#include "travel/travel.h"
 
 #include <QJsonObject>
 #include <QTextStream>
@@ -94,6 +96,10 @@ int runPriceCommand(const QStringList &arguments, QTextStream &out, QTextStream 
     const QCommandLineOption discountAmount(u"discount-amount"_s, qtTrId("cli.price.option.discountAmount"));
     //% "The task bills at its project's price again."
     const QCommandLineOption inherit(u"inherit"_s, qtTrId("cli.price.option.inherit"));
+    //% "How the project charges its trips: per_km, per_trip or none."
+    const QCommandLineOption travel(u"travel"_s, qtTrId("cli.price.option.travel"), u"mode"_s);
+    //% "The travel rate per kilometre or per trip; without it, per kilometre bills at your own rate."
+    const QCommandLineOption travelRate(u"travel-rate"_s, qtTrId("cli.price.option.travelRate"), u"amount"_s);
     //% "A number as you write it (1250, 1.250,50, 12.5); empty clears it."
     const QString amountHelp = qtTrId("cli.price.option.amount");
     const QList<FieldOption> fields{
@@ -110,7 +116,8 @@ int runPriceCommand(const QStringList &arguments, QTextStream &out, QTextStream 
         {QCommandLineOption(u"discount"_s, amountHelp, u"amount"_s), &BillingEditor::discount},
         {QCommandLineOption(u"vat"_s, amountHelp, u"percent"_s), &BillingEditor::vatPercent},
     };
-    parser.addOptions({taskOption, model, unitLabel, surchargeLabel, discountPct, discountAmount, inherit});
+    parser.addOptions({taskOption, model, unitLabel, surchargeLabel, discountPct, discountAmount, inherit, travel,
+                       travelRate});
     for (const FieldOption &field : fields) {
         parser.addOption(field.option);
     }
@@ -125,7 +132,19 @@ int runPriceCommand(const QStringList &arguments, QTextStream &out, QTextStream 
     const QString usageText = qtTrId("cli.price.usage");
     const bool known = (action == u"show" || action == u"set") && positional.size() == (forTask ? 1 : 2);
     const bool badModel = parser.isSet(model) && !Wire::enumFromName<BillingModel>(parser.value(model));
-    if (!known || badModel || (parser.isSet(inherit) && !forTask) ||
+    // Trips are charged per project; a task has no travel setting of its own.
+    const bool travelSet = parser.isSet(travel) || parser.isSet(travelRate);
+    const bool badTravel = (parser.isSet(travel) && !Wire::enumFromName<Travel::Mode>(parser.value(travel))) ||
+                           (travelSet && (forTask || action != u"set"));
+    std::optional<double> travelRateValue;
+    if (parser.isSet(travelRate) && !parser.value(travelRate).trimmed().isEmpty()) {
+        travelRateValue = MoneyInput::parseDecimal(parser.value(travelRate));
+        if (!travelRateValue || !std::isfinite(*travelRateValue) || *travelRateValue < 0) {
+            err << qtTrId("cli.price.invalid").arg(u"--travel-rate "_s + parser.value(travelRate)) << Qt::endl;
+            return 2;
+        }
+    }
+    if (!known || badModel || badTravel || (parser.isSet(inherit) && !forTask) ||
         (parser.isSet(discountPct) && parser.isSet(discountAmount))) {
         return Cli::usage(err, usageText);
     }
@@ -210,7 +229,26 @@ int runPriceCommand(const QStringList &arguments, QTextStream &out, QTextStream 
         }
         project = store.project(project->id);
     } else {
-        saved = true;
+        saved = !travelSet;
+    }
+    if (travelSet && project) {
+        Billing billing = Earnings::editorBilling(*project, defaultRateOf(store));
+        Travel::Setting setting = Travel::of(billing);
+        if (parser.isSet(travel)) {
+            setting.mode = *Wire::enumFromName<Travel::Mode>(parser.value(travel));
+        }
+        if (parser.isSet(travelRate)) {
+            setting.rate = travelRateValue;
+        }
+        billing.travel = Travel::toJson(setting);
+        Earnings::ProjectBillingWrite write{billing, std::nullopt};
+        if (billing.model == BillingModel::Hourly) {
+            write.hourlyRate = billing.unitPrice;
+        }
+        if (!runBlocking(store.updateProjectBilling(project->id, write))) {
+            return session.failed(err);
+        }
+        project = store.project(project->id);
     }
     if (saved && !json) {
         //% "Nothing changed."

@@ -789,6 +789,14 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Start, stop or show the timer: timer start|stop|toggle|status</source>
       <translation>Timer starten, stoppen oder anzeigen: timer start|stop|toggle|status</translation>
     </message>
+    <message id="cli.command.travel">
+      <source>Your rate per kilometre and how you usually travel: travel show|set</source>
+      <translation>Ihr Satz pro Kilometer und wie Sie meist reisen: travel show|set</translation>
+    </message>
+    <message id="cli.command.trips">
+      <source>Trips and their kilometres: trips list|add|edit|rm|route|export</source>
+      <translation>Fahrten und ihre Kilometer: trips list|add|edit|rm|route|export</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Befehle:</translation>
@@ -1297,6 +1305,14 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>The task whose own price to show or set, instead of a project's.</source>
       <translation>Die Aufgabe, deren eigener Preis angezeigt oder festgelegt wird, statt eines Projekts.</translation>
     </message>
+    <message id="cli.price.option.travel">
+      <source>How the project charges its trips: per_km, per_trip or none.</source>
+      <translation>Wie das Projekt seine Fahrten berechnet: per_km, per_trip oder none.</translation>
+    </message>
+    <message id="cli.price.option.travelRate">
+      <source>The travel rate per kilometre or per trip; without it, per kilometre bills at your own rate.</source>
+      <translation>Der Reisesatz pro Kilometer oder pro Fahrt; ohne ihn gilt pro Kilometer Ihr eigener Satz.</translation>
+    </message>
     <message id="cli.price.option.unitLabel">
       <source>Name of the unit of a per-unit price.</source>
       <translation>Name der Einheit eines Preises pro Einheit.</translation>
@@ -1744,6 +1760,110 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="cli.timer.usage">
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Aufruf: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
+    </message>
+    <message id="cli.travel.option.mode">
+      <source>How you usually travel: car, bike, walk, transit or other.</source>
+      <translation>Wie Sie meist reisen: car, bike, walk, transit oder other.</translation>
+    </message>
+    <message id="cli.travel.option.rate">
+      <source>Your rate per kilometre, used where a project names none.</source>
+      <translation>Ihr Satz pro Kilometer, für Projekte ohne eigenen Satz.</translation>
+    </message>
+    <message id="cli.travel.show">
+      <source>Rate per kilometre: %1. Usually travel by: %2.</source>
+      <translation>Satz pro Kilometer: %1. Reist meist mit: %2.</translation>
+    </message>
+    <message id="cli.travel.usage">
+      <source>Usage: morvane travel show | set [--rate R] [--mode M] [--json]</source>
+      <translation>Aufruf: morvane travel show | set [--rate R] [--mode M] [--json]</translation>
+    </message>
+    <message id="cli.trips.added">
+      <source>Added trip %1: %2 km.</source>
+      <translation>Fahrt %1 hinzugefügt: %2 km.</translation>
+    </message>
+    <message id="cli.trips.deleted">
+      <source>Deleted trip %1.</source>
+      <translation>Fahrt %1 gelöscht.</translation>
+    </message>
+    <message id="cli.trips.exported">
+      <source>Wrote %1 trips to %2.</source>
+      <translation>%1 Fahrten nach %2 geschrieben.</translation>
+    </message>
+    <message id="cli.trips.invoiced">
+      <source>invoiced</source>
+      <translation>abgerechnet</translation>
+    </message>
+    <message id="cli.trips.needKm">
+      <source>The distance is unknown: the places were not found. Give it with --km.</source>
+      <translation>Die Entfernung ist unbekannt: die Orte wurden nicht gefunden. Geben Sie sie mit --km an.</translation>
+    </message>
+    <message id="cli.trips.noMatch">
+      <source>No single trip matches "%1". See them with: morvane trips list</source>
+      <translation>Keine einzelne Fahrt passt zu "%1". Anzeigen mit: morvane trips list</translation>
+    </message>
+    <message id="cli.trips.notCharged">
+      <source>not charged</source>
+      <translation>nicht berechnet</translation>
+    </message>
+    <message id="cli.trips.option.date">
+      <source>The day of the trip (YYYY-MM-DD).</source>
+      <translation>Der Tag der Fahrt (JJJJ-MM-TT).</translation>
+    </message>
+    <message id="cli.trips.option.from">
+      <source>Where the trip started: an address, a place or "lat,lng"; for an export, the first day.</source>
+      <translation>Wo die Fahrt begann: eine Adresse, ein Ort oder "lat,lng"; beim Export der erste Tag.</translation>
+    </message>
+    <message id="cli.trips.option.km">
+      <source>The distance in kilometres; without it the road route, else the straight-line estimate.</source>
+      <translation>Die Entfernung in Kilometern; ohne sie die Straßenroute, sonst die Luftlinie.</translation>
+    </message>
+    <message id="cli.trips.option.mode">
+      <source>car, bike, walk, transit or other.</source>
+      <translation>car, bike, walk, transit oder other.</translation>
+    </message>
+    <message id="cli.trips.option.notBillable">
+      <source>A business trip that is not charged to the client.</source>
+      <translation>Eine Geschäftsfahrt, die dem Kunden nicht berechnet wird.</translation>
+    </message>
+    <message id="cli.trips.option.out">
+      <source>The CSV file to write.</source>
+      <translation>Die zu schreibende CSV-Datei.</translation>
+    </message>
+    <message id="cli.trips.option.private">
+      <source>A private trip; never charged.</source>
+      <translation>Eine private Fahrt; wird nie berechnet.</translation>
+    </message>
+    <message id="cli.trips.option.project">
+      <source>The project the trip served.</source>
+      <translation>Das Projekt, dem die Fahrt diente.</translation>
+    </message>
+    <message id="cli.trips.option.purpose">
+      <source>What the trip was for.</source>
+      <translation>Wofür die Fahrt war.</translation>
+    </message>
+    <message id="cli.trips.option.task">
+      <source>The task the trip served.</source>
+      <translation>Die Aufgabe, der die Fahrt diente.</translation>
+    </message>
+    <message id="cli.trips.option.to">
+      <source>Where the trip ended; for an export, the last day.</source>
+      <translation>Wo die Fahrt endete; beim Export der letzte Tag.</translation>
+    </message>
+    <message id="cli.trips.placeUnknown">
+      <source>No place was found for "%1".</source>
+      <translation>Kein Ort für "%1" gefunden.</translation>
+    </message>
+    <message id="cli.trips.private">
+      <source>private</source>
+      <translation>privat</translation>
+    </message>
+    <message id="cli.trips.saved">
+      <source>Saved trip %1.</source>
+      <translation>Fahrt %1 gespeichert.</translation>
+    </message>
+    <message id="cli.trips.usage">
+      <source>Usage: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</source>
+      <translation>Aufruf: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</translation>
     </message>
     <message id="client.err.nameMissing">
       <source>A client needs a name.</source>
@@ -2213,6 +2333,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>This month</source>
       <translation>Dieser Monat</translation>
     </message>
+    <message id="invoiceTravelInclude">
+      <source>Charge travel</source>
+      <translation>Reisekosten berechnen</translation>
+    </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>
       <translation>Der Datenordner %1 des lokalen Backends ist nicht beschreibbar.</translation>
@@ -2360,6 +2484,70 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>Der Timer dieser Aufgabe wurde auf einem anderen Gerät gestartet, daher wurde ihr Status nicht geändert.</translation>
+    </message>
+    <message id="travelDescribeMany">
+      <source>%1 km in %2 trips</source>
+      <translation>%1 km in %2 Fahrten</translation>
+    </message>
+    <message id="travelDescribeOne">
+      <source>%1 km in 1 trip</source>
+      <translation>%1 km in 1 Fahrt</translation>
+    </message>
+    <message id="travelKm">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="travelTitle">
+      <source>Travel</source>
+      <translation>Reisekosten</translation>
+    </message>
+    <message id="travelTrip">
+      <source>trip</source>
+      <translation>Fahrt</translation>
+    </message>
+    <message id="trip.err.notLoaded">
+      <source>Your trips could not be loaded. Check your connection and try again.</source>
+      <translation>Ihre Fahrten konnten nicht geladen werden. Prüfen Sie Ihre Verbindung und versuchen Sie es erneut.</translation>
+    </message>
+    <message id="trip.err.notSaved">
+      <source>The trip was not saved: it no longer exists or you may not change it.</source>
+      <translation>Die Fahrt wurde nicht gespeichert: sie existiert nicht mehr oder Sie dürfen sie nicht ändern.</translation>
+    </message>
+    <message id="trip.err.settingsNotSaved">
+      <source>Your travel settings were not saved.</source>
+      <translation>Ihre Reiseeinstellungen wurden nicht gespeichert.</translation>
+    </message>
+    <message id="tripDeleteConfirm">
+      <source>Delete this trip? This cannot be undone.</source>
+      <translation>Diese Fahrt löschen? Das lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message id="tripDistanceByRoad">
+      <source>Distance by road, about %1 min. Change it if you went another way.</source>
+      <translation>Entfernung über die Straße, etwa %1 Min. Ändern Sie sie, wenn Sie anders gefahren sind.</translation>
+    </message>
+    <message id="tripDistanceEstimate">
+      <source>Kilometres are an estimate from the addresses; change them if needed.</source>
+      <translation>Die Kilometer sind aus den Adressen geschätzt; ändern Sie sie bei Bedarf.</translation>
+    </message>
+    <message id="tripErrNoService">
+      <source>No routing or address service is set up.</source>
+      <translation>Es ist kein Routen- oder Adressdienst eingerichtet.</translation>
+    </message>
+    <message id="tripErrNotFound">
+      <source>No place or route was found for this.</source>
+      <translation>Dafür wurde kein Ort und keine Route gefunden.</translation>
+    </message>
+    <message id="tripInProgress">
+      <source>Trip in progress</source>
+      <translation>Fahrt läuft</translation>
+    </message>
+    <message id="tripSearchFailed">
+      <source>Searching did not work. Check your connection and try again.</source>
+      <translation>Die Suche hat nicht funktioniert. Prüfen Sie Ihre Verbindung und versuchen Sie es erneut.</translation>
+    </message>
+    <message id="tripsEmpty">
+      <source>No trips yet. Trips your phone records while a timer runs show up here. You can also add a trip by hand.</source>
+      <translation>Noch keine Fahrten. Fahrten, die Ihr Telefon bei laufendem Timer aufzeichnet, erscheinen hier. Sie können eine Fahrt auch von Hand hinzufügen.</translation>
     </message>
     <message id="ui.action.floatingTimer">
       <source>Show or hide the floating timer</source>

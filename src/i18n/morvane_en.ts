@@ -789,6 +789,14 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Start, stop or show the timer: timer start|stop|toggle|status</source>
       <translation>Start, stop or show the timer: timer start|stop|toggle|status</translation>
     </message>
+    <message id="cli.command.travel">
+      <source>Your rate per kilometre and how you usually travel: travel show|set</source>
+      <translation>Your rate per kilometre and how you usually travel: travel show|set</translation>
+    </message>
+    <message id="cli.command.trips">
+      <source>Trips and their kilometres: trips list|add|edit|rm|route|export</source>
+      <translation>Trips and their kilometres: trips list|add|edit|rm|route|export</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Commands:</translation>
@@ -1297,6 +1305,14 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>The task whose own price to show or set, instead of a project's.</source>
       <translation>The task whose own price to show or set, instead of a project's.</translation>
     </message>
+    <message id="cli.price.option.travel">
+      <source>How the project charges its trips: per_km, per_trip or none.</source>
+      <translation>How the project charges its trips: per_km, per_trip or none.</translation>
+    </message>
+    <message id="cli.price.option.travelRate">
+      <source>The travel rate per kilometre or per trip; without it, per kilometre bills at your own rate.</source>
+      <translation>The travel rate per kilometre or per trip; without it, per kilometre bills at your own rate.</translation>
+    </message>
     <message id="cli.price.option.unitLabel">
       <source>Name of the unit of a per-unit price.</source>
       <translation>Name of the unit of a per-unit price.</translation>
@@ -1744,6 +1760,110 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="cli.timer.usage">
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
+    </message>
+    <message id="cli.travel.option.mode">
+      <source>How you usually travel: car, bike, walk, transit or other.</source>
+      <translation>How you usually travel: car, bike, walk, transit or other.</translation>
+    </message>
+    <message id="cli.travel.option.rate">
+      <source>Your rate per kilometre, used where a project names none.</source>
+      <translation>Your rate per kilometre, used where a project names none.</translation>
+    </message>
+    <message id="cli.travel.show">
+      <source>Rate per kilometre: %1. Usually travel by: %2.</source>
+      <translation>Rate per kilometre: %1. Usually travel by: %2.</translation>
+    </message>
+    <message id="cli.travel.usage">
+      <source>Usage: morvane travel show | set [--rate R] [--mode M] [--json]</source>
+      <translation>Usage: morvane travel show | set [--rate R] [--mode M] [--json]</translation>
+    </message>
+    <message id="cli.trips.added">
+      <source>Added trip %1: %2 km.</source>
+      <translation>Added trip %1: %2 km.</translation>
+    </message>
+    <message id="cli.trips.deleted">
+      <source>Deleted trip %1.</source>
+      <translation>Deleted trip %1.</translation>
+    </message>
+    <message id="cli.trips.exported">
+      <source>Wrote %1 trips to %2.</source>
+      <translation>Wrote %1 trips to %2.</translation>
+    </message>
+    <message id="cli.trips.invoiced">
+      <source>invoiced</source>
+      <translation>invoiced</translation>
+    </message>
+    <message id="cli.trips.needKm">
+      <source>The distance is unknown: the places were not found. Give it with --km.</source>
+      <translation>The distance is unknown: the places were not found. Give it with --km.</translation>
+    </message>
+    <message id="cli.trips.noMatch">
+      <source>No single trip matches "%1". See them with: morvane trips list</source>
+      <translation>No single trip matches "%1". See them with: morvane trips list</translation>
+    </message>
+    <message id="cli.trips.notCharged">
+      <source>not charged</source>
+      <translation>not charged</translation>
+    </message>
+    <message id="cli.trips.option.date">
+      <source>The day of the trip (YYYY-MM-DD).</source>
+      <translation>The day of the trip (YYYY-MM-DD).</translation>
+    </message>
+    <message id="cli.trips.option.from">
+      <source>Where the trip started: an address, a place or "lat,lng"; for an export, the first day.</source>
+      <translation>Where the trip started: an address, a place or "lat,lng"; for an export, the first day.</translation>
+    </message>
+    <message id="cli.trips.option.km">
+      <source>The distance in kilometres; without it the road route, else the straight-line estimate.</source>
+      <translation>The distance in kilometres; without it the road route, else the straight-line estimate.</translation>
+    </message>
+    <message id="cli.trips.option.mode">
+      <source>car, bike, walk, transit or other.</source>
+      <translation>car, bike, walk, transit or other.</translation>
+    </message>
+    <message id="cli.trips.option.notBillable">
+      <source>A business trip that is not charged to the client.</source>
+      <translation>A business trip that is not charged to the client.</translation>
+    </message>
+    <message id="cli.trips.option.out">
+      <source>The CSV file to write.</source>
+      <translation>The CSV file to write.</translation>
+    </message>
+    <message id="cli.trips.option.private">
+      <source>A private trip; never charged.</source>
+      <translation>A private trip; never charged.</translation>
+    </message>
+    <message id="cli.trips.option.project">
+      <source>The project the trip served.</source>
+      <translation>The project the trip served.</translation>
+    </message>
+    <message id="cli.trips.option.purpose">
+      <source>What the trip was for.</source>
+      <translation>What the trip was for.</translation>
+    </message>
+    <message id="cli.trips.option.task">
+      <source>The task the trip served.</source>
+      <translation>The task the trip served.</translation>
+    </message>
+    <message id="cli.trips.option.to">
+      <source>Where the trip ended; for an export, the last day.</source>
+      <translation>Where the trip ended; for an export, the last day.</translation>
+    </message>
+    <message id="cli.trips.placeUnknown">
+      <source>No place was found for "%1".</source>
+      <translation>No place was found for "%1".</translation>
+    </message>
+    <message id="cli.trips.private">
+      <source>private</source>
+      <translation>private</translation>
+    </message>
+    <message id="cli.trips.saved">
+      <source>Saved trip %1.</source>
+      <translation>Saved trip %1.</translation>
+    </message>
+    <message id="cli.trips.usage">
+      <source>Usage: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</source>
+      <translation>Usage: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</translation>
     </message>
     <message id="client.err.nameMissing">
       <source>A client needs a name.</source>
@@ -2213,6 +2333,10 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>This month</source>
       <translation>This month</translation>
     </message>
+    <message id="invoiceTravelInclude">
+      <source>Charge travel</source>
+      <translation>Charge travel</translation>
+    </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>
       <translation>Cannot write the local backend's data folder %1.</translation>
@@ -2360,6 +2484,70 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>The timer of this task was started on another device, so its status was not changed.</translation>
+    </message>
+    <message id="travelDescribeMany">
+      <source>%1 km in %2 trips</source>
+      <translation>%1 km in %2 trips</translation>
+    </message>
+    <message id="travelDescribeOne">
+      <source>%1 km in 1 trip</source>
+      <translation>%1 km in 1 trip</translation>
+    </message>
+    <message id="travelKm">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="travelTitle">
+      <source>Travel</source>
+      <translation>Travel</translation>
+    </message>
+    <message id="travelTrip">
+      <source>trip</source>
+      <translation>trip</translation>
+    </message>
+    <message id="trip.err.notLoaded">
+      <source>Your trips could not be loaded. Check your connection and try again.</source>
+      <translation>Your trips could not be loaded. Check your connection and try again.</translation>
+    </message>
+    <message id="trip.err.notSaved">
+      <source>The trip was not saved: it no longer exists or you may not change it.</source>
+      <translation>The trip was not saved: it no longer exists or you may not change it.</translation>
+    </message>
+    <message id="trip.err.settingsNotSaved">
+      <source>Your travel settings were not saved.</source>
+      <translation>Your travel settings were not saved.</translation>
+    </message>
+    <message id="tripDeleteConfirm">
+      <source>Delete this trip? This cannot be undone.</source>
+      <translation>Delete this trip? This cannot be undone.</translation>
+    </message>
+    <message id="tripDistanceByRoad">
+      <source>Distance by road, about %1 min. Change it if you went another way.</source>
+      <translation>Distance by road, about %1 min. Change it if you went another way.</translation>
+    </message>
+    <message id="tripDistanceEstimate">
+      <source>Kilometres are an estimate from the addresses; change them if needed.</source>
+      <translation>Kilometres are an estimate from the addresses; change them if needed.</translation>
+    </message>
+    <message id="tripErrNoService">
+      <source>No routing or address service is set up.</source>
+      <translation>No routing or address service is set up.</translation>
+    </message>
+    <message id="tripErrNotFound">
+      <source>No place or route was found for this.</source>
+      <translation>No place or route was found for this.</translation>
+    </message>
+    <message id="tripInProgress">
+      <source>Trip in progress</source>
+      <translation>Trip in progress</translation>
+    </message>
+    <message id="tripSearchFailed">
+      <source>Searching did not work. Check your connection and try again.</source>
+      <translation>Searching did not work. Check your connection and try again.</translation>
+    </message>
+    <message id="tripsEmpty">
+      <source>No trips yet. Trips your phone records while a timer runs show up here. You can also add a trip by hand.</source>
+      <translation>No trips yet. Trips your phone records while a timer runs show up here. You can also add a trip by hand.</translation>
     </message>
     <message id="ui.action.floatingTimer">
       <source>Show or hide the floating timer</source>

@@ -789,6 +789,14 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Start, stop or show the timer: timer start|stop|toggle|status</source>
       <translation>Iniciar, detener o mostrar el temporizador: timer start|stop|toggle|status</translation>
     </message>
+    <message id="cli.command.travel">
+      <source>Your rate per kilometre and how you usually travel: travel show|set</source>
+      <translation>Tu tarifa por kilómetro y cómo sueles viajar: travel show|set</translation>
+    </message>
+    <message id="cli.command.trips">
+      <source>Trips and their kilometres: trips list|add|edit|rm|route|export</source>
+      <translation>Trayectos y sus kilómetros: trips list|add|edit|rm|route|export</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Comandos:</translation>
@@ -1297,6 +1305,14 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>The task whose own price to show or set, instead of a project's.</source>
       <translation>La tarea cuyo precio propio mostrar o fijar, en lugar del de un proyecto.</translation>
     </message>
+    <message id="cli.price.option.travel">
+      <source>How the project charges its trips: per_km, per_trip or none.</source>
+      <translation>Cómo cobra el proyecto sus trayectos: per_km, per_trip o none.</translation>
+    </message>
+    <message id="cli.price.option.travelRate">
+      <source>The travel rate per kilometre or per trip; without it, per kilometre bills at your own rate.</source>
+      <translation>La tarifa por kilómetro o por trayecto; sin ella, por kilómetro se cobra tu propia tarifa.</translation>
+    </message>
     <message id="cli.price.option.unitLabel">
       <source>Name of the unit of a per-unit price.</source>
       <translation>Nombre de la unidad de un precio por unidad.</translation>
@@ -1744,6 +1760,110 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.timer.usage">
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Uso: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
+    </message>
+    <message id="cli.travel.option.mode">
+      <source>How you usually travel: car, bike, walk, transit or other.</source>
+      <translation>Cómo sueles viajar: car, bike, walk, transit u other.</translation>
+    </message>
+    <message id="cli.travel.option.rate">
+      <source>Your rate per kilometre, used where a project names none.</source>
+      <translation>Tu tarifa por kilómetro, para los proyectos que no tienen una.</translation>
+    </message>
+    <message id="cli.travel.show">
+      <source>Rate per kilometre: %1. Usually travel by: %2.</source>
+      <translation>Tarifa por kilómetro: %1. Suele viajar en: %2.</translation>
+    </message>
+    <message id="cli.travel.usage">
+      <source>Usage: morvane travel show | set [--rate R] [--mode M] [--json]</source>
+      <translation>Uso: morvane travel show | set [--rate R] [--mode M] [--json]</translation>
+    </message>
+    <message id="cli.trips.added">
+      <source>Added trip %1: %2 km.</source>
+      <translation>Trayecto %1 añadido: %2 km.</translation>
+    </message>
+    <message id="cli.trips.deleted">
+      <source>Deleted trip %1.</source>
+      <translation>Trayecto %1 eliminado.</translation>
+    </message>
+    <message id="cli.trips.exported">
+      <source>Wrote %1 trips to %2.</source>
+      <translation>%1 trayectos escritos en %2.</translation>
+    </message>
+    <message id="cli.trips.invoiced">
+      <source>invoiced</source>
+      <translation>facturado</translation>
+    </message>
+    <message id="cli.trips.needKm">
+      <source>The distance is unknown: the places were not found. Give it with --km.</source>
+      <translation>La distancia es desconocida: no se encontraron los lugares. Indícala con --km.</translation>
+    </message>
+    <message id="cli.trips.noMatch">
+      <source>No single trip matches "%1". See them with: morvane trips list</source>
+      <translation>Ningún trayecto único coincide con «%1». Míralos con: morvane trips list</translation>
+    </message>
+    <message id="cli.trips.notCharged">
+      <source>not charged</source>
+      <translation>no cobrado</translation>
+    </message>
+    <message id="cli.trips.option.date">
+      <source>The day of the trip (YYYY-MM-DD).</source>
+      <translation>El día del trayecto (AAAA-MM-DD).</translation>
+    </message>
+    <message id="cli.trips.option.from">
+      <source>Where the trip started: an address, a place or "lat,lng"; for an export, the first day.</source>
+      <translation>Dónde empezó: una dirección, un lugar o "lat,lng"; en una exportación, el primer día.</translation>
+    </message>
+    <message id="cli.trips.option.km">
+      <source>The distance in kilometres; without it the road route, else the straight-line estimate.</source>
+      <translation>La distancia en kilómetros; sin ella, la ruta por carretera, si no, la estimación en línea recta.</translation>
+    </message>
+    <message id="cli.trips.option.mode">
+      <source>car, bike, walk, transit or other.</source>
+      <translation>car, bike, walk, transit u other.</translation>
+    </message>
+    <message id="cli.trips.option.notBillable">
+      <source>A business trip that is not charged to the client.</source>
+      <translation>Un trayecto de trabajo que no se cobra al cliente.</translation>
+    </message>
+    <message id="cli.trips.option.out">
+      <source>The CSV file to write.</source>
+      <translation>El archivo CSV que se escribe.</translation>
+    </message>
+    <message id="cli.trips.option.private">
+      <source>A private trip; never charged.</source>
+      <translation>Un trayecto privado; nunca se cobra.</translation>
+    </message>
+    <message id="cli.trips.option.project">
+      <source>The project the trip served.</source>
+      <translation>El proyecto del trayecto.</translation>
+    </message>
+    <message id="cli.trips.option.purpose">
+      <source>What the trip was for.</source>
+      <translation>Para qué fue el trayecto.</translation>
+    </message>
+    <message id="cli.trips.option.task">
+      <source>The task the trip served.</source>
+      <translation>La tarea del trayecto.</translation>
+    </message>
+    <message id="cli.trips.option.to">
+      <source>Where the trip ended; for an export, the last day.</source>
+      <translation>Dónde terminó; en una exportación, el último día.</translation>
+    </message>
+    <message id="cli.trips.placeUnknown">
+      <source>No place was found for "%1".</source>
+      <translation>No se encontró ningún lugar para «%1».</translation>
+    </message>
+    <message id="cli.trips.private">
+      <source>private</source>
+      <translation>privado</translation>
+    </message>
+    <message id="cli.trips.saved">
+      <source>Saved trip %1.</source>
+      <translation>Trayecto %1 guardado.</translation>
+    </message>
+    <message id="cli.trips.usage">
+      <source>Usage: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</source>
+      <translation>Uso: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</translation>
     </message>
     <message id="client.err.nameMissing">
       <source>A client needs a name.</source>
@@ -2213,6 +2333,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>This month</source>
       <translation>Este mes</translation>
     </message>
+    <message id="invoiceTravelInclude">
+      <source>Charge travel</source>
+      <translation>Cobrar desplazamientos</translation>
+    </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>
       <translation>No se puede escribir en la carpeta de datos %1 del servidor local.</translation>
@@ -2360,6 +2484,70 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>El temporizador de esta tarea se inició en otro dispositivo, así que su estado no se cambió.</translation>
+    </message>
+    <message id="travelDescribeMany">
+      <source>%1 km in %2 trips</source>
+      <translation>%1 km en %2 trayectos</translation>
+    </message>
+    <message id="travelDescribeOne">
+      <source>%1 km in 1 trip</source>
+      <translation>%1 km en 1 trayecto</translation>
+    </message>
+    <message id="travelKm">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="travelTitle">
+      <source>Travel</source>
+      <translation>Desplazamientos</translation>
+    </message>
+    <message id="travelTrip">
+      <source>trip</source>
+      <translation>trayecto</translation>
+    </message>
+    <message id="trip.err.notLoaded">
+      <source>Your trips could not be loaded. Check your connection and try again.</source>
+      <translation>No se pudieron cargar tus trayectos. Comprueba tu conexión e inténtalo de nuevo.</translation>
+    </message>
+    <message id="trip.err.notSaved">
+      <source>The trip was not saved: it no longer exists or you may not change it.</source>
+      <translation>El trayecto no se guardó: ya no existe o no puedes cambiarlo.</translation>
+    </message>
+    <message id="trip.err.settingsNotSaved">
+      <source>Your travel settings were not saved.</source>
+      <translation>Tus ajustes de viaje no se guardaron.</translation>
+    </message>
+    <message id="tripDeleteConfirm">
+      <source>Delete this trip? This cannot be undone.</source>
+      <translation>¿Eliminar este trayecto? No se puede deshacer.</translation>
+    </message>
+    <message id="tripDistanceByRoad">
+      <source>Distance by road, about %1 min. Change it if you went another way.</source>
+      <translation>Distancia por carretera, unos %1 min. Cámbiala si fuiste por otro camino.</translation>
+    </message>
+    <message id="tripDistanceEstimate">
+      <source>Kilometres are an estimate from the addresses; change them if needed.</source>
+      <translation>Los kilómetros son una estimación a partir de las direcciones; cámbialos si hace falta.</translation>
+    </message>
+    <message id="tripErrNoService">
+      <source>No routing or address service is set up.</source>
+      <translation>No hay ningún servicio de rutas ni de direcciones configurado.</translation>
+    </message>
+    <message id="tripErrNotFound">
+      <source>No place or route was found for this.</source>
+      <translation>No se encontró ningún lugar ni ruta.</translation>
+    </message>
+    <message id="tripInProgress">
+      <source>Trip in progress</source>
+      <translation>Trayecto en curso</translation>
+    </message>
+    <message id="tripSearchFailed">
+      <source>Searching did not work. Check your connection and try again.</source>
+      <translation>La búsqueda no funcionó. Comprueba tu conexión e inténtalo de nuevo.</translation>
+    </message>
+    <message id="tripsEmpty">
+      <source>No trips yet. Trips your phone records while a timer runs show up here. You can also add a trip by hand.</source>
+      <translation>Aún no hay trayectos. Los que registra tu teléfono mientras corre un temporizador aparecen aquí. También puedes añadir uno a mano.</translation>
     </message>
     <message id="ui.action.floatingTimer">
       <source>Show or hide the floating timer</source>

@@ -789,6 +789,14 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Start, stop or show the timer: timer start|stop|toggle|status</source>
       <translation>Démarrer, arrêter ou afficher le minuteur : timer start|stop|toggle|status</translation>
     </message>
+    <message id="cli.command.travel">
+      <source>Your rate per kilometre and how you usually travel: travel show|set</source>
+      <translation>Votre tarif au kilomètre et votre moyen de transport habituel : travel show|set</translation>
+    </message>
+    <message id="cli.command.trips">
+      <source>Trips and their kilometres: trips list|add|edit|rm|route|export</source>
+      <translation>Trajets et leurs kilomètres : trips list|add|edit|rm|route|export</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Commandes :</translation>
@@ -1297,6 +1305,14 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>The task whose own price to show or set, instead of a project's.</source>
       <translation>La tâche dont afficher ou définir le prix propre, au lieu de celui d’un projet.</translation>
     </message>
+    <message id="cli.price.option.travel">
+      <source>How the project charges its trips: per_km, per_trip or none.</source>
+      <translation>Comment le projet facture ses trajets : per_km, per_trip ou none.</translation>
+    </message>
+    <message id="cli.price.option.travelRate">
+      <source>The travel rate per kilometre or per trip; without it, per kilometre bills at your own rate.</source>
+      <translation>Le tarif par kilomètre ou par trajet ; sans lui, le kilomètre est facturé à votre propre tarif.</translation>
+    </message>
     <message id="cli.price.option.unitLabel">
       <source>Name of the unit of a per-unit price.</source>
       <translation>Nom de l’unité d’un prix à l’unité.</translation>
@@ -1744,6 +1760,110 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="cli.timer.usage">
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Utilisation : morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
+    </message>
+    <message id="cli.travel.option.mode">
+      <source>How you usually travel: car, bike, walk, transit or other.</source>
+      <translation>Votre moyen habituel : car, bike, walk, transit ou other.</translation>
+    </message>
+    <message id="cli.travel.option.rate">
+      <source>Your rate per kilometre, used where a project names none.</source>
+      <translation>Votre tarif au kilomètre, pour les projets qui n'en ont pas.</translation>
+    </message>
+    <message id="cli.travel.show">
+      <source>Rate per kilometre: %1. Usually travel by: %2.</source>
+      <translation>Tarif au kilomètre : %1. Se déplace d'habitude en : %2.</translation>
+    </message>
+    <message id="cli.travel.usage">
+      <source>Usage: morvane travel show | set [--rate R] [--mode M] [--json]</source>
+      <translation>Usage : morvane travel show | set [--rate R] [--mode M] [--json]</translation>
+    </message>
+    <message id="cli.trips.added">
+      <source>Added trip %1: %2 km.</source>
+      <translation>Trajet %1 ajouté : %2 km.</translation>
+    </message>
+    <message id="cli.trips.deleted">
+      <source>Deleted trip %1.</source>
+      <translation>Trajet %1 supprimé.</translation>
+    </message>
+    <message id="cli.trips.exported">
+      <source>Wrote %1 trips to %2.</source>
+      <translation>%1 trajets écrits dans %2.</translation>
+    </message>
+    <message id="cli.trips.invoiced">
+      <source>invoiced</source>
+      <translation>facturé</translation>
+    </message>
+    <message id="cli.trips.needKm">
+      <source>The distance is unknown: the places were not found. Give it with --km.</source>
+      <translation>La distance est inconnue : les lieux n'ont pas été trouvés. Indiquez-la avec --km.</translation>
+    </message>
+    <message id="cli.trips.noMatch">
+      <source>No single trip matches "%1". See them with: morvane trips list</source>
+      <translation>Aucun trajet unique ne correspond à « %1 ». Voir la liste : morvane trips list</translation>
+    </message>
+    <message id="cli.trips.notCharged">
+      <source>not charged</source>
+      <translation>non facturé</translation>
+    </message>
+    <message id="cli.trips.option.date">
+      <source>The day of the trip (YYYY-MM-DD).</source>
+      <translation>Le jour du trajet (AAAA-MM-JJ).</translation>
+    </message>
+    <message id="cli.trips.option.from">
+      <source>Where the trip started: an address, a place or "lat,lng"; for an export, the first day.</source>
+      <translation>Le départ : une adresse, un lieu ou « lat,lng » ; pour un export, le premier jour.</translation>
+    </message>
+    <message id="cli.trips.option.km">
+      <source>The distance in kilometres; without it the road route, else the straight-line estimate.</source>
+      <translation>La distance en kilomètres ; sans elle, l'itinéraire routier, sinon l'estimation à vol d'oiseau.</translation>
+    </message>
+    <message id="cli.trips.option.mode">
+      <source>car, bike, walk, transit or other.</source>
+      <translation>car, bike, walk, transit ou other.</translation>
+    </message>
+    <message id="cli.trips.option.notBillable">
+      <source>A business trip that is not charged to the client.</source>
+      <translation>Un trajet professionnel non facturé au client.</translation>
+    </message>
+    <message id="cli.trips.option.out">
+      <source>The CSV file to write.</source>
+      <translation>Le fichier CSV à écrire.</translation>
+    </message>
+    <message id="cli.trips.option.private">
+      <source>A private trip; never charged.</source>
+      <translation>Un trajet privé ; jamais facturé.</translation>
+    </message>
+    <message id="cli.trips.option.project">
+      <source>The project the trip served.</source>
+      <translation>Le projet du trajet.</translation>
+    </message>
+    <message id="cli.trips.option.purpose">
+      <source>What the trip was for.</source>
+      <translation>Le motif du trajet.</translation>
+    </message>
+    <message id="cli.trips.option.task">
+      <source>The task the trip served.</source>
+      <translation>La tâche du trajet.</translation>
+    </message>
+    <message id="cli.trips.option.to">
+      <source>Where the trip ended; for an export, the last day.</source>
+      <translation>L'arrivée ; pour un export, le dernier jour.</translation>
+    </message>
+    <message id="cli.trips.placeUnknown">
+      <source>No place was found for "%1".</source>
+      <translation>Aucun lieu trouvé pour « %1 ».</translation>
+    </message>
+    <message id="cli.trips.private">
+      <source>private</source>
+      <translation>privé</translation>
+    </message>
+    <message id="cli.trips.saved">
+      <source>Saved trip %1.</source>
+      <translation>Trajet %1 enregistré.</translation>
+    </message>
+    <message id="cli.trips.usage">
+      <source>Usage: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</source>
+      <translation>Usage : morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</translation>
     </message>
     <message id="client.err.nameMissing">
       <source>A client needs a name.</source>
@@ -2213,6 +2333,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>This month</source>
       <translation>Ce mois-ci</translation>
     </message>
+    <message id="invoiceTravelInclude">
+      <source>Charge travel</source>
+      <translation>Facturer les déplacements</translation>
+    </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>
       <translation>Impossible d'écrire dans le dossier de données %1 du serveur local.</translation>
@@ -2360,6 +2484,70 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>Le minuteur de cette tâche a été lancé sur un autre appareil, son statut n’a donc pas été modifié.</translation>
+    </message>
+    <message id="travelDescribeMany">
+      <source>%1 km in %2 trips</source>
+      <translation>%1 km en %2 trajets</translation>
+    </message>
+    <message id="travelDescribeOne">
+      <source>%1 km in 1 trip</source>
+      <translation>%1 km en 1 trajet</translation>
+    </message>
+    <message id="travelKm">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="travelTitle">
+      <source>Travel</source>
+      <translation>Déplacements</translation>
+    </message>
+    <message id="travelTrip">
+      <source>trip</source>
+      <translation>trajet</translation>
+    </message>
+    <message id="trip.err.notLoaded">
+      <source>Your trips could not be loaded. Check your connection and try again.</source>
+      <translation>Vos trajets n'ont pas pu être chargés. Vérifiez votre connexion et réessayez.</translation>
+    </message>
+    <message id="trip.err.notSaved">
+      <source>The trip was not saved: it no longer exists or you may not change it.</source>
+      <translation>Le trajet n'a pas été enregistré : il n'existe plus ou vous ne pouvez pas le modifier.</translation>
+    </message>
+    <message id="trip.err.settingsNotSaved">
+      <source>Your travel settings were not saved.</source>
+      <translation>Vos réglages de déplacement n'ont pas été enregistrés.</translation>
+    </message>
+    <message id="tripDeleteConfirm">
+      <source>Delete this trip? This cannot be undone.</source>
+      <translation>Supprimer ce trajet ? Cette action est irréversible.</translation>
+    </message>
+    <message id="tripDistanceByRoad">
+      <source>Distance by road, about %1 min. Change it if you went another way.</source>
+      <translation>Distance par la route, environ %1 min. Modifiez-la si vous avez pris un autre chemin.</translation>
+    </message>
+    <message id="tripDistanceEstimate">
+      <source>Kilometres are an estimate from the addresses; change them if needed.</source>
+      <translation>Les kilomètres sont estimés à partir des adresses ; modifiez-les si besoin.</translation>
+    </message>
+    <message id="tripErrNoService">
+      <source>No routing or address service is set up.</source>
+      <translation>Aucun service d'itinéraire ou d'adresse n'est configuré.</translation>
+    </message>
+    <message id="tripErrNotFound">
+      <source>No place or route was found for this.</source>
+      <translation>Aucun lieu ni itinéraire trouvé.</translation>
+    </message>
+    <message id="tripInProgress">
+      <source>Trip in progress</source>
+      <translation>Trajet en cours</translation>
+    </message>
+    <message id="tripSearchFailed">
+      <source>Searching did not work. Check your connection and try again.</source>
+      <translation>La recherche n'a pas fonctionné. Vérifiez votre connexion et réessayez.</translation>
+    </message>
+    <message id="tripsEmpty">
+      <source>No trips yet. Trips your phone records while a timer runs show up here. You can also add a trip by hand.</source>
+      <translation>Aucun trajet pour l'instant. Les trajets enregistrés par votre téléphone pendant un minuteur apparaissent ici. Vous pouvez aussi en ajouter à la main.</translation>
     </message>
     <message id="ui.action.floatingTimer">
       <source>Show or hide the floating timer</source>

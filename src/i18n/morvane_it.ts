@@ -789,6 +789,14 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Start, stop or show the timer: timer start|stop|toggle|status</source>
       <translation>Avviare, fermare o mostrare il timer: timer start|stop|toggle|status</translation>
     </message>
+    <message id="cli.command.travel">
+      <source>Your rate per kilometre and how you usually travel: travel show|set</source>
+      <translation>La tua tariffa al chilometro e come viaggi di solito: travel show|set</translation>
+    </message>
+    <message id="cli.command.trips">
+      <source>Trips and their kilometres: trips list|add|edit|rm|route|export</source>
+      <translation>Viaggi e i loro chilometri: trips list|add|edit|rm|route|export</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>Comandi:</translation>
@@ -1297,6 +1305,14 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>The task whose own price to show or set, instead of a project's.</source>
       <translation>L’attività di cui mostrare o impostare il prezzo proprio, invece di quello di un progetto.</translation>
     </message>
+    <message id="cli.price.option.travel">
+      <source>How the project charges its trips: per_km, per_trip or none.</source>
+      <translation>Come il progetto addebita i viaggi: per_km, per_trip o none.</translation>
+    </message>
+    <message id="cli.price.option.travelRate">
+      <source>The travel rate per kilometre or per trip; without it, per kilometre bills at your own rate.</source>
+      <translation>La tariffa al chilometro o per viaggio; senza, al chilometro si applica la tua tariffa.</translation>
+    </message>
     <message id="cli.price.option.unitLabel">
       <source>Name of the unit of a per-unit price.</source>
       <translation>Nome dell’unità di un prezzo unitario.</translation>
@@ -1744,6 +1760,110 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="cli.timer.usage">
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>Uso: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
+    </message>
+    <message id="cli.travel.option.mode">
+      <source>How you usually travel: car, bike, walk, transit or other.</source>
+      <translation>Come viaggi di solito: car, bike, walk, transit o other.</translation>
+    </message>
+    <message id="cli.travel.option.rate">
+      <source>Your rate per kilometre, used where a project names none.</source>
+      <translation>La tua tariffa al chilometro, per i progetti che non ne hanno una.</translation>
+    </message>
+    <message id="cli.travel.show">
+      <source>Rate per kilometre: %1. Usually travel by: %2.</source>
+      <translation>Tariffa al chilometro: %1. Di solito viaggia in: %2.</translation>
+    </message>
+    <message id="cli.travel.usage">
+      <source>Usage: morvane travel show | set [--rate R] [--mode M] [--json]</source>
+      <translation>Uso: morvane travel show | set [--rate R] [--mode M] [--json]</translation>
+    </message>
+    <message id="cli.trips.added">
+      <source>Added trip %1: %2 km.</source>
+      <translation>Viaggio %1 aggiunto: %2 km.</translation>
+    </message>
+    <message id="cli.trips.deleted">
+      <source>Deleted trip %1.</source>
+      <translation>Viaggio %1 eliminato.</translation>
+    </message>
+    <message id="cli.trips.exported">
+      <source>Wrote %1 trips to %2.</source>
+      <translation>%1 viaggi scritti in %2.</translation>
+    </message>
+    <message id="cli.trips.invoiced">
+      <source>invoiced</source>
+      <translation>fatturato</translation>
+    </message>
+    <message id="cli.trips.needKm">
+      <source>The distance is unknown: the places were not found. Give it with --km.</source>
+      <translation>La distanza è sconosciuta: i luoghi non sono stati trovati. Indicala con --km.</translation>
+    </message>
+    <message id="cli.trips.noMatch">
+      <source>No single trip matches "%1". See them with: morvane trips list</source>
+      <translation>Nessun viaggio unico corrisponde a «%1». Vedili con: morvane trips list</translation>
+    </message>
+    <message id="cli.trips.notCharged">
+      <source>not charged</source>
+      <translation>non addebitato</translation>
+    </message>
+    <message id="cli.trips.option.date">
+      <source>The day of the trip (YYYY-MM-DD).</source>
+      <translation>Il giorno del viaggio (AAAA-MM-GG).</translation>
+    </message>
+    <message id="cli.trips.option.from">
+      <source>Where the trip started: an address, a place or "lat,lng"; for an export, the first day.</source>
+      <translation>Dove è iniziato: un indirizzo, un luogo o "lat,lng"; per un'esportazione, il primo giorno.</translation>
+    </message>
+    <message id="cli.trips.option.km">
+      <source>The distance in kilometres; without it the road route, else the straight-line estimate.</source>
+      <translation>La distanza in chilometri; senza, il percorso stradale, altrimenti la stima in linea d'aria.</translation>
+    </message>
+    <message id="cli.trips.option.mode">
+      <source>car, bike, walk, transit or other.</source>
+      <translation>car, bike, walk, transit o other.</translation>
+    </message>
+    <message id="cli.trips.option.notBillable">
+      <source>A business trip that is not charged to the client.</source>
+      <translation>Un viaggio di lavoro non addebitato al cliente.</translation>
+    </message>
+    <message id="cli.trips.option.out">
+      <source>The CSV file to write.</source>
+      <translation>Il file CSV da scrivere.</translation>
+    </message>
+    <message id="cli.trips.option.private">
+      <source>A private trip; never charged.</source>
+      <translation>Un viaggio privato; mai addebitato.</translation>
+    </message>
+    <message id="cli.trips.option.project">
+      <source>The project the trip served.</source>
+      <translation>Il progetto del viaggio.</translation>
+    </message>
+    <message id="cli.trips.option.purpose">
+      <source>What the trip was for.</source>
+      <translation>A cosa serviva il viaggio.</translation>
+    </message>
+    <message id="cli.trips.option.task">
+      <source>The task the trip served.</source>
+      <translation>L'attività del viaggio.</translation>
+    </message>
+    <message id="cli.trips.option.to">
+      <source>Where the trip ended; for an export, the last day.</source>
+      <translation>Dove è finito; per un'esportazione, l'ultimo giorno.</translation>
+    </message>
+    <message id="cli.trips.placeUnknown">
+      <source>No place was found for "%1".</source>
+      <translation>Nessun luogo trovato per «%1».</translation>
+    </message>
+    <message id="cli.trips.private">
+      <source>private</source>
+      <translation>privato</translation>
+    </message>
+    <message id="cli.trips.saved">
+      <source>Saved trip %1.</source>
+      <translation>Viaggio %1 salvato.</translation>
+    </message>
+    <message id="cli.trips.usage">
+      <source>Usage: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</source>
+      <translation>Uso: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</translation>
     </message>
     <message id="client.err.nameMissing">
       <source>A client needs a name.</source>
@@ -2213,6 +2333,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>This month</source>
       <translation>Questo mese</translation>
     </message>
+    <message id="invoiceTravelInclude">
+      <source>Charge travel</source>
+      <translation>Addebitare i viaggi</translation>
+    </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>
       <translation>Impossibile scrivere nella cartella dati %1 del server locale.</translation>
@@ -2360,6 +2484,70 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>Il timer di questa attività è stato avviato su un altro dispositivo, quindi il suo stato non è stato cambiato.</translation>
+    </message>
+    <message id="travelDescribeMany">
+      <source>%1 km in %2 trips</source>
+      <translation>%1 km in %2 viaggi</translation>
+    </message>
+    <message id="travelDescribeOne">
+      <source>%1 km in 1 trip</source>
+      <translation>%1 km in 1 viaggio</translation>
+    </message>
+    <message id="travelKm">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="travelTitle">
+      <source>Travel</source>
+      <translation>Spese di viaggio</translation>
+    </message>
+    <message id="travelTrip">
+      <source>trip</source>
+      <translation>viaggio</translation>
+    </message>
+    <message id="trip.err.notLoaded">
+      <source>Your trips could not be loaded. Check your connection and try again.</source>
+      <translation>Impossibile caricare i tuoi viaggi. Controlla la connessione e riprova.</translation>
+    </message>
+    <message id="trip.err.notSaved">
+      <source>The trip was not saved: it no longer exists or you may not change it.</source>
+      <translation>Il viaggio non è stato salvato: non esiste più o non puoi modificarlo.</translation>
+    </message>
+    <message id="trip.err.settingsNotSaved">
+      <source>Your travel settings were not saved.</source>
+      <translation>Le tue impostazioni di viaggio non sono state salvate.</translation>
+    </message>
+    <message id="tripDeleteConfirm">
+      <source>Delete this trip? This cannot be undone.</source>
+      <translation>Eliminare questo viaggio? L'operazione non si può annullare.</translation>
+    </message>
+    <message id="tripDistanceByRoad">
+      <source>Distance by road, about %1 min. Change it if you went another way.</source>
+      <translation>Distanza su strada, circa %1 min. Modificala se hai fatto un'altra strada.</translation>
+    </message>
+    <message id="tripDistanceEstimate">
+      <source>Kilometres are an estimate from the addresses; change them if needed.</source>
+      <translation>I chilometri sono stimati dagli indirizzi; modificali se serve.</translation>
+    </message>
+    <message id="tripErrNoService">
+      <source>No routing or address service is set up.</source>
+      <translation>Nessun servizio di percorsi o indirizzi è configurato.</translation>
+    </message>
+    <message id="tripErrNotFound">
+      <source>No place or route was found for this.</source>
+      <translation>Nessun luogo o percorso trovato.</translation>
+    </message>
+    <message id="tripInProgress">
+      <source>Trip in progress</source>
+      <translation>Viaggio in corso</translation>
+    </message>
+    <message id="tripSearchFailed">
+      <source>Searching did not work. Check your connection and try again.</source>
+      <translation>La ricerca non ha funzionato. Controlla la connessione e riprova.</translation>
+    </message>
+    <message id="tripsEmpty">
+      <source>No trips yet. Trips your phone records while a timer runs show up here. You can also add a trip by hand.</source>
+      <translation>Ancora nessun viaggio. I viaggi registrati dal telefono mentre un timer è attivo compaiono qui. Puoi anche aggiungerne uno a mano.</translation>
     </message>
     <message id="ui.action.floatingTimer">
       <source>Show or hide the floating timer</source>

@@ -789,6 +789,14 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Start, stop or show the timer: timer start|stop|toggle|status</source>
       <translation>เริ่ม หยุด หรือแสดงตัวจับเวลา: timer start|stop|toggle|status</translation>
     </message>
+    <message id="cli.command.travel">
+      <source>Your rate per kilometre and how you usually travel: travel show|set</source>
+      <translation>อัตราต่อกิโลเมตรและวิธีเดินทางปกติของคุณ: travel show|set</translation>
+    </message>
+    <message id="cli.command.trips">
+      <source>Trips and their kilometres: trips list|add|edit|rm|route|export</source>
+      <translation>การเดินทางและระยะทาง: trips list|add|edit|rm|route|export</translation>
+    </message>
     <message id="cli.commands">
       <source>Commands:</source>
       <translation>คำสั่ง:</translation>
@@ -1297,6 +1305,14 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>The task whose own price to show or set, instead of a project's.</source>
       <translation>งานที่จะแสดงหรือตั้งราคาของตัวเอง แทนราคาของโปรเจกต์</translation>
     </message>
+    <message id="cli.price.option.travel">
+      <source>How the project charges its trips: per_km, per_trip or none.</source>
+      <translation>วิธีคิดค่าเดินทางของโครงการ: per_km, per_trip หรือ none</translation>
+    </message>
+    <message id="cli.price.option.travelRate">
+      <source>The travel rate per kilometre or per trip; without it, per kilometre bills at your own rate.</source>
+      <translation>อัตราต่อกิโลเมตรหรือต่อเที่ยว หากไม่ระบุ คิดต่อกิโลเมตรด้วยอัตราของคุณเอง</translation>
+    </message>
     <message id="cli.price.option.unitLabel">
       <source>Name of the unit of a per-unit price.</source>
       <translation>ชื่อหน่วยของราคาต่อหน่วย</translation>
@@ -1744,6 +1760,110 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="cli.timer.usage">
       <source>Usage: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</source>
       <translation>วิธีใช้: morvane timer start &lt;task&gt; | stop [&lt;task&gt;] | toggle | status [--json]</translation>
+    </message>
+    <message id="cli.travel.option.mode">
+      <source>How you usually travel: car, bike, walk, transit or other.</source>
+      <translation>วิธีเดินทางปกติ: car, bike, walk, transit หรือ other</translation>
+    </message>
+    <message id="cli.travel.option.rate">
+      <source>Your rate per kilometre, used where a project names none.</source>
+      <translation>อัตราต่อกิโลเมตรของคุณ ใช้เมื่อโครงการไม่ได้กำหนด</translation>
+    </message>
+    <message id="cli.travel.show">
+      <source>Rate per kilometre: %1. Usually travel by: %2.</source>
+      <translation>อัตราต่อกิโลเมตร: %1 เดินทางปกติโดย: %2</translation>
+    </message>
+    <message id="cli.travel.usage">
+      <source>Usage: morvane travel show | set [--rate R] [--mode M] [--json]</source>
+      <translation>วิธีใช้: morvane travel show | set [--rate R] [--mode M] [--json]</translation>
+    </message>
+    <message id="cli.trips.added">
+      <source>Added trip %1: %2 km.</source>
+      <translation>เพิ่มการเดินทาง %1 แล้ว: %2 กม.</translation>
+    </message>
+    <message id="cli.trips.deleted">
+      <source>Deleted trip %1.</source>
+      <translation>ลบการเดินทาง %1 แล้ว</translation>
+    </message>
+    <message id="cli.trips.exported">
+      <source>Wrote %1 trips to %2.</source>
+      <translation>เขียนการเดินทาง %1 รายการลงใน %2 แล้ว</translation>
+    </message>
+    <message id="cli.trips.invoiced">
+      <source>invoiced</source>
+      <translation>ออกใบแจ้งหนี้แล้ว</translation>
+    </message>
+    <message id="cli.trips.needKm">
+      <source>The distance is unknown: the places were not found. Give it with --km.</source>
+      <translation>ไม่ทราบระยะทาง: ไม่พบสถานที่ ระบุด้วย --km</translation>
+    </message>
+    <message id="cli.trips.noMatch">
+      <source>No single trip matches "%1". See them with: morvane trips list</source>
+      <translation>ไม่มีการเดินทางเดียวที่ตรงกับ "%1" ดูได้ด้วย: morvane trips list</translation>
+    </message>
+    <message id="cli.trips.notCharged">
+      <source>not charged</source>
+      <translation>ไม่เรียกเก็บ</translation>
+    </message>
+    <message id="cli.trips.option.date">
+      <source>The day of the trip (YYYY-MM-DD).</source>
+      <translation>วันที่เดินทาง (YYYY-MM-DD)</translation>
+    </message>
+    <message id="cli.trips.option.from">
+      <source>Where the trip started: an address, a place or "lat,lng"; for an export, the first day.</source>
+      <translation>จุดเริ่มต้น: ที่อยู่ สถานที่ หรือ "lat,lng" สำหรับการส่งออกคือวันแรก</translation>
+    </message>
+    <message id="cli.trips.option.km">
+      <source>The distance in kilometres; without it the road route, else the straight-line estimate.</source>
+      <translation>ระยะทางเป็นกิโลเมตร หากไม่ระบุ ใช้เส้นทางถนน หรือประมาณเป็นเส้นตรง</translation>
+    </message>
+    <message id="cli.trips.option.mode">
+      <source>car, bike, walk, transit or other.</source>
+      <translation>car, bike, walk, transit หรือ other</translation>
+    </message>
+    <message id="cli.trips.option.notBillable">
+      <source>A business trip that is not charged to the client.</source>
+      <translation>การเดินทางเพื่องานที่ไม่เรียกเก็บจากลูกค้า</translation>
+    </message>
+    <message id="cli.trips.option.out">
+      <source>The CSV file to write.</source>
+      <translation>ไฟล์ CSV ที่จะเขียน</translation>
+    </message>
+    <message id="cli.trips.option.private">
+      <source>A private trip; never charged.</source>
+      <translation>การเดินทางส่วนตัว ไม่เรียกเก็บเลย</translation>
+    </message>
+    <message id="cli.trips.option.project">
+      <source>The project the trip served.</source>
+      <translation>โครงการของการเดินทางนี้</translation>
+    </message>
+    <message id="cli.trips.option.purpose">
+      <source>What the trip was for.</source>
+      <translation>วัตถุประสงค์ของการเดินทาง</translation>
+    </message>
+    <message id="cli.trips.option.task">
+      <source>The task the trip served.</source>
+      <translation>งานของการเดินทางนี้</translation>
+    </message>
+    <message id="cli.trips.option.to">
+      <source>Where the trip ended; for an export, the last day.</source>
+      <translation>จุดสิ้นสุด สำหรับการส่งออกคือวันสุดท้าย</translation>
+    </message>
+    <message id="cli.trips.placeUnknown">
+      <source>No place was found for "%1".</source>
+      <translation>ไม่พบสถานที่สำหรับ "%1"</translation>
+    </message>
+    <message id="cli.trips.private">
+      <source>private</source>
+      <translation>ส่วนตัว</translation>
+    </message>
+    <message id="cli.trips.saved">
+      <source>Saved trip %1.</source>
+      <translation>บันทึกการเดินทาง %1 แล้ว</translation>
+    </message>
+    <message id="cli.trips.usage">
+      <source>Usage: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</source>
+      <translation>วิธีใช้: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit &lt;trip&gt; [the same options] | rm &lt;trip&gt; [--yes] | route &lt;from&gt; &lt;to&gt; [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]</translation>
     </message>
     <message id="client.err.nameMissing">
       <source>A client needs a name.</source>
@@ -2213,6 +2333,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>This month</source>
       <translation>เดือนนี้</translation>
     </message>
+    <message id="invoiceTravelInclude">
+      <source>Charge travel</source>
+      <translation>เรียกเก็บค่าเดินทาง</translation>
+    </message>
     <message id="localServer.err.dataFolder">
       <source>Cannot write the local backend's data folder %1.</source>
       <translation>เขียนลงโฟลเดอร์ข้อมูล %1 ของแบ็กเอนด์ในเครื่องไม่ได้</translation>
@@ -2360,6 +2484,70 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="timer.err.startedElsewhere">
       <source>The timer of this task was started on another device, so its status was not changed.</source>
       <translation>ตัวจับเวลาของงานนี้เริ่มบนอุปกรณ์อื่น จึงไม่ได้เปลี่ยนสถานะของงาน</translation>
+    </message>
+    <message id="travelDescribeMany">
+      <source>%1 km in %2 trips</source>
+      <translation>%1 กม. ใน %2 เที่ยว</translation>
+    </message>
+    <message id="travelDescribeOne">
+      <source>%1 km in 1 trip</source>
+      <translation>%1 กม. ใน 1 เที่ยว</translation>
+    </message>
+    <message id="travelKm">
+      <source>km</source>
+      <translation>กม.</translation>
+    </message>
+    <message id="travelTitle">
+      <source>Travel</source>
+      <translation>ค่าเดินทาง</translation>
+    </message>
+    <message id="travelTrip">
+      <source>trip</source>
+      <translation>เที่ยว</translation>
+    </message>
+    <message id="trip.err.notLoaded">
+      <source>Your trips could not be loaded. Check your connection and try again.</source>
+      <translation>โหลดการเดินทางไม่ได้ ตรวจสอบการเชื่อมต่อแล้วลองอีกครั้ง</translation>
+    </message>
+    <message id="trip.err.notSaved">
+      <source>The trip was not saved: it no longer exists or you may not change it.</source>
+      <translation>ไม่ได้บันทึกการเดินทาง: ไม่มีอยู่แล้วหรือคุณไม่มีสิทธิ์แก้ไข</translation>
+    </message>
+    <message id="trip.err.settingsNotSaved">
+      <source>Your travel settings were not saved.</source>
+      <translation>ไม่ได้บันทึกการตั้งค่าการเดินทาง</translation>
+    </message>
+    <message id="tripDeleteConfirm">
+      <source>Delete this trip? This cannot be undone.</source>
+      <translation>ลบการเดินทางนี้หรือไม่ ย้อนกลับไม่ได้</translation>
+    </message>
+    <message id="tripDistanceByRoad">
+      <source>Distance by road, about %1 min. Change it if you went another way.</source>
+      <translation>ระยะทางตามถนน ประมาณ %1 นาที แก้ไขได้หากคุณไปทางอื่น</translation>
+    </message>
+    <message id="tripDistanceEstimate">
+      <source>Kilometres are an estimate from the addresses; change them if needed.</source>
+      <translation>กิโลเมตรเป็นค่าประมาณจากที่อยู่ แก้ไขได้หากจำเป็น</translation>
+    </message>
+    <message id="tripErrNoService">
+      <source>No routing or address service is set up.</source>
+      <translation>ยังไม่ได้ตั้งค่าบริการเส้นทางหรือที่อยู่</translation>
+    </message>
+    <message id="tripErrNotFound">
+      <source>No place or route was found for this.</source>
+      <translation>ไม่พบสถานที่หรือเส้นทาง</translation>
+    </message>
+    <message id="tripInProgress">
+      <source>Trip in progress</source>
+      <translation>กำลังเดินทาง</translation>
+    </message>
+    <message id="tripSearchFailed">
+      <source>Searching did not work. Check your connection and try again.</source>
+      <translation>ค้นหาไม่สำเร็จ ตรวจสอบการเชื่อมต่อแล้วลองอีกครั้ง</translation>
+    </message>
+    <message id="tripsEmpty">
+      <source>No trips yet. Trips your phone records while a timer runs show up here. You can also add a trip by hand.</source>
+      <translation>ยังไม่มีการเดินทาง การเดินทางที่โทรศัพท์บันทึกขณะจับเวลาจะแสดงที่นี่ คุณเพิ่มเองได้ด้วย</translation>
     </message>
     <message id="ui.action.floatingTimer">
       <source>Show or hide the floating timer</source>

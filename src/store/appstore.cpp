@@ -378,6 +378,7 @@ void AppStore::clearCollections()
     setClients({});
     setInvoiceTemplates({});
     clearInvoices();
+    clearTrips();
     setProfile(std::nullopt);
     setSelectedProjectId({});
     setSelectedTaskId({});
@@ -617,8 +618,14 @@ void AppStore::applyRealtimeChange(const RealtimeChange &change)
         removeProject(change.deletedId());
         break;
     case Kind::TripUpserted:
+        try {
+            upsertTripLocally(Wire::decode<Trip>(*change.trip()));
+        } catch (const DecodeError &error) {
+            qCWarning(lcStore).noquote() << u"Realtime trip dropped: "_s + error.message();
+        }
+        break;
     case Kind::TripDeleted:
-        // Trips have no collection in the store yet; the travel feature takes them here.
+        removeTripLocally(change.deletedId());
         break;
     }
 }

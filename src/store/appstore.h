@@ -12,12 +12,14 @@
 #include "model/taskitem.h"
 #include "model/team.h"
 #include "model/timeentry.h"
+#include "model/trip.h"
 #include "store/inviteoutcome.h"
 #include "store/invoicecontext.h"
 #include "store/taskorder.h"
 #include "store/timerrecords.h"
 #include "store/timerstore.h"
 #include "store/writerecords.h"
+#include "travel/travel.h"
 
 #include <QDateTime>
 #include <QHash>
@@ -376,6 +378,42 @@ public:
     // The object path of an invoice's PDF: the owner's folder, "invoices", the file.
     [[nodiscard]] static QString invoicePdfPath(const QString &ownerId, const QString &fileName);
 
+    // Trips: the user's own, newest first. Loaded on demand, then kept current by the feed.
+    [[nodiscard]] const QList<Trip> &trips() const { return m_trips; }
+    [[nodiscard]] bool tripsReady() const { return m_tripsReady; }
+    [[nodiscard]] bool tripsError() const { return m_tripsError; }
+    [[nodiscard]] std::optional<Trip> trip(const QString &tripId) const;
+    // The ids of trips on a live invoice; a trip in it is never charged again.
+    [[nodiscard]] const QSet<QString> &billedTripIds() const { return m_billedTripIds; }
+    [[nodiscard]] bool billedTripsReady() const { return m_billedTripsReady; }
+    [[nodiscard]] bool billedTripsError() const { return m_billedTripsError; }
+    // The live invoice that charges the trip; empty when none does.
+    [[nodiscard]] QString billedTripInvoiceId(const QString &tripId) const { return m_billedTripInvoice.value(tripId); }
+    QCoro::Task<bool> loadTrips();
+    QCoro::Task<bool> fetchTrip(QString tripId);
+    QCoro::Task<std::optional<QList<Trip>>> createTrips(QList<TripInsert> inserts);
+    QCoro::Task<bool> updateTrip(QString tripId, TripPatch patch);
+    QCoro::Task<bool> deleteTrip(QString tripId);
+    QCoro::Task<bool> reloadBilledTrips();
+    QCoro::Task<bool> refreshTripBilled() { return reloadBilledTrips(); }
+    void upsertTripLocally(const Trip &trip);
+    void removeTripLocally(const QString &tripId);
+    // The trip without an arrival, if one is under way.
+    [[nodiscard]] std::optional<Trip> tripInProgress() const;
+    [[nodiscard]] TravelSettings travelSettings() const;
+    QCoro::Task<bool> setTravelSettings(TravelSettings settings);
+    // The travel line the project's unbilled trips would add to its next invoice, limited to the
+    // trips that started in [from, to] when those are valid; none when nothing is to be charged.
+    [[nodiscard]] std::optional<Travel::InvoiceLine> travelInvoiceLine(const QString &projectId, QDate from = {},
+                                                                       QDate to = {}) const;
+    // The money those trips add, and the line's description ("12.3 km in 2 trips").
+    struct TravelToInvoice
+    {
+        std::optional<double> amount;
+        QString text;
+    };
+    [[nodiscard]] TravelToInvoice travelToInvoice(const QString &projectId) const;
+
 signals:
     void projectsChanged();
     void tasksChanged();
@@ -406,6 +444,8 @@ signals:
     void unbilledEntriesChanged();
     void billedSetChanged();
     void invoiceSaveMessageChanged();
+    void tripsChanged();
+    void billedTripsChanged();
 
 private:
     // A token and the session it belongs to: an answer that arrives after the user changed is
@@ -477,6 +517,7 @@ private:
     void clearInvoices();
     void setInvoiceSaveMessage(const QString &message);
     QCoro::Task<std::optional<QString>> reuseOrCreateClient(Session &session, ClientInsert client);
+    void clearTrips();
 
     AuthStore &m_auth;
     std::shared_ptr<QSettings> m_settings;
@@ -537,4 +578,12 @@ private:
     bool m_priorBillingReady = false;
     bool m_priorBillingError = false;
     QString m_invoiceSaveMessage;
+
+    QList<Trip> m_trips;
+    bool m_tripsReady = false;
+    bool m_tripsError = false;
+    QSet<QString> m_billedTripIds;
+    QHash<QString, QString> m_billedTripInvoice;
+    bool m_billedTripsReady = false;
+    bool m_billedTripsError = false;
 };

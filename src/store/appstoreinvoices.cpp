@@ -535,7 +535,9 @@ QCoro::Task<bool> AppStore::voidInvoice(QString invoiceId)
     }
     const bool billedRead = co_await reloadBilledEntrySet();
     const bool unbilledRead = co_await loadUnbilledEntries();
-    co_return billedRead && unbilledRead;
+    // Its trips are free again; a store that never read trips has no set to correct.
+    const bool tripsRead = !m_billedTripsReady || co_await reloadBilledTrips();
+    co_return billedRead && unbilledRead && tripsRead;
 }
 
 QCoro::Task<bool> AppStore::deleteInvoice(QString invoiceId)
@@ -568,7 +570,9 @@ QCoro::Task<bool> AppStore::deleteInvoice(QString invoiceId)
     }
     const bool billedRead = co_await reloadBilledEntrySet();
     const bool unbilledRead = co_await loadUnbilledEntries();
-    co_return billedRead && unbilledRead;
+    // Its trips are free again; a store that never read trips has no set to correct.
+    const bool tripsRead = !m_billedTripsReady || co_await reloadBilledTrips();
+    co_return billedRead && unbilledRead && tripsRead;
 }
 
 QCoro::Task<std::optional<QUrl>> AppStore::invoicePdfURL(QString invoiceId)
@@ -796,6 +800,9 @@ QCoro::Task<std::optional<Invoice>> AppStore::saveInvoice(InvoiceSaveRequest req
         failed(logPrefix, failureLog, failureText);
         co_await reloadBilledEntrySet();
         co_await loadUnbilledEntries();
+        if (!request.tripIds.isEmpty()) {
+            co_await reloadBilledTrips();
+        }
         co_return std::nullopt;
     }
     if (!isCurrent(*session)) {
@@ -806,6 +813,9 @@ QCoro::Task<std::optional<Invoice>> AppStore::saveInvoice(InvoiceSaveRequest req
     co_await loadInvoices();
     co_await reloadBilledEntrySet();
     co_await loadUnbilledEntries();
+    if (!request.tripIds.isEmpty()) {
+        co_await reloadBilledTrips();
+    }
     std::optional<Invoice> result = created;
     co_return result;
 }

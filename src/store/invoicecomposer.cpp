@@ -1,5 +1,6 @@
 #include "store/invoicecomposer.h"
 
+#include "billing/money.h"
 #include "model/isodate.h"
 
 using namespace Qt::StringLiterals;
@@ -36,6 +37,8 @@ InvoiceComposer::InvoiceComposer(AppStore &store, Clock clock, QObject *parent)
     connect(&m_store, &AppStore::tasksChanged, this, &InvoiceComposer::recompute);
     connect(&m_store, &AppStore::projectsChanged, this, &InvoiceComposer::recompute);
     connect(&m_store, &AppStore::profileChanged, this, &InvoiceComposer::recompute);
+    connect(&m_store, &AppStore::tripsChanged, this, &InvoiceComposer::recompute);
+    connect(&m_store, &AppStore::billedTripsChanged, this, &InvoiceComposer::recompute);
 }
 
 QDate InvoiceComposer::today() const
@@ -52,6 +55,7 @@ void InvoiceComposer::open(const InvoiceContext &context)
     }
     m_deselected.clear();
     m_rebill.clear();
+    m_noTravel.clear();
     m_from = context.from.value_or(QDate());
     m_to = context.to.value_or(QDate());
     if (!context.from && context.projectIds.size() == 1) {
@@ -326,10 +330,54 @@ void InvoiceComposer::recompute()
     const PriorBilling &prior = m_store.priorBilling();
     m_built = Earnings::buildInvoiceLines(tasks, defaultRate, prior.tasks, prior.poolProjects, m_rebill,
                                           Earnings::lineLabels());
+    addTravelLines();
     m_vat = Earnings::computeVat(m_built.lines, m_built.subtotal,
                                  m_manualVat ? std::optional<double>(m_manualVatPercent) : std::nullopt,
                                  m_defaultVatPercent);
     emit resultChanged();
+}
+
+// Trips go on an invoice only once the set of trips already invoiced is known: a guess could
+// charge a trip twice (the backend would refuse the second save, but only after the user chose).
+void InvoiceComposer::addTravelLines()
+{
+    m_travelProjectIds.clear();
+    m_tripIds.clear();
+    if (!m_store.billedTripsReady() || m_store.billedTripsError()) {
+        return;
+    }
+    for (const QString &projectId : std::as_const(m_context.projectIds)) {
+        const std::optional<Travel::InvoiceLine> travel = m_store.travelInvoiceLine(projectId, m_from, m_to);
+        if (!travel) {
+            continue;
+        }
+        m_travelProjectIds << projectId;
+        if (m_noTravel.contains(projectId)) {
+            continue;
+        }
+        m_built.lines << travel->line;
+        m_built.subtotal = round2(m_built.subtotal + travel->line.amount);
+        m_tripIds << travel->tripIds;
+    }
+}
+
+void InvoiceComposer::setChargeTravel(const QString &projectId, bool charge)
+{
+    if (charge == !m_noTravel.contains(projectId)) {
+        return;
+    }
+    if (charge) {
+        m_noTravel.remove(projectId);
+    } else {
+        m_noTravel.insert(projectId);
+    }
+    recompute();
+}
+
+QString InvoiceComposer::chargeTravelText()
+{
+    //% "Charge travel"
+    return qtTrId("invoiceTravelInclude");
 }
 
 QString InvoiceComposer::readinessError() const
@@ -378,6 +426,7 @@ std::optional<InvoiceSaveRequest> InvoiceComposer::saveRequest(const QString &nu
         request.lines << lineInsert(built);
     }
     request.coveredEntryIds = m_coveredEntryIds;
+    request.tripIds = m_tripIds;
     if (m_saveAsClient && request.invoice.clientName) {
         ClientInsert client;
         client.teamId = request.invoice.teamId;

@@ -36,6 +36,8 @@ class InvoiceComposer : public QObject
     Q_PROPERTY(double vatAmount READ vatAmount NOTIFY resultChanged)
     Q_PROPERTY(double total READ total NOTIFY resultChanged)
     Q_PROPERTY(QStringList coveredEntryIds READ coveredEntryIds NOTIFY resultChanged)
+    Q_PROPERTY(QStringList tripIds READ tripIds NOTIFY resultChanged)
+    Q_PROPERTY(QStringList travelProjectIds READ travelProjectIds NOTIFY resultChanged)
     Q_PROPERTY(QString leftOutMessage READ leftOutMessage NOTIFY leftOutMessageChanged)
     Q_PROPERTY(QString readinessError READ readinessError NOTIFY resultChanged)
     Q_PROPERTY(bool canSave READ canSave NOTIFY resultChanged)
@@ -92,6 +94,18 @@ public:
     [[nodiscard]] double vatAmount() const { return m_vat.vat; }
     [[nodiscard]] double total() const { return m_vat.total; }
     [[nodiscard]] QStringList coveredEntryIds() const { return m_coveredEntryIds; }
+
+    // "Charge travel": each project whose unbilled trips in the period make a travel line, and
+    // whether this invoice charges them (it does unless turned off). The line is added to the
+    // lines and VAT; the trips it covers are linked to the invoice when it is saved.
+    [[nodiscard]] QStringList travelProjectIds() const { return m_travelProjectIds; }
+    [[nodiscard]] Q_INVOKABLE bool chargesTravel(const QString &projectId) const
+    {
+        return !m_noTravel.contains(projectId);
+    }
+    Q_INVOKABLE void setChargeTravel(const QString &projectId, bool charge);
+    [[nodiscard]] static QString chargeTravelText();
+    [[nodiscard]] QStringList tripIds() const { return m_tripIds; }
     [[nodiscard]] QString currency() const;
 
     // "n time entries already billed, left out": set when a refresh took selected entries away.
@@ -119,6 +133,7 @@ signals:
 
 private:
     void recompute();
+    void addTravelLines();
     void storeRefreshed();
     [[nodiscard]] QDate today() const;
 
@@ -142,5 +157,8 @@ private:
     Earnings::BuildResult m_built;
     Earnings::VatResult m_vat;
     QStringList m_coveredEntryIds;
+    QSet<QString> m_noTravel;
+    QStringList m_travelProjectIds;
+    QStringList m_tripIds;
     QString m_leftOutMessage;
 };
