@@ -103,31 +103,6 @@ private slots:
                                                                                   : u"new:"_s + to->id;
         QTEST(got, "expected");
     }
-
-    void sectionsKeepListOrder()
-    {
-        QList<CalendarEventDraft> events;
-        for (const QString &id : {u"a"_s, u"b"_s, u"c"_s, u"d"_s}) {
-            CalendarEventDraft draft;
-            draft.id = id;
-            events.append(draft);
-        }
-        const QHash<QString, CalendarDestination> to{
-            {u"a"_s, {CalendarDestination::Kind::ExistingTask, u"t"_s}},
-            {u"c"_s, {CalendarDestination::Kind::NewTask, u"p"_s}},
-            {u"d"_s, {CalendarDestination::Kind::ExistingTask, u"t"_s}}};
-        const CalendarImport::Sections sections = CalendarImport::sections(events, to);
-        const auto ids = [](const QList<CalendarEventDraft> &list) {
-            QStringList out;
-            for (const CalendarEventDraft &draft : list) {
-                out.append(draft.id);
-            }
-            return out;
-        };
-        // An event without a destination waits among the new tasks for its project.
-        QCOMPARE(ids(sections.newTasks), (QStringList{u"b"_s, u"c"_s}));
-        QCOMPARE(ids(sections.existing), (QStringList{u"a"_s, u"d"_s}));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestCalendarImport)
