@@ -161,7 +161,8 @@ QCoro::Task<bool> CalendarImporter::load(QDate day)
         feeds.append({CalendarIdentity{source.address, source.name, color}, std::move(feed)});
     }
     if (day != m_day) {
-        co_return false; // another day was asked for meanwhile; its load sets the list
+        // Another day was asked for meanwhile; its load sets the list and ends the loading.
+        co_return false;
     }
     m_events = CalendarImport::drafts(feeds);
     setErrorMessage(failed.isEmpty() ? QString() : CalendarImport::readFailed(failed.join(u", "_s)));
