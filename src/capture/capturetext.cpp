@@ -86,6 +86,14 @@ QStringList understood(const AISession &session, const QString &currency)
                 addTask(lines, task, currency, u"    "_s);
             }
         }
+        // One new project may come in the single-project keys instead of the list.
+        if (result.projects.value_or(QList<AIProjectDraft>()).isEmpty() && result.projectName) {
+            lines << u"  "_s + withDetails(qtTrId("cli.add.project").arg(*result.projectName),
+                                           {price(result.projectHourlyRate, std::nullopt, currency)});
+            for (const AITaskDraft &task : tasks) {
+                addTask(lines, task, currency, u"    "_s);
+            }
+        }
         break;
     case AIIntent::CreateTask:
         lines << u"  "_s + withDetails(qtTrId("cli.add.project").arg(result.projectName.value_or(u"?"_s)),

@@ -2565,6 +2565,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>New team</source>
       <translation>Neues Team</translation>
     </message>
+    <message id="ui.action.quickAdd">
+      <source>Quick add: a sentence becomes work…</source>
+      <translation>Schnell hinzufügen: aus einem Satz wird Arbeit…</translation>
+    </message>
     <message id="ui.action.settings">
       <source>Settings</source>
       <translation>Einstellungen</translation>
@@ -2580,6 +2584,54 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="ui.action.toggleTimer">
       <source>Start or stop the timer</source>
       <translation>Timer starten oder stoppen</translation>
+    </message>
+    <message id="ui.assistant.add">
+      <source>Add</source>
+      <translation>Hinzufügen</translation>
+    </message>
+    <message id="ui.assistant.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</source>
+      <translation>Welche Aufgabe? Keine deiner Aufgaben heißt "%1", oder mehrere. Nenne sie so, wie die Aufgabenliste sie zeigt.</translation>
+    </message>
+    <message id="ui.assistant.consentNo">
+      <source>Don't send</source>
+      <translation>Nicht senden</translation>
+    </message>
+    <message id="ui.assistant.consentOnce">
+      <source>Morvane asks once for this route and remembers your answer. You can change it in the settings.</source>
+      <translation>Morvane fragt für diesen Weg einmal und merkt sich deine Antwort. Du kannst sie in den Einstellungen ändern.</translation>
+    </message>
+    <message id="ui.assistant.consentTitle">
+      <source>Send your text to %1?</source>
+      <translation>Deinen Text an %1 senden?</translation>
+    </message>
+    <message id="ui.assistant.consentYes">
+      <source>Send</source>
+      <translation>Senden</translation>
+    </message>
+    <message id="ui.assistant.empty">
+      <source>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</source>
+      <translation>Schreib einen Satz in deinen eigenen Worten: neue Projekte und Aufgaben, aufgewendete Zeit oder den Timer starten und stoppen.</translation>
+    </message>
+    <message id="ui.assistant.notUnderstood">
+      <source>The sentence could not be read: %1</source>
+      <translation>Der Satz konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message id="ui.assistant.placeholder">
+      <source>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</source>
+      <translation>Sag, was hinzukommt, z. B. „Logo-Entwurf für Acme, gestern 3 Stunden“</translation>
+    </message>
+    <message id="ui.assistant.reading">
+      <source>Reading your sentence…</source>
+      <translation>Dein Satz wird gelesen…</translation>
+    </message>
+    <message id="ui.assistant.title">
+      <source>Quick add</source>
+      <translation>Schnell hinzufügen</translation>
+    </message>
+    <message id="ui.assistant.tooLong">
+      <source>That is more than a sentence or two. Say what to add in a few lines.</source>
+      <translation>Das ist mehr als ein, zwei Sätze. Sag in wenigen Zeilen, was hinzukommen soll.</translation>
     </message>
     <message id="ui.auth.aboutYou">
       <source>A little about you</source>
@@ -3464,6 +3516,14 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="ui.palette.action">
       <source>Action</source>
       <translation>Aktion</translation>
+    </message>
+    <message id="ui.palette.ai">
+      <source>AI</source>
+      <translation>KI</translation>
+    </message>
+    <message id="ui.palette.capture">
+      <source>Quick add “%1”</source>
+      <translation>Schnell hinzufügen „%1“</translation>
     </message>
     <message id="ui.palette.none">
       <source>Nothing matches.</source>
@@ -4464,6 +4524,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="ui.tray.open">
       <source>Open Morvane</source>
       <translation>Morvane öffnen</translation>
+    </message>
+    <message id="ui.tray.quickAdd">
+      <source>Quick add…</source>
+      <translation>Schnell hinzufügen…</translation>
     </message>
     <message id="ui.tray.quit">
       <source>Quit</source>

@@ -2565,6 +2565,10 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>New team</source>
       <translation>New team</translation>
     </message>
+    <message id="ui.action.quickAdd">
+      <source>Quick add: a sentence becomes work…</source>
+      <translation>Quick add: a sentence becomes work…</translation>
+    </message>
     <message id="ui.action.settings">
       <source>Settings</source>
       <translation>Settings</translation>
@@ -2580,6 +2584,54 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="ui.action.toggleTimer">
       <source>Start or stop the timer</source>
       <translation>Start or stop the timer</translation>
+    </message>
+    <message id="ui.assistant.add">
+      <source>Add</source>
+      <translation>Add</translation>
+    </message>
+    <message id="ui.assistant.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</source>
+      <translation>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</translation>
+    </message>
+    <message id="ui.assistant.consentNo">
+      <source>Don't send</source>
+      <translation>Don't send</translation>
+    </message>
+    <message id="ui.assistant.consentOnce">
+      <source>Morvane asks once for this route and remembers your answer. You can change it in the settings.</source>
+      <translation>Morvane asks once for this route and remembers your answer. You can change it in the settings.</translation>
+    </message>
+    <message id="ui.assistant.consentTitle">
+      <source>Send your text to %1?</source>
+      <translation>Send your text to %1?</translation>
+    </message>
+    <message id="ui.assistant.consentYes">
+      <source>Send</source>
+      <translation>Send</translation>
+    </message>
+    <message id="ui.assistant.empty">
+      <source>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</source>
+      <translation>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</translation>
+    </message>
+    <message id="ui.assistant.notUnderstood">
+      <source>The sentence could not be read: %1</source>
+      <translation>The sentence could not be read: %1</translation>
+    </message>
+    <message id="ui.assistant.placeholder">
+      <source>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</source>
+      <translation>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</translation>
+    </message>
+    <message id="ui.assistant.reading">
+      <source>Reading your sentence…</source>
+      <translation>Reading your sentence…</translation>
+    </message>
+    <message id="ui.assistant.title">
+      <source>Quick add</source>
+      <translation>Quick add</translation>
+    </message>
+    <message id="ui.assistant.tooLong">
+      <source>That is more than a sentence or two. Say what to add in a few lines.</source>
+      <translation>That is more than a sentence or two. Say what to add in a few lines.</translation>
     </message>
     <message id="ui.auth.aboutYou">
       <source>A little about you</source>
@@ -3464,6 +3516,14 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="ui.palette.action">
       <source>Action</source>
       <translation>Action</translation>
+    </message>
+    <message id="ui.palette.ai">
+      <source>AI</source>
+      <translation>AI</translation>
+    </message>
+    <message id="ui.palette.capture">
+      <source>Quick add “%1”</source>
+      <translation>Quick add “%1”</translation>
     </message>
     <message id="ui.palette.none">
       <source>Nothing matches.</source>
@@ -4464,6 +4524,10 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="ui.tray.open">
       <source>Open Morvane</source>
       <translation>Open Morvane</translation>
+    </message>
+    <message id="ui.tray.quickAdd">
+      <source>Quick add…</source>
+      <translation>Quick add…</translation>
     </message>
     <message id="ui.tray.quit">
       <source>Quit</source>

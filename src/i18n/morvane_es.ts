@@ -2565,6 +2565,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>New team</source>
       <translation>Nuevo equipo</translation>
     </message>
+    <message id="ui.action.quickAdd">
+      <source>Quick add: a sentence becomes work…</source>
+      <translation>Añadir rápido: una frase se convierte en trabajo…</translation>
+    </message>
     <message id="ui.action.settings">
       <source>Settings</source>
       <translation>Ajustes</translation>
@@ -2580,6 +2584,54 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.action.toggleTimer">
       <source>Start or stop the timer</source>
       <translation>Iniciar o detener el temporizador</translation>
+    </message>
+    <message id="ui.assistant.add">
+      <source>Add</source>
+      <translation>Añadir</translation>
+    </message>
+    <message id="ui.assistant.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</source>
+      <translation>¿Qué tarea? Ninguna de tus tareas se llama "%1", o varias sí. Nómbrala como aparece en la lista de tareas.</translation>
+    </message>
+    <message id="ui.assistant.consentNo">
+      <source>Don't send</source>
+      <translation>No enviar</translation>
+    </message>
+    <message id="ui.assistant.consentOnce">
+      <source>Morvane asks once for this route and remembers your answer. You can change it in the settings.</source>
+      <translation>Morvane lo pregunta una vez para esta vía y recuerda tu respuesta. Puedes cambiarla en los ajustes.</translation>
+    </message>
+    <message id="ui.assistant.consentTitle">
+      <source>Send your text to %1?</source>
+      <translation>¿Enviar tu texto a %1?</translation>
+    </message>
+    <message id="ui.assistant.consentYes">
+      <source>Send</source>
+      <translation>Enviar</translation>
+    </message>
+    <message id="ui.assistant.empty">
+      <source>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</source>
+      <translation>Escribe una frase con tus palabras: proyectos y tareas nuevos, tiempo dedicado, o iniciar y parar el temporizador.</translation>
+    </message>
+    <message id="ui.assistant.notUnderstood">
+      <source>The sentence could not be read: %1</source>
+      <translation>No se pudo leer la frase: %1</translation>
+    </message>
+    <message id="ui.assistant.placeholder">
+      <source>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</source>
+      <translation>Di qué añadir, p. ej. «Diseño de logo para Acme, 3 horas ayer»</translation>
+    </message>
+    <message id="ui.assistant.reading">
+      <source>Reading your sentence…</source>
+      <translation>Leyendo tu frase…</translation>
+    </message>
+    <message id="ui.assistant.title">
+      <source>Quick add</source>
+      <translation>Añadir rápido</translation>
+    </message>
+    <message id="ui.assistant.tooLong">
+      <source>That is more than a sentence or two. Say what to add in a few lines.</source>
+      <translation>Eso es más que una o dos frases. Di en pocas líneas qué añadir.</translation>
     </message>
     <message id="ui.auth.aboutYou">
       <source>A little about you</source>
@@ -3464,6 +3516,14 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.palette.action">
       <source>Action</source>
       <translation>Acción</translation>
+    </message>
+    <message id="ui.palette.ai">
+      <source>AI</source>
+      <translation>IA</translation>
+    </message>
+    <message id="ui.palette.capture">
+      <source>Quick add “%1”</source>
+      <translation>Añadir rápido «%1»</translation>
     </message>
     <message id="ui.palette.none">
       <source>Nothing matches.</source>
@@ -4464,6 +4524,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.tray.open">
       <source>Open Morvane</source>
       <translation>Abrir Morvane</translation>
+    </message>
+    <message id="ui.tray.quickAdd">
+      <source>Quick add…</source>
+      <translation>Añadir rápido…</translation>
     </message>
     <message id="ui.tray.quit">
       <source>Quit</source>

@@ -2565,6 +2565,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>New team</source>
       <translation>Nouvelle équipe</translation>
     </message>
+    <message id="ui.action.quickAdd">
+      <source>Quick add: a sentence becomes work…</source>
+      <translation>Ajout rapide : une phrase devient du travail…</translation>
+    </message>
     <message id="ui.action.settings">
       <source>Settings</source>
       <translation>Réglages</translation>
@@ -2580,6 +2584,54 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="ui.action.toggleTimer">
       <source>Start or stop the timer</source>
       <translation>Démarrer ou arrêter le minuteur</translation>
+    </message>
+    <message id="ui.assistant.add">
+      <source>Add</source>
+      <translation>Ajouter</translation>
+    </message>
+    <message id="ui.assistant.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</source>
+      <translation>Quelle tâche ? Aucune de vos tâches ne s’appelle "%1", ou plusieurs. Nommez-la comme dans la liste des tâches.</translation>
+    </message>
+    <message id="ui.assistant.consentNo">
+      <source>Don't send</source>
+      <translation>Ne pas envoyer</translation>
+    </message>
+    <message id="ui.assistant.consentOnce">
+      <source>Morvane asks once for this route and remembers your answer. You can change it in the settings.</source>
+      <translation>Morvane pose la question une fois pour cette voie et retient votre réponse. Vous pouvez la changer dans les réglages.</translation>
+    </message>
+    <message id="ui.assistant.consentTitle">
+      <source>Send your text to %1?</source>
+      <translation>Envoyer votre texte à %1 ?</translation>
+    </message>
+    <message id="ui.assistant.consentYes">
+      <source>Send</source>
+      <translation>Envoyer</translation>
+    </message>
+    <message id="ui.assistant.empty">
+      <source>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</source>
+      <translation>Écrivez une phrase avec vos mots : nouveaux projets et tâches, temps passé, ou démarrer et arrêter le chronomètre.</translation>
+    </message>
+    <message id="ui.assistant.notUnderstood">
+      <source>The sentence could not be read: %1</source>
+      <translation>La phrase n’a pas pu être lue : %1</translation>
+    </message>
+    <message id="ui.assistant.placeholder">
+      <source>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</source>
+      <translation>Dites ce qu’il faut ajouter, p. ex. « Logo pour Acme, 3 heures hier »</translation>
+    </message>
+    <message id="ui.assistant.reading">
+      <source>Reading your sentence…</source>
+      <translation>Lecture de votre phrase…</translation>
+    </message>
+    <message id="ui.assistant.title">
+      <source>Quick add</source>
+      <translation>Ajout rapide</translation>
+    </message>
+    <message id="ui.assistant.tooLong">
+      <source>That is more than a sentence or two. Say what to add in a few lines.</source>
+      <translation>C’est plus qu’une phrase ou deux. Dites en quelques lignes ce qu’il faut ajouter.</translation>
     </message>
     <message id="ui.auth.aboutYou">
       <source>A little about you</source>
@@ -3464,6 +3516,14 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="ui.palette.action">
       <source>Action</source>
       <translation>Action</translation>
+    </message>
+    <message id="ui.palette.ai">
+      <source>AI</source>
+      <translation>IA</translation>
+    </message>
+    <message id="ui.palette.capture">
+      <source>Quick add “%1”</source>
+      <translation>Ajout rapide « %1 »</translation>
     </message>
     <message id="ui.palette.none">
       <source>Nothing matches.</source>
@@ -4464,6 +4524,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="ui.tray.open">
       <source>Open Morvane</source>
       <translation>Ouvrir Morvane</translation>
+    </message>
+    <message id="ui.tray.quickAdd">
+      <source>Quick add…</source>
+      <translation>Ajout rapide…</translation>
     </message>
     <message id="ui.tray.quit">
       <source>Quit</source>

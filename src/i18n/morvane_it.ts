@@ -2565,6 +2565,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>New team</source>
       <translation>Nuovo team</translation>
     </message>
+    <message id="ui.action.quickAdd">
+      <source>Quick add: a sentence becomes work…</source>
+      <translation>Aggiunta rapida: una frase diventa lavoro…</translation>
+    </message>
     <message id="ui.action.settings">
       <source>Settings</source>
       <translation>Impostazioni</translation>
@@ -2580,6 +2584,54 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="ui.action.toggleTimer">
       <source>Start or stop the timer</source>
       <translation>Avvia o ferma il timer</translation>
+    </message>
+    <message id="ui.assistant.add">
+      <source>Add</source>
+      <translation>Aggiungi</translation>
+    </message>
+    <message id="ui.assistant.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</source>
+      <translation>Quale attività? Nessuna delle tue attività si chiama "%1", oppure più d’una. Chiamala come nell’elenco delle attività.</translation>
+    </message>
+    <message id="ui.assistant.consentNo">
+      <source>Don't send</source>
+      <translation>Non inviare</translation>
+    </message>
+    <message id="ui.assistant.consentOnce">
+      <source>Morvane asks once for this route and remembers your answer. You can change it in the settings.</source>
+      <translation>Morvane lo chiede una volta per questo percorso e ricorda la risposta. Puoi cambiarla nelle impostazioni.</translation>
+    </message>
+    <message id="ui.assistant.consentTitle">
+      <source>Send your text to %1?</source>
+      <translation>Inviare il testo a %1?</translation>
+    </message>
+    <message id="ui.assistant.consentYes">
+      <source>Send</source>
+      <translation>Invia</translation>
+    </message>
+    <message id="ui.assistant.empty">
+      <source>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</source>
+      <translation>Scrivi una frase con parole tue: nuovi progetti e attività, tempo impiegato, o avviare e fermare il timer.</translation>
+    </message>
+    <message id="ui.assistant.notUnderstood">
+      <source>The sentence could not be read: %1</source>
+      <translation>Impossibile leggere la frase: %1</translation>
+    </message>
+    <message id="ui.assistant.placeholder">
+      <source>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</source>
+      <translation>Di’ cosa aggiungere, ad es. «Logo per Acme, 3 ore ieri»</translation>
+    </message>
+    <message id="ui.assistant.reading">
+      <source>Reading your sentence…</source>
+      <translation>Lettura della frase…</translation>
+    </message>
+    <message id="ui.assistant.title">
+      <source>Quick add</source>
+      <translation>Aggiunta rapida</translation>
+    </message>
+    <message id="ui.assistant.tooLong">
+      <source>That is more than a sentence or two. Say what to add in a few lines.</source>
+      <translation>È più di una o due frasi. Di’ in poche righe cosa aggiungere.</translation>
     </message>
     <message id="ui.auth.aboutYou">
       <source>A little about you</source>
@@ -3464,6 +3516,14 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="ui.palette.action">
       <source>Action</source>
       <translation>Azione</translation>
+    </message>
+    <message id="ui.palette.ai">
+      <source>AI</source>
+      <translation>IA</translation>
+    </message>
+    <message id="ui.palette.capture">
+      <source>Quick add “%1”</source>
+      <translation>Aggiunta rapida «%1»</translation>
     </message>
     <message id="ui.palette.none">
       <source>Nothing matches.</source>
@@ -4464,6 +4524,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="ui.tray.open">
       <source>Open Morvane</source>
       <translation>Apri Morvane</translation>
+    </message>
+    <message id="ui.tray.quickAdd">
+      <source>Quick add…</source>
+      <translation>Aggiunta rapida…</translation>
     </message>
     <message id="ui.tray.quit">
       <source>Quit</source>

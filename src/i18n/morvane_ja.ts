@@ -2565,6 +2565,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>New team</source>
       <translation>新しいチーム</translation>
     </message>
+    <message id="ui.action.quickAdd">
+      <source>Quick add: a sentence becomes work…</source>
+      <translation>クイック追加: 文章から作業を作成…</translation>
+    </message>
     <message id="ui.action.settings">
       <source>Settings</source>
       <translation>設定</translation>
@@ -2580,6 +2584,54 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.action.toggleTimer">
       <source>Start or stop the timer</source>
       <translation>タイマーを開始/停止</translation>
+    </message>
+    <message id="ui.assistant.add">
+      <source>Add</source>
+      <translation>追加</translation>
+    </message>
+    <message id="ui.assistant.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</source>
+      <translation>どのタスクですか？「%1」という名前のタスクがないか、複数あります。タスク一覧に表示される名前で指定してください。</translation>
+    </message>
+    <message id="ui.assistant.consentNo">
+      <source>Don't send</source>
+      <translation>送信しない</translation>
+    </message>
+    <message id="ui.assistant.consentOnce">
+      <source>Morvane asks once for this route and remembers your answer. You can change it in the settings.</source>
+      <translation>Morvane はこの経路について一度だけ確認し、回答を記憶します。設定で変更できます。</translation>
+    </message>
+    <message id="ui.assistant.consentTitle">
+      <source>Send your text to %1?</source>
+      <translation>テキストを %1 に送信しますか？</translation>
+    </message>
+    <message id="ui.assistant.consentYes">
+      <source>Send</source>
+      <translation>送信する</translation>
+    </message>
+    <message id="ui.assistant.empty">
+      <source>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</source>
+      <translation>普段の言葉で入力してください。新しいプロジェクトやタスク、作業時間、タイマーの開始・停止ができます。</translation>
+    </message>
+    <message id="ui.assistant.notUnderstood">
+      <source>The sentence could not be read: %1</source>
+      <translation>文章を読み取れませんでした: %1</translation>
+    </message>
+    <message id="ui.assistant.placeholder">
+      <source>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</source>
+      <translation>追加したい内容を入力（例:「Acme のロゴデザイン、昨日 3 時間」）</translation>
+    </message>
+    <message id="ui.assistant.reading">
+      <source>Reading your sentence…</source>
+      <translation>文章を読み取り中…</translation>
+    </message>
+    <message id="ui.assistant.title">
+      <source>Quick add</source>
+      <translation>クイック追加</translation>
+    </message>
+    <message id="ui.assistant.tooLong">
+      <source>That is more than a sentence or two. Say what to add in a few lines.</source>
+      <translation>1〜2 文を超えています。追加したい内容を数行で入力してください。</translation>
     </message>
     <message id="ui.auth.aboutYou">
       <source>A little about you</source>
@@ -3464,6 +3516,14 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.palette.action">
       <source>Action</source>
       <translation>操作</translation>
+    </message>
+    <message id="ui.palette.ai">
+      <source>AI</source>
+      <translation>AI</translation>
+    </message>
+    <message id="ui.palette.capture">
+      <source>Quick add “%1”</source>
+      <translation>クイック追加「%1」</translation>
     </message>
     <message id="ui.palette.none">
       <source>Nothing matches.</source>
@@ -4464,6 +4524,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.tray.open">
       <source>Open Morvane</source>
       <translation>Morvane を開く</translation>
+    </message>
+    <message id="ui.tray.quickAdd">
+      <source>Quick add…</source>
+      <translation>クイック追加…</translation>
     </message>
     <message id="ui.tray.quit">
       <source>Quit</source>

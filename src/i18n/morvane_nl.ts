@@ -2565,6 +2565,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
       <source>New team</source>
       <translation>Nieuw team</translation>
     </message>
+    <message id="ui.action.quickAdd">
+      <source>Quick add: a sentence becomes work…</source>
+      <translation>Snel toevoegen: een zin wordt werk…</translation>
+    </message>
     <message id="ui.action.settings">
       <source>Settings</source>
       <translation>Instellingen</translation>
@@ -2580,6 +2584,54 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
     <message id="ui.action.toggleTimer">
       <source>Start or stop the timer</source>
       <translation>Timer starten of stoppen</translation>
+    </message>
+    <message id="ui.assistant.add">
+      <source>Add</source>
+      <translation>Toevoegen</translation>
+    </message>
+    <message id="ui.assistant.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</source>
+      <translation>Welke taak? Geen van je taken heet "%1", of meerdere wel. Noem hem zoals hij in de takenlijst staat.</translation>
+    </message>
+    <message id="ui.assistant.consentNo">
+      <source>Don't send</source>
+      <translation>Niet sturen</translation>
+    </message>
+    <message id="ui.assistant.consentOnce">
+      <source>Morvane asks once for this route and remembers your answer. You can change it in the settings.</source>
+      <translation>Morvane vraagt dit één keer voor deze route en onthoudt je antwoord. Je kunt het wijzigen in de instellingen.</translation>
+    </message>
+    <message id="ui.assistant.consentTitle">
+      <source>Send your text to %1?</source>
+      <translation>Je tekst naar %1 sturen?</translation>
+    </message>
+    <message id="ui.assistant.consentYes">
+      <source>Send</source>
+      <translation>Sturen</translation>
+    </message>
+    <message id="ui.assistant.empty">
+      <source>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</source>
+      <translation>Typ een zin in je eigen woorden: nieuwe projecten en taken, bestede tijd, of de timer starten en stoppen.</translation>
+    </message>
+    <message id="ui.assistant.notUnderstood">
+      <source>The sentence could not be read: %1</source>
+      <translation>De zin kon niet worden gelezen: %1</translation>
+    </message>
+    <message id="ui.assistant.placeholder">
+      <source>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</source>
+      <translation>Zeg wat je wilt toevoegen, bijv. “Logo-ontwerp voor Acme, gisteren 3 uur”</translation>
+    </message>
+    <message id="ui.assistant.reading">
+      <source>Reading your sentence…</source>
+      <translation>Je zin wordt gelezen…</translation>
+    </message>
+    <message id="ui.assistant.title">
+      <source>Quick add</source>
+      <translation>Snel toevoegen</translation>
+    </message>
+    <message id="ui.assistant.tooLong">
+      <source>That is more than a sentence or two. Say what to add in a few lines.</source>
+      <translation>Dat is meer dan een zin of twee. Zeg in een paar regels wat je wilt toevoegen.</translation>
     </message>
     <message id="ui.auth.aboutYou">
       <source>A little about you</source>
@@ -3464,6 +3516,14 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
     <message id="ui.palette.action">
       <source>Action</source>
       <translation>Actie</translation>
+    </message>
+    <message id="ui.palette.ai">
+      <source>AI</source>
+      <translation>AI</translation>
+    </message>
+    <message id="ui.palette.capture">
+      <source>Quick add “%1”</source>
+      <translation>Snel toevoegen “%1”</translation>
     </message>
     <message id="ui.palette.none">
       <source>Nothing matches.</source>
@@ -4464,6 +4524,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
     <message id="ui.tray.open">
       <source>Open Morvane</source>
       <translation>Morvane openen</translation>
+    </message>
+    <message id="ui.tray.quickAdd">
+      <source>Quick add…</source>
+      <translation>Snel toevoegen…</translation>
     </message>
     <message id="ui.tray.quit">
       <source>Quit</source>

@@ -2565,6 +2565,10 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
       <source>New team</source>
       <translation>Nova equipe</translation>
     </message>
+    <message id="ui.action.quickAdd">
+      <source>Quick add: a sentence becomes work…</source>
+      <translation>Adição rápida: uma frase torna-se trabalho…</translation>
+    </message>
     <message id="ui.action.settings">
       <source>Settings</source>
       <translation>Configurações</translation>
@@ -2580,6 +2584,54 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
     <message id="ui.action.toggleTimer">
       <source>Start or stop the timer</source>
       <translation>Iniciar ou parar o cronômetro</translation>
+    </message>
+    <message id="ui.assistant.add">
+      <source>Add</source>
+      <translation>Adicionar</translation>
+    </message>
+    <message id="ui.assistant.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</source>
+      <translation>Que tarefa? Nenhuma das suas tarefas se chama "%1", ou várias sim. Diga-a como aparece na lista de tarefas.</translation>
+    </message>
+    <message id="ui.assistant.consentNo">
+      <source>Don't send</source>
+      <translation>Não enviar</translation>
+    </message>
+    <message id="ui.assistant.consentOnce">
+      <source>Morvane asks once for this route and remembers your answer. You can change it in the settings.</source>
+      <translation>O Morvane pergunta uma vez por esta via e guarda a sua resposta. Pode alterá-la nas definições.</translation>
+    </message>
+    <message id="ui.assistant.consentTitle">
+      <source>Send your text to %1?</source>
+      <translation>Enviar o seu texto para %1?</translation>
+    </message>
+    <message id="ui.assistant.consentYes">
+      <source>Send</source>
+      <translation>Enviar</translation>
+    </message>
+    <message id="ui.assistant.empty">
+      <source>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</source>
+      <translation>Escreva uma frase por palavras suas: novos projetos e tarefas, tempo gasto, ou iniciar e parar o temporizador.</translation>
+    </message>
+    <message id="ui.assistant.notUnderstood">
+      <source>The sentence could not be read: %1</source>
+      <translation>Não foi possível ler a frase: %1</translation>
+    </message>
+    <message id="ui.assistant.placeholder">
+      <source>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</source>
+      <translation>Diga o que adicionar, p. ex. “Logótipo para a Acme, 3 horas ontem”</translation>
+    </message>
+    <message id="ui.assistant.reading">
+      <source>Reading your sentence…</source>
+      <translation>A ler a sua frase…</translation>
+    </message>
+    <message id="ui.assistant.title">
+      <source>Quick add</source>
+      <translation>Adição rápida</translation>
+    </message>
+    <message id="ui.assistant.tooLong">
+      <source>That is more than a sentence or two. Say what to add in a few lines.</source>
+      <translation>Isso é mais do que uma ou duas frases. Diga em poucas linhas o que adicionar.</translation>
     </message>
     <message id="ui.auth.aboutYou">
       <source>A little about you</source>
@@ -3464,6 +3516,14 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
     <message id="ui.palette.action">
       <source>Action</source>
       <translation>Ação</translation>
+    </message>
+    <message id="ui.palette.ai">
+      <source>AI</source>
+      <translation>IA</translation>
+    </message>
+    <message id="ui.palette.capture">
+      <source>Quick add “%1”</source>
+      <translation>Adição rápida “%1”</translation>
     </message>
     <message id="ui.palette.none">
       <source>Nothing matches.</source>
@@ -4464,6 +4524,10 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
     <message id="ui.tray.open">
       <source>Open Morvane</source>
       <translation>Abrir o Morvane</translation>
+    </message>
+    <message id="ui.tray.quickAdd">
+      <source>Quick add…</source>
+      <translation>Adição rápida…</translation>
     </message>
     <message id="ui.tray.quit">
       <source>Quit</source>

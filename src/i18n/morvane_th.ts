@@ -2565,6 +2565,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>New team</source>
       <translation>ทีมใหม่</translation>
     </message>
+    <message id="ui.action.quickAdd">
+      <source>Quick add: a sentence becomes work…</source>
+      <translation>เพิ่มด่วน: เปลี่ยนประโยคเป็นงาน…</translation>
+    </message>
     <message id="ui.action.settings">
       <source>Settings</source>
       <translation>การตั้งค่า</translation>
@@ -2580,6 +2584,54 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.action.toggleTimer">
       <source>Start or stop the timer</source>
       <translation>เริ่มหรือหยุดตัวจับเวลา</translation>
+    </message>
+    <message id="ui.assistant.add">
+      <source>Add</source>
+      <translation>เพิ่ม</translation>
+    </message>
+    <message id="ui.assistant.clarify">
+      <source>Which task? None of your tasks is called "%1", or several are. Say it as the task list shows it.</source>
+      <translation>งานไหน? ไม่มีงานชื่อ "%1" หรือมีหลายงาน ระบุตามที่แสดงในรายการงาน</translation>
+    </message>
+    <message id="ui.assistant.consentNo">
+      <source>Don't send</source>
+      <translation>ไม่ส่ง</translation>
+    </message>
+    <message id="ui.assistant.consentOnce">
+      <source>Morvane asks once for this route and remembers your answer. You can change it in the settings.</source>
+      <translation>Morvane จะถามครั้งเดียวสำหรับช่องทางนี้และจำคำตอบไว้ คุณเปลี่ยนได้ในการตั้งค่า</translation>
+    </message>
+    <message id="ui.assistant.consentTitle">
+      <source>Send your text to %1?</source>
+      <translation>ส่งข้อความของคุณไปยัง %1 หรือไม่?</translation>
+    </message>
+    <message id="ui.assistant.consentYes">
+      <source>Send</source>
+      <translation>ส่ง</translation>
+    </message>
+    <message id="ui.assistant.empty">
+      <source>Type a sentence in your own words: new projects and tasks, time you spent, or start and stop the timer.</source>
+      <translation>พิมพ์ประโยคด้วยคำพูดของคุณเอง: โปรเจกต์และงานใหม่ เวลาที่ใช้ หรือเริ่มและหยุดตัวจับเวลา</translation>
+    </message>
+    <message id="ui.assistant.notUnderstood">
+      <source>The sentence could not be read: %1</source>
+      <translation>อ่านประโยคไม่ได้: %1</translation>
+    </message>
+    <message id="ui.assistant.placeholder">
+      <source>Say what to add, e.g. “Logo design for Acme, 3 hours yesterday”</source>
+      <translation>บอกสิ่งที่จะเพิ่ม เช่น “ออกแบบโลโก้ให้ Acme เมื่อวาน 3 ชั่วโมง”</translation>
+    </message>
+    <message id="ui.assistant.reading">
+      <source>Reading your sentence…</source>
+      <translation>กำลังอ่านประโยคของคุณ…</translation>
+    </message>
+    <message id="ui.assistant.title">
+      <source>Quick add</source>
+      <translation>เพิ่มด่วน</translation>
+    </message>
+    <message id="ui.assistant.tooLong">
+      <source>That is more than a sentence or two. Say what to add in a few lines.</source>
+      <translation>ยาวเกินหนึ่งหรือสองประโยค บอกสิ่งที่จะเพิ่มในไม่กี่บรรทัด</translation>
     </message>
     <message id="ui.auth.aboutYou">
       <source>A little about you</source>
@@ -3464,6 +3516,14 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.palette.action">
       <source>Action</source>
       <translation>คำสั่ง</translation>
+    </message>
+    <message id="ui.palette.ai">
+      <source>AI</source>
+      <translation>AI</translation>
+    </message>
+    <message id="ui.palette.capture">
+      <source>Quick add “%1”</source>
+      <translation>เพิ่มด่วน “%1”</translation>
     </message>
     <message id="ui.palette.none">
       <source>Nothing matches.</source>
@@ -4464,6 +4524,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.tray.open">
       <source>Open Morvane</source>
       <translation>เปิด Morvane</translation>
+    </message>
+    <message id="ui.tray.quickAdd">
+      <source>Quick add…</source>
+      <translation>เพิ่มด่วน…</translation>
     </message>
     <message id="ui.tray.quit">
       <source>Quit</source>

@@ -58,10 +58,20 @@ ApplicationWindow {
     CommandPalette {
         id: palette
         onActionChosen: (name) => window.runAction(name)
+        onCaptureChosen: (sentence) => { quickAdd.openWith(""); Shell.assistant.capture(sentence) }
     }
 
     FloatingTimer { id: floating }
     ExportDialog { id: exportDialog }
+    QuickAdd { id: quickAdd }
+    ConsentDialog {}
+    Connections {
+        target: Shell.assistant
+        function onFocusRequested(projectId, taskId) {
+            if (projectId) window.workspace.selectedProjectId = projectId
+            if (taskId) window.workspace.selectedTaskId = taskId
+        }
+    }
 
     IdleDialog {
         id: idleDialog
@@ -81,6 +91,7 @@ ApplicationWindow {
     }
     TrayIcon {
         onShowWindow: Shell.activate()
+        onQuickAdd: { Shell.activate(); quickAdd.openWith("") }
         onToggleFloating: floating.visible = !floating.visible
     }
 
@@ -91,6 +102,7 @@ ApplicationWindow {
         else if (name === "toggleTheme") Shell.colorScheme = Shell.dark ? "light" : "dark"
         else if (name === "signOut") Shell.signOut()
         else if (name === "accountantExport") exportDialog.open()
+        else if (name === "quickAdd") quickAdd.openWith("")
         else if (page.item && page.item.runAction) page.item.runAction(name)
     }
 

@@ -83,6 +83,7 @@ DesktopShell::DesktopShell(Options options, QObject *parent)
     m_idle = createTimeDecisions(*this, m_options.clock);
     m_earnings = new EarningsModel(m_options.clock, this);
     m_sessions = new SessionsView(m_options.settings, m_options.sessionsDir, this);
+    m_assistant = new AssistantView(m_options.settings, this);
 }
 
 DesktopShell::~DesktopShell()
@@ -95,6 +96,7 @@ DesktopShell::~DesktopShell()
     m_workspace->setStore(nullptr);
     m_earnings->setStores(nullptr, nullptr);
     m_sessions->setStores(nullptr, nullptr);
+    m_assistant->setStores(nullptr, nullptr, {});
     m_sequence.reset();
     if (m_store) {
         m_store->stopSync();
@@ -166,6 +168,7 @@ void DesktopShell::restart()
         m_workspace->setStore(nullptr);
         m_earnings->setStores(nullptr, nullptr);
         m_sessions->setStores(nullptr, nullptr);
+        m_assistant->setStores(nullptr, nullptr, {});
         m_sequence.reset();
         m_store->stopSync();
         disconnect(m_auth.get(), nullptr, this, nullptr);
@@ -213,7 +216,7 @@ QCoro::Task<> DesktopShell::startBackend()
 
 void DesktopShell::buildStores(const Config &config, std::shared_ptr<SecretStore> secrets)
 {
-    m_auth = std::make_unique<AuthStore>(Supabase(config.supabaseURL, config.supabaseAnonKey), std::move(secrets),
+    m_auth = std::make_unique<AuthStore>(Supabase(config.supabaseURL, config.supabaseAnonKey), secrets,
                                          m_options.settings, m_options.clock);
     m_store = std::make_unique<AppStore>(*m_auth, m_options.settings, m_options.clock);
     m_sequence = std::make_unique<SessionSequence>(*m_auth, *m_store);
@@ -226,6 +229,7 @@ void DesktopShell::buildStores(const Config &config, std::shared_ptr<SecretStore
     m_workspace->invoices()->setBackend(m_auth->client().baseUrl());
     m_earnings->setStores(m_store.get(), m_auth.get());
     m_sessions->setStores(m_store.get(), m_auth.get());
+    m_assistant->setStores(m_store.get(), m_auth.get(), std::move(secrets));
     emit storesChanged();
 }
 

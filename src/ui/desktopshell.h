@@ -3,6 +3,7 @@
 #include "backend/config.h"
 #include "model/clock.h"
 #include "ui/preferences.h"
+#include "ui/assistantview.h"
 #include "ui/earningsmodel.h"
 #include "ui/sessionsview.h"
 #include "ui/workspace.h"
@@ -43,6 +44,7 @@ class DesktopShell : public QObject
     Q_PROPERTY(Workspace *workspace READ workspace CONSTANT)
     Q_PROPERTY(EarningsModel *earnings READ earnings CONSTANT)
     Q_PROPERTY(SessionsView *sessions READ sessions CONSTANT)
+    Q_PROPERTY(AssistantView *assistant READ assistant CONSTANT)
     // Time that needs a decision: the idle question, the timer limits and reminders (an IdleWatcher).
     Q_PROPERTY(QObject *idle READ idleWatcher CONSTANT)
     Q_PROPERTY(Preferences *preferences READ preferences CONSTANT)
@@ -100,6 +102,7 @@ public:
     [[nodiscard]] Workspace *workspace() const { return m_workspace; }
     [[nodiscard]] EarningsModel *earnings() const { return m_earnings; }
     [[nodiscard]] SessionsView *sessions() const { return m_sessions; }
+    [[nodiscard]] AssistantView *assistant() const { return m_assistant; }
     [[nodiscard]] QObject *idleWatcher() const { return m_idle; }
     [[nodiscard]] Preferences *preferences() const { return m_preferences; }
     [[nodiscard]] QStringList providers() const { return m_providers; }
@@ -177,6 +180,7 @@ private:
     Workspace *m_workspace = nullptr;
     EarningsModel *m_earnings = nullptr;
     SessionsView *m_sessions = nullptr;
+    AssistantView *m_assistant = nullptr;
     QObject *m_idle = nullptr;
     Preferences *m_preferences = nullptr;
     // Stores of a backend left behind: operations may still run on them, so they stay until the

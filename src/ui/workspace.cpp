@@ -77,6 +77,8 @@ const PaletteAction paletteActions[] = {
     {"toggleTheme", [] { return qtTrId("ui.action.toggleTheme"); }},
     //% "Export for the accountant…"
     {"accountantExport", [] { return qtTrId("ui.export.action"); }},
+    //% "Quick add: a sentence becomes work…"
+    {"quickAdd", [] { return qtTrId("ui.action.quickAdd"); }},
     //% "Sign out"
     {"signOut", [] { return qtTrId("ui.action.signOut"); }},
 };
@@ -1059,6 +1061,16 @@ void Workspace::searchPalette(const QString &query)
             break;
         }
         rows << hit.row;
+    }
+    // Whatever was typed can also be said to the assistant, after what matched.
+    if (const QString sentence = query.trimmed(); !sentence.isEmpty()) {
+        //% "Quick add “%1”"
+        rows << QVariantHash{{u"key"_s, u"capture"_s},
+                             {u"kind"_s, u"capture"_s},
+                             {u"id"_s, sentence},
+                             {u"title"_s, qtTrId("ui.palette.capture").arg(sentence)},
+                             {u"subtitle"_s, QString()},
+                             {u"projectId"_s, QString()}};
     }
     m_palette->setRows(std::move(rows));
 }

@@ -10,6 +10,7 @@ Popup {
     objectName: "commandPalette"
     readonly property var workspace: Shell.workspace
     signal actionChosen(string name)
+    signal captureChosen(string sentence)
     parent: Overlay.overlay
     x: Math.round((parent.width - width) / 2)
     y: Math.round(parent.height * 0.15)
@@ -38,6 +39,8 @@ Popup {
         } else if (hit.kind === "task") {
             workspace.selectedProjectId = hit.projectId
             workspace.selectedTaskId = hit.id
+        } else if (hit.kind === "capture") {
+            palette.captureChosen(hit.id)
         } else {
             palette.actionChosen(hit.id)
         }
@@ -86,9 +89,11 @@ Popup {
                     Chip {
                         text: hit.kind === "project" ? qsTrId("ui.palette.project")
                             : hit.kind === "task" ? qsTrId("ui.palette.task")
+                            //% "AI"
+                            : hit.kind === "capture" ? qsTrId("ui.palette.ai")
                             : qsTrId("ui.palette.action")
                         //% "Project" / "Task" / "Action"
-                        tone: hit.kind === "action" ? "primary" : "muted"
+                        tone: hit.kind === "action" || hit.kind === "capture" ? "primary" : "muted"
                     }
                     Text {
                         textFormat: Text.PlainText

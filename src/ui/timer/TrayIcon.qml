@@ -9,6 +9,7 @@ Platform.SystemTrayIcon {
     readonly property var workspace: Shell.workspace
     signal showWindow()
     signal toggleFloating()
+    signal quickAdd()
     visible: available
     icon.source: "qrc:/Morvane/Ui/icons/morvane.svg"
     tooltip: workspace.timerRunning ? workspace.runningTaskTitle + " — " + workspace.timerText : "Morvane"
@@ -47,6 +48,11 @@ Platform.SystemTrayIcon {
             //% "Floating timer"
             text: qsTrId("ui.tray.floating")
             onTriggered: tray.toggleFloating()
+        }
+        Platform.MenuItem {
+            //% "Quick add…"
+            text: qsTrId("ui.tray.quickAdd")
+            onTriggered: tray.quickAdd()
         }
         Platform.MenuSeparator {}
         Platform.MenuItem {

@@ -1,4 +1,5 @@
 #include "support/desktopwindow.h"
+#include "ui/assistantview.h"
 #include "ui/sessionsview.h"
 
 #include <QDir>
@@ -6,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSettings>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -29,10 +31,11 @@ QByteArray line(const QDateTime &at, const QString &cwd, const QString &prompt =
 
 } // namespace
 
-// The sessions screen in the real window over a real backend, reading agent logs written by the
-// test: folders grouped by recency, a session logged to a project after its preview, a folder
-// linked and scanned.
-class TestSessionsView : public QObject
+// What the language model and the agent logs bring into the real window over a real backend: the
+// sessions screen reading logs written by the test (folders by recency, a session logged after its
+// preview, a folder linked and scanned), and quick add through a stand-in `claude` and the consent
+// question of a route that leaves the machine.
+class TestAIViews : public QObject
 {
     Q_OBJECT
 
@@ -65,6 +68,11 @@ private slots:
                   line(morning.addSecs(3600 + 300), u"/w/shop"_s));
         const QDateTime before = morning.addDays(-2);
         write(u"-w-blog"_s, u"b1"_s, line(before, u"/w/blog"_s, u"Draft the post"_s) + line(before.addSecs(600), u"/w/blog"_s));
+        // The assistant's bridge reads its environment when the window is made.
+        qputenv("CLAUDE_CLI_PATH", FAKE_CLAUDE_PROGRAM);
+        qputenv("FAKE_CLAUDE_MODE", "result");
+        qputenv("FAKE_CLAUDE_TEXT", R"({"intent":"create_project","project_name":"Lighthouse","project_hourly_rate":85,)"
+                                    R"("tasks":[{"title":"Survey the lamp","priority":"high"}]})");
         m_desktop = std::make_unique<DesktopWindow>(
             m_backend, [this](DesktopShell::Options &options) { options.sessionsDir = m_logs.filePath(u"projects"_s); });
         QVERIFY(m_desktop->open());
@@ -114,8 +122,44 @@ private slots:
         QVERIFY(m_desktop->shoot(u"sessions-tracking"_s));
     }
 
+    void quickAddMakesWorkAndARouteOffTheMachineAsksFirst()
+    {
+        AssistantView *assistant = m_desktop->shell().assistant();
+        QSettings &settings = *m_desktop->shell().settings();
+        settings.setValue(u"ai.provider"_s, u"cliOnly"_s);
+        assistant->capture(u"New project Lighthouse at 85 an hour, survey the lamp first"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!assistant->busy() && !assistant->history().isEmpty(), patience);
+        const QVariantMap made = assistant->history().first().toMap();
+        QVERIFY2(!made.value(u"failed"_s).toBool(), qPrintable(made.value(u"problem"_s).toString()));
+        QVERIFY(made.value(u"understood"_s).toString().contains(u"Lighthouse"_s));
+        const auto lighthouse = [this]() -> std::optional<Project> {
+            for (const Project &project : store()->projects()) {
+                if (project.name == u"Lighthouse") {
+                    return project;
+                }
+            }
+            return std::nullopt;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(lighthouse().has_value(), patience);
+        QTRY_COMPARE(m_desktop->workspace()->selectedProjectId(), lighthouse()->id);
+        QTRY_COMPARE_WITH_TIMEOUT(store()->tasks(lighthouse()->id).size(), 1, patience);
+        QVERIFY(QMetaObject::invokeMethod(m_desktop->window()->findChild<QObject *>(u"quickAdd"_s), "openWith",
+                                          Q_ARG(QVariant, QString())));
+        QVERIFY(m_desktop->shoot(u"quick-add"_s));
+
+        // The relay sends text off the machine: asked first, and a no sends nothing.
+        settings.setValue(u"ai.provider"_s, u"morvaneAIOnly"_s);
+        assistant->capture(u"Log two hours on the lamp"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!assistant->consentQuestion().isEmpty(), patience);
+        QVERIFY(m_desktop->shoot(u"consent-question"_s));
+        assistant->answerConsent(false);
+        QTRY_VERIFY_WITH_TIMEOUT(!assistant->busy(), patience);
+        QVERIFY(assistant->history().first().toMap().value(u"failed"_s).toBool());
+        QCOMPARE(store()->tasks(lighthouse()->id).first().timeSpentSeconds, 0);
+    }
+
     void cleanupTestCase() { m_desktop.reset(); }
 };
 
-MORVANE_DESKTOP_TEST_MAIN(TestSessionsView)
-#include "tst_sessionsview.moc"
+MORVANE_DESKTOP_TEST_MAIN(TestAIViews)
+#include "tst_aiviews.moc"
