@@ -11,6 +11,7 @@
 #include "app/sessionscommands.h"
 #include "app/startup.h"
 #include "app/storecommands.h"
+#include "app/summarycommands.h"
 #include "app/tripcommands.h"
 #include "backend/config.h"
 #include "backend/runblocking.h"
@@ -142,6 +143,10 @@ QList<Command> commands()
         {u"earnings"_s, [] { return qtTrId("cli.command.earnings"); }, runEarningsCommand},
         //% "Time entries or invoices of a period as CSV for the accountant: export entries|invoices --from DAY --to DAY [--out FILE]"
         {u"export"_s, [] { return qtTrId("cli.command.export"); }, runExportCommand},
+        //% "A short recap of your tracked week, written by the model from your own figures: recap [--lang L]"
+        {u"recap"_s, [] { return qtTrId("cli.command.recap"); }, runRecapCommand},
+        //% "A stand-up draft from your last workday, today and your open tasks: standup [--lang L]"
+        {u"standup"_s, [] { return qtTrId("cli.command.standup"); }, runStandupCommand},
     };
 }
 
