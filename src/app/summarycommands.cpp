@@ -76,16 +76,17 @@ int run(Kind kind, const QStringList &arguments, QTextStream &out, QTextStream &
     QCommandLineParser parser;
     const QCommandLineOption help({u"h"_s, u"help"_s}, qtTrId("cli.option.help"));
     //% "Language of the text: en, nl, de, fr, es, it, pt, ja or th; others mean English. Default: the interface
-    //language."
+    // language."
     const QCommandLineOption langOption(u"lang"_s, qtTrId("cli.summary.option.lang"), u"code"_s);
-    parser.addOptions({help, langOption});
+    const QCommandLineOption yes = Cli::yesOption();
+    parser.addOptions({help, langOption, yes});
     if (!Cli::parse(parser, arguments, err)) {
         return 2;
     }
     const QString usageText = kind == Kind::Recap
-                                  //% "Usage: morvane recap [--lang L] [--json]"
+                                  //% "Usage: morvane recap [--lang L] [--yes] [--json]"
                                   ? qtTrId("cli.recap.usage")
-                                  //% "Usage: morvane standup [--lang L] [--json]"
+                                  //% "Usage: morvane standup [--lang L] [--yes] [--json]"
                                   : qtTrId("cli.standup.usage");
     if (parser.isSet(help)) {
         out << usageText << u"\n\n"_s << parser.helpText();
@@ -109,6 +110,7 @@ int run(Kind kind, const QStringList &arguments, QTextStream &out, QTextStream &
         return 1;
     }
     ClaudeBridge bridge(std::make_shared<QSettings>());
+    Cli::connectAI(bridge, session, parser.isSet(yes), err);
 
     if (kind == Kind::Recap) {
         const WorkSummary::RecapFacts facts =

@@ -1390,8 +1390,8 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <translation>Uso: morvane projects list | add &lt;name&gt; [--description TEXT] [--team TEAM] | rename &lt;project&gt; &lt;name&gt; | archive &lt;project&gt; | archive --idle DAYS | rm &lt;project&gt; [--json]</translation>
     </message>
     <message id="cli.recap.usage">
-      <source>Usage: morvane recap [--lang L] [--json]</source>
-      <translation>Uso: morvane recap [--lang L] [--json]</translation>
+      <source>Usage: morvane recap [--lang L] [--yes] [--json]</source>
+      <translation>Uso: morvane recap [--lang L] [--yes] [--json]</translation>
     </message>
     <message id="cli.ref.ambiguous">
       <source>"%1" matches several: %2. Use the id.</source>
@@ -1578,8 +1578,8 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <translation>Cercati i log cambiati negli ultimi %1 giorni in %2.</translation>
     </message>
     <message id="cli.standup.usage">
-      <source>Usage: morvane standup [--lang L] [--json]</source>
-      <translation>Uso: morvane standup [--lang L] [--json]</translation>
+      <source>Usage: morvane standup [--lang L] [--yes] [--json]</source>
+      <translation>Uso: morvane standup [--lang L] [--yes] [--json]</translation>
     </message>
     <message id="cli.summary.fixed">
       <source>Written from your figures alone; the model's text was not used (%1).</source>
