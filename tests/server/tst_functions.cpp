@@ -121,6 +121,9 @@ private:
                   {id("c1"), id("c2"), id("c3"), id("d1"), id("d2"), id("d3"), id("d4"), anna, bob, annasTask,
                    annasTaskInTeam, annasTaskBobLogs, bobsTask, bobsTaskInHerProject, bobsTaskInHerTeam});
         db().exec("INSERT INTO clients (id, user_id, name) VALUES ($1, $2, 'Her client')", {annasClient, anna});
+        // A key claimed before its entry was written names no entry: only her deletion removes it.
+        db().exec("INSERT INTO calendar_imports (user_id, event_key) VALUES ($1, repeat('a', 64)), ($2, repeat('b', 64))",
+                  {anna, bob});
         db().exec("INSERT INTO trips (id, user_id, started_at, client_id) VALUES ($1, $2, '2025-03-01 08:00Z', $3)",
                   {annasTrip, anna, annasClient});
         db().exec("INSERT INTO invoice_templates (id, user_id, name) VALUES ($1, $2, 'Classic')",
