@@ -178,11 +178,10 @@ int runAICommand(const QStringList &arguments, QTextStream &out, QTextStream &er
         ClaudeBridge::needsConsent(route->second) && !parser.isSet(remove) &&
         (answer == u"allow" || answer == u"deny" || answer == u"ask")) {
         if (answer == u"ask") {
-            settings->remove(u"ai.consent."_s + route->first);
+            bridge.clearConsent(route->second);
         } else {
             bridge.setConsent(route->second, answer == u"allow");
         }
-        settings->sync();
         return show(bridge, *secrets, Cli::wantsJson(parser), out);
     }
     return Cli::usage(err, usage);

@@ -2585,6 +2585,102 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Start or stop the timer</source>
       <translation>Timer starten oder stoppen</translation>
     </message>
+    <message id="ui.ai.anthropic">
+      <source>Anthropic API with your key</source>
+      <translation>Anthropic-API mit deinem Schlüssel</translation>
+    </message>
+    <message id="ui.ai.anthropicHelp">
+      <source>Straight to Anthropic with the key you keep in your keyring.</source>
+      <translation>Direkt an Anthropic mit dem Schlüssel aus deinem Schlüsselbund.</translation>
+    </message>
+    <message id="ui.ai.auto">
+      <source>Automatic (recommended)</source>
+      <translation>Automatisch (empfohlen)</translation>
+    </message>
+    <message id="ui.ai.autoHelp">
+      <source>The Claude CLI first; without it, Morvane AI in the cloud.</source>
+      <translation>Zuerst die Claude-CLI, sonst Morvane AI in der Cloud.</translation>
+    </message>
+    <message id="ui.ai.cli">
+      <source>Claude CLI only</source>
+      <translation>Nur Claude-CLI</translation>
+    </message>
+    <message id="ui.ai.cliHelp">
+      <source>Everything local through your own Claude subscription. No network.</source>
+      <translation>Alles lokal über dein eigenes Claude-Abo. Kein Netzwerk.</translation>
+    </message>
+    <message id="ui.ai.consentAllow">
+      <source>Allowed</source>
+      <translation>Erlaubt</translation>
+    </message>
+    <message id="ui.ai.consentAsk">
+      <source>Ask first</source>
+      <translation>Vorher fragen</translation>
+    </message>
+    <message id="ui.ai.consentDeny">
+      <source>Never send</source>
+      <translation>Nie senden</translation>
+    </message>
+    <message id="ui.ai.consents">
+      <source>Sending text off this computer</source>
+      <translation>Text von diesem Computer senden</translation>
+    </message>
+    <message id="ui.ai.gemini">
+      <source>Google Gemini API with your key</source>
+      <translation>Google-Gemini-API mit deinem Schlüssel</translation>
+    </message>
+    <message id="ui.ai.geminiHelp">
+      <source>Straight to Google with the key you keep in your keyring.</source>
+      <translation>Direkt an Google mit dem Schlüssel aus deinem Schlüsselbund.</translation>
+    </message>
+    <message id="ui.ai.keyFailed">
+      <source>The keyring did not take the change; nothing changed.</source>
+      <translation>Der Schlüsselbund hat die Änderung nicht übernommen; nichts wurde geändert.</translation>
+    </message>
+    <message id="ui.ai.keyInvalid">
+      <source>That does not look like an API key: paste the key alone, without spaces.</source>
+      <translation>Das sieht nicht nach einem API-Schlüssel aus: Füge nur den Schlüssel ein, ohne Leerzeichen.</translation>
+    </message>
+    <message id="ui.ai.keyPaste">
+      <source>Paste your API key</source>
+      <translation>API-Schlüssel einfügen</translation>
+    </message>
+    <message id="ui.ai.keyRemove">
+      <source>Remove</source>
+      <translation>Entfernen</translation>
+    </message>
+    <message id="ui.ai.keySave">
+      <source>Save key</source>
+      <translation>Schlüssel speichern</translation>
+    </message>
+    <message id="ui.ai.keyStored">
+      <source>A key is stored; paste another to replace it</source>
+      <translation>Ein Schlüssel ist gespeichert; füge einen anderen ein, um ihn zu ersetzen</translation>
+    </message>
+    <message id="ui.ai.keys">
+      <source>Your own API keys (kept in the keyring)</source>
+      <translation>Eigene API-Schlüssel (im Schlüsselbund)</translation>
+    </message>
+    <message id="ui.ai.openai">
+      <source>OpenAI API with your key</source>
+      <translation>OpenAI-API mit deinem Schlüssel</translation>
+    </message>
+    <message id="ui.ai.openaiHelp">
+      <source>Straight to OpenAI with the key you keep in your keyring.</source>
+      <translation>Direkt an OpenAI mit dem Schlüssel aus deinem Schlüsselbund.</translation>
+    </message>
+    <message id="ui.ai.relay">
+      <source>Morvane AI only</source>
+      <translation>Nur Morvane AI</translation>
+    </message>
+    <message id="ui.ai.relayHelp">
+      <source>Always through the secured relay of your Morvane server. The CLI is ignored.</source>
+      <translation>Immer über die gesicherte Weiterleitung deines Morvane-Servers. Die CLI wird ignoriert.</translation>
+    </message>
+    <message id="ui.ai.route">
+      <source>Where model calls go</source>
+      <translation>Wohin Modellanfragen gehen</translation>
+    </message>
     <message id="ui.assistant.add">
       <source>Add</source>
       <translation>Hinzufügen</translation>
@@ -3840,6 +3936,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Konto</translation>
+    </message>
+    <message id="ui.settings.ai">
+      <source>AI</source>
+      <translation>KI</translation>
     </message>
     <message id="ui.settings.appearance">
       <source>Appearance</source>

@@ -2585,6 +2585,102 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Start or stop the timer</source>
       <translation>Start or stop the timer</translation>
     </message>
+    <message id="ui.ai.anthropic">
+      <source>Anthropic API with your key</source>
+      <translation>Anthropic API with your key</translation>
+    </message>
+    <message id="ui.ai.anthropicHelp">
+      <source>Straight to Anthropic with the key you keep in your keyring.</source>
+      <translation>Straight to Anthropic with the key you keep in your keyring.</translation>
+    </message>
+    <message id="ui.ai.auto">
+      <source>Automatic (recommended)</source>
+      <translation>Automatic (recommended)</translation>
+    </message>
+    <message id="ui.ai.autoHelp">
+      <source>The Claude CLI first; without it, Morvane AI in the cloud.</source>
+      <translation>The Claude CLI first; without it, Morvane AI in the cloud.</translation>
+    </message>
+    <message id="ui.ai.cli">
+      <source>Claude CLI only</source>
+      <translation>Claude CLI only</translation>
+    </message>
+    <message id="ui.ai.cliHelp">
+      <source>Everything local through your own Claude subscription. No network.</source>
+      <translation>Everything local through your own Claude subscription. No network.</translation>
+    </message>
+    <message id="ui.ai.consentAllow">
+      <source>Allowed</source>
+      <translation>Allowed</translation>
+    </message>
+    <message id="ui.ai.consentAsk">
+      <source>Ask first</source>
+      <translation>Ask first</translation>
+    </message>
+    <message id="ui.ai.consentDeny">
+      <source>Never send</source>
+      <translation>Never send</translation>
+    </message>
+    <message id="ui.ai.consents">
+      <source>Sending text off this computer</source>
+      <translation>Sending text off this computer</translation>
+    </message>
+    <message id="ui.ai.gemini">
+      <source>Google Gemini API with your key</source>
+      <translation>Google Gemini API with your key</translation>
+    </message>
+    <message id="ui.ai.geminiHelp">
+      <source>Straight to Google with the key you keep in your keyring.</source>
+      <translation>Straight to Google with the key you keep in your keyring.</translation>
+    </message>
+    <message id="ui.ai.keyFailed">
+      <source>The keyring did not take the change; nothing changed.</source>
+      <translation>The keyring did not take the change; nothing changed.</translation>
+    </message>
+    <message id="ui.ai.keyInvalid">
+      <source>That does not look like an API key: paste the key alone, without spaces.</source>
+      <translation>That does not look like an API key: paste the key alone, without spaces.</translation>
+    </message>
+    <message id="ui.ai.keyPaste">
+      <source>Paste your API key</source>
+      <translation>Paste your API key</translation>
+    </message>
+    <message id="ui.ai.keyRemove">
+      <source>Remove</source>
+      <translation>Remove</translation>
+    </message>
+    <message id="ui.ai.keySave">
+      <source>Save key</source>
+      <translation>Save key</translation>
+    </message>
+    <message id="ui.ai.keyStored">
+      <source>A key is stored; paste another to replace it</source>
+      <translation>A key is stored; paste another to replace it</translation>
+    </message>
+    <message id="ui.ai.keys">
+      <source>Your own API keys (kept in the keyring)</source>
+      <translation>Your own API keys (kept in the keyring)</translation>
+    </message>
+    <message id="ui.ai.openai">
+      <source>OpenAI API with your key</source>
+      <translation>OpenAI API with your key</translation>
+    </message>
+    <message id="ui.ai.openaiHelp">
+      <source>Straight to OpenAI with the key you keep in your keyring.</source>
+      <translation>Straight to OpenAI with the key you keep in your keyring.</translation>
+    </message>
+    <message id="ui.ai.relay">
+      <source>Morvane AI only</source>
+      <translation>Morvane AI only</translation>
+    </message>
+    <message id="ui.ai.relayHelp">
+      <source>Always through the secured relay of your Morvane server. The CLI is ignored.</source>
+      <translation>Always through the secured relay of your Morvane server. The CLI is ignored.</translation>
+    </message>
+    <message id="ui.ai.route">
+      <source>Where model calls go</source>
+      <translation>Where model calls go</translation>
+    </message>
     <message id="ui.assistant.add">
       <source>Add</source>
       <translation>Add</translation>
@@ -3840,6 +3936,10 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Account</translation>
+    </message>
+    <message id="ui.settings.ai">
+      <source>AI</source>
+      <translation>AI</translation>
     </message>
     <message id="ui.settings.appearance">
       <source>Appearance</source>

@@ -2585,6 +2585,102 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Start or stop the timer</source>
       <translation>Iniciar o detener el temporizador</translation>
     </message>
+    <message id="ui.ai.anthropic">
+      <source>Anthropic API with your key</source>
+      <translation>API de Anthropic con tu clave</translation>
+    </message>
+    <message id="ui.ai.anthropicHelp">
+      <source>Straight to Anthropic with the key you keep in your keyring.</source>
+      <translation>Directo a Anthropic con la clave de tu llavero.</translation>
+    </message>
+    <message id="ui.ai.auto">
+      <source>Automatic (recommended)</source>
+      <translation>Automático (recomendado)</translation>
+    </message>
+    <message id="ui.ai.autoHelp">
+      <source>The Claude CLI first; without it, Morvane AI in the cloud.</source>
+      <translation>Primero la CLI de Claude; sin ella, Morvane AI en la nube.</translation>
+    </message>
+    <message id="ui.ai.cli">
+      <source>Claude CLI only</source>
+      <translation>Solo la CLI de Claude</translation>
+    </message>
+    <message id="ui.ai.cliHelp">
+      <source>Everything local through your own Claude subscription. No network.</source>
+      <translation>Todo local con tu propia suscripción de Claude. Sin red.</translation>
+    </message>
+    <message id="ui.ai.consentAllow">
+      <source>Allowed</source>
+      <translation>Permitido</translation>
+    </message>
+    <message id="ui.ai.consentAsk">
+      <source>Ask first</source>
+      <translation>Preguntar antes</translation>
+    </message>
+    <message id="ui.ai.consentDeny">
+      <source>Never send</source>
+      <translation>No enviar nunca</translation>
+    </message>
+    <message id="ui.ai.consents">
+      <source>Sending text off this computer</source>
+      <translation>Enviar texto fuera de este ordenador</translation>
+    </message>
+    <message id="ui.ai.gemini">
+      <source>Google Gemini API with your key</source>
+      <translation>API de Google Gemini con tu clave</translation>
+    </message>
+    <message id="ui.ai.geminiHelp">
+      <source>Straight to Google with the key you keep in your keyring.</source>
+      <translation>Directo a Google con la clave de tu llavero.</translation>
+    </message>
+    <message id="ui.ai.keyFailed">
+      <source>The keyring did not take the change; nothing changed.</source>
+      <translation>El llavero no aceptó el cambio; no ha cambiado nada.</translation>
+    </message>
+    <message id="ui.ai.keyInvalid">
+      <source>That does not look like an API key: paste the key alone, without spaces.</source>
+      <translation>Eso no parece una clave de API: pega solo la clave, sin espacios.</translation>
+    </message>
+    <message id="ui.ai.keyPaste">
+      <source>Paste your API key</source>
+      <translation>Pega tu clave de API</translation>
+    </message>
+    <message id="ui.ai.keyRemove">
+      <source>Remove</source>
+      <translation>Quitar</translation>
+    </message>
+    <message id="ui.ai.keySave">
+      <source>Save key</source>
+      <translation>Guardar clave</translation>
+    </message>
+    <message id="ui.ai.keyStored">
+      <source>A key is stored; paste another to replace it</source>
+      <translation>Hay una clave guardada; pega otra para sustituirla</translation>
+    </message>
+    <message id="ui.ai.keys">
+      <source>Your own API keys (kept in the keyring)</source>
+      <translation>Tus propias claves de API (en el llavero)</translation>
+    </message>
+    <message id="ui.ai.openai">
+      <source>OpenAI API with your key</source>
+      <translation>API de OpenAI con tu clave</translation>
+    </message>
+    <message id="ui.ai.openaiHelp">
+      <source>Straight to OpenAI with the key you keep in your keyring.</source>
+      <translation>Directo a OpenAI con la clave de tu llavero.</translation>
+    </message>
+    <message id="ui.ai.relay">
+      <source>Morvane AI only</source>
+      <translation>Solo Morvane AI</translation>
+    </message>
+    <message id="ui.ai.relayHelp">
+      <source>Always through the secured relay of your Morvane server. The CLI is ignored.</source>
+      <translation>Siempre a través del relé seguro de tu servidor Morvane. La CLI se ignora.</translation>
+    </message>
+    <message id="ui.ai.route">
+      <source>Where model calls go</source>
+      <translation>Adónde van las llamadas al modelo</translation>
+    </message>
     <message id="ui.assistant.add">
       <source>Add</source>
       <translation>Añadir</translation>
@@ -3840,6 +3936,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Cuenta</translation>
+    </message>
+    <message id="ui.settings.ai">
+      <source>AI</source>
+      <translation>IA</translation>
     </message>
     <message id="ui.settings.appearance">
       <source>Appearance</source>

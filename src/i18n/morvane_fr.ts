@@ -2585,6 +2585,102 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Start or stop the timer</source>
       <translation>Démarrer ou arrêter le minuteur</translation>
     </message>
+    <message id="ui.ai.anthropic">
+      <source>Anthropic API with your key</source>
+      <translation>API Anthropic avec votre clé</translation>
+    </message>
+    <message id="ui.ai.anthropicHelp">
+      <source>Straight to Anthropic with the key you keep in your keyring.</source>
+      <translation>Directement chez Anthropic avec la clé de votre trousseau.</translation>
+    </message>
+    <message id="ui.ai.auto">
+      <source>Automatic (recommended)</source>
+      <translation>Automatique (recommandé)</translation>
+    </message>
+    <message id="ui.ai.autoHelp">
+      <source>The Claude CLI first; without it, Morvane AI in the cloud.</source>
+      <translation>D’abord la CLI Claude ; sans elle, Morvane AI dans le cloud.</translation>
+    </message>
+    <message id="ui.ai.cli">
+      <source>Claude CLI only</source>
+      <translation>CLI Claude uniquement</translation>
+    </message>
+    <message id="ui.ai.cliHelp">
+      <source>Everything local through your own Claude subscription. No network.</source>
+      <translation>Tout en local via votre propre abonnement Claude. Aucun réseau.</translation>
+    </message>
+    <message id="ui.ai.consentAllow">
+      <source>Allowed</source>
+      <translation>Autorisé</translation>
+    </message>
+    <message id="ui.ai.consentAsk">
+      <source>Ask first</source>
+      <translation>Demander d’abord</translation>
+    </message>
+    <message id="ui.ai.consentDeny">
+      <source>Never send</source>
+      <translation>Ne jamais envoyer</translation>
+    </message>
+    <message id="ui.ai.consents">
+      <source>Sending text off this computer</source>
+      <translation>Envoi de texte hors de cet ordinateur</translation>
+    </message>
+    <message id="ui.ai.gemini">
+      <source>Google Gemini API with your key</source>
+      <translation>API Google Gemini avec votre clé</translation>
+    </message>
+    <message id="ui.ai.geminiHelp">
+      <source>Straight to Google with the key you keep in your keyring.</source>
+      <translation>Directement chez Google avec la clé de votre trousseau.</translation>
+    </message>
+    <message id="ui.ai.keyFailed">
+      <source>The keyring did not take the change; nothing changed.</source>
+      <translation>Le trousseau n’a pas accepté la modification ; rien n’a changé.</translation>
+    </message>
+    <message id="ui.ai.keyInvalid">
+      <source>That does not look like an API key: paste the key alone, without spaces.</source>
+      <translation>Cela ne ressemble pas à une clé d’API : collez la clé seule, sans espaces.</translation>
+    </message>
+    <message id="ui.ai.keyPaste">
+      <source>Paste your API key</source>
+      <translation>Collez votre clé d’API</translation>
+    </message>
+    <message id="ui.ai.keyRemove">
+      <source>Remove</source>
+      <translation>Supprimer</translation>
+    </message>
+    <message id="ui.ai.keySave">
+      <source>Save key</source>
+      <translation>Enregistrer la clé</translation>
+    </message>
+    <message id="ui.ai.keyStored">
+      <source>A key is stored; paste another to replace it</source>
+      <translation>Une clé est enregistrée ; collez-en une autre pour la remplacer</translation>
+    </message>
+    <message id="ui.ai.keys">
+      <source>Your own API keys (kept in the keyring)</source>
+      <translation>Vos propres clés d’API (dans le trousseau)</translation>
+    </message>
+    <message id="ui.ai.openai">
+      <source>OpenAI API with your key</source>
+      <translation>API OpenAI avec votre clé</translation>
+    </message>
+    <message id="ui.ai.openaiHelp">
+      <source>Straight to OpenAI with the key you keep in your keyring.</source>
+      <translation>Directement chez OpenAI avec la clé de votre trousseau.</translation>
+    </message>
+    <message id="ui.ai.relay">
+      <source>Morvane AI only</source>
+      <translation>Morvane AI uniquement</translation>
+    </message>
+    <message id="ui.ai.relayHelp">
+      <source>Always through the secured relay of your Morvane server. The CLI is ignored.</source>
+      <translation>Toujours par le relais sécurisé de votre serveur Morvane. La CLI est ignorée.</translation>
+    </message>
+    <message id="ui.ai.route">
+      <source>Where model calls go</source>
+      <translation>Où vont les appels au modèle</translation>
+    </message>
     <message id="ui.assistant.add">
       <source>Add</source>
       <translation>Ajouter</translation>
@@ -3840,6 +3936,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Compte</translation>
+    </message>
+    <message id="ui.settings.ai">
+      <source>AI</source>
+      <translation>IA</translation>
     </message>
     <message id="ui.settings.appearance">
       <source>Appearance</source>

@@ -2585,6 +2585,102 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Start or stop the timer</source>
       <translation>Avvia o ferma il timer</translation>
     </message>
+    <message id="ui.ai.anthropic">
+      <source>Anthropic API with your key</source>
+      <translation>API Anthropic con la tua chiave</translation>
+    </message>
+    <message id="ui.ai.anthropicHelp">
+      <source>Straight to Anthropic with the key you keep in your keyring.</source>
+      <translation>Direttamente ad Anthropic con la chiave del tuo portachiavi.</translation>
+    </message>
+    <message id="ui.ai.auto">
+      <source>Automatic (recommended)</source>
+      <translation>Automatico (consigliato)</translation>
+    </message>
+    <message id="ui.ai.autoHelp">
+      <source>The Claude CLI first; without it, Morvane AI in the cloud.</source>
+      <translation>Prima la CLI di Claude; senza, Morvane AI nel cloud.</translation>
+    </message>
+    <message id="ui.ai.cli">
+      <source>Claude CLI only</source>
+      <translation>Solo CLI di Claude</translation>
+    </message>
+    <message id="ui.ai.cliHelp">
+      <source>Everything local through your own Claude subscription. No network.</source>
+      <translation>Tutto in locale con il tuo abbonamento Claude. Nessuna rete.</translation>
+    </message>
+    <message id="ui.ai.consentAllow">
+      <source>Allowed</source>
+      <translation>Consentito</translation>
+    </message>
+    <message id="ui.ai.consentAsk">
+      <source>Ask first</source>
+      <translation>Chiedi prima</translation>
+    </message>
+    <message id="ui.ai.consentDeny">
+      <source>Never send</source>
+      <translation>Non inviare mai</translation>
+    </message>
+    <message id="ui.ai.consents">
+      <source>Sending text off this computer</source>
+      <translation>Invio di testo fuori da questo computer</translation>
+    </message>
+    <message id="ui.ai.gemini">
+      <source>Google Gemini API with your key</source>
+      <translation>API Google Gemini con la tua chiave</translation>
+    </message>
+    <message id="ui.ai.geminiHelp">
+      <source>Straight to Google with the key you keep in your keyring.</source>
+      <translation>Direttamente a Google con la chiave del tuo portachiavi.</translation>
+    </message>
+    <message id="ui.ai.keyFailed">
+      <source>The keyring did not take the change; nothing changed.</source>
+      <translation>Il portachiavi non ha accettato la modifica; non è cambiato nulla.</translation>
+    </message>
+    <message id="ui.ai.keyInvalid">
+      <source>That does not look like an API key: paste the key alone, without spaces.</source>
+      <translation>Non sembra una chiave API: incolla solo la chiave, senza spazi.</translation>
+    </message>
+    <message id="ui.ai.keyPaste">
+      <source>Paste your API key</source>
+      <translation>Incolla la tua chiave API</translation>
+    </message>
+    <message id="ui.ai.keyRemove">
+      <source>Remove</source>
+      <translation>Rimuovi</translation>
+    </message>
+    <message id="ui.ai.keySave">
+      <source>Save key</source>
+      <translation>Salva chiave</translation>
+    </message>
+    <message id="ui.ai.keyStored">
+      <source>A key is stored; paste another to replace it</source>
+      <translation>C’è una chiave salvata; incollane un’altra per sostituirla</translation>
+    </message>
+    <message id="ui.ai.keys">
+      <source>Your own API keys (kept in the keyring)</source>
+      <translation>Le tue chiavi API (nel portachiavi)</translation>
+    </message>
+    <message id="ui.ai.openai">
+      <source>OpenAI API with your key</source>
+      <translation>API OpenAI con la tua chiave</translation>
+    </message>
+    <message id="ui.ai.openaiHelp">
+      <source>Straight to OpenAI with the key you keep in your keyring.</source>
+      <translation>Direttamente a OpenAI con la chiave del tuo portachiavi.</translation>
+    </message>
+    <message id="ui.ai.relay">
+      <source>Morvane AI only</source>
+      <translation>Solo Morvane AI</translation>
+    </message>
+    <message id="ui.ai.relayHelp">
+      <source>Always through the secured relay of your Morvane server. The CLI is ignored.</source>
+      <translation>Sempre tramite il relay protetto del tuo server Morvane. La CLI viene ignorata.</translation>
+    </message>
+    <message id="ui.ai.route">
+      <source>Where model calls go</source>
+      <translation>Dove vanno le chiamate al modello</translation>
+    </message>
     <message id="ui.assistant.add">
       <source>Add</source>
       <translation>Aggiungi</translation>
@@ -3840,6 +3936,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Account</translation>
+    </message>
+    <message id="ui.settings.ai">
+      <source>AI</source>
+      <translation>IA</translation>
     </message>
     <message id="ui.settings.appearance">
       <source>Appearance</source>

@@ -2585,6 +2585,102 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Start or stop the timer</source>
       <translation>タイマーを開始/停止</translation>
     </message>
+    <message id="ui.ai.anthropic">
+      <source>Anthropic API with your key</source>
+      <translation>自分のキーで Anthropic API</translation>
+    </message>
+    <message id="ui.ai.anthropicHelp">
+      <source>Straight to Anthropic with the key you keep in your keyring.</source>
+      <translation>キーリングのキーで Anthropic に直接送信します。</translation>
+    </message>
+    <message id="ui.ai.auto">
+      <source>Automatic (recommended)</source>
+      <translation>自動（おすすめ）</translation>
+    </message>
+    <message id="ui.ai.autoHelp">
+      <source>The Claude CLI first; without it, Morvane AI in the cloud.</source>
+      <translation>まず Claude CLI、なければクラウドの Morvane AI。</translation>
+    </message>
+    <message id="ui.ai.cli">
+      <source>Claude CLI only</source>
+      <translation>Claude CLI のみ</translation>
+    </message>
+    <message id="ui.ai.cliHelp">
+      <source>Everything local through your own Claude subscription. No network.</source>
+      <translation>すべて自分の Claude サブスクリプションでローカルに処理。ネットワークなし。</translation>
+    </message>
+    <message id="ui.ai.consentAllow">
+      <source>Allowed</source>
+      <translation>許可</translation>
+    </message>
+    <message id="ui.ai.consentAsk">
+      <source>Ask first</source>
+      <translation>先に確認する</translation>
+    </message>
+    <message id="ui.ai.consentDeny">
+      <source>Never send</source>
+      <translation>送信しない</translation>
+    </message>
+    <message id="ui.ai.consents">
+      <source>Sending text off this computer</source>
+      <translation>このコンピューター外へのテキスト送信</translation>
+    </message>
+    <message id="ui.ai.gemini">
+      <source>Google Gemini API with your key</source>
+      <translation>自分のキーで Google Gemini API</translation>
+    </message>
+    <message id="ui.ai.geminiHelp">
+      <source>Straight to Google with the key you keep in your keyring.</source>
+      <translation>キーリングのキーで Google に直接送信します。</translation>
+    </message>
+    <message id="ui.ai.keyFailed">
+      <source>The keyring did not take the change; nothing changed.</source>
+      <translation>キーリングが変更を受け付けませんでした。何も変更されていません。</translation>
+    </message>
+    <message id="ui.ai.keyInvalid">
+      <source>That does not look like an API key: paste the key alone, without spaces.</source>
+      <translation>API キーではないようです。キーだけをスペースなしで貼り付けてください。</translation>
+    </message>
+    <message id="ui.ai.keyPaste">
+      <source>Paste your API key</source>
+      <translation>API キーを貼り付け</translation>
+    </message>
+    <message id="ui.ai.keyRemove">
+      <source>Remove</source>
+      <translation>削除</translation>
+    </message>
+    <message id="ui.ai.keySave">
+      <source>Save key</source>
+      <translation>キーを保存</translation>
+    </message>
+    <message id="ui.ai.keyStored">
+      <source>A key is stored; paste another to replace it</source>
+      <translation>キーは保存済みです。置き換えるには別のキーを貼り付けてください</translation>
+    </message>
+    <message id="ui.ai.keys">
+      <source>Your own API keys (kept in the keyring)</source>
+      <translation>自分の API キー（キーリングに保存）</translation>
+    </message>
+    <message id="ui.ai.openai">
+      <source>OpenAI API with your key</source>
+      <translation>自分のキーで OpenAI API</translation>
+    </message>
+    <message id="ui.ai.openaiHelp">
+      <source>Straight to OpenAI with the key you keep in your keyring.</source>
+      <translation>キーリングのキーで OpenAI に直接送信します。</translation>
+    </message>
+    <message id="ui.ai.relay">
+      <source>Morvane AI only</source>
+      <translation>Morvane AI のみ</translation>
+    </message>
+    <message id="ui.ai.relayHelp">
+      <source>Always through the secured relay of your Morvane server. The CLI is ignored.</source>
+      <translation>常に Morvane サーバーの安全な中継を経由します。CLI は使いません。</translation>
+    </message>
+    <message id="ui.ai.route">
+      <source>Where model calls go</source>
+      <translation>モデルへの送信先</translation>
+    </message>
     <message id="ui.assistant.add">
       <source>Add</source>
       <translation>追加</translation>
@@ -3840,6 +3936,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>アカウント</translation>
+    </message>
+    <message id="ui.settings.ai">
+      <source>AI</source>
+      <translation>AI</translation>
     </message>
     <message id="ui.settings.appearance">
       <source>Appearance</source>

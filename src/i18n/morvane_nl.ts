@@ -2585,6 +2585,102 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
       <source>Start or stop the timer</source>
       <translation>Timer starten of stoppen</translation>
     </message>
+    <message id="ui.ai.anthropic">
+      <source>Anthropic API with your key</source>
+      <translation>Anthropic-API met je sleutel</translation>
+    </message>
+    <message id="ui.ai.anthropicHelp">
+      <source>Straight to Anthropic with the key you keep in your keyring.</source>
+      <translation>Rechtstreeks naar Anthropic met de sleutel in je sleutelbos.</translation>
+    </message>
+    <message id="ui.ai.auto">
+      <source>Automatic (recommended)</source>
+      <translation>Automatisch (aanbevolen)</translation>
+    </message>
+    <message id="ui.ai.autoHelp">
+      <source>The Claude CLI first; without it, Morvane AI in the cloud.</source>
+      <translation>Claude CLI eerst, anders Morvane AI in de cloud.</translation>
+    </message>
+    <message id="ui.ai.cli">
+      <source>Claude CLI only</source>
+      <translation>Claude CLI alleen</translation>
+    </message>
+    <message id="ui.ai.cliHelp">
+      <source>Everything local through your own Claude subscription. No network.</source>
+      <translation>Alles lokaal via je eigen Claude-abonnement. Geen netwerk.</translation>
+    </message>
+    <message id="ui.ai.consentAllow">
+      <source>Allowed</source>
+      <translation>Toegestaan</translation>
+    </message>
+    <message id="ui.ai.consentAsk">
+      <source>Ask first</source>
+      <translation>Eerst vragen</translation>
+    </message>
+    <message id="ui.ai.consentDeny">
+      <source>Never send</source>
+      <translation>Nooit sturen</translation>
+    </message>
+    <message id="ui.ai.consents">
+      <source>Sending text off this computer</source>
+      <translation>Tekst buiten deze computer sturen</translation>
+    </message>
+    <message id="ui.ai.gemini">
+      <source>Google Gemini API with your key</source>
+      <translation>Google Gemini-API met je sleutel</translation>
+    </message>
+    <message id="ui.ai.geminiHelp">
+      <source>Straight to Google with the key you keep in your keyring.</source>
+      <translation>Rechtstreeks naar Google met de sleutel in je sleutelbos.</translation>
+    </message>
+    <message id="ui.ai.keyFailed">
+      <source>The keyring did not take the change; nothing changed.</source>
+      <translation>De sleutelbos nam de wijziging niet aan; er is niets veranderd.</translation>
+    </message>
+    <message id="ui.ai.keyInvalid">
+      <source>That does not look like an API key: paste the key alone, without spaces.</source>
+      <translation>Dat lijkt geen API-sleutel: plak alleen de sleutel, zonder spaties.</translation>
+    </message>
+    <message id="ui.ai.keyPaste">
+      <source>Paste your API key</source>
+      <translation>Plak je API-sleutel</translation>
+    </message>
+    <message id="ui.ai.keyRemove">
+      <source>Remove</source>
+      <translation>Verwijderen</translation>
+    </message>
+    <message id="ui.ai.keySave">
+      <source>Save key</source>
+      <translation>Sleutel bewaren</translation>
+    </message>
+    <message id="ui.ai.keyStored">
+      <source>A key is stored; paste another to replace it</source>
+      <translation>Er is een sleutel bewaard; plak een andere om hem te vervangen</translation>
+    </message>
+    <message id="ui.ai.keys">
+      <source>Your own API keys (kept in the keyring)</source>
+      <translation>Je eigen API-sleutels (bewaard in de sleutelbos)</translation>
+    </message>
+    <message id="ui.ai.openai">
+      <source>OpenAI API with your key</source>
+      <translation>OpenAI-API met je sleutel</translation>
+    </message>
+    <message id="ui.ai.openaiHelp">
+      <source>Straight to OpenAI with the key you keep in your keyring.</source>
+      <translation>Rechtstreeks naar OpenAI met de sleutel in je sleutelbos.</translation>
+    </message>
+    <message id="ui.ai.relay">
+      <source>Morvane AI only</source>
+      <translation>Morvane AI alleen</translation>
+    </message>
+    <message id="ui.ai.relayHelp">
+      <source>Always through the secured relay of your Morvane server. The CLI is ignored.</source>
+      <translation>Altijd via de beveiligde doorgifte van je Morvane-server. De CLI wordt genegeerd.</translation>
+    </message>
+    <message id="ui.ai.route">
+      <source>Where model calls go</source>
+      <translation>Waar modelaanvragen heen gaan</translation>
+    </message>
     <message id="ui.assistant.add">
       <source>Add</source>
       <translation>Toevoegen</translation>
@@ -3840,6 +3936,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Account</translation>
+    </message>
+    <message id="ui.settings.ai">
+      <source>AI</source>
+      <translation>AI</translation>
     </message>
     <message id="ui.settings.appearance">
       <source>Appearance</source>

@@ -2585,6 +2585,102 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
       <source>Start or stop the timer</source>
       <translation>Iniciar ou parar o cronômetro</translation>
     </message>
+    <message id="ui.ai.anthropic">
+      <source>Anthropic API with your key</source>
+      <translation>API da Anthropic com a sua chave</translation>
+    </message>
+    <message id="ui.ai.anthropicHelp">
+      <source>Straight to Anthropic with the key you keep in your keyring.</source>
+      <translation>Diretamente para a Anthropic com a chave do seu porta-chaves.</translation>
+    </message>
+    <message id="ui.ai.auto">
+      <source>Automatic (recommended)</source>
+      <translation>Automático (recomendado)</translation>
+    </message>
+    <message id="ui.ai.autoHelp">
+      <source>The Claude CLI first; without it, Morvane AI in the cloud.</source>
+      <translation>Primeiro a CLI do Claude; sem ela, o Morvane AI na nuvem.</translation>
+    </message>
+    <message id="ui.ai.cli">
+      <source>Claude CLI only</source>
+      <translation>Apenas a CLI do Claude</translation>
+    </message>
+    <message id="ui.ai.cliHelp">
+      <source>Everything local through your own Claude subscription. No network.</source>
+      <translation>Tudo local através da sua subscrição do Claude. Sem rede.</translation>
+    </message>
+    <message id="ui.ai.consentAllow">
+      <source>Allowed</source>
+      <translation>Permitido</translation>
+    </message>
+    <message id="ui.ai.consentAsk">
+      <source>Ask first</source>
+      <translation>Perguntar antes</translation>
+    </message>
+    <message id="ui.ai.consentDeny">
+      <source>Never send</source>
+      <translation>Nunca enviar</translation>
+    </message>
+    <message id="ui.ai.consents">
+      <source>Sending text off this computer</source>
+      <translation>Enviar texto para fora deste computador</translation>
+    </message>
+    <message id="ui.ai.gemini">
+      <source>Google Gemini API with your key</source>
+      <translation>API do Google Gemini com a sua chave</translation>
+    </message>
+    <message id="ui.ai.geminiHelp">
+      <source>Straight to Google with the key you keep in your keyring.</source>
+      <translation>Diretamente para a Google com a chave do seu porta-chaves.</translation>
+    </message>
+    <message id="ui.ai.keyFailed">
+      <source>The keyring did not take the change; nothing changed.</source>
+      <translation>O porta-chaves não aceitou a alteração; nada mudou.</translation>
+    </message>
+    <message id="ui.ai.keyInvalid">
+      <source>That does not look like an API key: paste the key alone, without spaces.</source>
+      <translation>Isso não parece uma chave de API: cole só a chave, sem espaços.</translation>
+    </message>
+    <message id="ui.ai.keyPaste">
+      <source>Paste your API key</source>
+      <translation>Cole a sua chave de API</translation>
+    </message>
+    <message id="ui.ai.keyRemove">
+      <source>Remove</source>
+      <translation>Remover</translation>
+    </message>
+    <message id="ui.ai.keySave">
+      <source>Save key</source>
+      <translation>Guardar chave</translation>
+    </message>
+    <message id="ui.ai.keyStored">
+      <source>A key is stored; paste another to replace it</source>
+      <translation>Há uma chave guardada; cole outra para a substituir</translation>
+    </message>
+    <message id="ui.ai.keys">
+      <source>Your own API keys (kept in the keyring)</source>
+      <translation>As suas chaves de API (no porta-chaves)</translation>
+    </message>
+    <message id="ui.ai.openai">
+      <source>OpenAI API with your key</source>
+      <translation>API da OpenAI com a sua chave</translation>
+    </message>
+    <message id="ui.ai.openaiHelp">
+      <source>Straight to OpenAI with the key you keep in your keyring.</source>
+      <translation>Diretamente para a OpenAI com a chave do seu porta-chaves.</translation>
+    </message>
+    <message id="ui.ai.relay">
+      <source>Morvane AI only</source>
+      <translation>Apenas Morvane AI</translation>
+    </message>
+    <message id="ui.ai.relayHelp">
+      <source>Always through the secured relay of your Morvane server. The CLI is ignored.</source>
+      <translation>Sempre através do relé seguro do seu servidor Morvane. A CLI é ignorada.</translation>
+    </message>
+    <message id="ui.ai.route">
+      <source>Where model calls go</source>
+      <translation>Para onde vão os pedidos ao modelo</translation>
+    </message>
     <message id="ui.assistant.add">
       <source>Add</source>
       <translation>Adicionar</translation>
@@ -3840,6 +3936,10 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>Conta</translation>
+    </message>
+    <message id="ui.settings.ai">
+      <source>AI</source>
+      <translation>IA</translation>
     </message>
     <message id="ui.settings.appearance">
       <source>Appearance</source>

@@ -2585,6 +2585,102 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Start or stop the timer</source>
       <translation>เริ่มหรือหยุดตัวจับเวลา</translation>
     </message>
+    <message id="ui.ai.anthropic">
+      <source>Anthropic API with your key</source>
+      <translation>Anthropic API ด้วยคีย์ของคุณ</translation>
+    </message>
+    <message id="ui.ai.anthropicHelp">
+      <source>Straight to Anthropic with the key you keep in your keyring.</source>
+      <translation>ส่งตรงไปยัง Anthropic ด้วยคีย์ในพวงกุญแจของคุณ</translation>
+    </message>
+    <message id="ui.ai.auto">
+      <source>Automatic (recommended)</source>
+      <translation>อัตโนมัติ (แนะนำ)</translation>
+    </message>
+    <message id="ui.ai.autoHelp">
+      <source>The Claude CLI first; without it, Morvane AI in the cloud.</source>
+      <translation>ใช้ Claude CLI ก่อน ถ้าไม่มีใช้ Morvane AI บนคลาวด์</translation>
+    </message>
+    <message id="ui.ai.cli">
+      <source>Claude CLI only</source>
+      <translation>Claude CLI เท่านั้น</translation>
+    </message>
+    <message id="ui.ai.cliHelp">
+      <source>Everything local through your own Claude subscription. No network.</source>
+      <translation>ทั้งหมดทำในเครื่องผ่านการสมัคร Claude ของคุณเอง ไม่ใช้เครือข่าย</translation>
+    </message>
+    <message id="ui.ai.consentAllow">
+      <source>Allowed</source>
+      <translation>อนุญาต</translation>
+    </message>
+    <message id="ui.ai.consentAsk">
+      <source>Ask first</source>
+      <translation>ถามก่อน</translation>
+    </message>
+    <message id="ui.ai.consentDeny">
+      <source>Never send</source>
+      <translation>ไม่ส่งเลย</translation>
+    </message>
+    <message id="ui.ai.consents">
+      <source>Sending text off this computer</source>
+      <translation>การส่งข้อความออกจากคอมพิวเตอร์นี้</translation>
+    </message>
+    <message id="ui.ai.gemini">
+      <source>Google Gemini API with your key</source>
+      <translation>Google Gemini API ด้วยคีย์ของคุณ</translation>
+    </message>
+    <message id="ui.ai.geminiHelp">
+      <source>Straight to Google with the key you keep in your keyring.</source>
+      <translation>ส่งตรงไปยัง Google ด้วยคีย์ในพวงกุญแจของคุณ</translation>
+    </message>
+    <message id="ui.ai.keyFailed">
+      <source>The keyring did not take the change; nothing changed.</source>
+      <translation>พวงกุญแจไม่รับการเปลี่ยนแปลง ไม่มีอะไรเปลี่ยน</translation>
+    </message>
+    <message id="ui.ai.keyInvalid">
+      <source>That does not look like an API key: paste the key alone, without spaces.</source>
+      <translation>ดูไม่เหมือนคีย์ API วางเฉพาะคีย์โดยไม่มีช่องว่าง</translation>
+    </message>
+    <message id="ui.ai.keyPaste">
+      <source>Paste your API key</source>
+      <translation>วางคีย์ API ของคุณ</translation>
+    </message>
+    <message id="ui.ai.keyRemove">
+      <source>Remove</source>
+      <translation>ลบ</translation>
+    </message>
+    <message id="ui.ai.keySave">
+      <source>Save key</source>
+      <translation>บันทึกคีย์</translation>
+    </message>
+    <message id="ui.ai.keyStored">
+      <source>A key is stored; paste another to replace it</source>
+      <translation>มีคีย์เก็บไว้แล้ว วางคีย์ใหม่เพื่อแทนที่</translation>
+    </message>
+    <message id="ui.ai.keys">
+      <source>Your own API keys (kept in the keyring)</source>
+      <translation>คีย์ API ของคุณเอง (เก็บในพวงกุญแจ)</translation>
+    </message>
+    <message id="ui.ai.openai">
+      <source>OpenAI API with your key</source>
+      <translation>OpenAI API ด้วยคีย์ของคุณ</translation>
+    </message>
+    <message id="ui.ai.openaiHelp">
+      <source>Straight to OpenAI with the key you keep in your keyring.</source>
+      <translation>ส่งตรงไปยัง OpenAI ด้วยคีย์ในพวงกุญแจของคุณ</translation>
+    </message>
+    <message id="ui.ai.relay">
+      <source>Morvane AI only</source>
+      <translation>Morvane AI เท่านั้น</translation>
+    </message>
+    <message id="ui.ai.relayHelp">
+      <source>Always through the secured relay of your Morvane server. The CLI is ignored.</source>
+      <translation>ผ่านตัวส่งต่อที่ปลอดภัยของเซิร์ฟเวอร์ Morvane เสมอ ไม่ใช้ CLI</translation>
+    </message>
+    <message id="ui.ai.route">
+      <source>Where model calls go</source>
+      <translation>ส่งคำขอโมเดลไปที่ใด</translation>
+    </message>
     <message id="ui.assistant.add">
       <source>Add</source>
       <translation>เพิ่ม</translation>
@@ -3840,6 +3936,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.settings.account">
       <source>Account</source>
       <translation>บัญชี</translation>
+    </message>
+    <message id="ui.settings.ai">
+      <source>AI</source>
+      <translation>AI</translation>
     </message>
     <message id="ui.settings.appearance">
       <source>Appearance</source>

@@ -318,6 +318,12 @@ void ClaudeBridge::setConsent(Route route, bool allowed)
     m_settings->sync();
 }
 
+void ClaudeBridge::clearConsent(Route route)
+{
+    m_settings->remove(u"ai.consent."_s + routeKey(route));
+    m_settings->sync();
+}
+
 QUrl ClaudeBridge::vendorBaseUrl(AIVendor vendor) const
 {
     const QString name = AIWire::vendorName(vendor);

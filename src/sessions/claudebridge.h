@@ -92,6 +92,8 @@ public:
     // The stored answer for a route, if the person has given one; a settings screen may change it.
     [[nodiscard]] std::optional<bool> consent(Route route) const;
     void setConsent(Route route, bool allowed);
+    // Forgets the answer, so the question comes again before the next call.
+    void clearConsent(Route route);
 
     // Where a vendor's API is reached: the setting "ai.<vendor>.baseUrl", else the environment
     // variable MORVANE_AI_<VENDOR>_URL, else the vendor's public address. Self-hosted gateways

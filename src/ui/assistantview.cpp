@@ -1,9 +1,14 @@
 #include "ui/assistantview.h"
 
 #include "backend/authstore.h"
+#include "backend/secretstore.h"
 #include "capture/applyairesult.h"
 #include "capture/capturetext.h"
+#include "sessions/aiwire.h"
 #include "store/appstore.h"
+
+#include <QRegularExpression>
+#include <QSettings>
 
 #include <QCoroSignal>
 
@@ -15,6 +20,12 @@ namespace {
 constexpr qsizetype maxSentenceLength = 4000;
 // The history of one run: enough to look back over a day without growing without end.
 constexpr qsizetype historyLength = 50;
+
+const QList<std::pair<QString, ClaudeBridge::Route>> offMachineRoutes{{u"morvaneAI"_s, ClaudeBridge::Route::MorvaneAI},
+                                                                    {u"anthropic"_s, ClaudeBridge::Route::Anthropic},
+                                                                    {u"openAI"_s, ClaudeBridge::Route::OpenAI},
+                                                                    {u"gemini"_s, ClaudeBridge::Route::Gemini}};
+constexpr AIVendor vendors[] = {AIVendor::Anthropic, AIVendor::OpenAI, AIVendor::Gemini};
 
 } // namespace
 
@@ -40,6 +51,8 @@ AssistantView::~AssistantView() = default;
 void AssistantView::setStores(AppStore *store, AuthStore *auth, std::shared_ptr<SecretStore> secrets)
 {
     m_store = store;
+    m_secrets = secrets;
+    refreshKeys();
     if (!auth) {
         m_bridge.setAccess({});
         return;
@@ -135,4 +148,136 @@ QCoro::Task<> AssistantView::run(QString text)
     m_busy = false;
     emit busyChanged();
     emit historyChanged();
+}
+
+QString AssistantView::provider() const
+{
+    return AIProviders::storedName(m_bridge.provider());
+}
+
+void AssistantView::setProvider(const QString &name)
+{
+    const AIProvider chosen = AIProviders::fromStoredName(name);
+    if (AIProviders::storedName(chosen) != name || name == provider()) {
+        return;
+    }
+    m_settings->setValue(u"ai.provider"_s, name);
+    emit settingsChanged();
+}
+
+QVariantList AssistantView::providers()
+{
+    const auto row = [](AIProvider provider, const QString &label, const QString &help) {
+        return QVariantMap{{u"value"_s, AIProviders::storedName(provider)}, {u"label"_s, label}, {u"help"_s, help}};
+    };
+    return {
+        //% "Automatic (recommended)"
+        row(AIProvider::Auto, qtTrId("ui.ai.auto"),
+            //% "The Claude CLI first; without it, Morvane AI in the cloud."
+            qtTrId("ui.ai.autoHelp")),
+        //% "Claude CLI only"
+        row(AIProvider::CliOnly, qtTrId("ui.ai.cli"),
+            //% "Everything local through your own Claude subscription. No network."
+            qtTrId("ui.ai.cliHelp")),
+        //% "Morvane AI only"
+        row(AIProvider::MorvaneAIOnly, qtTrId("ui.ai.relay"),
+            //% "Always through the secured relay of your Morvane server. The CLI is ignored."
+            qtTrId("ui.ai.relayHelp")),
+        //% "Anthropic API with your key"
+        row(AIProvider::AnthropicCustom, qtTrId("ui.ai.anthropic"),
+            //% "Straight to Anthropic with the key you keep in your keyring."
+            qtTrId("ui.ai.anthropicHelp")),
+        //% "OpenAI API with your key"
+        row(AIProvider::OpenAICustom, qtTrId("ui.ai.openai"),
+            //% "Straight to OpenAI with the key you keep in your keyring."
+            qtTrId("ui.ai.openaiHelp")),
+        //% "Google Gemini API with your key"
+        row(AIProvider::GeminiCustom, qtTrId("ui.ai.gemini"),
+            //% "Straight to Google with the key you keep in your keyring."
+            qtTrId("ui.ai.geminiHelp")),
+    };
+}
+
+QVariantList AssistantView::consents() const
+{
+    QVariantList list;
+    for (const auto &[key, route] : offMachineRoutes) {
+        const std::optional<bool> answer = m_bridge.consent(route);
+        list << QVariantMap{{u"route"_s, key},
+                            {u"name"_s, ClaudeBridge::routeName(route)},
+                            {u"state"_s, !answer ? u"ask"_s : (*answer ? u"allow"_s : u"deny"_s)}};
+    }
+    return list;
+}
+
+void AssistantView::setConsent(const QString &route, const QString &answer)
+{
+    for (const auto &[key, value] : offMachineRoutes) {
+        if (key != route) {
+            continue;
+        }
+        if (answer == u"ask") {
+            m_bridge.clearConsent(value);
+        } else if (answer == u"allow" || answer == u"deny") {
+            m_bridge.setConsent(value, answer == u"allow");
+        }
+        emit settingsChanged();
+    }
+}
+
+void AssistantView::refreshKeys()
+{
+    [](QPointer<AssistantView> self, std::shared_ptr<SecretStore> secrets) -> QCoro::Task<> {
+        QVariantList keys;
+        for (const AIVendor vendor : vendors) {
+            std::optional<QString> stored;
+            if (secrets) {
+                stored = co_await secrets->read(ClaudeBridge::keyItem(vendor));
+            }
+            keys << QVariantMap{{u"vendor"_s, AIWire::vendorName(vendor)},
+                                {u"name"_s, AIWire::displayName(vendor)},
+                                {u"stored"_s, stored && !stored->isEmpty()}};
+        }
+        if (self) {
+            self->m_keys = keys;
+            emit self->keysChanged();
+        }
+    }(this, m_secrets);
+}
+
+void AssistantView::saveKey(const QString &vendor, const QString &key)
+{
+    const QString trimmed = key.trimmed();
+    // A key is one token; anything with spaces or line breaks is a paste gone wrong.
+    if (trimmed.isEmpty() || trimmed.size() > 512 || trimmed.contains(QRegularExpression(u"\\s"_s))) {
+        //% "That does not look like an API key: paste the key alone, without spaces."
+        m_keyMessage = qtTrId("ui.ai.keyInvalid");
+        emit keysChanged();
+        return;
+    }
+    changeKey(vendor, trimmed);
+}
+
+void AssistantView::removeKey(const QString &vendor)
+{
+    changeKey(vendor, std::nullopt);
+}
+
+QCoro::Task<> AssistantView::changeKey(QString vendor, std::optional<QString> key)
+{
+    QPointer<AssistantView> self(this);
+    const std::optional<AIVendor> known = AIWire::vendorFromName(vendor);
+    std::shared_ptr<SecretStore> secrets = m_secrets;
+    if (!known || !secrets) {
+        co_return;
+    }
+    const QString item = ClaudeBridge::keyItem(*known);
+    const bool done = key ? co_await secrets->write(item, *key) : co_await secrets->remove(item);
+    if (!self) {
+        co_return;
+    }
+    self->m_keyMessage = done ? QString()
+                              //% "The keyring did not take the change; nothing changed."
+                              : qtTrId("ui.ai.keyFailed");
+    self->refreshKeys();
 }

@@ -27,6 +27,11 @@ class AssistantView : public QObject
     Q_PROPERTY(bool busy READ busy NOTIFY busyChanged)
     Q_PROPERTY(QVariantList history READ history NOTIFY historyChanged)
     Q_PROPERTY(QVariantMap consentQuestion READ consentQuestion NOTIFY consentQuestionChanged)
+    Q_PROPERTY(QString provider READ provider WRITE setProvider NOTIFY settingsChanged)
+    Q_PROPERTY(QVariantList providers READ providers NOTIFY settingsChanged)
+    Q_PROPERTY(QVariantList consents READ consents NOTIFY settingsChanged)
+    Q_PROPERTY(QVariantList keys READ keys NOTIFY keysChanged)
+    Q_PROPERTY(QString keyMessage READ keyMessage NOTIFY keysChanged)
 
 public:
     explicit AssistantView(std::shared_ptr<QSettings> settings, QObject *parent = nullptr);
@@ -45,16 +50,34 @@ public:
     Q_INVOKABLE void capture(const QString &text);
     Q_INVOKABLE void answerConsent(bool allowed);
 
+    // Where model calls go, by the stored provider name; the choices with what each means.
+    [[nodiscard]] QString provider() const;
+    void setProvider(const QString &name);
+    [[nodiscard]] static QVariantList providers();
+    // The routes that send text off the machine, with the answer given: { route, name, state }.
+    [[nodiscard]] QVariantList consents() const;
+    // "allow", "deny" or "ask" (forget the answer, so the question comes again).
+    Q_INVOKABLE void setConsent(const QString &route, const QString &answer);
+    // The person's own vendor keys, kept in the keyring: { vendor, name, stored }.
+    [[nodiscard]] QVariantList keys() const { return m_keys; }
+    [[nodiscard]] QString keyMessage() const { return m_keyMessage; }
+    Q_INVOKABLE void saveKey(const QString &vendor, const QString &key);
+    Q_INVOKABLE void removeKey(const QString &vendor);
+    Q_INVOKABLE void refreshKeys();
+
 signals:
     void busyChanged();
     void historyChanged();
     void consentQuestionChanged();
+    void settingsChanged();
+    void keysChanged();
     void consentAnswered(bool allowed);
     // A capture made or matched this project or task: the window shows it.
     void focusRequested(const QString &projectId, const QString &taskId);
 
 private:
     QCoro::Task<> run(QString text);
+    QCoro::Task<> changeKey(QString vendor, std::optional<QString> key);
 
     std::shared_ptr<QSettings> m_settings;
     ClaudeBridge m_bridge;
@@ -63,4 +86,7 @@ private:
     bool m_busy = false;
     QVariantList m_history;
     QVariantMap m_consentQuestion;
+    std::shared_ptr<SecretStore> m_secrets;
+    QVariantList m_keys;
+    QString m_keyMessage;
 };

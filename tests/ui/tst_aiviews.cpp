@@ -156,6 +156,13 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!assistant->busy(), patience);
         QVERIFY(assistant->history().first().toMap().value(u"failed"_s).toBool());
         QCOMPARE(store()->tasks(lighthouse()->id).first().timeSpentSeconds, 0);
+        // The answer is kept for the route, and the settings can take it back.
+        const auto relayConsent = [assistant] {
+            return assistant->consents().first().toMap().value(u"state"_s).toString();
+        };
+        QCOMPARE(relayConsent(), u"deny"_s);
+        assistant->setConsent(u"morvaneAI"_s, u"ask"_s);
+        QCOMPARE(relayConsent(), u"ask"_s);
     }
 
     void cleanupTestCase() { m_desktop.reset(); }

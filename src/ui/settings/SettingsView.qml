@@ -328,6 +328,125 @@ Rectangle {
             }
 
             Section {
+                id: aiSection
+                readonly property var assistant: Shell.assistant
+                readonly property var chosen: assistant.providers.find(p => p.value === assistant.provider)
+                //% "AI"
+                title: qsTrId("ui.settings.ai")
+                FieldLabel {
+                    //% "Where model calls go"
+                    text: qsTrId("ui.ai.route")
+                }
+                Choice {
+                    objectName: "aiProvider"
+                    Layout.fillWidth: true
+                    Accessible.name: qsTrId("ui.ai.route")
+                    model: aiSection.assistant.providers
+                    value: aiSection.assistant.provider
+                    onChosen: (name) => aiSection.assistant.provider = name
+                }
+                Text {
+                    textFormat: Text.PlainText
+                    Layout.fillWidth: true
+                    text: aiSection.chosen ? aiSection.chosen.help : ""
+                    color: Theme.muted
+                    font.pixelSize: Theme.fontSmall
+                    wrapMode: Text.Wrap
+                }
+                FieldLabel {
+                    Layout.topMargin: Theme.space2
+                    //% "Your own API keys (kept in the keyring)"
+                    text: qsTrId("ui.ai.keys")
+                }
+                Repeater {
+                    model: aiSection.assistant.keys
+                    RowLayout {
+                        id: keyRow
+                        required property var modelData
+                        Layout.fillWidth: true
+                        spacing: Theme.space2
+                        Text {
+                            textFormat: Text.PlainText
+                            Layout.preferredWidth: 140
+                            text: keyRow.modelData.name
+                            color: Theme.text
+                            font.pixelSize: Theme.fontBody
+                            elide: Text.ElideRight
+                        }
+                        Field {
+                            id: keyField
+                            Layout.fillWidth: true
+                            echoMode: TextInput.Password
+                            placeholderText: keyRow.modelData.stored
+                                             //% "A key is stored; paste another to replace it"
+                                             ? qsTrId("ui.ai.keyStored")
+                                             //% "Paste your API key"
+                                             : qsTrId("ui.ai.keyPaste")
+                            onAccepted: { aiSection.assistant.saveKey(keyRow.modelData.vendor, text); text = "" }
+                        }
+                        FlatButton {
+                            enabled: keyField.text !== ""
+                            //% "Save key"
+                            text: qsTrId("ui.ai.keySave")
+                            onClicked: { aiSection.assistant.saveKey(keyRow.modelData.vendor, keyField.text); keyField.text = "" }
+                        }
+                        FlatButton {
+                            visible: keyRow.modelData.stored
+                            danger: true
+                            //% "Remove"
+                            text: qsTrId("ui.ai.keyRemove")
+                            onClicked: aiSection.assistant.removeKey(keyRow.modelData.vendor)
+                        }
+                    }
+                }
+                Text {
+                    textFormat: Text.PlainText
+                    Layout.fillWidth: true
+                    visible: text !== ""
+                    text: aiSection.assistant.keyMessage
+                    color: Theme.danger
+                    font.pixelSize: Theme.fontSmall
+                    wrapMode: Text.Wrap
+                }
+                FieldLabel {
+                    Layout.topMargin: Theme.space2
+                    //% "Sending text off this computer"
+                    text: qsTrId("ui.ai.consents")
+                }
+                Repeater {
+                    model: aiSection.assistant.consents
+                    RowLayout {
+                        id: consentRow
+                        required property var modelData
+                        Layout.fillWidth: true
+                        spacing: Theme.space2
+                        Text {
+                            textFormat: Text.PlainText
+                            Layout.fillWidth: true
+                            text: consentRow.modelData.name
+                            color: Theme.text
+                            font.pixelSize: Theme.fontBody
+                            elide: Text.ElideRight
+                        }
+                        Choice {
+                            Layout.preferredWidth: 200
+                            Accessible.name: consentRow.modelData.name
+                            model: [
+                                //% "Ask first"
+                                { value: "ask", label: qsTrId("ui.ai.consentAsk") },
+                                //% "Allowed"
+                                { value: "allow", label: qsTrId("ui.ai.consentAllow") },
+                                //% "Never send"
+                                { value: "deny", label: qsTrId("ui.ai.consentDeny") }
+                            ]
+                            value: consentRow.modelData.state
+                            onChosen: (answer) => aiSection.assistant.setConsent(consentRow.modelData.route, answer)
+                        }
+                    }
+                }
+            }
+
+            Section {
                 //% "Backend"
                 title: qsTrId("ui.settings.backend")
                 Radio {
