@@ -5,7 +5,7 @@
 #include "i18n/language.h"
 #include "model/error.h"
 #include "sessions/claudebridge.h"
-#include "store/periodentries.h"
+#include "summary/summarysources.h"
 #include "summary/summarywriter.h"
 
 #include <QJsonObject>
@@ -18,42 +18,21 @@ namespace {
 
 enum class Kind { Recap, Standup };
 
-struct Sources
-{
-    QList<TimeEntry> entries;
-    QList<TaskItem> tasks;
-    QList<Project> projects;
-    double defaultHourlyRate = 0;
-    QString currency;
-};
+using WorkSummary::Sources;
 
-// Two weeks and a day back covers both the recap's weeks and the stand-up's week before today.
 std::optional<Sources> load(CliSession &session, const QDateTime &now, QTextStream &err)
 {
-    Sources sources;
     try {
-        const std::optional<QList<TimeEntry>> entries =
-            runBlocking(loadEntriesBetween(session.auth(), now.addDays(-15), now.addSecs(60)));
-        if (!entries) {
+        const std::optional<Sources> sources =
+            runBlocking(WorkSummary::loadSources(session.auth(), session.store(), now));
+        if (!sources) {
             session.failed(err);
-            return std::nullopt;
         }
-        sources.entries = *entries;
+        return sources;
     } catch (const MorvaneError &error) {
         err << error.message() << Qt::endl;
         return std::nullopt;
     }
-    const AppStore &store = session.store();
-    for (const QList<TaskItem> &tasks : store.tasksByProject()) {
-        sources.tasks << tasks;
-    }
-    const WorkSummary::OwnWork own = WorkSummary::ownWork(sources.entries, sources.tasks, session.auth().userId());
-    sources.entries = own.entries;
-    sources.tasks = own.tasks;
-    sources.projects = store.projects();
-    sources.defaultHourlyRate = store.defaultHourlyRate();
-    sources.currency = store.currency();
-    return sources;
 }
 
 QJsonValue orNull(const QString &text)
