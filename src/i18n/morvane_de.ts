@@ -4385,6 +4385,70 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Website</source>
       <translation>Website</translation>
     </message>
+    <message id="ui.summary.callFailed">
+      <source>The model could not be asked (%1). This text is written from your figures alone.</source>
+      <translation>Das Modell konnte nicht gefragt werden (%1). Dieser Text ist nur aus deinen Zahlen geschrieben.</translation>
+    </message>
+    <message id="ui.summary.copy">
+      <source>Copy</source>
+      <translation>Kopieren</translation>
+    </message>
+    <message id="ui.summary.emptyHint">
+      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
+      <translation>Der Rückblick schaut auf die letzten sieben Tage; das Stand-up sagt, was du getan hast, was als Nächstes kommt und was dich aufhält. Die Zahlen stammen aus deiner erfassten Zeit.</translation>
+    </message>
+    <message id="ui.summary.emptyTitle">
+      <source>Your week or your day in three lines</source>
+      <translation>Deine Woche oder dein Tag in drei Zeilen</translation>
+    </message>
+    <message id="ui.summary.fixed">
+      <source>Written from your figures</source>
+      <translation>Aus deinen Zahlen geschrieben</translation>
+    </message>
+    <message id="ui.summary.language">
+      <source>Language of the text</source>
+      <translation>Sprache des Textes</translation>
+    </message>
+    <message id="ui.summary.model">
+      <source>Written by the model, checked against your figures</source>
+      <translation>Vom Modell geschrieben, mit deinen Zahlen geprüft</translation>
+    </message>
+    <message id="ui.summary.nothing">
+      <source>Nothing was tracked in this period, so there was nothing to put in words.</source>
+      <translation>In diesem Zeitraum wurde nichts erfasst, also gab es nichts in Worte zu fassen.</translation>
+    </message>
+    <message id="ui.summary.readFailed">
+      <source>Your time could not be read: %1</source>
+      <translation>Deine Zeit konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message id="ui.summary.recap">
+      <source>Weekly recap</source>
+      <translation>Wochenrückblick</translation>
+    </message>
+    <message id="ui.summary.rejected">
+      <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
+      <translation>Die Worte des Modells hielten deinen Zahlen nicht stand (%1). Dieser Text ist nur aus deinen Zahlen geschrieben.</translation>
+    </message>
+    <message id="ui.summary.standup">
+      <source>Daily stand-up</source>
+      <translation>Tägliches Stand-up</translation>
+    </message>
+    <message id="ui.summary.textName">
+      <source>Recap or stand-up text</source>
+      <translation>Text von Rückblick oder Stand-up</translation>
+    </message>
+    <message id="ui.summary.title">
+      <source>Recap and stand-up</source>
+      <translation>Rückblick und Stand-up</translation>
+    </message>
+    <message id="ui.summary.uiLanguage">
+      <source>Interface language</source>
+      <translation>Sprache der App</translation>
+    </message>
+    <message id="ui.summary.working">
+      <source>Putting your week in words…</source>
+      <translation>Deine Woche wird in Worte gefasst…</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Aufgabe eingeben und Enter drücken</translation>

@@ -4385,6 +4385,70 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Website</source>
       <translation>Website</translation>
     </message>
+    <message id="ui.summary.callFailed">
+      <source>The model could not be asked (%1). This text is written from your figures alone.</source>
+      <translation>The model could not be asked (%1). This text is written from your figures alone.</translation>
+    </message>
+    <message id="ui.summary.copy">
+      <source>Copy</source>
+      <translation>Copy</translation>
+    </message>
+    <message id="ui.summary.emptyHint">
+      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
+      <translation>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</translation>
+    </message>
+    <message id="ui.summary.emptyTitle">
+      <source>Your week or your day in three lines</source>
+      <translation>Your week or your day in three lines</translation>
+    </message>
+    <message id="ui.summary.fixed">
+      <source>Written from your figures</source>
+      <translation>Written from your figures</translation>
+    </message>
+    <message id="ui.summary.language">
+      <source>Language of the text</source>
+      <translation>Language of the text</translation>
+    </message>
+    <message id="ui.summary.model">
+      <source>Written by the model, checked against your figures</source>
+      <translation>Written by the model, checked against your figures</translation>
+    </message>
+    <message id="ui.summary.nothing">
+      <source>Nothing was tracked in this period, so there was nothing to put in words.</source>
+      <translation>Nothing was tracked in this period, so there was nothing to put in words.</translation>
+    </message>
+    <message id="ui.summary.readFailed">
+      <source>Your time could not be read: %1</source>
+      <translation>Your time could not be read: %1</translation>
+    </message>
+    <message id="ui.summary.recap">
+      <source>Weekly recap</source>
+      <translation>Weekly recap</translation>
+    </message>
+    <message id="ui.summary.rejected">
+      <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
+      <translation>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</translation>
+    </message>
+    <message id="ui.summary.standup">
+      <source>Daily stand-up</source>
+      <translation>Daily stand-up</translation>
+    </message>
+    <message id="ui.summary.textName">
+      <source>Recap or stand-up text</source>
+      <translation>Recap or stand-up text</translation>
+    </message>
+    <message id="ui.summary.title">
+      <source>Recap and stand-up</source>
+      <translation>Recap and stand-up</translation>
+    </message>
+    <message id="ui.summary.uiLanguage">
+      <source>Interface language</source>
+      <translation>Interface language</translation>
+    </message>
+    <message id="ui.summary.working">
+      <source>Putting your week in words…</source>
+      <translation>Putting your week in words…</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Add a task and press Enter</translation>

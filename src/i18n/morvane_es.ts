@@ -4385,6 +4385,70 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Website</source>
       <translation>Sitio web</translation>
     </message>
+    <message id="ui.summary.callFailed">
+      <source>The model could not be asked (%1). This text is written from your figures alone.</source>
+      <translation>No se pudo consultar al modelo (%1). Este texto está escrito solo a partir de tus cifras.</translation>
+    </message>
+    <message id="ui.summary.copy">
+      <source>Copy</source>
+      <translation>Copiar</translation>
+    </message>
+    <message id="ui.summary.emptyHint">
+      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
+      <translation>El resumen repasa los últimos siete días; el stand-up dice qué hiciste, qué sigue y qué te frena. Las cifras salen de tu tiempo registrado.</translation>
+    </message>
+    <message id="ui.summary.emptyTitle">
+      <source>Your week or your day in three lines</source>
+      <translation>Tu semana o tu día en tres líneas</translation>
+    </message>
+    <message id="ui.summary.fixed">
+      <source>Written from your figures</source>
+      <translation>Escrito a partir de tus cifras</translation>
+    </message>
+    <message id="ui.summary.language">
+      <source>Language of the text</source>
+      <translation>Idioma del texto</translation>
+    </message>
+    <message id="ui.summary.model">
+      <source>Written by the model, checked against your figures</source>
+      <translation>Escrito por el modelo, comprobado con tus cifras</translation>
+    </message>
+    <message id="ui.summary.nothing">
+      <source>Nothing was tracked in this period, so there was nothing to put in words.</source>
+      <translation>No se registró nada en este periodo, así que no había nada que poner en palabras.</translation>
+    </message>
+    <message id="ui.summary.readFailed">
+      <source>Your time could not be read: %1</source>
+      <translation>No se pudo leer tu tiempo: %1</translation>
+    </message>
+    <message id="ui.summary.recap">
+      <source>Weekly recap</source>
+      <translation>Resumen semanal</translation>
+    </message>
+    <message id="ui.summary.rejected">
+      <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
+      <translation>Las palabras del modelo no cuadraban con tus cifras (%1). Este texto está escrito solo a partir de tus cifras.</translation>
+    </message>
+    <message id="ui.summary.standup">
+      <source>Daily stand-up</source>
+      <translation>Stand-up diario</translation>
+    </message>
+    <message id="ui.summary.textName">
+      <source>Recap or stand-up text</source>
+      <translation>Texto del resumen o stand-up</translation>
+    </message>
+    <message id="ui.summary.title">
+      <source>Recap and stand-up</source>
+      <translation>Resumen y stand-up</translation>
+    </message>
+    <message id="ui.summary.uiLanguage">
+      <source>Interface language</source>
+      <translation>Idioma de la interfaz</translation>
+    </message>
+    <message id="ui.summary.working">
+      <source>Putting your week in words…</source>
+      <translation>Poniendo tu semana en palabras…</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Añade una tarea y pulsa Enter</translation>

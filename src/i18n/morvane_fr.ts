@@ -4385,6 +4385,70 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Website</source>
       <translation>Site web</translation>
     </message>
+    <message id="ui.summary.callFailed">
+      <source>The model could not be asked (%1). This text is written from your figures alone.</source>
+      <translation>Le modèle n’a pas pu être interrogé (%1). Ce texte est rédigé à partir de vos seuls chiffres.</translation>
+    </message>
+    <message id="ui.summary.copy">
+      <source>Copy</source>
+      <translation>Copier</translation>
+    </message>
+    <message id="ui.summary.emptyHint">
+      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
+      <translation>Le bilan revient sur les sept derniers jours ; le point du jour dit ce que vous avez fait, ce qui suit et ce qui bloque. Les chiffres viennent de votre temps suivi.</translation>
+    </message>
+    <message id="ui.summary.emptyTitle">
+      <source>Your week or your day in three lines</source>
+      <translation>Votre semaine ou votre journée en trois lignes</translation>
+    </message>
+    <message id="ui.summary.fixed">
+      <source>Written from your figures</source>
+      <translation>Rédigé à partir de vos chiffres</translation>
+    </message>
+    <message id="ui.summary.language">
+      <source>Language of the text</source>
+      <translation>Langue du texte</translation>
+    </message>
+    <message id="ui.summary.model">
+      <source>Written by the model, checked against your figures</source>
+      <translation>Rédigé par le modèle, vérifié avec vos chiffres</translation>
+    </message>
+    <message id="ui.summary.nothing">
+      <source>Nothing was tracked in this period, so there was nothing to put in words.</source>
+      <translation>Rien n’a été suivi sur cette période : il n’y avait rien à mettre en mots.</translation>
+    </message>
+    <message id="ui.summary.readFailed">
+      <source>Your time could not be read: %1</source>
+      <translation>Votre temps n’a pas pu être lu : %1</translation>
+    </message>
+    <message id="ui.summary.recap">
+      <source>Weekly recap</source>
+      <translation>Bilan de la semaine</translation>
+    </message>
+    <message id="ui.summary.rejected">
+      <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
+      <translation>Le texte du modèle ne concordait pas avec vos chiffres (%1). Ce texte est rédigé à partir de vos seuls chiffres.</translation>
+    </message>
+    <message id="ui.summary.standup">
+      <source>Daily stand-up</source>
+      <translation>Point du jour</translation>
+    </message>
+    <message id="ui.summary.textName">
+      <source>Recap or stand-up text</source>
+      <translation>Texte du bilan ou du point</translation>
+    </message>
+    <message id="ui.summary.title">
+      <source>Recap and stand-up</source>
+      <translation>Bilan et point du jour</translation>
+    </message>
+    <message id="ui.summary.uiLanguage">
+      <source>Interface language</source>
+      <translation>Langue de l’interface</translation>
+    </message>
+    <message id="ui.summary.working">
+      <source>Putting your week in words…</source>
+      <translation>Mise en mots de votre semaine…</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Ajoutez une tâche et appuyez sur Enter</translation>

@@ -4385,6 +4385,70 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Website</source>
       <translation>Sito web</translation>
     </message>
+    <message id="ui.summary.callFailed">
+      <source>The model could not be asked (%1). This text is written from your figures alone.</source>
+      <translation>Non è stato possibile interrogare il modello (%1). Questo testo è scritto solo dai tuoi dati.</translation>
+    </message>
+    <message id="ui.summary.copy">
+      <source>Copy</source>
+      <translation>Copia</translation>
+    </message>
+    <message id="ui.summary.emptyHint">
+      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
+      <translation>Il riepilogo guarda agli ultimi sette giorni; lo stand-up dice cosa hai fatto, cosa viene dopo e cosa ti blocca. I dati vengono dal tempo registrato.</translation>
+    </message>
+    <message id="ui.summary.emptyTitle">
+      <source>Your week or your day in three lines</source>
+      <translation>La tua settimana o la tua giornata in tre righe</translation>
+    </message>
+    <message id="ui.summary.fixed">
+      <source>Written from your figures</source>
+      <translation>Scritto dai tuoi dati</translation>
+    </message>
+    <message id="ui.summary.language">
+      <source>Language of the text</source>
+      <translation>Lingua del testo</translation>
+    </message>
+    <message id="ui.summary.model">
+      <source>Written by the model, checked against your figures</source>
+      <translation>Scritto dal modello, verificato con i tuoi dati</translation>
+    </message>
+    <message id="ui.summary.nothing">
+      <source>Nothing was tracked in this period, so there was nothing to put in words.</source>
+      <translation>In questo periodo non è stato registrato nulla, quindi non c’era niente da mettere in parole.</translation>
+    </message>
+    <message id="ui.summary.readFailed">
+      <source>Your time could not be read: %1</source>
+      <translation>Impossibile leggere il tuo tempo: %1</translation>
+    </message>
+    <message id="ui.summary.recap">
+      <source>Weekly recap</source>
+      <translation>Riepilogo settimanale</translation>
+    </message>
+    <message id="ui.summary.rejected">
+      <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
+      <translation>Le parole del modello non tornavano con i tuoi dati (%1). Questo testo è scritto solo dai tuoi dati.</translation>
+    </message>
+    <message id="ui.summary.standup">
+      <source>Daily stand-up</source>
+      <translation>Stand-up del giorno</translation>
+    </message>
+    <message id="ui.summary.textName">
+      <source>Recap or stand-up text</source>
+      <translation>Testo del riepilogo o stand-up</translation>
+    </message>
+    <message id="ui.summary.title">
+      <source>Recap and stand-up</source>
+      <translation>Riepilogo e stand-up</translation>
+    </message>
+    <message id="ui.summary.uiLanguage">
+      <source>Interface language</source>
+      <translation>Lingua dell’interfaccia</translation>
+    </message>
+    <message id="ui.summary.working">
+      <source>Putting your week in words…</source>
+      <translation>Sto mettendo in parole la tua settimana…</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>Aggiungi un’attività e premi Enter</translation>

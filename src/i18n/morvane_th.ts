@@ -4385,6 +4385,70 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Website</source>
       <translation>เว็บไซต์</translation>
     </message>
+    <message id="ui.summary.callFailed">
+      <source>The model could not be asked (%1). This text is written from your figures alone.</source>
+      <translation>ถามโมเดลไม่ได้ (%1) ข้อความนี้เขียนจากตัวเลขของคุณเท่านั้น</translation>
+    </message>
+    <message id="ui.summary.copy">
+      <source>Copy</source>
+      <translation>คัดลอก</translation>
+    </message>
+    <message id="ui.summary.emptyHint">
+      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
+      <translation>สรุปย้อนดู 7 วันที่ผ่านมา สแตนด์อัพบอกสิ่งที่ทำ สิ่งที่จะทำต่อ และสิ่งที่ติดขัด ตัวเลขมาจากเวลาที่คุณบันทึก</translation>
+    </message>
+    <message id="ui.summary.emptyTitle">
+      <source>Your week or your day in three lines</source>
+      <translation>สัปดาห์หรือวันของคุณในสามบรรทัด</translation>
+    </message>
+    <message id="ui.summary.fixed">
+      <source>Written from your figures</source>
+      <translation>เขียนจากตัวเลขของคุณ</translation>
+    </message>
+    <message id="ui.summary.language">
+      <source>Language of the text</source>
+      <translation>ภาษาของข้อความ</translation>
+    </message>
+    <message id="ui.summary.model">
+      <source>Written by the model, checked against your figures</source>
+      <translation>เขียนโดยโมเดล ตรวจกับตัวเลขของคุณแล้ว</translation>
+    </message>
+    <message id="ui.summary.nothing">
+      <source>Nothing was tracked in this period, so there was nothing to put in words.</source>
+      <translation>ไม่มีการบันทึกในช่วงนี้ จึงไม่มีอะไรให้เรียบเรียง</translation>
+    </message>
+    <message id="ui.summary.readFailed">
+      <source>Your time could not be read: %1</source>
+      <translation>อ่านเวลาของคุณไม่ได้: %1</translation>
+    </message>
+    <message id="ui.summary.recap">
+      <source>Weekly recap</source>
+      <translation>สรุปประจำสัปดาห์</translation>
+    </message>
+    <message id="ui.summary.rejected">
+      <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
+      <translation>ข้อความของโมเดลไม่ตรงกับตัวเลขของคุณ (%1) ข้อความนี้เขียนจากตัวเลขของคุณเท่านั้น</translation>
+    </message>
+    <message id="ui.summary.standup">
+      <source>Daily stand-up</source>
+      <translation>สแตนด์อัพประจำวัน</translation>
+    </message>
+    <message id="ui.summary.textName">
+      <source>Recap or stand-up text</source>
+      <translation>ข้อความสรุปหรือสแตนด์อัพ</translation>
+    </message>
+    <message id="ui.summary.title">
+      <source>Recap and stand-up</source>
+      <translation>สรุปและสแตนด์อัพ</translation>
+    </message>
+    <message id="ui.summary.uiLanguage">
+      <source>Interface language</source>
+      <translation>ภาษาของแอป</translation>
+    </message>
+    <message id="ui.summary.working">
+      <source>Putting your week in words…</source>
+      <translation>กำลังเรียบเรียงสัปดาห์ของคุณ…</translation>
+    </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>
       <translation>พิมพ์งานใหม่แล้วกด Enter</translation>

@@ -5,8 +5,14 @@
 #include "capture/applyairesult.h"
 #include "capture/capturetext.h"
 #include "sessions/aiwire.h"
+#include "i18n/language.h"
+#include "model/error.h"
 #include "store/appstore.h"
+#include "summary/summarysources.h"
+#include "summary/summarywriter.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QRegularExpression>
 #include <QSettings>
 
@@ -51,6 +57,7 @@ AssistantView::~AssistantView() = default;
 void AssistantView::setStores(AppStore *store, AuthStore *auth, std::shared_ptr<SecretStore> secrets)
 {
     m_store = store;
+    m_auth = auth;
     m_secrets = secrets;
     refreshKeys();
     if (!auth) {
@@ -280,4 +287,94 @@ QCoro::Task<> AssistantView::changeKey(QString vendor, std::optional<QString> ke
                               //% "The keyring did not take the change; nothing changed."
                               : qtTrId("ui.ai.keyFailed");
     self->refreshKeys();
+}
+
+namespace {
+
+// Why the text shown is the one written from the figures; empty when there is nothing to explain.
+QString fixedNote(const QString &reason, const QString &detail)
+{
+    if (reason.isEmpty()) {
+        return {};
+    }
+    if (reason == u"no_time" || reason == u"nothing_to_tell") {
+        //% "Nothing was tracked in this period, so there was nothing to put in words."
+        return qtTrId("ui.summary.nothing");
+    }
+    if (reason == u"call_failed") {
+        //% "The model could not be asked (%1). This text is written from your figures alone."
+        return qtTrId("ui.summary.callFailed").arg(detail);
+    }
+    //% "The model's words did not hold up against your figures (%1). This text is written from your figures alone."
+    return qtTrId("ui.summary.rejected").arg(reason);
+}
+
+} // namespace
+
+void AssistantView::writeSummary(const QString &kind, const QString &language)
+{
+    if (m_summaryBusy || !m_store || !m_auth || (kind != u"recap" && kind != u"standup")) {
+        return;
+    }
+    summarise(kind, WorkSummary::language(language.isEmpty() ? Language::current() : language));
+}
+
+QCoro::Task<> AssistantView::summarise(QString kind, QString lang)
+{
+    QPointer<AssistantView> self(this);
+    QPointer<AppStore> store = m_store;
+    QPointer<AuthStore> auth = m_auth;
+    m_summaryBusy = true;
+    m_summaryKind = kind;
+    emit summaryChanged();
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    std::optional<WorkSummary::Sources> sources;
+    QString failure;
+    try {
+        sources = co_await WorkSummary::loadSources(*auth, *store, now);
+        if (!sources && store) {
+            failure = store->lastError();
+        }
+    } catch (const MorvaneError &error) {
+        failure = error.message();
+    }
+    if (!self) {
+        co_return;
+    }
+    if (!sources) {
+        m_summaryText.clear();
+        m_summaryFixed = false;
+        //% "Your time could not be read: %1"
+        m_summaryNote = qtTrId("ui.summary.readFailed").arg(failure);
+    } else if (kind == u"recap") {
+        const WorkSummary::RecapFacts facts =
+            WorkSummary::recapFacts(sources->entries, sources->tasks, sources->projects, sources->defaultHourlyRate,
+                                    sources->currency, now, QTimeZone::systemTimeZone());
+        const WorkSummary::Written written = co_await WorkSummary::writeRecap(m_bridge, facts, lang);
+        if (!self) {
+            co_return;
+        }
+        m_summaryText = written.text;
+        m_summaryFixed = !written.fromModel;
+        m_summaryNote = fixedNote(written.reason, written.detail);
+    } else {
+        const WorkSummary::StandupFacts facts = WorkSummary::standupFacts(
+            sources->entries, sources->tasks, sources->projects, now, QTimeZone::systemTimeZone());
+        const WorkSummary::DailyStandup standup = co_await WorkSummary::writeStandup(m_bridge, facts, lang);
+        if (!self) {
+            co_return;
+        }
+        m_summaryText = standup.fullMarkdown;
+        m_summaryFixed = !standup.fromModel;
+        m_summaryNote = fixedNote(standup.reason, standup.detail);
+    }
+    m_summaryBusy = false;
+    emit summaryChanged();
+}
+
+void AssistantView::copySummary() const
+{
+    if (!m_summaryText.isEmpty()) {
+        QGuiApplication::clipboard()->setText(m_summaryText);
+    }
 }

@@ -32,6 +32,11 @@ class AssistantView : public QObject
     Q_PROPERTY(QVariantList consents READ consents NOTIFY settingsChanged)
     Q_PROPERTY(QVariantList keys READ keys NOTIFY keysChanged)
     Q_PROPERTY(QString keyMessage READ keyMessage NOTIFY keysChanged)
+    Q_PROPERTY(bool summaryBusy READ summaryBusy NOTIFY summaryChanged)
+    Q_PROPERTY(QString summaryKind READ summaryKind NOTIFY summaryChanged)
+    Q_PROPERTY(QString summaryText READ summaryText NOTIFY summaryChanged)
+    Q_PROPERTY(bool summaryFixed READ summaryFixed NOTIFY summaryChanged)
+    Q_PROPERTY(QString summaryNote READ summaryNote NOTIFY summaryChanged)
 
 public:
     explicit AssistantView(std::shared_ptr<QSettings> settings, QObject *parent = nullptr);
@@ -65,12 +70,24 @@ public:
     Q_INVOKABLE void removeKey(const QString &vendor);
     Q_INVOKABLE void refreshKeys();
 
+    // The weekly recap or the daily stand-up in a language ("" for the interface's): the model's
+    // words when they pass the checks against the figures, else the text written from the figures,
+    // marked as such with the reason.
+    Q_INVOKABLE void writeSummary(const QString &kind, const QString &language);
+    Q_INVOKABLE void copySummary() const;
+    [[nodiscard]] bool summaryBusy() const { return m_summaryBusy; }
+    [[nodiscard]] QString summaryKind() const { return m_summaryKind; }
+    [[nodiscard]] QString summaryText() const { return m_summaryText; }
+    [[nodiscard]] bool summaryFixed() const { return m_summaryFixed; }
+    [[nodiscard]] QString summaryNote() const { return m_summaryNote; }
+
 signals:
     void busyChanged();
     void historyChanged();
     void consentQuestionChanged();
     void settingsChanged();
     void keysChanged();
+    void summaryChanged();
     void consentAnswered(bool allowed);
     // A capture made or matched this project or task: the window shows it.
     void focusRequested(const QString &projectId, const QString &taskId);
@@ -78,11 +95,18 @@ signals:
 private:
     QCoro::Task<> run(QString text);
     QCoro::Task<> changeKey(QString vendor, std::optional<QString> key);
+    QCoro::Task<> summarise(QString kind, QString lang);
 
     std::shared_ptr<QSettings> m_settings;
     ClaudeBridge m_bridge;
     CaptureHistory m_captures;
     QPointer<AppStore> m_store;
+    QPointer<AuthStore> m_auth;
+    bool m_summaryBusy = false;
+    QString m_summaryKind;
+    QString m_summaryText;
+    bool m_summaryFixed = false;
+    QString m_summaryNote;
     bool m_busy = false;
     QVariantList m_history;
     QVariantMap m_consentQuestion;

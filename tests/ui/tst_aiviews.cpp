@@ -163,6 +163,25 @@ private slots:
         QCOMPARE(relayConsent(), u"deny"_s);
         assistant->setConsent(u"morvaneAI"_s, u"ask"_s);
         QCOMPARE(relayConsent(), u"ask"_s);
+        QVERIFY(QMetaObject::invokeMethod(m_desktop->window()->findChild<QObject *>(u"quickAdd"_s), "close"));
+    }
+
+    // The stand-in answers every call with a capture reading, which no recap can pass for: the
+    // window shows the text written from the figures and says why.
+    void aRecapTheModelGotWrongIsWrittenFromTheFigures()
+    {
+        AssistantView *assistant = m_desktop->shell().assistant();
+        m_desktop->shell().settings()->setValue(u"ai.provider"_s, u"cliOnly"_s);
+        m_desktop->showPage(u"summary"_s);
+        assistant->writeSummary(u"recap"_s, QString());
+        QTRY_VERIFY_WITH_TIMEOUT(!assistant->summaryBusy() && !assistant->summaryText().isEmpty(), patience);
+        QVERIFY(assistant->summaryFixed());
+        QVERIFY2(assistant->summaryNote().contains(u"did not hold up"_s), qPrintable(assistant->summaryNote()));
+        QVERIFY(m_desktop->shoot(u"summary-recap"_s));
+        assistant->writeSummary(u"standup"_s, u"ja"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!assistant->summaryBusy() && assistant->summaryKind() == u"standup"_s, patience);
+        QVERIFY(assistant->summaryFixed());
+        QVERIFY(!assistant->summaryText().isEmpty());
     }
 
     void cleanupTestCase() { m_desktop.reset(); }

@@ -18,11 +18,12 @@ Rectangle {
     property string page: ""
     // The screens reached from the sidebar's links, in the order it lists them: { id, title, source }.
     readonly property var pageLinks: [
+        { id: "sessions", title: qsTrId("ui.sessions.title"), source: "qrc:/Morvane/Ui/sessions/SessionsView.qml" },
+        { id: "summary", title: qsTrId("ui.summary.title"), source: "qrc:/Morvane/Ui/assistant/SummaryView.qml" },
         { id: "invoices", title: qsTrId("ui.invoices.title"), source: "qrc:/Morvane/Ui/invoices/InvoicesView.qml" },
-        { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
         { id: "earnings", title: qsTrId("ui.earnings.title"), source: "qrc:/Morvane/Ui/earnings/EarningsView.qml" },
-        { id: "style", title: qsTrId("ui.style.title"), source: "qrc:/Morvane/Ui/style/InvoiceStyleView.qml" },
-        { id: "sessions", title: qsTrId("ui.sessions.title"), source: "qrc:/Morvane/Ui/sessions/SessionsView.qml" }
+        { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
+        { id: "style", title: qsTrId("ui.style.title"), source: "qrc:/Morvane/Ui/style/InvoiceStyleView.qml" }
     ]
     // Screens reached from inside others, not listed in the sidebar.
     readonly property var innerPages: [
