@@ -2825,6 +2825,126 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
       <translation>Erfasse deine Zeit für Projekte und Aufgaben und mach daraus Rechnungen. Deine Daten bleiben auf diesem Computer, solange du keinen gemeinsamen Server verbindest.</translation>
     </message>
+    <message id="ui.calendar.add">
+      <source>Add calendar</source>
+      <translation>Kalender hinzufügen</translation>
+    </message>
+    <message id="ui.calendar.addFile">
+      <source>Add a calendar file…</source>
+      <translation>Kalenderdatei hinzufügen…</translation>
+    </message>
+    <message id="ui.calendar.added">
+      <source>%1 was added.</source>
+      <translation>%1 wurde hinzugefügt.</translation>
+    </message>
+    <message id="ui.calendar.address">
+      <source>Subscription or CalDAV address (https:// or webcal://)</source>
+      <translation>Abo- oder CalDAV-Adresse (https:// oder webcal://)</translation>
+    </message>
+    <message id="ui.calendar.badDay">
+      <source>Write the day as year-month-day, for example 2026-11-25.</source>
+      <translation>Schreibe den Tag als Jahr-Monat-Tag, zum Beispiel 2026-11-25.</translation>
+    </message>
+    <message id="ui.calendar.caldav">
+      <source>CalDAV account</source>
+      <translation>CalDAV-Konto</translation>
+    </message>
+    <message id="ui.calendar.day">
+      <source>Day (year-month-day)</source>
+      <translation>Tag (Jahr-Monat-Tag)</translation>
+    </message>
+    <message id="ui.calendar.destination">
+      <source>Where it goes</source>
+      <translation>Wohin es geht</translation>
+    </message>
+    <message id="ui.calendar.fileFilter">
+      <source>Calendar files (*.ics)</source>
+      <translation>Kalenderdateien (*.ics)</translation>
+    </message>
+    <message id="ui.calendar.fileTitle">
+      <source>Add a calendar file</source>
+      <translation>Kalenderdatei hinzufügen</translation>
+    </message>
+    <message id="ui.calendar.import">
+      <source>Import as time</source>
+      <translation>Als Zeit importieren</translation>
+    </message>
+    <message id="ui.calendar.imported">
+      <source>%1 imported as time.</source>
+      <translation>%1 als Zeit importiert.</translation>
+    </message>
+    <message id="ui.calendar.importedChip">
+      <source>Imported</source>
+      <translation>Importiert</translation>
+    </message>
+    <message id="ui.calendar.link">
+      <source>Calendar import</source>
+      <translation>Kalenderimport</translation>
+    </message>
+    <message id="ui.calendar.loading">
+      <source>Loading calendar…</source>
+      <translation>Kalender wird geladen…</translation>
+    </message>
+    <message id="ui.calendar.newTaskIn">
+      <source>New task in %1</source>
+      <translation>Neue Aufgabe in %1</translation>
+    </message>
+    <message id="ui.calendar.next">
+      <source>Next day</source>
+      <translation>Nächster Tag</translation>
+    </message>
+    <message id="ui.calendar.noDestination">
+      <source>%1 imported. %2 ticked events have no destination yet: choose where each goes.</source>
+      <translation>%1 importiert. %2 angehakte Termine haben noch kein Ziel: Wähle für jeden, wohin er geht.</translation>
+    </message>
+    <message id="ui.calendar.noEventsHint">
+      <source>Pick another day, or add the calendar that holds your meetings.</source>
+      <translation>Wähle einen anderen Tag oder füge den Kalender mit deinen Terminen hinzu.</translation>
+    </message>
+    <message id="ui.calendar.noEventsTitle">
+      <source>No events on this day</source>
+      <translation>Keine Termine an diesem Tag</translation>
+    </message>
+    <message id="ui.calendar.noSourcesHint">
+      <source>Add a calendar file, a subscription address (such as a hosted calendar's secret address) or a CalDAV account on the left. Morvane only reads them.</source>
+      <translation>Füge links eine Kalenderdatei, eine Abo-Adresse (etwa die geheime Adresse eines Online-Kalenders) oder ein CalDAV-Konto hinzu. Morvane liest sie nur.</translation>
+    </message>
+    <message id="ui.calendar.noSourcesTitle">
+      <source>No calendars yet</source>
+      <translation>Noch keine Kalender</translation>
+    </message>
+    <message id="ui.calendar.partial">
+      <source>%1 imported; then it stopped: %2</source>
+      <translation>%1 importiert; dann brach es ab: %2</translation>
+    </message>
+    <message id="ui.calendar.password">
+      <source>Password (kept in your keyring)</source>
+      <translation>Passwort (im Schlüsselbund)</translation>
+    </message>
+    <message id="ui.calendar.previous">
+      <source>Previous day</source>
+      <translation>Vorheriger Tag</translation>
+    </message>
+    <message id="ui.calendar.remove">
+      <source>Remove</source>
+      <translation>Entfernen</translation>
+    </message>
+    <message id="ui.calendar.sources">
+      <source>Your calendars</source>
+      <translation>Deine Kalender</translation>
+    </message>
+    <message id="ui.calendar.timeOn">
+      <source>Time on %1 (%2)</source>
+      <translation>Zeit auf %1 (%2)</translation>
+    </message>
+    <message id="ui.calendar.title">
+      <source>Import from your calendar</source>
+      <translation>Aus deinem Kalender importieren</translation>
+    </message>
+    <message id="ui.calendar.user">
+      <source>User name</source>
+      <translation>Benutzername</translation>
+    </message>
     <message id="ui.category.admin">
       <source>Admin</source>
       <translation>Verwaltung</translation>

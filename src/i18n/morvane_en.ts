@@ -2825,6 +2825,126 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
       <translation>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</translation>
     </message>
+    <message id="ui.calendar.add">
+      <source>Add calendar</source>
+      <translation>Add calendar</translation>
+    </message>
+    <message id="ui.calendar.addFile">
+      <source>Add a calendar file…</source>
+      <translation>Add a calendar file…</translation>
+    </message>
+    <message id="ui.calendar.added">
+      <source>%1 was added.</source>
+      <translation>%1 was added.</translation>
+    </message>
+    <message id="ui.calendar.address">
+      <source>Subscription or CalDAV address (https:// or webcal://)</source>
+      <translation>Subscription or CalDAV address (https:// or webcal://)</translation>
+    </message>
+    <message id="ui.calendar.badDay">
+      <source>Write the day as year-month-day, for example 2026-11-25.</source>
+      <translation>Write the day as year-month-day, for example 2026-11-25.</translation>
+    </message>
+    <message id="ui.calendar.caldav">
+      <source>CalDAV account</source>
+      <translation>CalDAV account</translation>
+    </message>
+    <message id="ui.calendar.day">
+      <source>Day (year-month-day)</source>
+      <translation>Day (year-month-day)</translation>
+    </message>
+    <message id="ui.calendar.destination">
+      <source>Where it goes</source>
+      <translation>Where it goes</translation>
+    </message>
+    <message id="ui.calendar.fileFilter">
+      <source>Calendar files (*.ics)</source>
+      <translation>Calendar files (*.ics)</translation>
+    </message>
+    <message id="ui.calendar.fileTitle">
+      <source>Add a calendar file</source>
+      <translation>Add a calendar file</translation>
+    </message>
+    <message id="ui.calendar.import">
+      <source>Import as time</source>
+      <translation>Import as time</translation>
+    </message>
+    <message id="ui.calendar.imported">
+      <source>%1 imported as time.</source>
+      <translation>%1 imported as time.</translation>
+    </message>
+    <message id="ui.calendar.importedChip">
+      <source>Imported</source>
+      <translation>Imported</translation>
+    </message>
+    <message id="ui.calendar.link">
+      <source>Calendar import</source>
+      <translation>Calendar import</translation>
+    </message>
+    <message id="ui.calendar.loading">
+      <source>Loading calendar…</source>
+      <translation>Loading calendar…</translation>
+    </message>
+    <message id="ui.calendar.newTaskIn">
+      <source>New task in %1</source>
+      <translation>New task in %1</translation>
+    </message>
+    <message id="ui.calendar.next">
+      <source>Next day</source>
+      <translation>Next day</translation>
+    </message>
+    <message id="ui.calendar.noDestination">
+      <source>%1 imported. %2 ticked events have no destination yet: choose where each goes.</source>
+      <translation>%1 imported. %2 ticked events have no destination yet: choose where each goes.</translation>
+    </message>
+    <message id="ui.calendar.noEventsHint">
+      <source>Pick another day, or add the calendar that holds your meetings.</source>
+      <translation>Pick another day, or add the calendar that holds your meetings.</translation>
+    </message>
+    <message id="ui.calendar.noEventsTitle">
+      <source>No events on this day</source>
+      <translation>No events on this day</translation>
+    </message>
+    <message id="ui.calendar.noSourcesHint">
+      <source>Add a calendar file, a subscription address (such as a hosted calendar's secret address) or a CalDAV account on the left. Morvane only reads them.</source>
+      <translation>Add a calendar file, a subscription address (such as a hosted calendar's secret address) or a CalDAV account on the left. Morvane only reads them.</translation>
+    </message>
+    <message id="ui.calendar.noSourcesTitle">
+      <source>No calendars yet</source>
+      <translation>No calendars yet</translation>
+    </message>
+    <message id="ui.calendar.partial">
+      <source>%1 imported; then it stopped: %2</source>
+      <translation>%1 imported; then it stopped: %2</translation>
+    </message>
+    <message id="ui.calendar.password">
+      <source>Password (kept in your keyring)</source>
+      <translation>Password (kept in your keyring)</translation>
+    </message>
+    <message id="ui.calendar.previous">
+      <source>Previous day</source>
+      <translation>Previous day</translation>
+    </message>
+    <message id="ui.calendar.remove">
+      <source>Remove</source>
+      <translation>Remove</translation>
+    </message>
+    <message id="ui.calendar.sources">
+      <source>Your calendars</source>
+      <translation>Your calendars</translation>
+    </message>
+    <message id="ui.calendar.timeOn">
+      <source>Time on %1 (%2)</source>
+      <translation>Time on %1 (%2)</translation>
+    </message>
+    <message id="ui.calendar.title">
+      <source>Import from your calendar</source>
+      <translation>Import from your calendar</translation>
+    </message>
+    <message id="ui.calendar.user">
+      <source>User name</source>
+      <translation>User name</translation>
+    </message>
     <message id="ui.category.admin">
       <source>Admin</source>
       <translation>Admin</translation>

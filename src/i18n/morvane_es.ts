@@ -2825,6 +2825,126 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
       <translation>Registra tu tiempo en proyectos y tareas, y conviértelo en facturas. Tus datos se quedan en este ordenador, salvo que conectes un servidor compartido.</translation>
     </message>
+    <message id="ui.calendar.add">
+      <source>Add calendar</source>
+      <translation>Añadir calendario</translation>
+    </message>
+    <message id="ui.calendar.addFile">
+      <source>Add a calendar file…</source>
+      <translation>Añadir un archivo de calendario…</translation>
+    </message>
+    <message id="ui.calendar.added">
+      <source>%1 was added.</source>
+      <translation>Se ha añadido %1.</translation>
+    </message>
+    <message id="ui.calendar.address">
+      <source>Subscription or CalDAV address (https:// or webcal://)</source>
+      <translation>Dirección de suscripción o CalDAV (https:// o webcal://)</translation>
+    </message>
+    <message id="ui.calendar.badDay">
+      <source>Write the day as year-month-day, for example 2026-11-25.</source>
+      <translation>Escribe el día como año-mes-día, por ejemplo 2026-11-25.</translation>
+    </message>
+    <message id="ui.calendar.caldav">
+      <source>CalDAV account</source>
+      <translation>Cuenta CalDAV</translation>
+    </message>
+    <message id="ui.calendar.day">
+      <source>Day (year-month-day)</source>
+      <translation>Día (año-mes-día)</translation>
+    </message>
+    <message id="ui.calendar.destination">
+      <source>Where it goes</source>
+      <translation>Dónde va</translation>
+    </message>
+    <message id="ui.calendar.fileFilter">
+      <source>Calendar files (*.ics)</source>
+      <translation>Archivos de calendario (*.ics)</translation>
+    </message>
+    <message id="ui.calendar.fileTitle">
+      <source>Add a calendar file</source>
+      <translation>Añadir un archivo de calendario</translation>
+    </message>
+    <message id="ui.calendar.import">
+      <source>Import as time</source>
+      <translation>Importar como tiempo</translation>
+    </message>
+    <message id="ui.calendar.imported">
+      <source>%1 imported as time.</source>
+      <translation>%1 importados como tiempo.</translation>
+    </message>
+    <message id="ui.calendar.importedChip">
+      <source>Imported</source>
+      <translation>Importado</translation>
+    </message>
+    <message id="ui.calendar.link">
+      <source>Calendar import</source>
+      <translation>Importar calendario</translation>
+    </message>
+    <message id="ui.calendar.loading">
+      <source>Loading calendar…</source>
+      <translation>Cargando calendario…</translation>
+    </message>
+    <message id="ui.calendar.newTaskIn">
+      <source>New task in %1</source>
+      <translation>Nueva tarea en %1</translation>
+    </message>
+    <message id="ui.calendar.next">
+      <source>Next day</source>
+      <translation>Día siguiente</translation>
+    </message>
+    <message id="ui.calendar.noDestination">
+      <source>%1 imported. %2 ticked events have no destination yet: choose where each goes.</source>
+      <translation>%1 importados. %2 eventos marcados aún no tienen destino: elige dónde va cada uno.</translation>
+    </message>
+    <message id="ui.calendar.noEventsHint">
+      <source>Pick another day, or add the calendar that holds your meetings.</source>
+      <translation>Elige otro día o añade el calendario donde están tus reuniones.</translation>
+    </message>
+    <message id="ui.calendar.noEventsTitle">
+      <source>No events on this day</source>
+      <translation>No hay eventos este día</translation>
+    </message>
+    <message id="ui.calendar.noSourcesHint">
+      <source>Add a calendar file, a subscription address (such as a hosted calendar's secret address) or a CalDAV account on the left. Morvane only reads them.</source>
+      <translation>Añade a la izquierda un archivo de calendario, una dirección de suscripción (como la dirección secreta de un calendario en línea) o una cuenta CalDAV. Morvane solo los lee.</translation>
+    </message>
+    <message id="ui.calendar.noSourcesTitle">
+      <source>No calendars yet</source>
+      <translation>Aún no hay calendarios</translation>
+    </message>
+    <message id="ui.calendar.partial">
+      <source>%1 imported; then it stopped: %2</source>
+      <translation>%1 importados; luego se detuvo: %2</translation>
+    </message>
+    <message id="ui.calendar.password">
+      <source>Password (kept in your keyring)</source>
+      <translation>Contraseña (guardada en tu llavero)</translation>
+    </message>
+    <message id="ui.calendar.previous">
+      <source>Previous day</source>
+      <translation>Día anterior</translation>
+    </message>
+    <message id="ui.calendar.remove">
+      <source>Remove</source>
+      <translation>Quitar</translation>
+    </message>
+    <message id="ui.calendar.sources">
+      <source>Your calendars</source>
+      <translation>Tus calendarios</translation>
+    </message>
+    <message id="ui.calendar.timeOn">
+      <source>Time on %1 (%2)</source>
+      <translation>Tiempo en %1 (%2)</translation>
+    </message>
+    <message id="ui.calendar.title">
+      <source>Import from your calendar</source>
+      <translation>Importar desde tu calendario</translation>
+    </message>
+    <message id="ui.calendar.user">
+      <source>User name</source>
+      <translation>Nombre de usuario</translation>
+    </message>
     <message id="ui.category.admin">
       <source>Admin</source>
       <translation>Administración</translation>

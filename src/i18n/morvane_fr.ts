@@ -2825,6 +2825,126 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
       <translation>Suivez le temps passé sur vos projets et tâches, puis transformez-le en factures. Vos données restent sur cet ordinateur, sauf si vous connectez un serveur partagé.</translation>
     </message>
+    <message id="ui.calendar.add">
+      <source>Add calendar</source>
+      <translation>Ajouter le calendrier</translation>
+    </message>
+    <message id="ui.calendar.addFile">
+      <source>Add a calendar file…</source>
+      <translation>Ajouter un fichier de calendrier…</translation>
+    </message>
+    <message id="ui.calendar.added">
+      <source>%1 was added.</source>
+      <translation>%1 a été ajouté.</translation>
+    </message>
+    <message id="ui.calendar.address">
+      <source>Subscription or CalDAV address (https:// or webcal://)</source>
+      <translation>Adresse d’abonnement ou CalDAV (https:// ou webcal://)</translation>
+    </message>
+    <message id="ui.calendar.badDay">
+      <source>Write the day as year-month-day, for example 2026-11-25.</source>
+      <translation>Écrivez le jour sous la forme année-mois-jour, par exemple 2026-11-25.</translation>
+    </message>
+    <message id="ui.calendar.caldav">
+      <source>CalDAV account</source>
+      <translation>Compte CalDAV</translation>
+    </message>
+    <message id="ui.calendar.day">
+      <source>Day (year-month-day)</source>
+      <translation>Jour (année-mois-jour)</translation>
+    </message>
+    <message id="ui.calendar.destination">
+      <source>Where it goes</source>
+      <translation>Destination</translation>
+    </message>
+    <message id="ui.calendar.fileFilter">
+      <source>Calendar files (*.ics)</source>
+      <translation>Fichiers de calendrier (*.ics)</translation>
+    </message>
+    <message id="ui.calendar.fileTitle">
+      <source>Add a calendar file</source>
+      <translation>Ajouter un fichier de calendrier</translation>
+    </message>
+    <message id="ui.calendar.import">
+      <source>Import as time</source>
+      <translation>Importer comme temps</translation>
+    </message>
+    <message id="ui.calendar.imported">
+      <source>%1 imported as time.</source>
+      <translation>%1 importé(s) comme temps.</translation>
+    </message>
+    <message id="ui.calendar.importedChip">
+      <source>Imported</source>
+      <translation>Importé</translation>
+    </message>
+    <message id="ui.calendar.link">
+      <source>Calendar import</source>
+      <translation>Import du calendrier</translation>
+    </message>
+    <message id="ui.calendar.loading">
+      <source>Loading calendar…</source>
+      <translation>Chargement du calendrier…</translation>
+    </message>
+    <message id="ui.calendar.newTaskIn">
+      <source>New task in %1</source>
+      <translation>Nouvelle tâche dans %1</translation>
+    </message>
+    <message id="ui.calendar.next">
+      <source>Next day</source>
+      <translation>Jour suivant</translation>
+    </message>
+    <message id="ui.calendar.noDestination">
+      <source>%1 imported. %2 ticked events have no destination yet: choose where each goes.</source>
+      <translation>%1 importé(s). %2 événements cochés n’ont pas encore de destination : choisissez où va chacun.</translation>
+    </message>
+    <message id="ui.calendar.noEventsHint">
+      <source>Pick another day, or add the calendar that holds your meetings.</source>
+      <translation>Choisissez un autre jour, ou ajoutez le calendrier de vos réunions.</translation>
+    </message>
+    <message id="ui.calendar.noEventsTitle">
+      <source>No events on this day</source>
+      <translation>Aucun événement ce jour-là</translation>
+    </message>
+    <message id="ui.calendar.noSourcesHint">
+      <source>Add a calendar file, a subscription address (such as a hosted calendar's secret address) or a CalDAV account on the left. Morvane only reads them.</source>
+      <translation>Ajoutez à gauche un fichier de calendrier, une adresse d’abonnement (comme l’adresse secrète d’un calendrier en ligne) ou un compte CalDAV. Morvane ne fait que les lire.</translation>
+    </message>
+    <message id="ui.calendar.noSourcesTitle">
+      <source>No calendars yet</source>
+      <translation>Aucun calendrier pour l’instant</translation>
+    </message>
+    <message id="ui.calendar.partial">
+      <source>%1 imported; then it stopped: %2</source>
+      <translation>%1 importé(s) ; puis arrêt : %2</translation>
+    </message>
+    <message id="ui.calendar.password">
+      <source>Password (kept in your keyring)</source>
+      <translation>Mot de passe (gardé dans votre trousseau)</translation>
+    </message>
+    <message id="ui.calendar.previous">
+      <source>Previous day</source>
+      <translation>Jour précédent</translation>
+    </message>
+    <message id="ui.calendar.remove">
+      <source>Remove</source>
+      <translation>Retirer</translation>
+    </message>
+    <message id="ui.calendar.sources">
+      <source>Your calendars</source>
+      <translation>Vos calendriers</translation>
+    </message>
+    <message id="ui.calendar.timeOn">
+      <source>Time on %1 (%2)</source>
+      <translation>Temps sur %1 (%2)</translation>
+    </message>
+    <message id="ui.calendar.title">
+      <source>Import from your calendar</source>
+      <translation>Importer depuis votre calendrier</translation>
+    </message>
+    <message id="ui.calendar.user">
+      <source>User name</source>
+      <translation>Nom d’utilisateur</translation>
+    </message>
     <message id="ui.category.admin">
       <source>Admin</source>
       <translation>Administratif</translation>

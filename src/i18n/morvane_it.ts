@@ -2825,6 +2825,126 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
       <translation>Registra il tempo dedicato a progetti e attività e trasformalo in fatture. I tuoi dati restano su questo computer, a meno che tu non colleghi un server condiviso.</translation>
     </message>
+    <message id="ui.calendar.add">
+      <source>Add calendar</source>
+      <translation>Aggiungi calendario</translation>
+    </message>
+    <message id="ui.calendar.addFile">
+      <source>Add a calendar file…</source>
+      <translation>Aggiungi un file di calendario…</translation>
+    </message>
+    <message id="ui.calendar.added">
+      <source>%1 was added.</source>
+      <translation>%1 è stato aggiunto.</translation>
+    </message>
+    <message id="ui.calendar.address">
+      <source>Subscription or CalDAV address (https:// or webcal://)</source>
+      <translation>Indirizzo di abbonamento o CalDAV (https:// o webcal://)</translation>
+    </message>
+    <message id="ui.calendar.badDay">
+      <source>Write the day as year-month-day, for example 2026-11-25.</source>
+      <translation>Scrivi il giorno come anno-mese-giorno, per esempio 2026-11-25.</translation>
+    </message>
+    <message id="ui.calendar.caldav">
+      <source>CalDAV account</source>
+      <translation>Account CalDAV</translation>
+    </message>
+    <message id="ui.calendar.day">
+      <source>Day (year-month-day)</source>
+      <translation>Giorno (anno-mese-giorno)</translation>
+    </message>
+    <message id="ui.calendar.destination">
+      <source>Where it goes</source>
+      <translation>Dove va</translation>
+    </message>
+    <message id="ui.calendar.fileFilter">
+      <source>Calendar files (*.ics)</source>
+      <translation>File di calendario (*.ics)</translation>
+    </message>
+    <message id="ui.calendar.fileTitle">
+      <source>Add a calendar file</source>
+      <translation>Aggiungi un file di calendario</translation>
+    </message>
+    <message id="ui.calendar.import">
+      <source>Import as time</source>
+      <translation>Importa come tempo</translation>
+    </message>
+    <message id="ui.calendar.imported">
+      <source>%1 imported as time.</source>
+      <translation>%1 importati come tempo.</translation>
+    </message>
+    <message id="ui.calendar.importedChip">
+      <source>Imported</source>
+      <translation>Importato</translation>
+    </message>
+    <message id="ui.calendar.link">
+      <source>Calendar import</source>
+      <translation>Importa calendario</translation>
+    </message>
+    <message id="ui.calendar.loading">
+      <source>Loading calendar…</source>
+      <translation>Caricamento del calendario…</translation>
+    </message>
+    <message id="ui.calendar.newTaskIn">
+      <source>New task in %1</source>
+      <translation>Nuova attività in %1</translation>
+    </message>
+    <message id="ui.calendar.next">
+      <source>Next day</source>
+      <translation>Giorno successivo</translation>
+    </message>
+    <message id="ui.calendar.noDestination">
+      <source>%1 imported. %2 ticked events have no destination yet: choose where each goes.</source>
+      <translation>%1 importati. %2 eventi spuntati non hanno ancora una destinazione: scegli dove va ciascuno.</translation>
+    </message>
+    <message id="ui.calendar.noEventsHint">
+      <source>Pick another day, or add the calendar that holds your meetings.</source>
+      <translation>Scegli un altro giorno o aggiungi il calendario con le tue riunioni.</translation>
+    </message>
+    <message id="ui.calendar.noEventsTitle">
+      <source>No events on this day</source>
+      <translation>Nessun evento in questo giorno</translation>
+    </message>
+    <message id="ui.calendar.noSourcesHint">
+      <source>Add a calendar file, a subscription address (such as a hosted calendar's secret address) or a CalDAV account on the left. Morvane only reads them.</source>
+      <translation>Aggiungi a sinistra un file di calendario, un indirizzo di abbonamento (come l’indirizzo segreto di un calendario online) o un account CalDAV. Morvane li legge soltanto.</translation>
+    </message>
+    <message id="ui.calendar.noSourcesTitle">
+      <source>No calendars yet</source>
+      <translation>Nessun calendario per ora</translation>
+    </message>
+    <message id="ui.calendar.partial">
+      <source>%1 imported; then it stopped: %2</source>
+      <translation>%1 importati; poi si è fermato: %2</translation>
+    </message>
+    <message id="ui.calendar.password">
+      <source>Password (kept in your keyring)</source>
+      <translation>Password (nel tuo portachiavi)</translation>
+    </message>
+    <message id="ui.calendar.previous">
+      <source>Previous day</source>
+      <translation>Giorno precedente</translation>
+    </message>
+    <message id="ui.calendar.remove">
+      <source>Remove</source>
+      <translation>Rimuovi</translation>
+    </message>
+    <message id="ui.calendar.sources">
+      <source>Your calendars</source>
+      <translation>I tuoi calendari</translation>
+    </message>
+    <message id="ui.calendar.timeOn">
+      <source>Time on %1 (%2)</source>
+      <translation>Tempo su %1 (%2)</translation>
+    </message>
+    <message id="ui.calendar.title">
+      <source>Import from your calendar</source>
+      <translation>Importa dal tuo calendario</translation>
+    </message>
+    <message id="ui.calendar.user">
+      <source>User name</source>
+      <translation>Nome utente</translation>
+    </message>
     <message id="ui.category.admin">
       <source>Admin</source>
       <translation>Amministrazione</translation>

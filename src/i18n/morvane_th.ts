@@ -2825,6 +2825,126 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Track your time on projects and tasks, and turn it into invoices. Your data stays on this computer unless you connect a shared server.</source>
       <translation>บันทึกเวลาที่ใช้กับโปรเจกต์และงาน แล้วเปลี่ยนเป็นใบแจ้งหนี้ ข้อมูลของคุณจะอยู่ในคอมพิวเตอร์เครื่องนี้ เว้นแต่คุณจะเชื่อมต่อเซิร์ฟเวอร์ที่ใช้ร่วมกัน</translation>
     </message>
+    <message id="ui.calendar.add">
+      <source>Add calendar</source>
+      <translation>เพิ่มปฏิทิน</translation>
+    </message>
+    <message id="ui.calendar.addFile">
+      <source>Add a calendar file…</source>
+      <translation>เพิ่มไฟล์ปฏิทิน…</translation>
+    </message>
+    <message id="ui.calendar.added">
+      <source>%1 was added.</source>
+      <translation>เพิ่ม %1 แล้ว</translation>
+    </message>
+    <message id="ui.calendar.address">
+      <source>Subscription or CalDAV address (https:// or webcal://)</source>
+      <translation>ที่อยู่การสมัครรับหรือ CalDAV (https:// หรือ webcal://)</translation>
+    </message>
+    <message id="ui.calendar.badDay">
+      <source>Write the day as year-month-day, for example 2026-11-25.</source>
+      <translation>เขียนวันเป็น ปี-เดือน-วัน เช่น 2026-11-25</translation>
+    </message>
+    <message id="ui.calendar.caldav">
+      <source>CalDAV account</source>
+      <translation>บัญชี CalDAV</translation>
+    </message>
+    <message id="ui.calendar.day">
+      <source>Day (year-month-day)</source>
+      <translation>วัน (ปี-เดือน-วัน)</translation>
+    </message>
+    <message id="ui.calendar.destination">
+      <source>Where it goes</source>
+      <translation>บันทึกไปที่</translation>
+    </message>
+    <message id="ui.calendar.fileFilter">
+      <source>Calendar files (*.ics)</source>
+      <translation>ไฟล์ปฏิทิน (*.ics)</translation>
+    </message>
+    <message id="ui.calendar.fileTitle">
+      <source>Add a calendar file</source>
+      <translation>เพิ่มไฟล์ปฏิทิน</translation>
+    </message>
+    <message id="ui.calendar.import">
+      <source>Import as time</source>
+      <translation>นำเข้าเป็นเวลา</translation>
+    </message>
+    <message id="ui.calendar.imported">
+      <source>%1 imported as time.</source>
+      <translation>นำเข้า %1 รายการเป็นเวลาแล้ว</translation>
+    </message>
+    <message id="ui.calendar.importedChip">
+      <source>Imported</source>
+      <translation>นำเข้าแล้ว</translation>
+    </message>
+    <message id="ui.calendar.link">
+      <source>Calendar import</source>
+      <translation>นำเข้าปฏิทิน</translation>
+    </message>
+    <message id="ui.calendar.loading">
+      <source>Loading calendar…</source>
+      <translation>กำลังโหลดปฏิทิน…</translation>
+    </message>
+    <message id="ui.calendar.newTaskIn">
+      <source>New task in %1</source>
+      <translation>งานใหม่ใน %1</translation>
+    </message>
+    <message id="ui.calendar.next">
+      <source>Next day</source>
+      <translation>วันถัดไป</translation>
+    </message>
+    <message id="ui.calendar.noDestination">
+      <source>%1 imported. %2 ticked events have no destination yet: choose where each goes.</source>
+      <translation>นำเข้า %1 รายการ อีก %2 รายการที่เลือกยังไม่มีปลายทาง เลือกปลายทางให้แต่ละรายการ</translation>
+    </message>
+    <message id="ui.calendar.noEventsHint">
+      <source>Pick another day, or add the calendar that holds your meetings.</source>
+      <translation>เลือกวันอื่น หรือเพิ่มปฏิทินที่มีการประชุมของคุณ</translation>
+    </message>
+    <message id="ui.calendar.noEventsTitle">
+      <source>No events on this day</source>
+      <translation>ไม่มีกิจกรรมในวันนี้</translation>
+    </message>
+    <message id="ui.calendar.noSourcesHint">
+      <source>Add a calendar file, a subscription address (such as a hosted calendar's secret address) or a CalDAV account on the left. Morvane only reads them.</source>
+      <translation>เพิ่มไฟล์ปฏิทิน ที่อยู่การสมัครรับ (เช่น ที่อยู่ลับของปฏิทินออนไลน์) หรือบัญชี CalDAV ทางซ้าย Morvane จะอ่านอย่างเดียว</translation>
+    </message>
+    <message id="ui.calendar.noSourcesTitle">
+      <source>No calendars yet</source>
+      <translation>ยังไม่มีปฏิทิน</translation>
+    </message>
+    <message id="ui.calendar.partial">
+      <source>%1 imported; then it stopped: %2</source>
+      <translation>นำเข้า %1 รายการ แล้วหยุด: %2</translation>
+    </message>
+    <message id="ui.calendar.password">
+      <source>Password (kept in your keyring)</source>
+      <translation>รหัสผ่าน (เก็บในพวงกุญแจ)</translation>
+    </message>
+    <message id="ui.calendar.previous">
+      <source>Previous day</source>
+      <translation>วันก่อนหน้า</translation>
+    </message>
+    <message id="ui.calendar.remove">
+      <source>Remove</source>
+      <translation>ลบ</translation>
+    </message>
+    <message id="ui.calendar.sources">
+      <source>Your calendars</source>
+      <translation>ปฏิทินของคุณ</translation>
+    </message>
+    <message id="ui.calendar.timeOn">
+      <source>Time on %1 (%2)</source>
+      <translation>บันทึกเวลาใน %1 (%2)</translation>
+    </message>
+    <message id="ui.calendar.title">
+      <source>Import from your calendar</source>
+      <translation>นำเข้าจากปฏิทินของคุณ</translation>
+    </message>
+    <message id="ui.calendar.user">
+      <source>User name</source>
+      <translation>ชื่อผู้ใช้</translation>
+    </message>
     <message id="ui.category.admin">
       <source>Admin</source>
       <translation>งานธุรการ</translation>

@@ -84,6 +84,7 @@ DesktopShell::DesktopShell(Options options, QObject *parent)
     m_earnings = new EarningsModel(m_options.clock, this);
     m_sessions = new SessionsView(m_options.settings, m_options.sessionsDir, this);
     m_assistant = new AssistantView(m_options.settings, this);
+    m_calendar = new CalendarView(m_options.calendarCacheDir, this);
 }
 
 DesktopShell::~DesktopShell()
@@ -97,6 +98,7 @@ DesktopShell::~DesktopShell()
     m_earnings->setStores(nullptr, nullptr);
     m_sessions->setStores(nullptr, nullptr);
     m_assistant->setStores(nullptr, nullptr, {});
+    m_calendar->setStores(nullptr, nullptr, {});
     m_sequence.reset();
     if (m_store) {
         m_store->stopSync();
@@ -169,6 +171,7 @@ void DesktopShell::restart()
         m_earnings->setStores(nullptr, nullptr);
         m_sessions->setStores(nullptr, nullptr);
         m_assistant->setStores(nullptr, nullptr, {});
+        m_calendar->setStores(nullptr, nullptr, {});
         m_sequence.reset();
         m_store->stopSync();
         disconnect(m_auth.get(), nullptr, this, nullptr);
@@ -229,6 +232,7 @@ void DesktopShell::buildStores(const Config &config, std::shared_ptr<SecretStore
     m_workspace->invoices()->setBackend(m_auth->client().baseUrl());
     m_earnings->setStores(m_store.get(), m_auth.get());
     m_sessions->setStores(m_store.get(), m_auth.get());
+    m_calendar->setStores(m_store.get(), m_auth.get(), secrets);
     m_assistant->setStores(m_store.get(), m_auth.get(), std::move(secrets));
     emit storesChanged();
 }
@@ -416,6 +420,7 @@ void DesktopShell::setLanguage(const QString &code)
     m_workspace->retranslate();
     m_earnings->retranslate();
     m_sessions->retranslate();
+    m_calendar->retranslate();
     emit languageChanged();
 }
 

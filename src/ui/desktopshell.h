@@ -4,6 +4,7 @@
 #include "model/clock.h"
 #include "ui/preferences.h"
 #include "ui/assistantview.h"
+#include "ui/calendarview.h"
 #include "ui/earningsmodel.h"
 #include "ui/sessionsview.h"
 #include "ui/workspace.h"
@@ -45,6 +46,7 @@ class DesktopShell : public QObject
     Q_PROPERTY(EarningsModel *earnings READ earnings CONSTANT)
     Q_PROPERTY(SessionsView *sessions READ sessions CONSTANT)
     Q_PROPERTY(AssistantView *assistant READ assistant CONSTANT)
+    Q_PROPERTY(CalendarView *calendar READ calendar CONSTANT)
     // Time that needs a decision: the idle question, the timer limits and reminders (an IdleWatcher).
     Q_PROPERTY(QObject *idle READ idleWatcher CONSTANT)
     Q_PROPERTY(Preferences *preferences READ preferences CONSTANT)
@@ -80,6 +82,8 @@ public:
         bool followDesktopScheme = true;
         // Where the coding agent keeps its session logs; empty for the user's own.
         QString sessionsDir;
+        // Where fetched calendars are kept for offline use; empty for the application's data folder.
+        QString calendarCacheDir;
     };
 
     explicit DesktopShell(Options options, QObject *parent = nullptr);
@@ -103,6 +107,7 @@ public:
     [[nodiscard]] EarningsModel *earnings() const { return m_earnings; }
     [[nodiscard]] SessionsView *sessions() const { return m_sessions; }
     [[nodiscard]] AssistantView *assistant() const { return m_assistant; }
+    [[nodiscard]] CalendarView *calendar() const { return m_calendar; }
     [[nodiscard]] QObject *idleWatcher() const { return m_idle; }
     [[nodiscard]] Preferences *preferences() const { return m_preferences; }
     [[nodiscard]] QStringList providers() const { return m_providers; }
@@ -181,6 +186,7 @@ private:
     EarningsModel *m_earnings = nullptr;
     SessionsView *m_sessions = nullptr;
     AssistantView *m_assistant = nullptr;
+    CalendarView *m_calendar = nullptr;
     QObject *m_idle = nullptr;
     Preferences *m_preferences = nullptr;
     // Stores of a backend left behind: operations may still run on them, so they stay until the

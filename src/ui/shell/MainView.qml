@@ -20,6 +20,7 @@ Rectangle {
     readonly property var pageLinks: [
         { id: "sessions", title: qsTrId("ui.sessions.title"), source: "qrc:/Morvane/Ui/sessions/SessionsView.qml" },
         { id: "summary", title: qsTrId("ui.summary.title"), source: "qrc:/Morvane/Ui/assistant/SummaryView.qml" },
+        { id: "calendar", title: qsTrId("ui.calendar.link"), source: "qrc:/Morvane/Ui/calendar/CalendarView.qml" },
         { id: "invoices", title: qsTrId("ui.invoices.title"), source: "qrc:/Morvane/Ui/invoices/InvoicesView.qml" },
         { id: "earnings", title: qsTrId("ui.earnings.title"), source: "qrc:/Morvane/Ui/earnings/EarningsView.qml" },
         { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
