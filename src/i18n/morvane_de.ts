@@ -2641,6 +2641,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>That does not look like an API key: paste the key alone, without spaces.</source>
       <translation>Das sieht nicht nach einem API-Schlüssel aus: Füge nur den Schlüssel ein, ohne Leerzeichen.</translation>
     </message>
+    <message id="ui.ai.keyName">
+      <source>API key for %1</source>
+      <translation>API-Schlüssel für %1</translation>
+    </message>
     <message id="ui.ai.keyPaste">
       <source>Paste your API key</source>
       <translation>API-Schlüssel einfügen</translation>

@@ -2641,6 +2641,10 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>That does not look like an API key: paste the key alone, without spaces.</source>
       <translation>That does not look like an API key: paste the key alone, without spaces.</translation>
     </message>
+    <message id="ui.ai.keyName">
+      <source>API key for %1</source>
+      <translation>API key for %1</translation>
+    </message>
     <message id="ui.ai.keyPaste">
       <source>Paste your API key</source>
       <translation>Paste your API key</translation>

@@ -2641,6 +2641,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>That does not look like an API key: paste the key alone, without spaces.</source>
       <translation>Eso no parece una clave de API: pega solo la clave, sin espacios.</translation>
     </message>
+    <message id="ui.ai.keyName">
+      <source>API key for %1</source>
+      <translation>Clave de API para %1</translation>
+    </message>
     <message id="ui.ai.keyPaste">
       <source>Paste your API key</source>
       <translation>Pega tu clave de API</translation>

@@ -2641,6 +2641,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>That does not look like an API key: paste the key alone, without spaces.</source>
       <translation>Cela ne ressemble pas à une clé d’API : collez la clé seule, sans espaces.</translation>
     </message>
+    <message id="ui.ai.keyName">
+      <source>API key for %1</source>
+      <translation>Clé d’API pour %1</translation>
+    </message>
     <message id="ui.ai.keyPaste">
       <source>Paste your API key</source>
       <translation>Collez votre clé d’API</translation>

@@ -2641,6 +2641,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>That does not look like an API key: paste the key alone, without spaces.</source>
       <translation>Non sembra una chiave API: incolla solo la chiave, senza spazi.</translation>
     </message>
+    <message id="ui.ai.keyName">
+      <source>API key for %1</source>
+      <translation>Chiave API per %1</translation>
+    </message>
     <message id="ui.ai.keyPaste">
       <source>Paste your API key</source>
       <translation>Incolla la tua chiave API</translation>

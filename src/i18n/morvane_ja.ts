@@ -2641,6 +2641,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>That does not look like an API key: paste the key alone, without spaces.</source>
       <translation>API キーではないようです。キーだけをスペースなしで貼り付けてください。</translation>
     </message>
+    <message id="ui.ai.keyName">
+      <source>API key for %1</source>
+      <translation>%1 の API キー</translation>
+    </message>
     <message id="ui.ai.keyPaste">
       <source>Paste your API key</source>
       <translation>API キーを貼り付け</translation>

@@ -2641,6 +2641,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
       <source>That does not look like an API key: paste the key alone, without spaces.</source>
       <translation>Dat lijkt geen API-sleutel: plak alleen de sleutel, zonder spaties.</translation>
     </message>
+    <message id="ui.ai.keyName">
+      <source>API key for %1</source>
+      <translation>API-sleutel voor %1</translation>
+    </message>
     <message id="ui.ai.keyPaste">
       <source>Paste your API key</source>
       <translation>Plak je API-sleutel</translation>

@@ -2641,6 +2641,10 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
       <source>That does not look like an API key: paste the key alone, without spaces.</source>
       <translation>Isso não parece uma chave de API: cole só a chave, sem espaços.</translation>
     </message>
+    <message id="ui.ai.keyName">
+      <source>API key for %1</source>
+      <translation>Chave de API para %1</translation>
+    </message>
     <message id="ui.ai.keyPaste">
       <source>Paste your API key</source>
       <translation>Cole a sua chave de API</translation>

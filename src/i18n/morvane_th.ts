@@ -2641,6 +2641,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>That does not look like an API key: paste the key alone, without spaces.</source>
       <translation>ดูไม่เหมือนคีย์ API วางเฉพาะคีย์โดยไม่มีช่องว่าง</translation>
     </message>
+    <message id="ui.ai.keyName">
+      <source>API key for %1</source>
+      <translation>คีย์ API สำหรับ %1</translation>
+    </message>
     <message id="ui.ai.keyPaste">
       <source>Paste your API key</source>
       <translation>วางคีย์ API ของคุณ</translation>

@@ -76,6 +76,11 @@ private:
             if (!control->isVisible() || !control->isEnabled() || !tabbable) {
                 continue;
             }
+            // Qt's accessibility bridge withholds every text of a field that hides what is typed,
+            // its name included; the label beside it names it.
+            if (const QVariant echo = control->property("echoMode"); echo.isValid() && echo.toInt() != 0) {
+                continue;
+            }
             ++focusable;
             QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control);
             if (!accessible || accessible->text(QAccessible::Name).trimmed().isEmpty() ||
@@ -412,8 +417,10 @@ private slots:
         QCOMPARE(workspace()->palette()->rows().first().value(u"title"_s).toString(), u"Website redesign"_s);
         workspace()->searchPalette(u"photos"_s);
         QCOMPARE(workspace()->palette()->rows().first().value(u"title"_s).toString(), u"Pick the photos"_s);
+        // Nothing matches: what was typed can still be said to quick add.
         workspace()->searchPalette(u"zzzz"_s);
-        QCOMPARE(workspace()->palette()->rowCount(), 0);
+        QCOMPARE(workspace()->palette()->rowCount(), 1);
+        QCOMPARE(workspace()->palette()->rows().first().value(u"kind"_s).toString(), u"capture"_s);
     }
 
     void aTimerStartedOnAnotherDeviceShowsHere()

@@ -375,8 +375,11 @@ Rectangle {
                         }
                         Field {
                             id: keyField
+                            objectName: "aiKeyField-" + keyRow.modelData.vendor
                             Layout.fillWidth: true
                             echoMode: TextInput.Password
+                            //% "API key for %1"
+                            Accessible.name: qsTrId("ui.ai.keyName").arg(keyRow.modelData.name)
                             placeholderText: keyRow.modelData.stored
                                              //% "A key is stored; paste another to replace it"
                                              ? qsTrId("ui.ai.keyStored")
