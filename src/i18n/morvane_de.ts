@@ -4829,5 +4829,257 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Stop the timer</source>
       <translation>Timer stoppen</translation>
     </message>
+    <message id="ui.trips.allProjects">
+      <source>All projects</source>
+      <translation>Alle Projekte</translation>
+    </message>
+    <message id="ui.trips.billable.all">
+      <source>Charged and not</source>
+      <translation>Berechnet und nicht</translation>
+    </message>
+    <message id="ui.trips.billable.no">
+      <source>Private or not charged</source>
+      <translation>Privat oder nicht berechnet</translation>
+    </message>
+    <message id="ui.trips.billable.yes">
+      <source>Charged to the client</source>
+      <translation>Dem Kunden berechnet</translation>
+    </message>
+    <message id="ui.trips.billableFilter">
+      <source>Charging</source>
+      <translation>Berechnung</translation>
+    </message>
+    <message id="ui.trips.charge">
+      <source>Charge to the client</source>
+      <translation>Dem Kunden berechnen</translation>
+    </message>
+    <message id="ui.trips.chip.invoiced">
+      <source>Invoiced</source>
+      <translation>Abgerechnet</translation>
+    </message>
+    <message id="ui.trips.chip.notCharged">
+      <source>Not charged</source>
+      <translation>Nicht berechnet</translation>
+    </message>
+    <message id="ui.trips.chip.private">
+      <source>Private</source>
+      <translation>Privat</translation>
+    </message>
+    <message id="ui.trips.chip.toInvoice">
+      <source>To invoice</source>
+      <translation>Abzurechnen</translation>
+    </message>
+    <message id="ui.trips.clientHit">
+      <source>Client</source>
+      <translation>Kunde</translation>
+    </message>
+    <message id="ui.trips.date">
+      <source>Date</source>
+      <translation>Datum</translation>
+    </message>
+    <message id="ui.trips.edit">
+      <source>Edit trip</source>
+      <translation>Fahrt bearbeiten</translation>
+    </message>
+    <message id="ui.trips.emptyHint">
+      <source>Trips your phone records while a timer runs show up here. Press Ctrl+N or “New trip” to add one by hand.</source>
+      <translation>Fahrten, die dein Telefon bei laufendem Timer aufzeichnet, erscheinen hier. Drücke Strg+N oder „Neue Fahrt“, um eine von Hand hinzuzufügen.</translation>
+    </message>
+    <message id="ui.trips.emptyTitle">
+      <source>No trips yet</source>
+      <translation>Noch keine Fahrten</translation>
+    </message>
+    <message id="ui.trips.finish">
+      <source>Finish trip</source>
+      <translation>Fahrt beenden</translation>
+    </message>
+    <message id="ui.trips.from">
+      <source>From</source>
+      <translation>Von</translation>
+    </message>
+    <message id="ui.trips.km">
+      <source>Kilometres</source>
+      <translation>Kilometer</translation>
+    </message>
+    <message id="ui.trips.kmColumn">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="ui.trips.map.route">
+      <source>Road route of the trip</source>
+      <translation>Straßenroute der Fahrt</translation>
+    </message>
+    <message id="ui.trips.map.straight">
+      <source>Straight line between the places</source>
+      <translation>Luftlinie zwischen den Orten</translation>
+    </message>
+    <message id="ui.trips.mode">
+      <source>Travelled by</source>
+      <translation>Verkehrsmittel</translation>
+    </message>
+    <message id="ui.trips.mode.bike">
+      <source>Bike</source>
+      <translation>Fahrrad</translation>
+    </message>
+    <message id="ui.trips.mode.car">
+      <source>Car</source>
+      <translation>Auto</translation>
+    </message>
+    <message id="ui.trips.mode.other">
+      <source>Other</source>
+      <translation>Andere</translation>
+    </message>
+    <message id="ui.trips.mode.transit">
+      <source>Public transport</source>
+      <translation>Öffentliche Verkehrsmittel</translation>
+    </message>
+    <message id="ui.trips.mode.walk">
+      <source>On foot</source>
+      <translation>Zu Fuß</translation>
+    </message>
+    <message id="ui.trips.new">
+      <source>New trip</source>
+      <translation>Neue Fahrt</translation>
+    </message>
+    <message id="ui.trips.noMatch">
+      <source>No trip matches these filters</source>
+      <translation>Keine Fahrt passt zu diesen Filtern</translation>
+    </message>
+    <message id="ui.trips.period.all">
+      <source>All time</source>
+      <translation>Gesamter Zeitraum</translation>
+    </message>
+    <message id="ui.trips.period.lastMonth">
+      <source>Last month</source>
+      <translation>Letzter Monat</translation>
+    </message>
+    <message id="ui.trips.period.month">
+      <source>This month</source>
+      <translation>Dieser Monat</translation>
+    </message>
+    <message id="ui.trips.period.year">
+      <source>This year</source>
+      <translation>Dieses Jahr</translation>
+    </message>
+    <message id="ui.trips.periodFilter">
+      <source>Period</source>
+      <translation>Zeitraum</translation>
+    </message>
+    <message id="ui.trips.placePlaceholder">
+      <source>Address, place or client</source>
+      <translation>Adresse, Ort oder Kunde</translation>
+    </message>
+    <message id="ui.trips.private">
+      <source>Private trip</source>
+      <translation>Private Fahrt</translation>
+    </message>
+    <message id="ui.trips.problem.date">
+      <source>Enter the day as YYYY-MM-DD.</source>
+      <translation>Gib den Tag als JJJJ-MM-TT (YYYY-MM-DD) ein.</translation>
+    </message>
+    <message id="ui.trips.problem.from">
+      <source>Where did the trip start?</source>
+      <translation>Wo begann die Fahrt?</translation>
+    </message>
+    <message id="ui.trips.problem.km">
+      <source>Enter the kilometres, for example 12.5.</source>
+      <translation>Gib die Kilometer ein, zum Beispiel 12,5.</translation>
+    </message>
+    <message id="ui.trips.problem.rate">
+      <source>Enter the rate per kilometre as a number, for example 0.23.</source>
+      <translation>Gib den Satz pro Kilometer als Zahl ein, zum Beispiel 0,23.</translation>
+    </message>
+    <message id="ui.trips.problem.to">
+      <source>Where did the trip end?</source>
+      <translation>Wo endete die Fahrt?</translation>
+    </message>
+    <message id="ui.trips.progress">
+      <source>%1 km · %2 min</source>
+      <translation>%1 km · %2 Min.</translation>
+    </message>
+    <message id="ui.trips.projectFilter">
+      <source>Project</source>
+      <translation>Projekt</translation>
+    </message>
+    <message id="ui.trips.projectHint">
+      <source>Trips of this project go on its invoices. Private trips and trips you do not charge never do.</source>
+      <translation>Fahrten dieses Projekts kommen auf seine Rechnungen. Private und nicht berechnete Fahrten nie.</translation>
+    </message>
+    <message id="ui.trips.purpose">
+      <source>Purpose</source>
+      <translation>Zweck</translation>
+    </message>
+    <message id="ui.trips.purposePlaceholder">
+      <source>For example: meeting at the client, delivery</source>
+      <translation>Zum Beispiel: Termin beim Kunden, Lieferung</translation>
+    </message>
+    <message id="ui.trips.rate">
+      <source>Rate per kilometre</source>
+      <translation>Satz pro Kilometer</translation>
+    </message>
+    <message id="ui.trips.rateHint">
+      <source>Used for projects that charge travel per kilometre and name no rate of their own.</source>
+      <translation>Für Projekte, die Reisen pro Kilometer berechnen und keinen eigenen Satz nennen.</translation>
+    </message>
+    <message id="ui.trips.resultsFrom">
+      <source>Results from OpenStreetMap, without KvK numbers.</source>
+      <translation>Ergebnisse von OpenStreetMap, ohne KvK-Nummern.</translation>
+    </message>
+    <message id="ui.trips.routing">
+      <source>Finding the road route…</source>
+      <translation>Straßenroute wird gesucht…</translation>
+    </message>
+    <message id="ui.trips.searching">
+      <source>Searching…</source>
+      <translation>Suche…</translation>
+    </message>
+    <message id="ui.trips.settings">
+      <source>Travel settings</source>
+      <translation>Reiseeinstellungen</translation>
+    </message>
+    <message id="ui.trips.start">
+      <source>Start a trip now</source>
+      <translation>Jetzt eine Fahrt starten</translation>
+    </message>
+    <message id="ui.trips.summaryMany">
+      <source>%1 trips · %2 km</source>
+      <translation>%1 Fahrten · %2 km</translation>
+    </message>
+    <message id="ui.trips.summaryOne">
+      <source>1 trip · %1 km</source>
+      <translation>1 Fahrt · %1 km</translation>
+    </message>
+    <message id="ui.trips.title">
+      <source>Trips</source>
+      <translation>Fahrten</translation>
+    </message>
+    <message id="ui.trips.to">
+      <source>To</source>
+      <translation>Nach</translation>
+    </message>
+    <message id="ui.trips.toInvoice">
+      <source>%1 to invoice: %2</source>
+      <translation>%1 abzurechnen: %2</translation>
+    </message>
+    <message id="ui.trips.trip">
+      <source>Trip</source>
+      <translation>Fahrt</translation>
+    </message>
+    <message id="ui.trips.usualMode">
+      <source>Usually travel by</source>
+      <translation>Reist meist mit</translation>
+    </message>
+    <message id="ui.trips.work">
+      <source>Project and task</source>
+      <translation>Projekt und Aufgabe</translation>
+    </message>
+    <message id="ui.trips.work.none">
+      <source>Choose a project or task</source>
+      <translation>Projekt oder Aufgabe wählen</translation>
+    </message>
+    <message id="ui.trips.work.wholeProject">
+      <source>%1 · Whole project, no task</source>
+      <translation>%1 · Ganzes Projekt, keine Aufgabe</translation>
+    </message>
   </context>
 </TS>

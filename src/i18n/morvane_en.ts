@@ -4829,5 +4829,257 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Stop the timer</source>
       <translation>Stop the timer</translation>
     </message>
+    <message id="ui.trips.allProjects">
+      <source>All projects</source>
+      <translation>All projects</translation>
+    </message>
+    <message id="ui.trips.billable.all">
+      <source>Charged and not</source>
+      <translation>Charged and not</translation>
+    </message>
+    <message id="ui.trips.billable.no">
+      <source>Private or not charged</source>
+      <translation>Private or not charged</translation>
+    </message>
+    <message id="ui.trips.billable.yes">
+      <source>Charged to the client</source>
+      <translation>Charged to the client</translation>
+    </message>
+    <message id="ui.trips.billableFilter">
+      <source>Charging</source>
+      <translation>Charging</translation>
+    </message>
+    <message id="ui.trips.charge">
+      <source>Charge to the client</source>
+      <translation>Charge to the client</translation>
+    </message>
+    <message id="ui.trips.chip.invoiced">
+      <source>Invoiced</source>
+      <translation>Invoiced</translation>
+    </message>
+    <message id="ui.trips.chip.notCharged">
+      <source>Not charged</source>
+      <translation>Not charged</translation>
+    </message>
+    <message id="ui.trips.chip.private">
+      <source>Private</source>
+      <translation>Private</translation>
+    </message>
+    <message id="ui.trips.chip.toInvoice">
+      <source>To invoice</source>
+      <translation>To invoice</translation>
+    </message>
+    <message id="ui.trips.clientHit">
+      <source>Client</source>
+      <translation>Client</translation>
+    </message>
+    <message id="ui.trips.date">
+      <source>Date</source>
+      <translation>Date</translation>
+    </message>
+    <message id="ui.trips.edit">
+      <source>Edit trip</source>
+      <translation>Edit trip</translation>
+    </message>
+    <message id="ui.trips.emptyHint">
+      <source>Trips your phone records while a timer runs show up here. Press Ctrl+N or “New trip” to add one by hand.</source>
+      <translation>Trips your phone records while a timer runs show up here. Press Ctrl+N or “New trip” to add one by hand.</translation>
+    </message>
+    <message id="ui.trips.emptyTitle">
+      <source>No trips yet</source>
+      <translation>No trips yet</translation>
+    </message>
+    <message id="ui.trips.finish">
+      <source>Finish trip</source>
+      <translation>Finish trip</translation>
+    </message>
+    <message id="ui.trips.from">
+      <source>From</source>
+      <translation>From</translation>
+    </message>
+    <message id="ui.trips.km">
+      <source>Kilometres</source>
+      <translation>Kilometres</translation>
+    </message>
+    <message id="ui.trips.kmColumn">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="ui.trips.map.route">
+      <source>Road route of the trip</source>
+      <translation>Road route of the trip</translation>
+    </message>
+    <message id="ui.trips.map.straight">
+      <source>Straight line between the places</source>
+      <translation>Straight line between the places</translation>
+    </message>
+    <message id="ui.trips.mode">
+      <source>Travelled by</source>
+      <translation>Travelled by</translation>
+    </message>
+    <message id="ui.trips.mode.bike">
+      <source>Bike</source>
+      <translation>Bike</translation>
+    </message>
+    <message id="ui.trips.mode.car">
+      <source>Car</source>
+      <translation>Car</translation>
+    </message>
+    <message id="ui.trips.mode.other">
+      <source>Other</source>
+      <translation>Other</translation>
+    </message>
+    <message id="ui.trips.mode.transit">
+      <source>Public transport</source>
+      <translation>Public transport</translation>
+    </message>
+    <message id="ui.trips.mode.walk">
+      <source>On foot</source>
+      <translation>On foot</translation>
+    </message>
+    <message id="ui.trips.new">
+      <source>New trip</source>
+      <translation>New trip</translation>
+    </message>
+    <message id="ui.trips.noMatch">
+      <source>No trip matches these filters</source>
+      <translation>No trip matches these filters</translation>
+    </message>
+    <message id="ui.trips.period.all">
+      <source>All time</source>
+      <translation>All time</translation>
+    </message>
+    <message id="ui.trips.period.lastMonth">
+      <source>Last month</source>
+      <translation>Last month</translation>
+    </message>
+    <message id="ui.trips.period.month">
+      <source>This month</source>
+      <translation>This month</translation>
+    </message>
+    <message id="ui.trips.period.year">
+      <source>This year</source>
+      <translation>This year</translation>
+    </message>
+    <message id="ui.trips.periodFilter">
+      <source>Period</source>
+      <translation>Period</translation>
+    </message>
+    <message id="ui.trips.placePlaceholder">
+      <source>Address, place or client</source>
+      <translation>Address, place or client</translation>
+    </message>
+    <message id="ui.trips.private">
+      <source>Private trip</source>
+      <translation>Private trip</translation>
+    </message>
+    <message id="ui.trips.problem.date">
+      <source>Enter the day as YYYY-MM-DD.</source>
+      <translation>Enter the day as YYYY-MM-DD.</translation>
+    </message>
+    <message id="ui.trips.problem.from">
+      <source>Where did the trip start?</source>
+      <translation>Where did the trip start?</translation>
+    </message>
+    <message id="ui.trips.problem.km">
+      <source>Enter the kilometres, for example 12.5.</source>
+      <translation>Enter the kilometres, for example 12.5.</translation>
+    </message>
+    <message id="ui.trips.problem.rate">
+      <source>Enter the rate per kilometre as a number, for example 0.23.</source>
+      <translation>Enter the rate per kilometre as a number, for example 0.23.</translation>
+    </message>
+    <message id="ui.trips.problem.to">
+      <source>Where did the trip end?</source>
+      <translation>Where did the trip end?</translation>
+    </message>
+    <message id="ui.trips.progress">
+      <source>%1 km · %2 min</source>
+      <translation>%1 km · %2 min</translation>
+    </message>
+    <message id="ui.trips.projectFilter">
+      <source>Project</source>
+      <translation>Project</translation>
+    </message>
+    <message id="ui.trips.projectHint">
+      <source>Trips of this project go on its invoices. Private trips and trips you do not charge never do.</source>
+      <translation>Trips of this project go on its invoices. Private trips and trips you do not charge never do.</translation>
+    </message>
+    <message id="ui.trips.purpose">
+      <source>Purpose</source>
+      <translation>Purpose</translation>
+    </message>
+    <message id="ui.trips.purposePlaceholder">
+      <source>For example: meeting at the client, delivery</source>
+      <translation>For example: meeting at the client, delivery</translation>
+    </message>
+    <message id="ui.trips.rate">
+      <source>Rate per kilometre</source>
+      <translation>Rate per kilometre</translation>
+    </message>
+    <message id="ui.trips.rateHint">
+      <source>Used for projects that charge travel per kilometre and name no rate of their own.</source>
+      <translation>Used for projects that charge travel per kilometre and name no rate of their own.</translation>
+    </message>
+    <message id="ui.trips.resultsFrom">
+      <source>Results from OpenStreetMap, without KvK numbers.</source>
+      <translation>Results from OpenStreetMap, without KvK numbers.</translation>
+    </message>
+    <message id="ui.trips.routing">
+      <source>Finding the road route…</source>
+      <translation>Finding the road route…</translation>
+    </message>
+    <message id="ui.trips.searching">
+      <source>Searching…</source>
+      <translation>Searching…</translation>
+    </message>
+    <message id="ui.trips.settings">
+      <source>Travel settings</source>
+      <translation>Travel settings</translation>
+    </message>
+    <message id="ui.trips.start">
+      <source>Start a trip now</source>
+      <translation>Start a trip now</translation>
+    </message>
+    <message id="ui.trips.summaryMany">
+      <source>%1 trips · %2 km</source>
+      <translation>%1 trips · %2 km</translation>
+    </message>
+    <message id="ui.trips.summaryOne">
+      <source>1 trip · %1 km</source>
+      <translation>1 trip · %1 km</translation>
+    </message>
+    <message id="ui.trips.title">
+      <source>Trips</source>
+      <translation>Trips</translation>
+    </message>
+    <message id="ui.trips.to">
+      <source>To</source>
+      <translation>To</translation>
+    </message>
+    <message id="ui.trips.toInvoice">
+      <source>%1 to invoice: %2</source>
+      <translation>%1 to invoice: %2</translation>
+    </message>
+    <message id="ui.trips.trip">
+      <source>Trip</source>
+      <translation>Trip</translation>
+    </message>
+    <message id="ui.trips.usualMode">
+      <source>Usually travel by</source>
+      <translation>Usually travel by</translation>
+    </message>
+    <message id="ui.trips.work">
+      <source>Project and task</source>
+      <translation>Project and task</translation>
+    </message>
+    <message id="ui.trips.work.none">
+      <source>Choose a project or task</source>
+      <translation>Choose a project or task</translation>
+    </message>
+    <message id="ui.trips.work.wholeProject">
+      <source>%1 · Whole project, no task</source>
+      <translation>%1 · Whole project, no task</translation>
+    </message>
   </context>
 </TS>

@@ -4829,5 +4829,257 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Stop the timer</source>
       <translation>Detener el temporizador</translation>
     </message>
+    <message id="ui.trips.allProjects">
+      <source>All projects</source>
+      <translation>Todos los proyectos</translation>
+    </message>
+    <message id="ui.trips.billable.all">
+      <source>Charged and not</source>
+      <translation>Cobrados y no</translation>
+    </message>
+    <message id="ui.trips.billable.no">
+      <source>Private or not charged</source>
+      <translation>Privados o sin cobrar</translation>
+    </message>
+    <message id="ui.trips.billable.yes">
+      <source>Charged to the client</source>
+      <translation>Cobrados al cliente</translation>
+    </message>
+    <message id="ui.trips.billableFilter">
+      <source>Charging</source>
+      <translation>Cobro</translation>
+    </message>
+    <message id="ui.trips.charge">
+      <source>Charge to the client</source>
+      <translation>Cobrar al cliente</translation>
+    </message>
+    <message id="ui.trips.chip.invoiced">
+      <source>Invoiced</source>
+      <translation>Facturado</translation>
+    </message>
+    <message id="ui.trips.chip.notCharged">
+      <source>Not charged</source>
+      <translation>Sin cobrar</translation>
+    </message>
+    <message id="ui.trips.chip.private">
+      <source>Private</source>
+      <translation>Privado</translation>
+    </message>
+    <message id="ui.trips.chip.toInvoice">
+      <source>To invoice</source>
+      <translation>Por facturar</translation>
+    </message>
+    <message id="ui.trips.clientHit">
+      <source>Client</source>
+      <translation>Cliente</translation>
+    </message>
+    <message id="ui.trips.date">
+      <source>Date</source>
+      <translation>Fecha</translation>
+    </message>
+    <message id="ui.trips.edit">
+      <source>Edit trip</source>
+      <translation>Editar viaje</translation>
+    </message>
+    <message id="ui.trips.emptyHint">
+      <source>Trips your phone records while a timer runs show up here. Press Ctrl+N or “New trip” to add one by hand.</source>
+      <translation>Los viajes que tu teléfono registra mientras corre un temporizador aparecen aquí. Pulsa Ctrl+N o «Nuevo viaje» para añadir uno a mano.</translation>
+    </message>
+    <message id="ui.trips.emptyTitle">
+      <source>No trips yet</source>
+      <translation>Aún no hay viajes</translation>
+    </message>
+    <message id="ui.trips.finish">
+      <source>Finish trip</source>
+      <translation>Terminar viaje</translation>
+    </message>
+    <message id="ui.trips.from">
+      <source>From</source>
+      <translation>Desde</translation>
+    </message>
+    <message id="ui.trips.km">
+      <source>Kilometres</source>
+      <translation>Kilómetros</translation>
+    </message>
+    <message id="ui.trips.kmColumn">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="ui.trips.map.route">
+      <source>Road route of the trip</source>
+      <translation>Ruta por carretera del viaje</translation>
+    </message>
+    <message id="ui.trips.map.straight">
+      <source>Straight line between the places</source>
+      <translation>Línea recta entre los lugares</translation>
+    </message>
+    <message id="ui.trips.mode">
+      <source>Travelled by</source>
+      <translation>Medio de transporte</translation>
+    </message>
+    <message id="ui.trips.mode.bike">
+      <source>Bike</source>
+      <translation>Bicicleta</translation>
+    </message>
+    <message id="ui.trips.mode.car">
+      <source>Car</source>
+      <translation>Coche</translation>
+    </message>
+    <message id="ui.trips.mode.other">
+      <source>Other</source>
+      <translation>Otro</translation>
+    </message>
+    <message id="ui.trips.mode.transit">
+      <source>Public transport</source>
+      <translation>Transporte público</translation>
+    </message>
+    <message id="ui.trips.mode.walk">
+      <source>On foot</source>
+      <translation>A pie</translation>
+    </message>
+    <message id="ui.trips.new">
+      <source>New trip</source>
+      <translation>Nuevo viaje</translation>
+    </message>
+    <message id="ui.trips.noMatch">
+      <source>No trip matches these filters</source>
+      <translation>Ningún viaje coincide con estos filtros</translation>
+    </message>
+    <message id="ui.trips.period.all">
+      <source>All time</source>
+      <translation>Todo el tiempo</translation>
+    </message>
+    <message id="ui.trips.period.lastMonth">
+      <source>Last month</source>
+      <translation>El mes pasado</translation>
+    </message>
+    <message id="ui.trips.period.month">
+      <source>This month</source>
+      <translation>Este mes</translation>
+    </message>
+    <message id="ui.trips.period.year">
+      <source>This year</source>
+      <translation>Este año</translation>
+    </message>
+    <message id="ui.trips.periodFilter">
+      <source>Period</source>
+      <translation>Periodo</translation>
+    </message>
+    <message id="ui.trips.placePlaceholder">
+      <source>Address, place or client</source>
+      <translation>Dirección, lugar o cliente</translation>
+    </message>
+    <message id="ui.trips.private">
+      <source>Private trip</source>
+      <translation>Viaje privado</translation>
+    </message>
+    <message id="ui.trips.problem.date">
+      <source>Enter the day as YYYY-MM-DD.</source>
+      <translation>Escribe el día como AAAA-MM-DD (YYYY-MM-DD).</translation>
+    </message>
+    <message id="ui.trips.problem.from">
+      <source>Where did the trip start?</source>
+      <translation>¿Dónde empezó el viaje?</translation>
+    </message>
+    <message id="ui.trips.problem.km">
+      <source>Enter the kilometres, for example 12.5.</source>
+      <translation>Escribe los kilómetros, por ejemplo 12,5.</translation>
+    </message>
+    <message id="ui.trips.problem.rate">
+      <source>Enter the rate per kilometre as a number, for example 0.23.</source>
+      <translation>Escribe la tarifa por kilómetro como número, por ejemplo 0,23.</translation>
+    </message>
+    <message id="ui.trips.problem.to">
+      <source>Where did the trip end?</source>
+      <translation>¿Dónde terminó el viaje?</translation>
+    </message>
+    <message id="ui.trips.progress">
+      <source>%1 km · %2 min</source>
+      <translation>%1 km · %2 min</translation>
+    </message>
+    <message id="ui.trips.projectFilter">
+      <source>Project</source>
+      <translation>Proyecto</translation>
+    </message>
+    <message id="ui.trips.projectHint">
+      <source>Trips of this project go on its invoices. Private trips and trips you do not charge never do.</source>
+      <translation>Los viajes de este proyecto van en sus facturas. Los privados y los que no cobras, nunca.</translation>
+    </message>
+    <message id="ui.trips.purpose">
+      <source>Purpose</source>
+      <translation>Motivo</translation>
+    </message>
+    <message id="ui.trips.purposePlaceholder">
+      <source>For example: meeting at the client, delivery</source>
+      <translation>Por ejemplo: reunión con el cliente, entrega</translation>
+    </message>
+    <message id="ui.trips.rate">
+      <source>Rate per kilometre</source>
+      <translation>Tarifa por kilómetro</translation>
+    </message>
+    <message id="ui.trips.rateHint">
+      <source>Used for projects that charge travel per kilometre and name no rate of their own.</source>
+      <translation>Para los proyectos que cobran los viajes por kilómetro sin tarifa propia.</translation>
+    </message>
+    <message id="ui.trips.resultsFrom">
+      <source>Results from OpenStreetMap, without KvK numbers.</source>
+      <translation>Resultados de OpenStreetMap, sin números KvK.</translation>
+    </message>
+    <message id="ui.trips.routing">
+      <source>Finding the road route…</source>
+      <translation>Buscando la ruta por carretera…</translation>
+    </message>
+    <message id="ui.trips.searching">
+      <source>Searching…</source>
+      <translation>Buscando…</translation>
+    </message>
+    <message id="ui.trips.settings">
+      <source>Travel settings</source>
+      <translation>Ajustes de viajes</translation>
+    </message>
+    <message id="ui.trips.start">
+      <source>Start a trip now</source>
+      <translation>Empezar un viaje ahora</translation>
+    </message>
+    <message id="ui.trips.summaryMany">
+      <source>%1 trips · %2 km</source>
+      <translation>%1 viajes · %2 km</translation>
+    </message>
+    <message id="ui.trips.summaryOne">
+      <source>1 trip · %1 km</source>
+      <translation>1 viaje · %1 km</translation>
+    </message>
+    <message id="ui.trips.title">
+      <source>Trips</source>
+      <translation>Viajes</translation>
+    </message>
+    <message id="ui.trips.to">
+      <source>To</source>
+      <translation>Hasta</translation>
+    </message>
+    <message id="ui.trips.toInvoice">
+      <source>%1 to invoice: %2</source>
+      <translation>%1 por facturar: %2</translation>
+    </message>
+    <message id="ui.trips.trip">
+      <source>Trip</source>
+      <translation>Viaje</translation>
+    </message>
+    <message id="ui.trips.usualMode">
+      <source>Usually travel by</source>
+      <translation>Suele viajar en</translation>
+    </message>
+    <message id="ui.trips.work">
+      <source>Project and task</source>
+      <translation>Proyecto y tarea</translation>
+    </message>
+    <message id="ui.trips.work.none">
+      <source>Choose a project or task</source>
+      <translation>Elige un proyecto o una tarea</translation>
+    </message>
+    <message id="ui.trips.work.wholeProject">
+      <source>%1 · Whole project, no task</source>
+      <translation>%1 · Todo el proyecto, sin tarea</translation>
+    </message>
   </context>
 </TS>

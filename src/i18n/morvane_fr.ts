@@ -4829,5 +4829,257 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Stop the timer</source>
       <translation>Arrêter le minuteur</translation>
     </message>
+    <message id="ui.trips.allProjects">
+      <source>All projects</source>
+      <translation>Tous les projets</translation>
+    </message>
+    <message id="ui.trips.billable.all">
+      <source>Charged and not</source>
+      <translation>Facturés ou non</translation>
+    </message>
+    <message id="ui.trips.billable.no">
+      <source>Private or not charged</source>
+      <translation>Privés ou non facturés</translation>
+    </message>
+    <message id="ui.trips.billable.yes">
+      <source>Charged to the client</source>
+      <translation>Facturés au client</translation>
+    </message>
+    <message id="ui.trips.billableFilter">
+      <source>Charging</source>
+      <translation>Facturation</translation>
+    </message>
+    <message id="ui.trips.charge">
+      <source>Charge to the client</source>
+      <translation>Facturer au client</translation>
+    </message>
+    <message id="ui.trips.chip.invoiced">
+      <source>Invoiced</source>
+      <translation>Facturé</translation>
+    </message>
+    <message id="ui.trips.chip.notCharged">
+      <source>Not charged</source>
+      <translation>Non facturé</translation>
+    </message>
+    <message id="ui.trips.chip.private">
+      <source>Private</source>
+      <translation>Privé</translation>
+    </message>
+    <message id="ui.trips.chip.toInvoice">
+      <source>To invoice</source>
+      <translation>À facturer</translation>
+    </message>
+    <message id="ui.trips.clientHit">
+      <source>Client</source>
+      <translation>Client</translation>
+    </message>
+    <message id="ui.trips.date">
+      <source>Date</source>
+      <translation>Date</translation>
+    </message>
+    <message id="ui.trips.edit">
+      <source>Edit trip</source>
+      <translation>Modifier le trajet</translation>
+    </message>
+    <message id="ui.trips.emptyHint">
+      <source>Trips your phone records while a timer runs show up here. Press Ctrl+N or “New trip” to add one by hand.</source>
+      <translation>Les trajets que votre téléphone enregistre pendant un minuteur apparaissent ici. Appuyez sur Ctrl+N ou « Nouveau trajet » pour en ajouter un à la main.</translation>
+    </message>
+    <message id="ui.trips.emptyTitle">
+      <source>No trips yet</source>
+      <translation>Aucun trajet pour l'instant</translation>
+    </message>
+    <message id="ui.trips.finish">
+      <source>Finish trip</source>
+      <translation>Terminer le trajet</translation>
+    </message>
+    <message id="ui.trips.from">
+      <source>From</source>
+      <translation>De</translation>
+    </message>
+    <message id="ui.trips.km">
+      <source>Kilometres</source>
+      <translation>Kilomètres</translation>
+    </message>
+    <message id="ui.trips.kmColumn">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="ui.trips.map.route">
+      <source>Road route of the trip</source>
+      <translation>Itinéraire routier du trajet</translation>
+    </message>
+    <message id="ui.trips.map.straight">
+      <source>Straight line between the places</source>
+      <translation>Ligne droite entre les lieux</translation>
+    </message>
+    <message id="ui.trips.mode">
+      <source>Travelled by</source>
+      <translation>Moyen de transport</translation>
+    </message>
+    <message id="ui.trips.mode.bike">
+      <source>Bike</source>
+      <translation>Vélo</translation>
+    </message>
+    <message id="ui.trips.mode.car">
+      <source>Car</source>
+      <translation>Voiture</translation>
+    </message>
+    <message id="ui.trips.mode.other">
+      <source>Other</source>
+      <translation>Autre</translation>
+    </message>
+    <message id="ui.trips.mode.transit">
+      <source>Public transport</source>
+      <translation>Transports en commun</translation>
+    </message>
+    <message id="ui.trips.mode.walk">
+      <source>On foot</source>
+      <translation>À pied</translation>
+    </message>
+    <message id="ui.trips.new">
+      <source>New trip</source>
+      <translation>Nouveau trajet</translation>
+    </message>
+    <message id="ui.trips.noMatch">
+      <source>No trip matches these filters</source>
+      <translation>Aucun trajet ne correspond à ces filtres</translation>
+    </message>
+    <message id="ui.trips.period.all">
+      <source>All time</source>
+      <translation>Toute la période</translation>
+    </message>
+    <message id="ui.trips.period.lastMonth">
+      <source>Last month</source>
+      <translation>Le mois dernier</translation>
+    </message>
+    <message id="ui.trips.period.month">
+      <source>This month</source>
+      <translation>Ce mois-ci</translation>
+    </message>
+    <message id="ui.trips.period.year">
+      <source>This year</source>
+      <translation>Cette année</translation>
+    </message>
+    <message id="ui.trips.periodFilter">
+      <source>Period</source>
+      <translation>Période</translation>
+    </message>
+    <message id="ui.trips.placePlaceholder">
+      <source>Address, place or client</source>
+      <translation>Adresse, lieu ou client</translation>
+    </message>
+    <message id="ui.trips.private">
+      <source>Private trip</source>
+      <translation>Trajet privé</translation>
+    </message>
+    <message id="ui.trips.problem.date">
+      <source>Enter the day as YYYY-MM-DD.</source>
+      <translation>Saisissez le jour au format AAAA-MM-JJ (YYYY-MM-DD).</translation>
+    </message>
+    <message id="ui.trips.problem.from">
+      <source>Where did the trip start?</source>
+      <translation>D'où partait le trajet ?</translation>
+    </message>
+    <message id="ui.trips.problem.km">
+      <source>Enter the kilometres, for example 12.5.</source>
+      <translation>Saisissez les kilomètres, par exemple 12,5.</translation>
+    </message>
+    <message id="ui.trips.problem.rate">
+      <source>Enter the rate per kilometre as a number, for example 0.23.</source>
+      <translation>Saisissez le tarif au kilomètre en chiffres, par exemple 0,23.</translation>
+    </message>
+    <message id="ui.trips.problem.to">
+      <source>Where did the trip end?</source>
+      <translation>Où finissait le trajet ?</translation>
+    </message>
+    <message id="ui.trips.progress">
+      <source>%1 km · %2 min</source>
+      <translation>%1 km · %2 min</translation>
+    </message>
+    <message id="ui.trips.projectFilter">
+      <source>Project</source>
+      <translation>Projet</translation>
+    </message>
+    <message id="ui.trips.projectHint">
+      <source>Trips of this project go on its invoices. Private trips and trips you do not charge never do.</source>
+      <translation>Les trajets de ce projet figurent sur ses factures. Jamais les trajets privés ni ceux que vous ne facturez pas.</translation>
+    </message>
+    <message id="ui.trips.purpose">
+      <source>Purpose</source>
+      <translation>Motif</translation>
+    </message>
+    <message id="ui.trips.purposePlaceholder">
+      <source>For example: meeting at the client, delivery</source>
+      <translation>Par exemple : réunion chez le client, livraison</translation>
+    </message>
+    <message id="ui.trips.rate">
+      <source>Rate per kilometre</source>
+      <translation>Tarif au kilomètre</translation>
+    </message>
+    <message id="ui.trips.rateHint">
+      <source>Used for projects that charge travel per kilometre and name no rate of their own.</source>
+      <translation>Pour les projets qui facturent les trajets au kilomètre sans tarif propre.</translation>
+    </message>
+    <message id="ui.trips.resultsFrom">
+      <source>Results from OpenStreetMap, without KvK numbers.</source>
+      <translation>Résultats d'OpenStreetMap, sans numéros KvK.</translation>
+    </message>
+    <message id="ui.trips.routing">
+      <source>Finding the road route…</source>
+      <translation>Recherche de l'itinéraire routier…</translation>
+    </message>
+    <message id="ui.trips.searching">
+      <source>Searching…</source>
+      <translation>Recherche…</translation>
+    </message>
+    <message id="ui.trips.settings">
+      <source>Travel settings</source>
+      <translation>Réglages des déplacements</translation>
+    </message>
+    <message id="ui.trips.start">
+      <source>Start a trip now</source>
+      <translation>Commencer un trajet</translation>
+    </message>
+    <message id="ui.trips.summaryMany">
+      <source>%1 trips · %2 km</source>
+      <translation>%1 trajets · %2 km</translation>
+    </message>
+    <message id="ui.trips.summaryOne">
+      <source>1 trip · %1 km</source>
+      <translation>1 trajet · %1 km</translation>
+    </message>
+    <message id="ui.trips.title">
+      <source>Trips</source>
+      <translation>Trajets</translation>
+    </message>
+    <message id="ui.trips.to">
+      <source>To</source>
+      <translation>À</translation>
+    </message>
+    <message id="ui.trips.toInvoice">
+      <source>%1 to invoice: %2</source>
+      <translation>%1 à facturer : %2</translation>
+    </message>
+    <message id="ui.trips.trip">
+      <source>Trip</source>
+      <translation>Trajet</translation>
+    </message>
+    <message id="ui.trips.usualMode">
+      <source>Usually travel by</source>
+      <translation>Se déplace d'habitude en</translation>
+    </message>
+    <message id="ui.trips.work">
+      <source>Project and task</source>
+      <translation>Projet et tâche</translation>
+    </message>
+    <message id="ui.trips.work.none">
+      <source>Choose a project or task</source>
+      <translation>Choisir un projet ou une tâche</translation>
+    </message>
+    <message id="ui.trips.work.wholeProject">
+      <source>%1 · Whole project, no task</source>
+      <translation>%1 · Tout le projet, sans tâche</translation>
+    </message>
   </context>
 </TS>

@@ -4829,5 +4829,257 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Stop the timer</source>
       <translation>Ferma il timer</translation>
     </message>
+    <message id="ui.trips.allProjects">
+      <source>All projects</source>
+      <translation>Tutti i progetti</translation>
+    </message>
+    <message id="ui.trips.billable.all">
+      <source>Charged and not</source>
+      <translation>Addebitati e no</translation>
+    </message>
+    <message id="ui.trips.billable.no">
+      <source>Private or not charged</source>
+      <translation>Privati o non addebitati</translation>
+    </message>
+    <message id="ui.trips.billable.yes">
+      <source>Charged to the client</source>
+      <translation>Addebitati al cliente</translation>
+    </message>
+    <message id="ui.trips.billableFilter">
+      <source>Charging</source>
+      <translation>Addebito</translation>
+    </message>
+    <message id="ui.trips.charge">
+      <source>Charge to the client</source>
+      <translation>Addebita al cliente</translation>
+    </message>
+    <message id="ui.trips.chip.invoiced">
+      <source>Invoiced</source>
+      <translation>Fatturato</translation>
+    </message>
+    <message id="ui.trips.chip.notCharged">
+      <source>Not charged</source>
+      <translation>Non addebitato</translation>
+    </message>
+    <message id="ui.trips.chip.private">
+      <source>Private</source>
+      <translation>Privato</translation>
+    </message>
+    <message id="ui.trips.chip.toInvoice">
+      <source>To invoice</source>
+      <translation>Da fatturare</translation>
+    </message>
+    <message id="ui.trips.clientHit">
+      <source>Client</source>
+      <translation>Cliente</translation>
+    </message>
+    <message id="ui.trips.date">
+      <source>Date</source>
+      <translation>Data</translation>
+    </message>
+    <message id="ui.trips.edit">
+      <source>Edit trip</source>
+      <translation>Modifica viaggio</translation>
+    </message>
+    <message id="ui.trips.emptyHint">
+      <source>Trips your phone records while a timer runs show up here. Press Ctrl+N or “New trip” to add one by hand.</source>
+      <translation>I viaggi che il telefono registra mentre un timer è attivo compaiono qui. Premi Ctrl+N o «Nuovo viaggio» per aggiungerne uno a mano.</translation>
+    </message>
+    <message id="ui.trips.emptyTitle">
+      <source>No trips yet</source>
+      <translation>Ancora nessun viaggio</translation>
+    </message>
+    <message id="ui.trips.finish">
+      <source>Finish trip</source>
+      <translation>Termina viaggio</translation>
+    </message>
+    <message id="ui.trips.from">
+      <source>From</source>
+      <translation>Da</translation>
+    </message>
+    <message id="ui.trips.km">
+      <source>Kilometres</source>
+      <translation>Chilometri</translation>
+    </message>
+    <message id="ui.trips.kmColumn">
+      <source>km</source>
+      <translation>km</translation>
+    </message>
+    <message id="ui.trips.map.route">
+      <source>Road route of the trip</source>
+      <translation>Percorso stradale del viaggio</translation>
+    </message>
+    <message id="ui.trips.map.straight">
+      <source>Straight line between the places</source>
+      <translation>Linea retta tra i luoghi</translation>
+    </message>
+    <message id="ui.trips.mode">
+      <source>Travelled by</source>
+      <translation>Mezzo</translation>
+    </message>
+    <message id="ui.trips.mode.bike">
+      <source>Bike</source>
+      <translation>Bici</translation>
+    </message>
+    <message id="ui.trips.mode.car">
+      <source>Car</source>
+      <translation>Auto</translation>
+    </message>
+    <message id="ui.trips.mode.other">
+      <source>Other</source>
+      <translation>Altro</translation>
+    </message>
+    <message id="ui.trips.mode.transit">
+      <source>Public transport</source>
+      <translation>Trasporto pubblico</translation>
+    </message>
+    <message id="ui.trips.mode.walk">
+      <source>On foot</source>
+      <translation>A piedi</translation>
+    </message>
+    <message id="ui.trips.new">
+      <source>New trip</source>
+      <translation>Nuovo viaggio</translation>
+    </message>
+    <message id="ui.trips.noMatch">
+      <source>No trip matches these filters</source>
+      <translation>Nessun viaggio corrisponde a questi filtri</translation>
+    </message>
+    <message id="ui.trips.period.all">
+      <source>All time</source>
+      <translation>Sempre</translation>
+    </message>
+    <message id="ui.trips.period.lastMonth">
+      <source>Last month</source>
+      <translation>Il mese scorso</translation>
+    </message>
+    <message id="ui.trips.period.month">
+      <source>This month</source>
+      <translation>Questo mese</translation>
+    </message>
+    <message id="ui.trips.period.year">
+      <source>This year</source>
+      <translation>Quest'anno</translation>
+    </message>
+    <message id="ui.trips.periodFilter">
+      <source>Period</source>
+      <translation>Periodo</translation>
+    </message>
+    <message id="ui.trips.placePlaceholder">
+      <source>Address, place or client</source>
+      <translation>Indirizzo, luogo o cliente</translation>
+    </message>
+    <message id="ui.trips.private">
+      <source>Private trip</source>
+      <translation>Viaggio privato</translation>
+    </message>
+    <message id="ui.trips.problem.date">
+      <source>Enter the day as YYYY-MM-DD.</source>
+      <translation>Inserisci il giorno come AAAA-MM-GG (YYYY-MM-DD).</translation>
+    </message>
+    <message id="ui.trips.problem.from">
+      <source>Where did the trip start?</source>
+      <translation>Da dove è partito il viaggio?</translation>
+    </message>
+    <message id="ui.trips.problem.km">
+      <source>Enter the kilometres, for example 12.5.</source>
+      <translation>Inserisci i chilometri, per esempio 12,5.</translation>
+    </message>
+    <message id="ui.trips.problem.rate">
+      <source>Enter the rate per kilometre as a number, for example 0.23.</source>
+      <translation>Inserisci la tariffa al chilometro come numero, per esempio 0,23.</translation>
+    </message>
+    <message id="ui.trips.problem.to">
+      <source>Where did the trip end?</source>
+      <translation>Dove è finito il viaggio?</translation>
+    </message>
+    <message id="ui.trips.progress">
+      <source>%1 km · %2 min</source>
+      <translation>%1 km · %2 min</translation>
+    </message>
+    <message id="ui.trips.projectFilter">
+      <source>Project</source>
+      <translation>Progetto</translation>
+    </message>
+    <message id="ui.trips.projectHint">
+      <source>Trips of this project go on its invoices. Private trips and trips you do not charge never do.</source>
+      <translation>I viaggi di questo progetto vanno nelle sue fatture. Quelli privati e non addebitati mai.</translation>
+    </message>
+    <message id="ui.trips.purpose">
+      <source>Purpose</source>
+      <translation>Scopo</translation>
+    </message>
+    <message id="ui.trips.purposePlaceholder">
+      <source>For example: meeting at the client, delivery</source>
+      <translation>Per esempio: riunione dal cliente, consegna</translation>
+    </message>
+    <message id="ui.trips.rate">
+      <source>Rate per kilometre</source>
+      <translation>Tariffa al chilometro</translation>
+    </message>
+    <message id="ui.trips.rateHint">
+      <source>Used for projects that charge travel per kilometre and name no rate of their own.</source>
+      <translation>Per i progetti che addebitano i viaggi al chilometro senza una tariffa propria.</translation>
+    </message>
+    <message id="ui.trips.resultsFrom">
+      <source>Results from OpenStreetMap, without KvK numbers.</source>
+      <translation>Risultati da OpenStreetMap, senza numeri KvK.</translation>
+    </message>
+    <message id="ui.trips.routing">
+      <source>Finding the road route…</source>
+      <translation>Ricerca del percorso stradale…</translation>
+    </message>
+    <message id="ui.trips.searching">
+      <source>Searching…</source>
+      <translation>Ricerca…</translation>
+    </message>
+    <message id="ui.trips.settings">
+      <source>Travel settings</source>
+      <translation>Impostazioni viaggi</translation>
+    </message>
+    <message id="ui.trips.start">
+      <source>Start a trip now</source>
+      <translation>Inizia un viaggio ora</translation>
+    </message>
+    <message id="ui.trips.summaryMany">
+      <source>%1 trips · %2 km</source>
+      <translation>%1 viaggi · %2 km</translation>
+    </message>
+    <message id="ui.trips.summaryOne">
+      <source>1 trip · %1 km</source>
+      <translation>1 viaggio · %1 km</translation>
+    </message>
+    <message id="ui.trips.title">
+      <source>Trips</source>
+      <translation>Viaggi</translation>
+    </message>
+    <message id="ui.trips.to">
+      <source>To</source>
+      <translation>A</translation>
+    </message>
+    <message id="ui.trips.toInvoice">
+      <source>%1 to invoice: %2</source>
+      <translation>%1 da fatturare: %2</translation>
+    </message>
+    <message id="ui.trips.trip">
+      <source>Trip</source>
+      <translation>Viaggio</translation>
+    </message>
+    <message id="ui.trips.usualMode">
+      <source>Usually travel by</source>
+      <translation>Di solito viaggia in</translation>
+    </message>
+    <message id="ui.trips.work">
+      <source>Project and task</source>
+      <translation>Progetto e attività</translation>
+    </message>
+    <message id="ui.trips.work.none">
+      <source>Choose a project or task</source>
+      <translation>Scegli un progetto o un'attività</translation>
+    </message>
+    <message id="ui.trips.work.wholeProject">
+      <source>%1 · Whole project, no task</source>
+      <translation>%1 · Intero progetto, nessuna attività</translation>
+    </message>
   </context>
 </TS>

@@ -4829,5 +4829,257 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Stop the timer</source>
       <translation>หยุดตัวจับเวลา</translation>
     </message>
+    <message id="ui.trips.allProjects">
+      <source>All projects</source>
+      <translation>ทุกโปรเจกต์</translation>
+    </message>
+    <message id="ui.trips.billable.all">
+      <source>Charged and not</source>
+      <translation>เรียกเก็บและไม่เรียกเก็บ</translation>
+    </message>
+    <message id="ui.trips.billable.no">
+      <source>Private or not charged</source>
+      <translation>ส่วนตัวหรือไม่เรียกเก็บ</translation>
+    </message>
+    <message id="ui.trips.billable.yes">
+      <source>Charged to the client</source>
+      <translation>เรียกเก็บจากลูกค้า</translation>
+    </message>
+    <message id="ui.trips.billableFilter">
+      <source>Charging</source>
+      <translation>การเรียกเก็บ</translation>
+    </message>
+    <message id="ui.trips.charge">
+      <source>Charge to the client</source>
+      <translation>เรียกเก็บจากลูกค้า</translation>
+    </message>
+    <message id="ui.trips.chip.invoiced">
+      <source>Invoiced</source>
+      <translation>ออกใบแจ้งหนี้แล้ว</translation>
+    </message>
+    <message id="ui.trips.chip.notCharged">
+      <source>Not charged</source>
+      <translation>ไม่เรียกเก็บ</translation>
+    </message>
+    <message id="ui.trips.chip.private">
+      <source>Private</source>
+      <translation>ส่วนตัว</translation>
+    </message>
+    <message id="ui.trips.chip.toInvoice">
+      <source>To invoice</source>
+      <translation>รอออกใบแจ้งหนี้</translation>
+    </message>
+    <message id="ui.trips.clientHit">
+      <source>Client</source>
+      <translation>ลูกค้า</translation>
+    </message>
+    <message id="ui.trips.date">
+      <source>Date</source>
+      <translation>วันที่</translation>
+    </message>
+    <message id="ui.trips.edit">
+      <source>Edit trip</source>
+      <translation>แก้ไขการเดินทาง</translation>
+    </message>
+    <message id="ui.trips.emptyHint">
+      <source>Trips your phone records while a timer runs show up here. Press Ctrl+N or “New trip” to add one by hand.</source>
+      <translation>การเดินทางที่โทรศัพท์บันทึกขณะตัวจับเวลาทำงานจะแสดงที่นี่ กด Ctrl+N หรือ “การเดินทางใหม่” เพื่อเพิ่มเอง</translation>
+    </message>
+    <message id="ui.trips.emptyTitle">
+      <source>No trips yet</source>
+      <translation>ยังไม่มีการเดินทาง</translation>
+    </message>
+    <message id="ui.trips.finish">
+      <source>Finish trip</source>
+      <translation>สิ้นสุดการเดินทาง</translation>
+    </message>
+    <message id="ui.trips.from">
+      <source>From</source>
+      <translation>จาก</translation>
+    </message>
+    <message id="ui.trips.km">
+      <source>Kilometres</source>
+      <translation>กิโลเมตร</translation>
+    </message>
+    <message id="ui.trips.kmColumn">
+      <source>km</source>
+      <translation>กม.</translation>
+    </message>
+    <message id="ui.trips.map.route">
+      <source>Road route of the trip</source>
+      <translation>เส้นทางถนนของการเดินทาง</translation>
+    </message>
+    <message id="ui.trips.map.straight">
+      <source>Straight line between the places</source>
+      <translation>เส้นตรงระหว่างสองจุด</translation>
+    </message>
+    <message id="ui.trips.mode">
+      <source>Travelled by</source>
+      <translation>เดินทางโดย</translation>
+    </message>
+    <message id="ui.trips.mode.bike">
+      <source>Bike</source>
+      <translation>จักรยาน</translation>
+    </message>
+    <message id="ui.trips.mode.car">
+      <source>Car</source>
+      <translation>รถยนต์</translation>
+    </message>
+    <message id="ui.trips.mode.other">
+      <source>Other</source>
+      <translation>อื่น ๆ</translation>
+    </message>
+    <message id="ui.trips.mode.transit">
+      <source>Public transport</source>
+      <translation>ขนส่งสาธารณะ</translation>
+    </message>
+    <message id="ui.trips.mode.walk">
+      <source>On foot</source>
+      <translation>เดิน</translation>
+    </message>
+    <message id="ui.trips.new">
+      <source>New trip</source>
+      <translation>การเดินทางใหม่</translation>
+    </message>
+    <message id="ui.trips.noMatch">
+      <source>No trip matches these filters</source>
+      <translation>ไม่มีการเดินทางที่ตรงกับตัวกรองนี้</translation>
+    </message>
+    <message id="ui.trips.period.all">
+      <source>All time</source>
+      <translation>ทั้งหมด</translation>
+    </message>
+    <message id="ui.trips.period.lastMonth">
+      <source>Last month</source>
+      <translation>เดือนที่แล้ว</translation>
+    </message>
+    <message id="ui.trips.period.month">
+      <source>This month</source>
+      <translation>เดือนนี้</translation>
+    </message>
+    <message id="ui.trips.period.year">
+      <source>This year</source>
+      <translation>ปีนี้</translation>
+    </message>
+    <message id="ui.trips.periodFilter">
+      <source>Period</source>
+      <translation>ช่วงเวลา</translation>
+    </message>
+    <message id="ui.trips.placePlaceholder">
+      <source>Address, place or client</source>
+      <translation>ที่อยู่ สถานที่ หรือลูกค้า</translation>
+    </message>
+    <message id="ui.trips.private">
+      <source>Private trip</source>
+      <translation>การเดินทางส่วนตัว</translation>
+    </message>
+    <message id="ui.trips.problem.date">
+      <source>Enter the day as YYYY-MM-DD.</source>
+      <translation>ใส่วันที่ในรูปแบบ YYYY-MM-DD</translation>
+    </message>
+    <message id="ui.trips.problem.from">
+      <source>Where did the trip start?</source>
+      <translation>การเดินทางเริ่มที่ไหน</translation>
+    </message>
+    <message id="ui.trips.problem.km">
+      <source>Enter the kilometres, for example 12.5.</source>
+      <translation>ใส่ระยะทางเป็นกิโลเมตร เช่น 12.5</translation>
+    </message>
+    <message id="ui.trips.problem.rate">
+      <source>Enter the rate per kilometre as a number, for example 0.23.</source>
+      <translation>ใส่อัตราต่อกิโลเมตรเป็นตัวเลข เช่น 0.23</translation>
+    </message>
+    <message id="ui.trips.problem.to">
+      <source>Where did the trip end?</source>
+      <translation>การเดินทางสิ้นสุดที่ไหน</translation>
+    </message>
+    <message id="ui.trips.progress">
+      <source>%1 km · %2 min</source>
+      <translation>%1 กม. · %2 นาที</translation>
+    </message>
+    <message id="ui.trips.projectFilter">
+      <source>Project</source>
+      <translation>โปรเจกต์</translation>
+    </message>
+    <message id="ui.trips.projectHint">
+      <source>Trips of this project go on its invoices. Private trips and trips you do not charge never do.</source>
+      <translation>การเดินทางของโปรเจกต์นี้จะอยู่ในใบแจ้งหนี้ ยกเว้นการเดินทางส่วนตัวและที่ไม่เรียกเก็บ</translation>
+    </message>
+    <message id="ui.trips.purpose">
+      <source>Purpose</source>
+      <translation>วัตถุประสงค์</translation>
+    </message>
+    <message id="ui.trips.purposePlaceholder">
+      <source>For example: meeting at the client, delivery</source>
+      <translation>เช่น ประชุมที่ลูกค้า ส่งของ</translation>
+    </message>
+    <message id="ui.trips.rate">
+      <source>Rate per kilometre</source>
+      <translation>อัตราต่อกิโลเมตร</translation>
+    </message>
+    <message id="ui.trips.rateHint">
+      <source>Used for projects that charge travel per kilometre and name no rate of their own.</source>
+      <translation>ใช้กับโปรเจกต์ที่เรียกเก็บค่าเดินทางต่อกิโลเมตรและไม่มีอัตราของตนเอง</translation>
+    </message>
+    <message id="ui.trips.resultsFrom">
+      <source>Results from OpenStreetMap, without KvK numbers.</source>
+      <translation>ผลลัพธ์จาก OpenStreetMap ไม่มีหมายเลข KvK</translation>
+    </message>
+    <message id="ui.trips.routing">
+      <source>Finding the road route…</source>
+      <translation>กำลังหาเส้นทางถนน…</translation>
+    </message>
+    <message id="ui.trips.searching">
+      <source>Searching…</source>
+      <translation>กำลังค้นหา…</translation>
+    </message>
+    <message id="ui.trips.settings">
+      <source>Travel settings</source>
+      <translation>การตั้งค่าการเดินทาง</translation>
+    </message>
+    <message id="ui.trips.start">
+      <source>Start a trip now</source>
+      <translation>เริ่มเดินทางตอนนี้</translation>
+    </message>
+    <message id="ui.trips.summaryMany">
+      <source>%1 trips · %2 km</source>
+      <translation>%1 การเดินทาง · %2 กม.</translation>
+    </message>
+    <message id="ui.trips.summaryOne">
+      <source>1 trip · %1 km</source>
+      <translation>1 การเดินทาง · %1 กม.</translation>
+    </message>
+    <message id="ui.trips.title">
+      <source>Trips</source>
+      <translation>การเดินทาง</translation>
+    </message>
+    <message id="ui.trips.to">
+      <source>To</source>
+      <translation>ถึง</translation>
+    </message>
+    <message id="ui.trips.toInvoice">
+      <source>%1 to invoice: %2</source>
+      <translation>รอออกใบแจ้งหนี้ %1: %2</translation>
+    </message>
+    <message id="ui.trips.trip">
+      <source>Trip</source>
+      <translation>การเดินทาง</translation>
+    </message>
+    <message id="ui.trips.usualMode">
+      <source>Usually travel by</source>
+      <translation>ปกติเดินทางด้วย</translation>
+    </message>
+    <message id="ui.trips.work">
+      <source>Project and task</source>
+      <translation>โปรเจกต์และงาน</translation>
+    </message>
+    <message id="ui.trips.work.none">
+      <source>Choose a project or task</source>
+      <translation>เลือกโปรเจกต์หรืองาน</translation>
+    </message>
+    <message id="ui.trips.work.wholeProject">
+      <source>%1 · Whole project, no task</source>
+      <translation>%1 · ทั้งโปรเจกต์ ไม่ระบุงาน</translation>
+    </message>
   </context>
 </TS>

@@ -102,6 +102,7 @@ Workspace::Workspace(QObject *parent)
     , m_invoiceStyle(new InvoiceStyleView(this))
     , m_printer(new InvoicePrinter(this))
     , m_composer(new ComposerView(*m_printer, this))
+    , m_trips(new TripsView(this))
     , m_projectPrice(new BillingEditor(this))
 {
     m_rebuild.setSingleShot(true);
@@ -131,6 +132,7 @@ void Workspace::setStore(AppStore *store)
     m_invoiceStyle->setStore(store);
     m_invoices->setPrinter(m_printer);
     m_composer->setStore(store);
+    m_trips->setStore(store);
     if (store) {
         for (auto signal : {&AppStore::projectsChanged, &AppStore::tasksChanged, &AppStore::teamsChanged,
                             &AppStore::savingTaskIdsChanged, &AppStore::selectedTaskIdsChanged,
@@ -194,6 +196,7 @@ void Workspace::retranslate()
     m_invoices->retranslate();
     m_invoiceStyle->retranslate();
     m_composer->retranslate();
+    m_trips->retranslate();
     rebuildSidebar();
     rebuildTasks();
     emit m_inspector->changed();

@@ -8,6 +8,7 @@
 #include "ui/invoiceprinter.h"
 #include "ui/rowsmodel.h"
 #include "ui/taskinspector.h"
+#include "ui/tripsview.h"
 
 #include <QObject>
 #include <QPointer>
@@ -33,6 +34,7 @@ class Workspace : public QObject
     Q_PROPERTY(InvoiceList *invoices READ invoices CONSTANT)
     Q_PROPERTY(InvoiceStyleView *invoiceStyle READ invoiceStyle CONSTANT)
     Q_PROPERTY(ComposerView *composer READ composer CONSTANT)
+    Q_PROPERTY(TripsView *trips READ trips CONSTANT)
     Q_PROPERTY(BillingEditor *projectPriceEditor READ projectPriceEditor CONSTANT)
     Q_PROPERTY(bool hasStore READ hasStore NOTIFY storeChanged)
     Q_PROPERTY(QString selectedProjectId READ selectedProjectId WRITE selectProject NOTIFY selectionChanged)
@@ -76,6 +78,7 @@ public:
     [[nodiscard]] InvoiceList *invoices() const { return m_invoices; }
     [[nodiscard]] InvoiceStyleView *invoiceStyle() const { return m_invoiceStyle; }
     [[nodiscard]] ComposerView *composer() const { return m_composer; }
+    [[nodiscard]] TripsView *trips() const { return m_trips; }
     [[nodiscard]] BillingEditor *projectPriceEditor() const { return m_projectPrice; }
 
     [[nodiscard]] QString selectedProjectId() const;
@@ -191,6 +194,7 @@ private:
     InvoiceStyleView *m_invoiceStyle;
     InvoicePrinter *m_printer;
     ComposerView *m_composer;
+    TripsView *m_trips;
     BillingEditor *m_projectPrice;
     QString m_message;
     QString m_lastRunningTaskId;

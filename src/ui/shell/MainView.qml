@@ -23,6 +23,7 @@ Rectangle {
         { id: "calendar", title: qsTrId("ui.calendar.link"), source: "qrc:/Morvane/Ui/calendar/CalendarView.qml" },
         { id: "invoices", title: qsTrId("ui.invoices.title"), source: "qrc:/Morvane/Ui/invoices/InvoicesView.qml" },
         { id: "earnings", title: qsTrId("ui.earnings.title"), source: "qrc:/Morvane/Ui/earnings/EarningsView.qml" },
+        { id: "trips", title: qsTrId("ui.trips.title"), source: "qrc:/Morvane/Ui/trips/TripsView.qml" },
         { id: "clients", title: qsTrId("ui.clients.title"), source: "qrc:/Morvane/Ui/clients/ClientsView.qml" },
         { id: "style", title: qsTrId("ui.style.title"), source: "qrc:/Morvane/Ui/style/InvoiceStyleView.qml" }
     ]
