@@ -118,6 +118,22 @@ QVariantMap ComposerView::words()
             {u"rebillHelp"_s, words.rebillHelp}, {u"vatHint"_s, words.vatHint}, {u"vatOverride"_s, words.vatOverride}};
 }
 
+QVariantList ComposerView::travel() const
+{
+    QVariantList list;
+    if (!m_composer || !m_store) {
+        return list;
+    }
+    for (const QString &projectId : m_composer->travelProjectIds()) {
+        const std::optional<Project> project = m_store->project(projectId);
+        list << QVariantMap{{u"projectId"_s, projectId},
+                            {u"text"_s, QString(InvoiceComposer::chargeTravelText() + u": "_s +
+                                                    (project ? project->name : QString()))},
+                            {u"charge"_s, m_composer->chargesTravel(projectId)}};
+    }
+    return list;
+}
+
 void ComposerView::setNotes(const QString &notes)
 {
     if (notes != m_notes) {
@@ -187,6 +203,13 @@ void ComposerView::open(const QStringList &projectIds)
         co_await store->loadUnbilledEntries();
         if (store) {
             co_await store->reloadBilledEntrySet();
+        }
+        // Trips become travel lines of the projects that charge them.
+        if (store) {
+            co_await store->loadTrips();
+        }
+        if (store) {
+            co_await store->reloadBilledTrips();
         }
         if (!self || !self->m_composer) {
             co_return;

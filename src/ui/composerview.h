@@ -34,6 +34,7 @@ class ComposerView : public QObject
     Q_PROPERTY(RowsModel *tasks READ tasks CONSTANT)
     Q_PROPERTY(RowsModel *lines READ lines CONSTANT)
     Q_PROPERTY(QVariantList followUps READ followUps NOTIFY figuresChanged)
+    Q_PROPERTY(QVariantList travel READ travel NOTIFY figuresChanged)
     Q_PROPERTY(QVariantList vatRows READ vatRows NOTIFY figuresChanged)
     Q_PROPERTY(QString subtotalText READ subtotalText NOTIFY figuresChanged)
     Q_PROPERTY(QString totalText READ totalText NOTIFY figuresChanged)
@@ -68,6 +69,8 @@ public:
     [[nodiscard]] RowsModel *tasks() const { return m_tasks; }
     [[nodiscard]] RowsModel *lines() const { return m_lines; }
     [[nodiscard]] QVariantList followUps() const { return m_followUps; }
+    // Projects whose unbilled trips in the period make a travel line: { projectId, text, charge }.
+    [[nodiscard]] QVariantList travel() const;
     [[nodiscard]] QVariantList vatRows() const { return m_vatRows; }
     [[nodiscard]] QString subtotalText() const;
     [[nodiscard]] QString totalText() const;

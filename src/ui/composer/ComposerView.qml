@@ -263,7 +263,17 @@ Rectangle {
                             onToggled: root.composer.setRebill(modelData.key, checked)
                         }
                     }
-                    // Travel lines of the projects that charge trips join the work here.
+                    Repeater {
+                        model: root.view.travel
+                        Check {
+                            required property var modelData
+                            objectName: "chargeTravel-" + modelData.projectId
+                            Layout.fillWidth: true
+                            text: modelData.text
+                            checked: modelData.charge
+                            onToggled: root.composer.setChargeTravel(modelData.projectId, checked)
+                        }
+                    }
 
                     SectionTitle {
                         //% "Lines"
