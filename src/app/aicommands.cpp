@@ -11,8 +11,6 @@
 #include <QSettings>
 #include <QTextStream>
 
-#include <termios.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -84,26 +82,6 @@ int show(const ClaudeBridge &bridge, SecretStore &secrets, bool json, QTextStrea
     return 0;
 }
 
-// One line from standard input, without echo when a person types it.
-QString readSecretLine(const QString &prompt, QTextStream &err)
-{
-    const bool terminal = ::isatty(STDIN_FILENO);
-    termios saved{};
-    if (terminal) {
-        err << prompt << Qt::flush;
-        ::tcgetattr(STDIN_FILENO, &saved);
-        termios quiet = saved;
-        quiet.c_lflag &= ~tcflag_t(ECHO);
-        ::tcsetattr(STDIN_FILENO, TCSANOW, &quiet);
-    }
-    QTextStream in(stdin);
-    const QString line = in.readLine().trimmed();
-    if (terminal) {
-        ::tcsetattr(STDIN_FILENO, TCSANOW, &saved);
-        err << Qt::endl;
-    }
-    return line;
-}
 
 } // namespace
 
@@ -156,7 +134,8 @@ int runAICommand(const QStringList &arguments, QTextStream &out, QTextStream &er
             return 0;
         }
         //% "Paste your %1 API key and press Enter: "
-        const QString key = readSecretLine(qtTrId("cli.ai.keyPrompt").arg(name), err);
+        QTextStream in(stdin);
+        const QString key = Cli::readSecret(in, qtTrId("cli.ai.keyPrompt").arg(name), err).trimmed();
         if (key.isEmpty() || key.contains(u' ')) {
             //% "No key was given; nothing changed."
             err << qtTrId("cli.ai.keyMissing") << Qt::endl;

@@ -1,5 +1,6 @@
 #include "authcommands.h"
 
+#include "app/clisession.h"
 #include "backend/authstore.h"
 #include "backend/runblocking.h"
 #include "backend/urlscheme.h"
@@ -13,8 +14,6 @@
 #include <QStandardPaths>
 #include <QTextStream>
 
-#include <termios.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -23,23 +22,8 @@ namespace {
 // Reads one line; on a terminal without echoing it.
 QString readPassword(QTextStream &in, QTextStream &err)
 {
-    const bool terminal = isatty(STDIN_FILENO) != 0;
-    termios saved{};
-    if (terminal) {
-        //% "Password: "
-        err << qtTrId("cli.auth.password");
-        err.flush();
-        tcgetattr(STDIN_FILENO, &saved);
-        termios quiet = saved;
-        quiet.c_lflag &= ~tcflag_t(ECHO);
-        tcsetattr(STDIN_FILENO, TCSANOW, &quiet);
-    }
-    const QString password = in.readLine();
-    if (terminal) {
-        tcsetattr(STDIN_FILENO, TCSANOW, &saved);
-        err << Qt::endl;
-    }
-    return password;
+    //% "Password: "
+    return Cli::readSecret(in, qtTrId("cli.auth.password"), err);
 }
 
 QJsonObject statusJson(const AuthStore &auth)

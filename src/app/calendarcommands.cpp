@@ -9,8 +9,6 @@
 #include <QJsonObject>
 #include <QTextStream>
 
-#include <termios.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -47,23 +45,8 @@ QString readPassword(QTextStream &err)
         return QString::fromUtf8(fromEnvironment);
     }
     QTextStream in(stdin);
-    const bool terminal = isatty(STDIN_FILENO) != 0;
-    termios saved{};
-    if (terminal) {
-        //% "CalDAV password: "
-        err << qtTrId("cli.calendar.password");
-        err.flush();
-        tcgetattr(STDIN_FILENO, &saved);
-        termios quiet = saved;
-        quiet.c_lflag &= ~tcflag_t(ECHO);
-        tcsetattr(STDIN_FILENO, TCSANOW, &quiet);
-    }
-    const QString password = in.readLine();
-    if (terminal) {
-        tcsetattr(STDIN_FILENO, TCSANOW, &saved);
-        err << Qt::endl;
-    }
-    return password;
+    //% "CalDAV password: "
+    return Cli::readSecret(in, qtTrId("cli.calendar.password"), err);
 }
 
 QString clock(const QDateTime &at)

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QTextStream>
 
+#include <termios.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -201,4 +202,23 @@ void Cli::connectAI(ClaudeBridge &bridge, CliSession &session, bool assumeYes, Q
         //% "y,yes"
         co_return !answer.isEmpty() && qtTrId("cli.ai.yesAnswers").split(u',').contains(answer);
     });
+}
+
+QString Cli::readSecret(QTextStream &in, const QString &prompt, QTextStream &err)
+{
+    const bool terminal = ::isatty(STDIN_FILENO) != 0;
+    termios saved{};
+    if (terminal) {
+        err << prompt << Qt::flush;
+        ::tcgetattr(STDIN_FILENO, &saved);
+        termios quiet = saved;
+        quiet.c_lflag &= ~tcflag_t(ECHO);
+        ::tcsetattr(STDIN_FILENO, TCSANOW, &quiet);
+    }
+    const QString line = in.readLine();
+    if (terminal) {
+        ::tcsetattr(STDIN_FILENO, TCSANOW, &saved);
+        err << Qt::endl;
+    }
+    return line;
 }

@@ -69,4 +69,8 @@ int usage(QTextStream &err, const QString &text);
 // with `assumeYes`. With neither a terminal nor --yes, a route that needs consent fails and says so.
 void connectAI(ClaudeBridge &bridge, CliSession &session, bool assumeYes, QTextStream &err);
 
+// One line from standard input, without echo when a person types it at a terminal; `prompt` is
+// shown only there.
+QString readSecret(QTextStream &in, const QString &prompt, QTextStream &err);
+
 } // namespace Cli
