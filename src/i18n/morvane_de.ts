@@ -4517,17 +4517,17 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Copy</source>
       <translation>Kopieren</translation>
     </message>
-    <message id="ui.summary.emptyHint">
-      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
-      <translation>Der Rückblick schaut auf die letzten sieben Tage; das Stand-up sagt, was du getan hast, was als Nächstes kommt und was dich aufhält. Die Zahlen stammen aus deiner erfassten Zeit.</translation>
-    </message>
-    <message id="ui.summary.emptyTitle">
-      <source>Your week or your day in three lines</source>
-      <translation>Deine Woche oder dein Tag in drei Zeilen</translation>
+    <message id="ui.summary.draftingStandup">
+      <source>Drafting your stand-up…</source>
+      <translation>Dein Stand-up wird entworfen…</translation>
     </message>
     <message id="ui.summary.fixed">
       <source>Written from your figures</source>
       <translation>Aus deinen Zahlen geschrieben</translation>
+    </message>
+    <message id="ui.summary.generate">
+      <source>Generate</source>
+      <translation>Erstellen</translation>
     </message>
     <message id="ui.summary.language">
       <source>Language of the text</source>
@@ -4549,6 +4549,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Weekly recap</source>
       <translation>Wochenrückblick</translation>
     </message>
+    <message id="ui.summary.recapHint">
+      <source>Press Generate for a short recap of the time you tracked this week.</source>
+      <translation>Tippe auf Erstellen für einen kurzen Rückblick auf die Zeit, die du diese Woche erfasst hast.</translation>
+    </message>
     <message id="ui.summary.rejected">
       <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
       <translation>Die Worte des Modells hielten deinen Zahlen nicht stand (%1). Dieser Text ist nur aus deinen Zahlen geschrieben.</translation>
@@ -4556,6 +4560,10 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
     <message id="ui.summary.standup">
       <source>Daily stand-up</source>
       <translation>Tägliches Stand-up</translation>
+    </message>
+    <message id="ui.summary.standupHint">
+      <source>Press Generate to draft your stand-up.</source>
+      <translation>Tippe auf Erstellen, um dein Stand-up zu entwerfen.</translation>
     </message>
     <message id="ui.summary.textName">
       <source>Recap or stand-up text</source>
@@ -4569,9 +4577,9 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Interface language</source>
       <translation>Sprache der App</translation>
     </message>
-    <message id="ui.summary.working">
-      <source>Putting your week in words…</source>
-      <translation>Deine Woche wird in Worte gefasst…</translation>
+    <message id="ui.summary.writingRecap">
+      <source>Writing your recap…</source>
+      <translation>Dein Rückblick wird geschrieben…</translation>
     </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>

@@ -4517,17 +4517,17 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Copy</source>
       <translation>Copy</translation>
     </message>
-    <message id="ui.summary.emptyHint">
-      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
-      <translation>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</translation>
-    </message>
-    <message id="ui.summary.emptyTitle">
-      <source>Your week or your day in three lines</source>
-      <translation>Your week or your day in three lines</translation>
+    <message id="ui.summary.draftingStandup">
+      <source>Drafting your stand-up…</source>
+      <translation>Drafting your stand-up…</translation>
     </message>
     <message id="ui.summary.fixed">
       <source>Written from your figures</source>
       <translation>Written from your figures</translation>
+    </message>
+    <message id="ui.summary.generate">
+      <source>Generate</source>
+      <translation>Generate</translation>
     </message>
     <message id="ui.summary.language">
       <source>Language of the text</source>
@@ -4549,6 +4549,10 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Weekly recap</source>
       <translation>Weekly recap</translation>
     </message>
+    <message id="ui.summary.recapHint">
+      <source>Press Generate for a short recap of the time you tracked this week.</source>
+      <translation>Press Generate for a short recap of the time you tracked this week.</translation>
+    </message>
     <message id="ui.summary.rejected">
       <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
       <translation>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</translation>
@@ -4556,6 +4560,10 @@ Send your text to %2 now and from now on? [y/N] </translation>
     <message id="ui.summary.standup">
       <source>Daily stand-up</source>
       <translation>Daily stand-up</translation>
+    </message>
+    <message id="ui.summary.standupHint">
+      <source>Press Generate to draft your stand-up.</source>
+      <translation>Press Generate to draft your stand-up.</translation>
     </message>
     <message id="ui.summary.textName">
       <source>Recap or stand-up text</source>
@@ -4569,9 +4577,9 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Interface language</source>
       <translation>Interface language</translation>
     </message>
-    <message id="ui.summary.working">
-      <source>Putting your week in words…</source>
-      <translation>Putting your week in words…</translation>
+    <message id="ui.summary.writingRecap">
+      <source>Writing your recap…</source>
+      <translation>Writing your recap…</translation>
     </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>

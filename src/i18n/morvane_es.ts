@@ -4517,17 +4517,17 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Copy</source>
       <translation>Copiar</translation>
     </message>
-    <message id="ui.summary.emptyHint">
-      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
-      <translation>El resumen repasa los últimos siete días; el stand-up dice qué hiciste, qué sigue y qué te frena. Las cifras salen de tu tiempo registrado.</translation>
-    </message>
-    <message id="ui.summary.emptyTitle">
-      <source>Your week or your day in three lines</source>
-      <translation>Tu semana o tu día en tres líneas</translation>
+    <message id="ui.summary.draftingStandup">
+      <source>Drafting your stand-up…</source>
+      <translation>Preparando tu stand-up…</translation>
     </message>
     <message id="ui.summary.fixed">
       <source>Written from your figures</source>
       <translation>Escrito a partir de tus cifras</translation>
+    </message>
+    <message id="ui.summary.generate">
+      <source>Generate</source>
+      <translation>Generar</translation>
     </message>
     <message id="ui.summary.language">
       <source>Language of the text</source>
@@ -4549,6 +4549,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Weekly recap</source>
       <translation>Resumen semanal</translation>
     </message>
+    <message id="ui.summary.recapHint">
+      <source>Press Generate for a short recap of the time you tracked this week.</source>
+      <translation>Pulsa Generar para un breve resumen del tiempo que registraste esta semana.</translation>
+    </message>
     <message id="ui.summary.rejected">
       <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
       <translation>Las palabras del modelo no cuadraban con tus cifras (%1). Este texto está escrito solo a partir de tus cifras.</translation>
@@ -4556,6 +4560,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.summary.standup">
       <source>Daily stand-up</source>
       <translation>Stand-up diario</translation>
+    </message>
+    <message id="ui.summary.standupHint">
+      <source>Press Generate to draft your stand-up.</source>
+      <translation>Pulsa Generar para preparar tu stand-up.</translation>
     </message>
     <message id="ui.summary.textName">
       <source>Recap or stand-up text</source>
@@ -4569,9 +4577,9 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Interface language</source>
       <translation>Idioma de la interfaz</translation>
     </message>
-    <message id="ui.summary.working">
-      <source>Putting your week in words…</source>
-      <translation>Poniendo tu semana en palabras…</translation>
+    <message id="ui.summary.writingRecap">
+      <source>Writing your recap…</source>
+      <translation>Escribiendo tu resumen…</translation>
     </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>

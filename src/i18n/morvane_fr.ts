@@ -4517,17 +4517,17 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Copy</source>
       <translation>Copier</translation>
     </message>
-    <message id="ui.summary.emptyHint">
-      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
-      <translation>Le bilan revient sur les sept derniers jours ; le point du jour dit ce que vous avez fait, ce qui suit et ce qui bloque. Les chiffres viennent de votre temps suivi.</translation>
-    </message>
-    <message id="ui.summary.emptyTitle">
-      <source>Your week or your day in three lines</source>
-      <translation>Votre semaine ou votre journée en trois lignes</translation>
+    <message id="ui.summary.draftingStandup">
+      <source>Drafting your stand-up…</source>
+      <translation>Préparation de votre point du jour…</translation>
     </message>
     <message id="ui.summary.fixed">
       <source>Written from your figures</source>
       <translation>Rédigé à partir de vos chiffres</translation>
+    </message>
+    <message id="ui.summary.generate">
+      <source>Generate</source>
+      <translation>Générer</translation>
     </message>
     <message id="ui.summary.language">
       <source>Language of the text</source>
@@ -4549,6 +4549,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Weekly recap</source>
       <translation>Bilan de la semaine</translation>
     </message>
+    <message id="ui.summary.recapHint">
+      <source>Press Generate for a short recap of the time you tracked this week.</source>
+      <translation>Cliquez sur Générer pour un bref bilan du temps suivi cette semaine.</translation>
+    </message>
     <message id="ui.summary.rejected">
       <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
       <translation>Le texte du modèle ne concordait pas avec vos chiffres (%1). Ce texte est rédigé à partir de vos seuls chiffres.</translation>
@@ -4556,6 +4560,10 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
     <message id="ui.summary.standup">
       <source>Daily stand-up</source>
       <translation>Point du jour</translation>
+    </message>
+    <message id="ui.summary.standupHint">
+      <source>Press Generate to draft your stand-up.</source>
+      <translation>Cliquez sur Générer pour préparer votre point du jour.</translation>
     </message>
     <message id="ui.summary.textName">
       <source>Recap or stand-up text</source>
@@ -4569,9 +4577,9 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Interface language</source>
       <translation>Langue de l’interface</translation>
     </message>
-    <message id="ui.summary.working">
-      <source>Putting your week in words…</source>
-      <translation>Mise en mots de votre semaine…</translation>
+    <message id="ui.summary.writingRecap">
+      <source>Writing your recap…</source>
+      <translation>Rédaction de votre bilan…</translation>
     </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>

@@ -4517,17 +4517,17 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Copy</source>
       <translation>Copia</translation>
     </message>
-    <message id="ui.summary.emptyHint">
-      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
-      <translation>Il riepilogo guarda agli ultimi sette giorni; lo stand-up dice cosa hai fatto, cosa viene dopo e cosa ti blocca. I dati vengono dal tempo registrato.</translation>
-    </message>
-    <message id="ui.summary.emptyTitle">
-      <source>Your week or your day in three lines</source>
-      <translation>La tua settimana o la tua giornata in tre righe</translation>
+    <message id="ui.summary.draftingStandup">
+      <source>Drafting your stand-up…</source>
+      <translation>Sto preparando lo stand-up…</translation>
     </message>
     <message id="ui.summary.fixed">
       <source>Written from your figures</source>
       <translation>Scritto dai tuoi dati</translation>
+    </message>
+    <message id="ui.summary.generate">
+      <source>Generate</source>
+      <translation>Genera</translation>
     </message>
     <message id="ui.summary.language">
       <source>Language of the text</source>
@@ -4549,6 +4549,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Weekly recap</source>
       <translation>Riepilogo settimanale</translation>
     </message>
+    <message id="ui.summary.recapHint">
+      <source>Press Generate for a short recap of the time you tracked this week.</source>
+      <translation>Premi Genera per un breve riepilogo del tempo registrato questa settimana.</translation>
+    </message>
     <message id="ui.summary.rejected">
       <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
       <translation>Le parole del modello non tornavano con i tuoi dati (%1). Questo testo è scritto solo dai tuoi dati.</translation>
@@ -4556,6 +4560,10 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
     <message id="ui.summary.standup">
       <source>Daily stand-up</source>
       <translation>Stand-up del giorno</translation>
+    </message>
+    <message id="ui.summary.standupHint">
+      <source>Press Generate to draft your stand-up.</source>
+      <translation>Premi Genera per preparare lo stand-up.</translation>
     </message>
     <message id="ui.summary.textName">
       <source>Recap or stand-up text</source>
@@ -4569,9 +4577,9 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Interface language</source>
       <translation>Lingua dell’interfaccia</translation>
     </message>
-    <message id="ui.summary.working">
-      <source>Putting your week in words…</source>
-      <translation>Sto mettendo in parole la tua settimana…</translation>
+    <message id="ui.summary.writingRecap">
+      <source>Writing your recap…</source>
+      <translation>Sto scrivendo il riepilogo…</translation>
     </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>

@@ -4517,17 +4517,17 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Copy</source>
       <translation>コピー</translation>
     </message>
-    <message id="ui.summary.emptyHint">
-      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
-      <translation>振り返りは直近 7 日間をまとめ、スタンドアップはやったこと・次にやること・障害を伝えます。数値は記録した時間から取ります。</translation>
-    </message>
-    <message id="ui.summary.emptyTitle">
-      <source>Your week or your day in three lines</source>
-      <translation>1 週間や 1 日を 3 行で</translation>
+    <message id="ui.summary.draftingStandup">
+      <source>Drafting your stand-up…</source>
+      <translation>スタンドアップを作成中…</translation>
     </message>
     <message id="ui.summary.fixed">
       <source>Written from your figures</source>
       <translation>あなたの数値から作成</translation>
+    </message>
+    <message id="ui.summary.generate">
+      <source>Generate</source>
+      <translation>生成</translation>
     </message>
     <message id="ui.summary.language">
       <source>Language of the text</source>
@@ -4549,6 +4549,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Weekly recap</source>
       <translation>週の振り返り</translation>
     </message>
+    <message id="ui.summary.recapHint">
+      <source>Press Generate for a short recap of the time you tracked this week.</source>
+      <translation>「生成」を押すと、今週記録した時間の短い振り返りを作成します。</translation>
+    </message>
     <message id="ui.summary.rejected">
       <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
       <translation>モデルの文章があなたの数値と合いませんでした（%1）。この文章はあなたの数値だけから作成しています。</translation>
@@ -4556,6 +4560,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.summary.standup">
       <source>Daily stand-up</source>
       <translation>デイリースタンドアップ</translation>
+    </message>
+    <message id="ui.summary.standupHint">
+      <source>Press Generate to draft your stand-up.</source>
+      <translation>「生成」を押すとスタンドアップの下書きを作成します。</translation>
     </message>
     <message id="ui.summary.textName">
       <source>Recap or stand-up text</source>
@@ -4569,9 +4577,9 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Interface language</source>
       <translation>画面の言語</translation>
     </message>
-    <message id="ui.summary.working">
-      <source>Putting your week in words…</source>
-      <translation>1 週間を文章にしています…</translation>
+    <message id="ui.summary.writingRecap">
+      <source>Writing your recap…</source>
+      <translation>振り返りを作成中…</translation>
     </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>

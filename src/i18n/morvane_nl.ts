@@ -4517,17 +4517,17 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
       <source>Copy</source>
       <translation>Kopiëren</translation>
     </message>
-    <message id="ui.summary.emptyHint">
-      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
-      <translation>De terugblik kijkt naar de afgelopen zeven dagen; de stand-up zegt wat je deed, wat volgt en wat je tegenhoudt. De cijfers komen uit je geregistreerde tijd.</translation>
-    </message>
-    <message id="ui.summary.emptyTitle">
-      <source>Your week or your day in three lines</source>
-      <translation>Je week of je dag in drie regels</translation>
+    <message id="ui.summary.draftingStandup">
+      <source>Drafting your stand-up…</source>
+      <translation>Je stand-up wordt opgesteld…</translation>
     </message>
     <message id="ui.summary.fixed">
       <source>Written from your figures</source>
       <translation>Geschreven uit je cijfers</translation>
+    </message>
+    <message id="ui.summary.generate">
+      <source>Generate</source>
+      <translation>Genereren</translation>
     </message>
     <message id="ui.summary.language">
       <source>Language of the text</source>
@@ -4549,6 +4549,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
       <source>Weekly recap</source>
       <translation>Weekoverzicht</translation>
     </message>
+    <message id="ui.summary.recapHint">
+      <source>Press Generate for a short recap of the time you tracked this week.</source>
+      <translation>Druk op Genereren voor een korte terugblik op de tijd die je deze week hebt geregistreerd.</translation>
+    </message>
     <message id="ui.summary.rejected">
       <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
       <translation>De woorden van het model klopten niet met je cijfers (%1). Deze tekst is alleen uit je cijfers geschreven.</translation>
@@ -4556,6 +4560,10 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
     <message id="ui.summary.standup">
       <source>Daily stand-up</source>
       <translation>Dagelijkse stand-up</translation>
+    </message>
+    <message id="ui.summary.standupHint">
+      <source>Press Generate to draft your stand-up.</source>
+      <translation>Druk op Genereren om je stand-up op te stellen.</translation>
     </message>
     <message id="ui.summary.textName">
       <source>Recap or stand-up text</source>
@@ -4569,9 +4577,9 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
       <source>Interface language</source>
       <translation>Taal van de app</translation>
     </message>
-    <message id="ui.summary.working">
-      <source>Putting your week in words…</source>
-      <translation>Je week wordt onder woorden gebracht…</translation>
+    <message id="ui.summary.writingRecap">
+      <source>Writing your recap…</source>
+      <translation>Je terugblik wordt geschreven…</translation>
     </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>

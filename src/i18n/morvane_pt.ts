@@ -4517,17 +4517,17 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
       <source>Copy</source>
       <translation>Copiar</translation>
     </message>
-    <message id="ui.summary.emptyHint">
-      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
-      <translation>O resumo olha para os últimos sete dias; o stand-up diz o que fez, o que vem a seguir e o que o bloqueia. Os números vêm do seu tempo registado.</translation>
-    </message>
-    <message id="ui.summary.emptyTitle">
-      <source>Your week or your day in three lines</source>
-      <translation>A sua semana ou o seu dia em três linhas</translation>
+    <message id="ui.summary.draftingStandup">
+      <source>Drafting your stand-up…</source>
+      <translation>A preparar o seu stand-up…</translation>
     </message>
     <message id="ui.summary.fixed">
       <source>Written from your figures</source>
       <translation>Escrito a partir dos seus números</translation>
+    </message>
+    <message id="ui.summary.generate">
+      <source>Generate</source>
+      <translation>Gerar</translation>
     </message>
     <message id="ui.summary.language">
       <source>Language of the text</source>
@@ -4549,6 +4549,10 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
       <source>Weekly recap</source>
       <translation>Resumo semanal</translation>
     </message>
+    <message id="ui.summary.recapHint">
+      <source>Press Generate for a short recap of the time you tracked this week.</source>
+      <translation>Carregue em Gerar para um breve resumo do tempo registado esta semana.</translation>
+    </message>
     <message id="ui.summary.rejected">
       <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
       <translation>As palavras do modelo não batiam com os seus números (%1). Este texto foi escrito apenas a partir dos seus números.</translation>
@@ -4556,6 +4560,10 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
     <message id="ui.summary.standup">
       <source>Daily stand-up</source>
       <translation>Stand-up diário</translation>
+    </message>
+    <message id="ui.summary.standupHint">
+      <source>Press Generate to draft your stand-up.</source>
+      <translation>Carregue em Gerar para preparar o seu stand-up.</translation>
     </message>
     <message id="ui.summary.textName">
       <source>Recap or stand-up text</source>
@@ -4569,9 +4577,9 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
       <source>Interface language</source>
       <translation>Idioma da interface</translation>
     </message>
-    <message id="ui.summary.working">
-      <source>Putting your week in words…</source>
-      <translation>A pôr a sua semana em palavras…</translation>
+    <message id="ui.summary.writingRecap">
+      <source>Writing your recap…</source>
+      <translation>A escrever o seu resumo…</translation>
     </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>

@@ -4517,17 +4517,17 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Copy</source>
       <translation>คัดลอก</translation>
     </message>
-    <message id="ui.summary.emptyHint">
-      <source>The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time.</source>
-      <translation>สรุปย้อนดู 7 วันที่ผ่านมา สแตนด์อัพบอกสิ่งที่ทำ สิ่งที่จะทำต่อ และสิ่งที่ติดขัด ตัวเลขมาจากเวลาที่คุณบันทึก</translation>
-    </message>
-    <message id="ui.summary.emptyTitle">
-      <source>Your week or your day in three lines</source>
-      <translation>สัปดาห์หรือวันของคุณในสามบรรทัด</translation>
+    <message id="ui.summary.draftingStandup">
+      <source>Drafting your stand-up…</source>
+      <translation>กำลังร่างสแตนด์อัพของคุณ…</translation>
     </message>
     <message id="ui.summary.fixed">
       <source>Written from your figures</source>
       <translation>เขียนจากตัวเลขของคุณ</translation>
+    </message>
+    <message id="ui.summary.generate">
+      <source>Generate</source>
+      <translation>สร้าง</translation>
     </message>
     <message id="ui.summary.language">
       <source>Language of the text</source>
@@ -4549,6 +4549,10 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Weekly recap</source>
       <translation>สรุปประจำสัปดาห์</translation>
     </message>
+    <message id="ui.summary.recapHint">
+      <source>Press Generate for a short recap of the time you tracked this week.</source>
+      <translation>กด สร้าง เพื่อดูสรุปสั้น ๆ ของเวลาที่คุณบันทึกในสัปดาห์นี้</translation>
+    </message>
     <message id="ui.summary.rejected">
       <source>The model's words did not hold up against your figures (%1). This text is written from your figures alone.</source>
       <translation>ข้อความของโมเดลไม่ตรงกับตัวเลขของคุณ (%1) ข้อความนี้เขียนจากตัวเลขของคุณเท่านั้น</translation>
@@ -4556,6 +4560,10 @@ Send your text to %2 now and from now on? [y/N] </source>
     <message id="ui.summary.standup">
       <source>Daily stand-up</source>
       <translation>สแตนด์อัพประจำวัน</translation>
+    </message>
+    <message id="ui.summary.standupHint">
+      <source>Press Generate to draft your stand-up.</source>
+      <translation>กด สร้าง เพื่อร่างสแตนด์อัพของคุณ</translation>
     </message>
     <message id="ui.summary.textName">
       <source>Recap or stand-up text</source>
@@ -4569,9 +4577,9 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Interface language</source>
       <translation>ภาษาของแอป</translation>
     </message>
-    <message id="ui.summary.working">
-      <source>Putting your week in words…</source>
-      <translation>กำลังเรียบเรียงสัปดาห์ของคุณ…</translation>
+    <message id="ui.summary.writingRecap">
+      <source>Writing your recap…</source>
+      <translation>กำลังเขียนสรุปของคุณ…</translation>
     </message>
     <message id="ui.tasks.add">
       <source>Add a task and press Enter</source>

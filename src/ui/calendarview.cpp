@@ -10,6 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr std::chrono::minutes refreshInterval{15};
+
 QString destinationKey(const CalendarDestination &destination)
 {
     return (destination.kind == CalendarDestination::Kind::NewTask ? u"new:"_s : u"task:"_s) + destination.id;
@@ -64,6 +66,9 @@ void CalendarView::setStores(AppStore *store, AuthStore *auth, std::shared_ptr<S
         connect(store, &AppStore::tasksChanged, this, &CalendarView::destinationsChanged);
         connect(store, &AppStore::projectsChanged, this, &CalendarView::destinationsChanged);
         importer->refreshStatus();
+        // Subscriptions and CalDAV change on their own: the chosen day is read again now and then,
+        // with conditional requests, so an unchanged calendar costs one short answer.
+        importer->refreshEvery(refreshInterval);
     }
     emit readyChanged();
     emit sourcesChanged();

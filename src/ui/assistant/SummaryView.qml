@@ -11,6 +11,9 @@ Rectangle {
     color: Theme.background
     readonly property var assistant: Shell.assistant
     property string language: ""
+    // "recap" or "standup": the screen shows one at a time.
+    property string kind: "recap"
+    readonly property bool showing: assistant.summaryKind === kind
 
     ColumnLayout {
         anchors.fill: parent
@@ -42,18 +45,25 @@ Rectangle {
                 onChosen: (code) => root.language = code
             }
             FlatButton {
-                objectName: "writeStandup"
-                enabled: !root.assistant.summaryBusy
-                //% "Daily stand-up"
-                text: qsTrId("ui.summary.standup")
-                onClicked: root.assistant.writeSummary("standup", root.language)
-            }
-            PrimaryButton {
-                objectName: "writeRecap"
-                enabled: !root.assistant.summaryBusy
+                objectName: "recapTab"
+                checked: root.kind === "recap"
                 //% "Weekly recap"
                 text: qsTrId("ui.summary.recap")
-                onClicked: root.assistant.writeSummary("recap", root.language)
+                onClicked: root.kind = "recap"
+            }
+            FlatButton {
+                objectName: "standupTab"
+                checked: root.kind === "standup"
+                //% "Daily stand-up"
+                text: qsTrId("ui.summary.standup")
+                onClicked: root.kind = "standup"
+            }
+            PrimaryButton {
+                objectName: "generateSummary"
+                enabled: !root.assistant.summaryBusy
+                //% "Generate"
+                text: qsTrId("ui.summary.generate")
+                onClicked: root.assistant.writeSummary(root.kind, root.language)
             }
         }
 
@@ -68,7 +78,8 @@ Rectangle {
                 anchors.fill: parent
                 anchors.margins: Theme.space4
                 spacing: Theme.space3
-                visible: root.assistant.summaryText !== "" || root.assistant.summaryNote !== ""
+                visible: root.showing && !root.assistant.summaryBusy
+                         && (root.assistant.summaryText !== "" || root.assistant.summaryNote !== "")
                 RowLayout {
                     Layout.fillWidth: true
                     spacing: Theme.space2
@@ -129,8 +140,11 @@ Rectangle {
                 BusyIndicator { Layout.alignment: Qt.AlignHCenter; running: root.assistant.summaryBusy }
                 Text {
                     textFormat: Text.PlainText
-                    //% "Putting your week in words…"
-                    text: qsTrId("ui.summary.working")
+                    text: root.assistant.summaryKind === "recap"
+                          //% "Writing your recap…"
+                          ? qsTrId("ui.summary.writingRecap")
+                          //% "Drafting your stand-up…"
+                          : qsTrId("ui.summary.draftingStandup")
                     color: Theme.muted
                     font.pixelSize: Theme.fontBody
                 }
@@ -138,12 +152,14 @@ Rectangle {
             EmptyState {
                 anchors.centerIn: parent
                 width: Math.min(parent.width - 2 * Theme.space5, 480)
-                visible: !root.assistant.summaryBusy && root.assistant.summaryText === ""
-                         && root.assistant.summaryNote === ""
-                //% "Your week or your day in three lines"
-                title: qsTrId("ui.summary.emptyTitle")
-                //% "The recap looks back over the last seven days; the stand-up says what you did, what is next and what blocks you. Figures come from your tracked time."
-                hint: qsTrId("ui.summary.emptyHint")
+                visible: !root.assistant.summaryBusy
+                         && (!root.showing || (root.assistant.summaryText === "" && root.assistant.summaryNote === ""))
+                title: root.kind === "recap" ? qsTrId("ui.summary.recap") : qsTrId("ui.summary.standup")
+                hint: root.kind === "recap"
+                      //% "Press Generate for a short recap of the time you tracked this week."
+                      ? qsTrId("ui.summary.recapHint")
+                      //% "Press Generate to draft your stand-up."
+                      : qsTrId("ui.summary.standupHint")
             }
         }
     }
