@@ -122,7 +122,14 @@ void InvoicePdfRenderer::createPage()
     // put on screen gives it the 794-px viewport of an A4 sheet.
     m_view = new QWebEngineView();
     m_view->setPage(m_page);
+    // On a real display the web view still gets a native window of its own despite
+    // WA_DontShowOnScreen, which would cover the application's window with a stale picture: it
+    // lives far outside every screen, unmanaged, never focused and transparent for input.
+    m_view->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
+                           Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput);
     m_view->setAttribute(Qt::WA_DontShowOnScreen);
+    m_view->setAttribute(Qt::WA_ShowWithoutActivating);
+    m_view->move(-30000, -30000);
     m_view->resize(pageWidth, pageHeight);
     m_view->show();
 }
