@@ -755,6 +755,20 @@ bool AppStore::isProjectAdmin(const QString &projectId) const
 void AppStore::replaceTask(const TaskItem &task)
 {
     const QString oldProject = m_projectOfTask.value(task.id);
+    // Answers and feed events can arrive out of order (a reorder's late answer after a status
+    // change): a version older than the one held is not the task any more.
+    if (!oldProject.isEmpty() && task.updatedAt) {
+        for (const TaskItem &held : std::as_const(m_tasksByProject[oldProject])) {
+            if (held.id == task.id && held.updatedAt) {
+                const std::optional<QDateTime> heldAt = isoDate(*held.updatedAt);
+                const std::optional<QDateTime> incomingAt = isoDate(*task.updatedAt);
+                if (heldAt && incomingAt && *incomingAt < *heldAt) {
+                    return;
+                }
+                break;
+            }
+        }
+    }
     if (!oldProject.isEmpty()) {
         QList<TaskItem> &list = m_tasksByProject[oldProject];
         for (qsizetype i = 0; i < list.size(); ++i) {

@@ -106,6 +106,25 @@ private slots:
         QVERIFY(runBlocking(m_mate->store->updateTask(task->id, edit)));
         QTRY_COMPARE(m_desktop->store->task(task->id)->title, *edit.title);
     }
+
+    // A reorder's answer or feed event can arrive after a later change of the same task: the older
+    // version must not undo the newer one. Each write of a row carries a later updated_at.
+    void anOlderVersionArrivingLateIsIgnored()
+    {
+        const std::optional<TaskItem> task = createTask(*m_laptop, u"Late answers"_s);
+        QVERIFY(task && task->updatedAt);
+        QVERIFY(runBlocking(m_laptop->store->setTaskStatus(task->id, TaskStatus::Completed)));
+        const TaskItem done = *m_laptop->store->task(task->id);
+        QCOMPARE(done.status, TaskStatus::Completed);
+        QVERIFY(*isoDate(done.updatedAt) > *isoDate(task->updatedAt));
+        m_laptop->store->replaceTask(*task);
+        QCOMPARE(m_laptop->store->task(task->id)->status, TaskStatus::Completed);
+        TaskItem newer = done;
+        newer.title = u"Late answers, renamed"_s;
+        newer.updatedAt = isoString(isoDate(done.updatedAt)->addSecs(1));
+        m_laptop->store->replaceTask(newer);
+        QCOMPARE(m_laptop->store->task(task->id)->title, newer.title);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestStoreRealtime)
