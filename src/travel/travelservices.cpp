@@ -47,7 +47,13 @@ QCoro::Task<> RequestGate::enter()
     if (m_last.isValid()) {
         const qint64 waitMs = m_last.msecsTo(QDateTime::currentDateTimeUtc()) - qint64(m_spacing.count());
         if (waitMs < 0) {
-            co_await QCoro::sleepFor(std::chrono::milliseconds(-waitMs));
+            // A precise timer: a coarse one may fire a little early, and the services' usage
+            // policies count the spacing strictly.
+            QTimer timer;
+            timer.setTimerType(Qt::PreciseTimer);
+            timer.setSingleShot(true);
+            timer.start(std::chrono::milliseconds(-waitMs));
+            co_await qCoro(&timer, &QTimer::timeout);
         }
     }
     m_last = QDateTime::currentDateTimeUtc();
