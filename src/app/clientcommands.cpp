@@ -13,18 +13,6 @@ namespace {
 // Shortest id start taken as a reference, as for projects and tasks: shorter ones match by accident.
 constexpr qsizetype minimumIdPrefix = 4;
 
-// Names arrive from other devices and from the backend: a terminal must not run the escape
-// sequences one may hold, and a line break would split a row of the list.
-QString printable(QString text)
-{
-    for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator) {
-            c = u' ';
-        }
-    }
-    return text.simplified();
-}
-
 // Names are compared as a person types them: any case, blanks around and between words ignored.
 QString nameKey(const QString &name)
 {
@@ -52,14 +40,14 @@ std::optional<Client> findClient(const QList<Client> &clients, const QString &re
     }
     if (matches.isEmpty()) {
         //% "No client matches \"%1\". See them with: morvane clients list"
-        err << qtTrId("cli.clients.noMatch").arg(printable(wanted)) << Qt::endl;
+        err << qtTrId("cli.clients.noMatch").arg(Cli::printable(wanted)) << Qt::endl;
         return std::nullopt;
     }
     QStringList names;
     for (const Client &client : matches) {
-        names << Cli::shortId(client.id) + u' ' + printable(client.name);
+        names << Cli::shortId(client.id) + u' ' + Cli::printable(client.name);
     }
-    err << qtTrId("cli.ref.ambiguous").arg(printable(wanted), names.join(u", "_s)) << Qt::endl;
+    err << qtTrId("cli.ref.ambiguous").arg(Cli::printable(wanted), names.join(u", "_s)) << Qt::endl;
     return std::nullopt;
 }
 
@@ -80,25 +68,25 @@ int listClients(const QList<Client> &clients, bool json, QTextStream &out)
     }
     qsizetype width = 0;
     for (const Client &client : clients) {
-        width = std::max(width, printable(client.name).size());
+        width = std::max(width, Cli::printable(client.name).size());
     }
     for (const Client &client : clients) {
         QStringList details;
         if (client.email) {
-            details << printable(*client.email);
+            details << Cli::printable(*client.email);
         }
         if (client.vatId) {
             //% "VAT %1"
-            details << qtTrId("cli.clients.vat").arg(printable(*client.vatId));
+            details << qtTrId("cli.clients.vat").arg(Cli::printable(*client.vatId));
         }
         if (client.kvk) {
             //% "CoC %1"
-            details << qtTrId("cli.clients.coc").arg(printable(*client.kvk));
+            details << qtTrId("cli.clients.coc").arg(Cli::printable(*client.kvk));
         }
         if (client.address) {
-            details << printable(client.address->split(u'\n', Qt::SkipEmptyParts).join(u", "_s));
+            details << Cli::printable(client.address->split(u'\n', Qt::SkipEmptyParts).join(u", "_s));
         }
-        out << Cli::shortId(client.id) << u"  "_s << printable(client.name).leftJustified(width);
+        out << Cli::shortId(client.id) << u"  "_s << Cli::printable(client.name).leftJustified(width);
         if (!details.isEmpty()) {
             out << u"  "_s << details.join(u"  "_s);
         }
@@ -106,24 +94,6 @@ int listClients(const QList<Client> &clients, bool json, QTextStream &out)
     }
     out.flush();
     return 0;
-}
-
-// Deleting is asked for unless --yes says the person already decided; only "y" or "yes" goes on,
-// so an empty line or a closed input keeps the client.
-bool confirmed(const Client &client, QTextStream &err)
-{
-    //% "Delete the client %1? Invoices that name it keep it. [y/N] "
-    err << qtTrId("cli.clients.confirmDelete").arg(printable(client.name));
-    err.flush();
-    QFile input;
-    if (!input.open(stdin, QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QString answer = QString::fromLocal8Bit(input.readLine(64)).trimmed().toLower();
-    //: The answers accepted to a yes/no question, separated by '|'; the English ones are accepted too.
-    //% "y|yes"
-    const QStringList yes = qtTrId("cli.clients.yesAnswers").split(u'|') + QStringList{u"y"_s, u"yes"_s};
-    return !answer.isEmpty() && yes.contains(answer);
 }
 
 } // namespace
@@ -149,7 +119,8 @@ int runClientsCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     if (!Cli::parse(parser, arguments, err)) {
         return 2;
     }
-    //% "Usage: morvane clients list | add <name> [--email E] [--address A] [--vat-number V] [--coc-number C] | edit <client> [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm <client> [--yes] [--json]"
+    //% "Usage: morvane clients list | add <name> [--email E] [--address A] [--vat-number V] [--coc-number C] | edit
+    //<client> [--name N] [--email E] [--address A] [--vat-number V] [--coc-number C] | rm <client> [--yes] [--json]"
     const QString usageText = qtTrId("cli.clients.usage");
     if (parser.isSet(help)) {
         out << usageText << u"\n\n"_s << parser.helpText();
@@ -159,11 +130,11 @@ int runClientsCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     const QStringList positional = parser.positionalArguments();
     const QString action = positional.value(0);
     const bool anyField = parser.isSet(email) || parser.isSet(address) || parser.isSet(vat) || parser.isSet(coc);
-    const bool known = (action == u"list" && positional.size() == 1 && !anyField && !parser.isSet(name)) ||
-                       (action == u"add" && positional.size() == 2 && !positional.at(1).trimmed().isEmpty() &&
-                        !parser.isSet(name)) ||
-                       (action == u"edit" && positional.size() == 2 && (anyField || parser.isSet(name))) ||
-                       (action == u"rm" && positional.size() == 2 && !anyField && !parser.isSet(name));
+    const bool known =
+        (action == u"list" && positional.size() == 1 && !anyField && !parser.isSet(name)) ||
+        (action == u"add" && positional.size() == 2 && !positional.at(1).trimmed().isEmpty() && !parser.isSet(name)) ||
+        (action == u"edit" && positional.size() == 2 && (anyField || parser.isSet(name))) ||
+        (action == u"rm" && positional.size() == 2 && !anyField && !parser.isSet(name));
     if (!known || (parser.isSet(yes) && action != u"rm")) {
         return Cli::usage(err, usageText);
     }
@@ -201,7 +172,8 @@ int runClientsCommand(const QStringList &arguments, QTextStream &out, QTextStrea
             return session.failed(err);
         }
         //% "Added client %1 (%2)."
-        return print(*created, qtTrId("cli.clients.added").arg(printable(created->name), Cli::shortId(created->id)));
+        return print(*created,
+                     qtTrId("cli.clients.added").arg(Cli::printable(created->name), Cli::shortId(created->id)));
     }
 
     const std::optional<Client> client = findClient(store.clients(), positional.at(1), err);
@@ -226,10 +198,12 @@ int runClientsCommand(const QStringList &arguments, QTextStream &out, QTextStrea
                                         [&](const Client &c) { return c.id == client->id; });
         //% "Saved client %1."
         return print(saved != store.allClients().cend() ? *saved : *client,
-                     qtTrId("cli.clients.saved").arg(printable(*patch.name)));
+                     qtTrId("cli.clients.saved").arg(Cli::printable(*patch.name)));
     }
     // rm
-    if (!parser.isSet(yes) && !confirmed(*client, err)) {
+    if (!parser.isSet(yes) && !Cli::confirm(
+                                  //% "Delete the client %1? Invoices that name it keep it. [y/N] "
+                                  qtTrId("cli.clients.confirmDelete").arg(Cli::printable(client->name)), err)) {
         //% "Nothing deleted."
         err << qtTrId("cli.clients.kept") << Qt::endl;
         return 1;
@@ -240,5 +214,5 @@ int runClientsCommand(const QStringList &arguments, QTextStream &out, QTextStrea
     Client archived = *client;
     archived.archived = true;
     //% "Deleted client %1."
-    return print(archived, qtTrId("cli.clients.deleted").arg(printable(client->name)));
+    return print(archived, qtTrId("cli.clients.deleted").arg(Cli::printable(client->name)));
 }

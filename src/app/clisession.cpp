@@ -3,6 +3,7 @@
 #include "backend/runblocking.h"
 #include "store/storetext.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -195,12 +196,8 @@ void Cli::connectAI(ClaudeBridge &bridge, CliSession &session, bool assumeYes, Q
     }
     bridge.setConsentHook([&err](ClaudeBridge::Route route) -> QCoro::Task<bool> {
         //% "%1\nSend your text to %2 now and from now on? [y/N] "
-        err << qtTrId("cli.ai.question").arg(ClaudeBridge::routeDestination(route), ClaudeBridge::routeName(route))
-            << Qt::flush;
-        QTextStream in(stdin);
-        const QString answer = in.readLine().trimmed().toLower();
-        //% "y,yes"
-        co_return !answer.isEmpty() && qtTrId("cli.ai.yesAnswers").split(u',').contains(answer);
+        co_return Cli::confirm(
+            qtTrId("cli.ai.question").arg(ClaudeBridge::routeDestination(route), ClaudeBridge::routeName(route)), err);
     });
 }
 
@@ -221,4 +218,28 @@ QString Cli::readSecret(QTextStream &in, const QString &prompt, QTextStream &err
         err << Qt::endl;
     }
     return line;
+}
+
+QString Cli::printable(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control) {
+            c = u' ';
+        }
+    }
+    return text.simplified();
+}
+
+bool Cli::confirm(const QString &question, QTextStream &err)
+{
+    err << question << Qt::flush;
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly)) {
+        return false;
+    }
+    const QString answer = QString::fromLocal8Bit(input.readLine(64)).trimmed().toLower();
+    //: The answers accepted to a yes/no question, separated by '|'; the English ones are accepted too.
+    //% "y|yes"
+    const QStringList yes = qtTrId("cli.clients.yesAnswers").split(u'|') + QStringList{u"y"_s, u"yes"_s};
+    return !answer.isEmpty() && yes.contains(answer);
 }

@@ -69,6 +69,14 @@ int usage(QTextStream &err, const QString &text);
 // with `assumeYes`. With neither a terminal nor --yes, a route that needs consent fails and says so.
 void connectAI(ClaudeBridge &bridge, CliSession &session, bool assumeYes, QTextStream &err);
 
+// Text from other devices and people, as one line with no control characters, so that it can
+// neither break a table nor send escape sequences to the terminal.
+[[nodiscard]] QString printable(QString text);
+
+// Asks on the error stream and reads the answer; only a yes goes on, so an empty line or closed
+// input keeps things as they are. `question` ends with its own "[y/N] ".
+[[nodiscard]] bool confirm(const QString &question, QTextStream &err);
+
 // One line from standard input, without echo when a person types it at a terminal; `prompt` is
 // shown only there.
 QString readSecret(QTextStream &in, const QString &prompt, QTextStream &err);

@@ -63,18 +63,6 @@ QList<Detail> details()
     };
 }
 
-// Names arrive from other devices: no terminal escapes, one line each.
-QString printable(const QString &text)
-{
-    QString line = text;
-    for (QChar &c : line) {
-        if (c.category() == QChar::Other_Control) {
-            c = u' ';
-        }
-    }
-    return line.simplified();
-}
-
 QString logoText(const QString &dataUri)
 {
     const qsizetype comma = dataUri.indexOf(u',');
@@ -115,7 +103,7 @@ int show(const AppStore &store, bool json, QTextStream &out)
     QList<std::pair<QString, QString>> lines;
     for (const Detail &detail : details()) {
         if (const std::optional<QString> &value = style.*detail.field) {
-            lines.append({detail.label(), printable(QString(*value).replace(u'\n', u", "_s))});
+            lines.append({detail.label(), Cli::printable(QString(*value).replace(u'\n', u", "_s))});
         }
     }
     if (style.paymentTermsDays) {
@@ -165,7 +153,7 @@ bool knownDesign(const QString &name, QTextStream &err)
     }
     names << InvoiceHTMLRenderer::templateName(InvoiceHTMLRenderer::Template::AiCustom);
     //% "Unknown design: %1. The designs are: %2 (aiCustom is your own template)."
-    err << qtTrId("cli.company.unknownDesign").arg(printable(name), names.join(u", "_s)) << Qt::endl;
+    err << qtTrId("cli.company.unknownDesign").arg(Cli::printable(name), names.join(u", "_s)) << Qt::endl;
     return false;
 }
 

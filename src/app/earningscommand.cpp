@@ -47,16 +47,6 @@ QString byName(By by)
     return {};
 }
 
-QString printable(QString text)
-{
-    for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control) {
-            c = u' ';
-        }
-    }
-    return text.simplified();
-}
-
 // JSON carries money in cents and hours to the hundredth, as they are shown; the text rounds the same.
 QJsonObject figures(const Row &row)
 {
@@ -86,7 +76,7 @@ QString rowLabel(const Report &report, const Row &row, const AppStore &store)
     if (report.by == By::Project) {
         const std::optional<Project> project = store.project(row.projectId);
         //% "No project"
-        return project ? printable(project->name) : qtTrId("cli.earnings.noProject");
+        return project ? Cli::printable(project->name) : qtTrId("cli.earnings.noProject");
     }
     return row.start.toString(Qt::ISODate) + u" – "_s + row.end.toString(Qt::ISODate);
 }
@@ -217,7 +207,7 @@ int runEarningsCommand(const QStringList &arguments, QTextStream &out, QTextStre
     const std::optional<By> by = parser.isSet(byOption) ? byFromName(parser.value(byOption)) : By::Month;
     if (!by) {
         //% "--by takes week, month or project, not \"%1\"."
-        err << qtTrId("cli.earnings.badBy").arg(printable(parser.value(byOption))) << Qt::endl;
+        err << qtTrId("cli.earnings.badBy").arg(Cli::printable(parser.value(byOption))) << Qt::endl;
         return Cli::usage(err, usageText);
     }
     report.by = *by;
@@ -232,7 +222,7 @@ int runEarningsCommand(const QStringList &arguments, QTextStream &out, QTextStre
             const QDate day = QDate::fromString(parser.value(*option), u"yyyy-MM-dd"_s);
             if (!day.isValid()) {
                 //% "\"%1\" is not a day; write it as yyyy-MM-dd, for example 2026-01-31."
-                err << qtTrId("cli.earnings.badDay").arg(printable(parser.value(*option))) << Qt::endl;
+                err << qtTrId("cli.earnings.badDay").arg(Cli::printable(parser.value(*option))) << Qt::endl;
                 return Cli::usage(err, usageText);
             }
             (option == &fromOption ? report.from : report.to) = day;

@@ -1,5 +1,6 @@
-#include "app/clisession.h"
 #include "app/tripcommands.h"
+
+#include "app/clisession.h"
 #include "backend/runblocking.h"
 #include "model/isodate.h"
 #include "store/tripexport.h"
@@ -17,18 +18,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Trip texts come from phones and other devices: no escape sequences or line breaks reach the
-// terminal.
-QString printable(QString text)
-{
-    for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator) {
-            c = u' ';
-        }
-    }
-    return text.simplified();
-}
 
 QString kmText(int metres)
 {
@@ -120,7 +109,7 @@ std::optional<Trip> findTrip(const QList<Trip> &trips, const QString &reference,
         return matches.first();
     }
     //% "No single trip matches \"%1\". See them with: morvane trips list"
-    err << qtTrId("cli.trips.noMatch").arg(printable(wanted)) << Qt::endl;
+    err << qtTrId("cli.trips.noMatch").arg(Cli::printable(wanted)) << Qt::endl;
     return std::nullopt;
 }
 
@@ -150,7 +139,7 @@ int listTrips(AppStore &store, bool json, QTextStream &out)
     for (const Trip &trip : store.trips()) {
         QStringList tags{Wire::enumName(trip.mode)};
         if (const std::optional<Project> project = store.project(trip.projectId.value_or(QString()))) {
-            tags << printable(project->name);
+            tags << Cli::printable(project->name);
         }
         if (!trip.isBusiness()) {
             //% "private"
@@ -168,29 +157,16 @@ int listTrips(AppStore &store, bool json, QTextStream &out)
             tags << qtTrId("tripInProgress");
         }
         out << Cli::shortId(trip.id) << u"  "_s << dayOf(trip) << u"  "_s
-            << printable(trip.startLabel.value_or(u"?"_s)) << u" → "_s << printable(trip.endLabel.value_or(u"?"_s))
-            << u"  "_s << kmText(trip.distanceM) << u" km  "_s << tags.join(u", "_s);
+            << Cli::printable(trip.startLabel.value_or(u"?"_s)) << u" → "_s
+            << Cli::printable(trip.endLabel.value_or(u"?"_s)) << u"  "_s << kmText(trip.distanceM) << u" km  "_s
+            << tags.join(u", "_s);
         if (trip.purpose) {
-            out << u"  "_s << printable(*trip.purpose);
+            out << u"  "_s << Cli::printable(*trip.purpose);
         }
         out << u'\n';
     }
     out.flush();
     return 0;
-}
-
-bool confirmed(QTextStream &err)
-{
-    //% "Delete this trip? This cannot be undone."
-    err << qtTrId("tripDeleteConfirm") << u" [y/N] "_s;
-    err.flush();
-    QFile input;
-    if (!input.open(stdin, QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QString answer = QString::fromLocal8Bit(input.readLine(64)).trimmed().toLower();
-    const QStringList yes = qtTrId("cli.clients.yesAnswers").split(u'|') + QStringList{u"y"_s, u"yes"_s};
-    return !answer.isEmpty() && yes.contains(answer);
 }
 
 // Metres from a typed number of kilometres; none for text that is no distance.
@@ -238,7 +214,9 @@ int runTripsCommand(const QStringList &arguments, QTextStream &out, QTextStream 
     if (!Cli::parse(parser, arguments, err)) {
         return 2;
     }
-    //% "Usage: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M] [--private] [--not-billable] [--purpose TEXT] | edit <trip> [the same options] | rm <trip> [--yes] | route <from> <to> [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]"
+    //% "Usage: morvane trips list | add --date DAY --from PLACE --to PLACE [--km N] [--project P] [--task T] [--mode M]
+    //[--private] [--not-billable] [--purpose TEXT] | edit <trip> [the same options] | rm <trip> [--yes] | route <from>
+    //<to> [--mode M] | export --from DAY --to DAY --out FILE.csv [--json]"
     const QString usageText = qtTrId("cli.trips.usage");
     if (parser.isSet(help)) {
         out << usageText << u"\n\n"_s << parser.helpText();
@@ -249,13 +227,13 @@ int runTripsCommand(const QStringList &arguments, QTextStream &out, QTextStream 
     const QString action = positional.value(0);
     const std::optional<TripMode> modeValue =
         parser.isSet(mode) ? Wire::enumFromName<TripMode>(parser.value(mode).trimmed()) : std::nullopt;
-    const bool known = (action == u"list" && positional.size() == 1) ||
-                       (action == u"add" && positional.size() == 1 && parser.isSet(date) && parser.isSet(from) &&
-                        parser.isSet(to)) ||
-                       (action == u"edit" && positional.size() == 2) || (action == u"rm" && positional.size() == 2) ||
-                       (action == u"route" && positional.size() == 3) ||
-                       (action == u"export" && positional.size() == 1 && parser.isSet(from) && parser.isSet(to) &&
-                        parser.isSet(outFile));
+    const bool known =
+        (action == u"list" && positional.size() == 1) ||
+        (action == u"add" && positional.size() == 1 && parser.isSet(date) && parser.isSet(from) && parser.isSet(to)) ||
+        (action == u"edit" && positional.size() == 2) || (action == u"rm" && positional.size() == 2) ||
+        (action == u"route" && positional.size() == 3) ||
+        (action == u"export" && positional.size() == 1 && parser.isSet(from) && parser.isSet(to) &&
+         parser.isSet(outFile));
     if (!known || (parser.isSet(mode) && !modeValue)) {
         return Cli::usage(err, usageText);
     }
@@ -285,7 +263,8 @@ int runTripsCommand(const QStringList &arguments, QTextStream &out, QTextStream 
             services.distance(start, end, modeValue.value_or(TripMode::Car), err);
         if (!route) {
             //% "No place was found for \"%1\"."
-            err << qtTrId("cli.trips.placeUnknown").arg(printable(start.point ? end.label : start.label)) << Qt::endl;
+            err << qtTrId("cli.trips.placeUnknown").arg(Cli::printable(start.point ? end.label : start.label))
+                << Qt::endl;
             return 1;
         }
         if (json) {
@@ -399,8 +378,8 @@ int runTripsCommand(const QStringList &arguments, QTextStream &out, QTextStream 
             return session.failed(err);
         }
         //% "Added trip %1: %2 km."
-        return print(rows->first(), qtTrId("cli.trips.added").arg(Cli::shortId(rows->first().id),
-                                                                   kmText(rows->first().distanceM)));
+        return print(rows->first(),
+                     qtTrId("cli.trips.added").arg(Cli::shortId(rows->first().id), kmText(rows->first().distanceM)));
     }
 
     const std::optional<Trip> trip = findTrip(store.trips(), positional.at(1), err);
@@ -408,7 +387,9 @@ int runTripsCommand(const QStringList &arguments, QTextStream &out, QTextStream 
         return 1;
     }
     if (action == u"rm") {
-        if (!parser.isSet(yes) && !confirmed(err)) {
+        if (!parser.isSet(yes) && !Cli::confirm(
+                                      //% "Delete this trip? This cannot be undone."
+                                      qtTrId("tripDeleteConfirm") + u" [y/N] "_s, err)) {
             err << qtTrId("cli.clients.kept") << Qt::endl;
             return 1;
         }
@@ -501,9 +482,8 @@ int runTravelCommand(const QStringList &arguments, QTextStream &out, QTextStream
             return Cli::usage(err, usageText);
         }
     }
-    const bool known = positional.size() == 1 &&
-                       ((action == u"show" && !parser.isSet(rate) && !parser.isSet(mode)) ||
-                        (action == u"set" && (rateValue || modeValue)));
+    const bool known = positional.size() == 1 && ((action == u"show" && !parser.isSet(rate) && !parser.isSet(mode)) ||
+                                                  (action == u"set" && (rateValue || modeValue)));
     if (!known || (parser.isSet(mode) && !modeValue)) {
         return Cli::usage(err, usageText);
     }
@@ -532,8 +512,8 @@ int runTravelCommand(const QStringList &arguments, QTextStream &out, QTextStream
         return 0;
     }
     //% "Rate per kilometre: %1. Usually travel by: %2."
-    out << qtTrId("cli.travel.show").arg(formatMoney(settings.ratePerKm, store.currency()),
-                                         Wire::enumName(settings.defaultMode))
+    out << qtTrId("cli.travel.show")
+               .arg(formatMoney(settings.ratePerKm, store.currency()), Wire::enumName(settings.defaultMode))
         << Qt::endl;
     return 0;
 }

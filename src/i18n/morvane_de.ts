@@ -517,10 +517,6 @@ Deinen Text jetzt und künftig an %2 senden? [j/N] </translation>
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
       <translation>Dem Senden deines Textes an den gewählten KI-Dienst ohne Nachfrage zustimmen.</translation>
     </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>j,ja,y,yes</translation>
-    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Der auszuführende Befehl; ohne Befehl wird die Befehlsliste angezeigt.</translation>

@@ -517,10 +517,6 @@ Send your text to %2 now and from now on? [y/N] </translation>
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
       <translation>Agree to sending your text to the chosen AI service without being asked.</translation>
     </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>y,yes</translation>
-    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>The command to run; without one, the command list is shown.</translation>

@@ -517,10 +517,6 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
       <translation>Aceptar sin preguntar que tu texto se envíe al servicio de IA elegido.</translation>
     </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>s,sí,si,y,yes</translation>
-    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>El comando que se ejecutará; sin él, se muestra la lista de comandos.</translation>

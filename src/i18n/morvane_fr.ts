@@ -517,10 +517,6 @@ Envoyer votre texte à %2 maintenant et désormais ? [o/N] </translation>
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
       <translation>Accepter sans question l'envoi de votre texte au service d'IA choisi.</translation>
     </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>o,oui,y,yes</translation>
-    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>La commande à exécuter ; sans commande, la liste des commandes s’affiche.</translation>

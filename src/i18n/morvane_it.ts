@@ -517,10 +517,6 @@ Inviare il tuo testo a %2 ora e d'ora in poi? [s/N] </translation>
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
       <translation>Accetta senza domande l'invio del tuo testo al servizio IA scelto.</translation>
     </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>s,sì,si,y,yes</translation>
-    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>Il comando da eseguire; senza comando viene mostrato l’elenco dei comandi.</translation>

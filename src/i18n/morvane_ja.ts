@@ -517,10 +517,6 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
       <translation>確認なしで、選んだ AI サービスへのテキスト送信に同意します。</translation>
     </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>y,yes,はい</translation>
-    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>実行するコマンド。省略するとコマンド一覧を表示します。</translation>

@@ -517,10 +517,6 @@ Je tekst nu en voortaan naar %2 sturen? [j/N] </translation>
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
       <translation>Stem zonder vraag in met het sturen van je tekst naar de gekozen AI-dienst.</translation>
     </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>j,ja,y,yes</translation>
-    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>De uit te voeren opdracht; zonder opdracht verschijnt de lijst met opdrachten.</translation>

@@ -517,10 +517,6 @@ Enviar o seu texto para %2 agora e daqui em diante? [s/N] </translation>
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
       <translation>Aceitar sem perguntar o envio do seu texto ao serviço de IA escolhido.</translation>
     </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>s,sim,y,yes</translation>
-    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>O comando a executar; sem ele, a lista de comandos é mostrada.</translation>

@@ -517,10 +517,6 @@ Send your text to %2 now and from now on? [y/N] </source>
       <source>Agree to sending your text to the chosen AI service without being asked.</source>
       <translation>ยินยอมให้ส่งข้อความไปยังบริการ AI ที่เลือกโดยไม่ต้องถาม</translation>
     </message>
-    <message id="cli.ai.yesAnswers">
-      <source>y,yes</source>
-      <translation>y,yes,ใช่</translation>
-    </message>
     <message id="cli.argument.command">
       <source>The command to run; without one, the command list is shown.</source>
       <translation>คำสั่งที่จะเรียกใช้ หากไม่ระบุจะแสดงรายการคำสั่ง</translation>
